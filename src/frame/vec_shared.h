@@ -1,0 +1,78 @@
+// Operations that both layers build from the others: operators, bitwise operations on floating-point lanes, polynomials,
+// error-free sums, and constants checked at compile time.
+#pragma once
+
+#include "frame/literals.h"
+
+namespace lum {
+
+template <Floating T>
+LUM_INLINE Vec<T> operator+(Vec<T> a, Vec<T> b) {
+  return add(a, b);
+}
+template <Floating T>
+LUM_INLINE Vec<T> operator-(Vec<T> a, Vec<T> b) {
+  return sub(a, b);
+}
+template <Floating T>
+LUM_INLINE Vec<T> operator*(Vec<T> a, Vec<T> b) {
+  return mul(a, b);
+}
+
+// Bitwise operations on the patterns of floating-point lanes.
+template <Floating T>
+LUM_INLINE Vec<T> operator&(Vec<T> a, Vec<UnsignedOf<T>> b) {
+  return as_float(bits(a) & b);
+}
+template <Floating T>
+LUM_INLINE Vec<T> operator|(Vec<T> a, Vec<UnsignedOf<T>> b) {
+  return as_float(bits(a) | b);
+}
+template <Floating T>
+LUM_INLINE Vec<T> operator^(Vec<T> a, Vec<UnsignedOf<T>> b) {
+  return as_float(bits(a) ^ b);
+}
+
+template <Floating T>
+LUM_INLINE Vec<T> abs(Vec<T> a) {
+  return a & all(static_cast<UnsignedOf<T>>(~sign_bit<T>));
+}
+template <Floating T>
+LUM_INLINE Vec<T> negate(Vec<T> a) {
+  return a ^ all(sign_bit<T>);
+}
+// The sign bit of a, the other bits zero.
+template <Floating T>
+LUM_INLINE Vec<UnsignedOf<T>> sign_of(Vec<T> a) {
+  return bits(a) & all(sign_bit<T>);
+}
+
+// c0 + x (c1 + x (c2 + ...)), one fused step a coefficient.
+template <Floating T>
+LUM_INLINE Vec<T> horner(Vec<T>, T c0) {
+  return all(c0);
+}
+template <Floating T, class... Rest>
+LUM_INLINE Vec<T> horner(Vec<T> x, T c0, Rest... rest) {
+  return fma(horner(x, rest...), x, all(c0));
+}
+
+// a + b = sum + error exactly, for any two finite numbers without overflow.
+template <Floating T>
+struct Sum {
+  Vec<T> sum, error;
+};
+template <Floating T>
+LUM_INLINE Sum<T> two_sum(Vec<T> a, Vec<T> b) {
+  const auto s = a + b;
+  const auto b_part = s - a;
+  return {s, (a - (s - b_part)) + (b - b_part)};
+}
+// The same for |a| >= |b|.
+template <Floating T>
+LUM_INLINE Sum<T> fast_two_sum(Vec<T> a, Vec<T> b) {
+  const auto s = a + b;
+  return {s, b - (s - a)};
+}
+
+}  // namespace lum
