@@ -1,0 +1,258 @@
+// e^x. With x = n ln 2 + r, n a multiple of 1/N:  e^x = 2^floor(n) 2^(j/N) e^r,  0 <= r < ln(2)/N, N = 16 or 8.
+// 2^(j/N) comes from a table, e^r from a polynomial, and scalef applies 2^floor(n), so that there is no integer work on exponents.
+// The tiers differ in the parts of ln 2, the degree of the polynomial, and whether the table's tail takes part.
+// Arguments beyond the threshold go to a lane routine, which knows overflow, denormal results and underflow.
+#include <bit>
+#include <cstdint>
+#include <limits>
+#include <type_traits>
+
+#include "frame/kernel_frame.h"
+#include "frame/kernels.h"
+#include "tables/table.h"
+
+namespace lum {
+namespace {
+
+template <class T> struct ExpConstants;
+template <> struct ExpConstants<Lum32f> {
+  static constexpr auto log2e = f32(0x3FB8AA3B, 1.4426950216293335);
+  static constexpr auto shifter = f32(0x49400000, 786432.0);  // 1.5 * 2^19: the last bit is worth 1/16
+  static constexpr auto ln2_hi = f32(0x3F317218, 0.6931471824645996);
+  static constexpr auto ln2_lo = f32(0xB102E308, -1.9046542121259336e-09);
+  static constexpr uint32_t clamp = 0xBFFFFFFF;
+  static constexpr auto threshold = f32(0x42AEAC4F, 87.33654022216797);
+  static constexpr auto head = table32({
+#include "tables/generated/exp2_16_head.inc"
+  });
+  static constexpr auto tail = table32({
+#include "tables/generated/exp2_16_tail.inc"
+  });
+};
+template <> struct ExpConstants<Lum64f> {
+  static constexpr auto log2e = f64(0x3FF71547652B82FE, 1.4426950408889634);
+  // 1.5 * 2^49, the last bit worth 1/8. The low bits leave the index bits at zero and are subtracted out again.
+  static constexpr auto shifter = f64(0x4308000000003FF0, 844424930134014.0);
+  static constexpr auto ln2_hi = f64(0x3FE62E42FEFA39EF, 0.6931471805599453);
+  static constexpr auto ln2_lo = f64(0x3C7ABC9E3B39803F, 2.3190468138462996e-17);
+  static constexpr uint64_t clamp = 0xBFFFFFFFFFFFFFFF;
+  static constexpr auto threshold = f64(0x40861DA04CBAFE44, 707.7032713517042);
+  static constexpr auto head = table64({
+#include "tables/generated/exp2_8_head.inc"
+  });
+  static constexpr auto tail = table64({
+#include "tables/generated/exp2_8_tail.inc"
+  });
+};
+
+template <class T> struct Reduced {
+  Vec<T> n, r;           // x = n ln 2 + r
+  Vec<UnsignedOf<T>> j;  // in the low bits: the index into the tables
+  Mask<T> refused;       // lanes beyond the threshold; NaN is not among them, n carries it to the result
+};
+
+template <int ln2_parts, class T> LUM_INLINE Reduced<T> Reduce(Vec<T> x) {
+  using C = ExpConstants<T>;
+  const auto t = fma<rz>(x, all(C::log2e), all(C::shifter));  // toward zero of a positive sum: a floor
+  const auto n = t - all(C::shifter);                         // exact
+  auto r = fnma(n, all(C::ln2_hi), x);
+  if constexpr (ln2_parts == 2) r = fnma(n, all(C::ln2_lo), r);
+  r = r & all(C::clamp);  // no change to a reduced argument; keeps the polynomial of a refused lane finite
+  return {n, r, bits(t), le(all(C::threshold), abs(x))};
+}
+
+template <class T> LUM_INLINE Vec<T> Head(const Reduced<T>& a) { return permute(load<T>(ExpConstants<T>::head), a.j); }
+template <class T> LUM_INLINE Vec<T> Tail(const Reduced<T>& a) { return permute(load<T>(ExpConstants<T>::tail), a.j); }
+
+// (e^r - 1 - r) / r^2 in binary32, |error| of e^r below 2^-27.
+LUM_INLINE Vec<Lum32f> QuadraticPart(Vec<Lum32f> r) {
+  return horner(r, f32(0x3EFFFA27, 0.4999553859233856), f32(0x3E2D77F1, 0.1694028526544571));
+}
+
+// (e^r - 1) / r in binary64, to the accuracy of A50 and A53.
+LUM_INLINE Vec<Lum64f> LongPolynomial(Vec<Lum64f> r) {
+  return horner(r, f64(0x3FF0000000000010, 1.0000000000000036), f64(0x3FDFFFFFFFFFC27C, 0.4999999999991258),
+                f64(0x3FC555555581ECF0, 0.1666666667477794), f64(0x3FA5555535A28874, 0.04166666297648272),
+                f64(0x3F81111D488F67BE, 0.008333424355374205), f64(0x3F56BC377AFAB2E0, 0.0013876478005087553),
+                f64(0x3F2B28056EA3D8B9, 0.00020718637762912553));
+}
+
+// Where the results of the lane routines change their kind, in either type.
+template <class T> struct Limits;
+template <> struct Limits<Lum32f> {
+  static constexpr auto overflow = f32(0x42B17217, 88.72283172607422);
+  static constexpr auto denormal = f32(0xC2AEAC4F, -87.33654022216797);
+  static constexpr auto underflow = f32(0xC2CFF1B4, -103.97207641601562);
+};
+template <> struct Limits<Lum64f> {
+  static constexpr auto overflow = f64(0x40862E42FEFA39EF, 709.782712893384);
+  static constexpr auto denormal = f64(0xC086232BDD7ABCD2, -708.3964185322641);
+  static constexpr auto underflow = f64(0xC0874910D52D3051, -745.1332191019411);
+};
+
+// Infinities, NaN, and arguments past the ends of the finite positive results. False: the result is an ordinary number.
+template <class T> bool ResultIsSpecial(T x, T& result, LumStatus& status) {
+  constexpr auto infinity = std::numeric_limits<T>::infinity();
+  status = lumStsOk;
+  if (!(x - x == 0)) {
+    result = x == -infinity ? T(0) : x * x;
+  } else if (x > Limits<T>::overflow) {
+    result = infinity;
+    status = lumStsOverflow;
+  } else if (x < Limits<T>::underflow) {
+    result = 0;
+    status = lumStsUnderflow;
+  } else {
+    return false;
+  }
+  return true;
+}
+
+// e^x in binary32 arithmetic, to about 22 bits.
+LumStatus FloatRoutine(Lum32f x, Lum32f& result) {
+  LumStatus status;
+  if (ResultIsSpecial(x, result, status)) return status;
+  constexpr auto shifter = f32(0x4B400000, 12582912.0);
+  const float t = x * f32(0x3FB8AA3B, 1.4426950216293335) + shifter;
+  const float m = t - shifter;
+  const uint32_t exponent = std::bit_cast<uint32_t>(t) << 23;  // m in the place of the exponent
+  const float r = (x + m * f32(0xBF317200, -0.693145751953125)) + m * f32(0xB5BFBE8E, -1.428606765330187e-06);
+  const float p = ((((f32(0x3C0950EF, 0.008381112478673458) * r + f32(0x3D2BB1B6, 0.041917525231838226)) * r +
+                     f32(0x3E2AA9C6, 0.166663259267807)) * r + f32(0x3EFFFE85, 0.49998870491981506)) * r +
+                   f32(0x3F800001, 1.0000001192092896)) * r + f32(0x3F800001, 1.0000001192092896);
+  if (x < Limits<Lum32f>::denormal) {
+    const auto scale = std::bit_cast<float>((exponent + 0x5D800000u) & 0x7F800000u);  // 2^(m + 60)
+    result = p * scale * f32(0x21800000, 0x1p-60);
+    return lumStsUnderflow;
+  }
+  if (m < 128) {
+    result = p * std::bit_cast<float>(exponent + 0x3F800000u);
+  } else {
+    result = p * std::bit_cast<float>(exponent + 0x3F000000u) * 2.0f;
+  }
+  return lumStsOk;
+}
+
+// 2^e s for e^x = 2^e (head + p) with a denormal result, rounded once: s = head + p and its rounding error are split so that
+// the last sum alone is inexact.
+double ScaleToDenormal(double head, double p, int64_t e) {
+  const int64_t field = e + 0x43B;
+  const auto scale = std::bit_cast<double>(field << 52);  // 2^(e + 60)
+  const double a = p * scale;
+  const double b = head * scale;
+  const double s = b + a;
+  constexpr auto down = f64(0x3C30000000000000, 0x1p-60);
+  if (field <= 0x32) return s * down;
+  const double w = s * f64(0x41F8000000000000, 0x1.8p32);
+  const double hi = (w + s) - w;
+  const double lo = (s - hi) + ((b - s) + a);
+  return hi * down + lo * down;
+}
+
+// 2^e s, also where 2^e alone would overflow.
+double Scale(double s, int64_t e) {
+  if (e == 1024) return s * 0x1p1023 * 2.0;
+  return s * std::bit_cast<double>((e + 1023) << 52);
+}
+
+// e^x in binary64 arithmetic with a table of 2^(j/64) in two parts, rounded to T at the end.
+template <class T> LumStatus DoubleRoutine(T argument, T& result) {
+  LumStatus status;
+  if (ResultIsSpecial(argument, result, status)) return status;
+  static constexpr auto table = table64({
+#include "tables/generated/exp2_64_pairs.inc"
+  });
+  const double x = argument;
+  if (x < 0x1p-52 && -x < 0x1p-52) {
+    result = static_cast<T>(1.0 + x);
+    return lumStsOk;
+  }
+  constexpr auto shifter = f64(0x4338000000000000, 0x1.8p52);
+  const double t = x * f64(0x40571547652B82FE, 92.33248261689366) + shifter;
+  const double k = t - shifter;
+  const double r = (x + k * f64(0xBF862E42FEFA0000, -0.010830424696223417)) + k * f64(0xBD1CF79ABC9E3B3A, -2.572804622327669e-14);
+  const double q = 0.5 + r * (f64(0x3FC55555555548F8, 0.1666666666665788) +
+                              r * (f64(0x3FA5555555558FCC, 0.04166666666677052) +
+                                   r * (f64(0x3F8111123AAF20D3, 0.008333341995140497) + r * f64(0x3F56C16A1C2A3FFD, 0.0013888870459233254))));
+  const auto count = static_cast<int64_t>(k);
+  const auto j = static_cast<size_t>(count & 63);
+  const int64_t e = count >> 6;
+  const double head = table[2 * j];
+  const double p = ((r + r * r * q) + table[2 * j + 1]) * head;
+  const bool is_denormal = argument < Limits<T>::denormal;
+  if (std::is_same_v<T, Lum64f> && is_denormal) result = static_cast<T>(ScaleToDenormal(head, p, e));
+  else result = static_cast<T>(Scale(head + p, e));
+  return is_denormal ? lumStsUnderflow : lumStsOk;
+}
+
+struct A11_32f : Kernel<Lum32f> {
+  static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
+    const auto a = Reduce<1>(x);
+    const auto p = horner(a.r, 1.0f, f32(0x3F82CC37, 1.0218571424484253));
+    return {p * scalef(Head(a), a.n), a.refused};
+  }
+  static LumStatus LaneRoutine(Lum32f x, Lum32f& result) { return FloatRoutine(x, result); }
+};
+
+struct A21_32f : Kernel<Lum32f> {
+  static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
+    const auto a = Reduce<2>(x);
+    const auto u = fma(a.r * a.r, QuadraticPart(a.r), a.r);
+    const auto s = scalef(Head(a), a.n);
+    return {fma(u, s, s), a.refused};
+  }
+  static LumStatus LaneRoutine(Lum32f x, Lum32f& result) { return FloatRoutine(x, result); }
+};
+
+struct A24_32f : Kernel<Lum32f> {
+  static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
+    const auto a = Reduce<2>(x);
+    const auto u = fma(QuadraticPart(a.r), a.r * a.r, Tail(a) + a.r);
+    const auto s = scalef(Head(a), a.n);
+    return {fma(u, s, s), a.refused};
+  }
+  static LumStatus LaneRoutine(Lum32f x, Lum32f& result) { return DoubleRoutine(x, result); }
+};
+
+struct Double : Kernel<Lum64f> {
+  static constexpr int vectors = 4;
+  static LumStatus LaneRoutine(Lum64f x, Lum64f& result) { return DoubleRoutine(x, result); }
+};
+
+struct A26_64f : Double {
+  static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
+    const auto a = Reduce<1>(x);
+    const auto p = horner(a.r, f64(0x3FEFFFFFE7109A30, 0.9999999535546689), f64(0x3FE000090EE70BF8, 0.5000043192925423),
+                          f64(0x3FC550BF0B8C5804, 0.16652668060186226), f64(0x3FA646AE66C82C5D, 0.04350800518667406));
+    const auto head = Head(a);
+    return {scalef(fma(p, head * a.r, head), a.n), a.refused};
+  }
+};
+
+struct A50_64f : Double {
+  static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
+    const auto a = Reduce<2>(x);
+    const auto head = Head(a);
+    return {scalef(fma(LongPolynomial(a.r), head * a.r, head), a.n), a.refused};
+  }
+};
+
+struct A53_64f : Double {
+  static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
+    const auto a = Reduce<2>(x);
+    const auto head = Head(a);
+    const auto u = fma(LongPolynomial(a.r), a.r, Tail(a));
+    return {scalef(fma(u, head, head), a.n), a.refused};
+  }
+};
+
+}  // namespace
+
+LumStatus Exp_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len) { return OneInput<A11_32f>(src, dst, len); }
+LumStatus Exp_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len) { return OneInput<A21_32f>(src, dst, len); }
+LumStatus Exp_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len) { return OneInput<A24_32f>(src, dst, len); }
+LumStatus Exp_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A26_64f>(src, dst, len); }
+LumStatus Exp_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A50_64f>(src, dst, len); }
+LumStatus Exp_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A53_64f>(src, dst, len); }
+
+}  // namespace lum

@@ -1,0 +1,218 @@
+// The frame that every array kernel runs in: argument checks, floating-point environment, full blocks, the masked tail, and the
+// lanes that a vector path refuses.
+//
+// A kernel is described by a struct K derived from Kernel<Input, Output>:
+//   VectorPath(x...)     a pure function of packed inputs. Returns Packed<Output>, or Lanes<Output> with the mask of refused lanes;
+//                        with two outputs TwoValues<Output> or TwoLanes<Output>.
+//   LaneRoutine(x..., r...)  finishes one refused element: scalars in, results by reference (they hold the vector path's values).
+//                        Returns the element's LumStatus; a silent kernel's returns void, and the kernel's status is then always 0.
+// Constants that a kernel may override: variant, vectors (in a block), fill (of inactive lanes: never to be refused).
+// A kernel with a parameter has it as a data member; all others are empty.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <type_traits>
+#include <utility>
+
+#include "frame/element_hook.h"
+#include "frame/environment.h"
+#include "frame/packed.h"
+
+namespace lum {
+
+template <class InputElement, class OutputElement = InputElement> struct Kernel {
+  using Input = InputElement;
+  using Output = OutputElement;
+  static constexpr Variant variant = common_variant;
+  static constexpr int vectors = 2;
+  static constexpr Real<Input> fill = Real<Input>(0.75);
+};
+
+template <class E, class Refused = Mask<Real<E>>> struct Lanes {
+  Packed<E> value;
+  Refused refused;
+};
+template <class E> struct TwoValues {
+  Packed<E> value1, value2;
+};
+template <class E> struct TwoLanes {
+  Packed<E> value1, value2;
+  Mask<Real<E>> refused;
+};
+
+// The arrays of one call: n inputs, m outputs.
+template <class K, int n, int m> struct Arrays {
+  std::array<const typename K::Input*, n> src;
+  std::array<typename K::Output*, m> dst;
+};
+
+// What a call carries besides its arrays.
+struct Call {
+  Environment environment;
+  LumStatus status = lumStsOk;
+};
+
+// A kernel's own word for the hook.
+template <class K> inline uint32_t hook_cell = 0;
+
+template <class K> inline constexpr int step_of = lanes_of<Real<typename K::Input>>;
+template <class K> inline constexpr int block_of = step_of<K> * K::vectors;
+
+namespace frame {
+
+template <class K, int n> using Inputs = std::array<Packed<typename K::Input>, n>;
+template <class K, int m> using Outputs = std::array<Packed<typename K::Output>, m>;
+
+template <class K, int n> LUM_INLINE auto Compute(const K& kernel, const Inputs<K, n>& x) {
+  if constexpr (n == 1) return kernel.VectorPath(x[0]);
+  else return kernel.VectorPath(x[0], x[1]);
+}
+
+template <class K, int m, class Result> LUM_INLINE Outputs<K, m> Values(const Result& r) {
+  if constexpr (requires { r.value; }) return {r.value};
+  else if constexpr (requires { r.value1; }) return {r.value1, r.value2};
+  else return {r};
+}
+
+template <class K, int n, int m> LUM_INLINE Inputs<K, n> LoadStep(const Arrays<K, n, m>& a, int64_t i) {
+  Inputs<K, n> x;
+  for (int j = 0; j < n; ++j) x[j] = LoadElements(a.src[j] + i);
+  return x;
+}
+template <class K, int n, int m> LUM_INLINE Inputs<K, n> LoadStep(const Arrays<K, n, m>& a, int64_t i, int count) {
+  Inputs<K, n> x;
+  for (int j = 0; j < n; ++j) x[j] = LoadElements(count, a.src[j] + i, K::fill);
+  return x;
+}
+
+}  // namespace frame
+
+// Finishes a block with refused lanes: count elements from index first on, fewer than a block in the tail. It computes the block
+// anew, so that the hot loop has no need to keep its vectors across a call.
+template <class K, int n, int m>
+__attribute__((noinline, cold)) void FinishLanes(const K& kernel, const Arrays<K, n, m>& arrays, int64_t first, int count,
+                                                 Call& call) {
+  using Input = typename K::Input;
+  using Output = typename K::Output;
+  constexpr int step = step_of<K>;
+  alignas(64) Input inputs[n][block_of<K>];
+  alignas(64) Output results[m][block_of<K>];
+  uint32_t refused[K::vectors] = {};
+
+  for (int v = 0; v * step < count; ++v) {
+    const int active = std::min(step, count - v * step);
+    const auto x = frame::LoadStep<K, n, m>(arrays, first + v * step, active);
+    const auto r = frame::Compute<K, n>(kernel, x);
+    const auto values = frame::Values<K, m>(r);
+    for (int j = 0; j < n; ++j) StoreElements(&inputs[j][v * step], x[j]);
+    for (int j = 0; j < m; ++j) StoreElements(&results[j][v * step], values[j]);
+    // A fill lane is refused only where a parameter makes it so; its result would be dropped by the masked store.
+    refused[v] = element_bits(r.refused) & ((1u << active) - 1u);
+  }
+  if constexpr (K::variant.x87 == X87Form::lazy) {
+    if (!call.environment.x87_prepared) X87Prepare(call.environment);
+  }
+  for (int lane = 0; lane < count; ++lane) {
+    if ((refused[lane / step] >> (lane % step) & 1) == 0) continue;
+    const auto routine = [&](auto&... cells) { return kernel.LaneRoutine(cells...); };
+    const auto status = [&] {
+      if constexpr (n == 2) return routine(std::as_const(inputs[0][lane]), std::as_const(inputs[1][lane]), results[0][lane]);
+      else if constexpr (m == 2) return routine(std::as_const(inputs[0][lane]), results[0][lane], results[1][lane]);
+      else return routine(std::as_const(inputs[0][lane]), results[0][lane]);
+    };
+    if constexpr (std::is_void_v<decltype(status())>) {
+      status();
+    } else if (const LumStatus reported = status(); reported != lumStsOk) {
+      call.status = reported;
+      const int64_t index = first + lane;
+      for (int j = 0; j < m; ++j) arrays.dst[j][index] = results[j][lane];
+      ElementHook(reported, static_cast<int32_t>(index), arrays.src[0], arrays.src[n - 1], arrays.dst[0], arrays.dst[m - 1],
+                  &hook_cell<K>);
+      for (int j = 0; j < m; ++j) results[j][lane] = arrays.dst[j][index];
+    }
+  }
+  for (int v = 0; v * step < count; ++v) {
+    const int active = std::min(step, count - v * step);
+    for (int j = 0; j < m; ++j) {
+      StoreElements(active, arrays.dst[j] + first + v * step, LoadElements(&results[j][v * step]));
+    }
+  }
+}
+
+namespace frame {
+
+// One full block: v runs over its vectors, whose streams the processor overlaps.
+template <class K, int n, int m, size_t... v>
+LUM_INLINE void Block(const K& kernel, const Arrays<K, n, m>& arrays, int64_t i, Call& call, std::index_sequence<v...>) {
+  const std::array results{Compute<K, n>(kernel, LoadStep<K, n, m>(arrays, i + static_cast<int64_t>(v) * step_of<K>))...};
+  if constexpr (requires { results[0].refused; }) {
+    if (any((results[v].refused | ...))) [[unlikely]] {
+      FinishLanes(kernel, arrays, i, block_of<K>, call);
+      return;
+    }
+  }
+  const std::array values{Values<K, m>(results[v])...};
+  for (int j = 0; j < m; ++j) {
+    (StoreElements(arrays.dst[j] + i + static_cast<int64_t>(v) * step_of<K>, values[v][j]), ...);
+  }
+}
+
+// A vector of fewer elements, the rest of its lanes holding the fill.
+template <class K, int n, int m>
+LUM_INLINE void TailStep(const K& kernel, const Arrays<K, n, m>& arrays, int64_t i, int count, Call& call) {
+  const auto result = Compute<K, n>(kernel, LoadStep<K, n, m>(arrays, i, count));
+  if constexpr (requires { result.refused; }) {
+    if (any(result.refused)) [[unlikely]] {
+      FinishLanes(kernel, arrays, i, count, call);
+      return;
+    }
+  }
+  const auto values = Values<K, m>(result);
+  for (int j = 0; j < m; ++j) StoreElements(count, arrays.dst[j] + i, values[j]);
+}
+
+// The environment, the blocks and the tail of a call whose arguments are good.
+template <class K, int n, int m>
+LUM_INLINE LumStatus RunChecked(const K& kernel, const Arrays<K, n, m>& arrays, int64_t len) {
+  Call call{Enter<K::variant>()};
+  int64_t i = 0;
+  for (; i + block_of<K> <= len; i += block_of<K>) {
+    Block<K, n, m>(kernel, arrays, i, call, std::make_index_sequence<K::vectors>());
+  }
+  for (; i < len; i += step_of<K>) {
+    TailStep<K, n, m>(kernel, arrays, i, static_cast<int>(std::min<int64_t>(step_of<K>, len - i)), call);
+  }
+  Leave(call.environment);
+  return call.status;
+}
+
+}  // namespace frame
+
+// Length first, then the arrays in argument order.
+template <class... Pointers> LUM_INLINE LumStatus CheckArguments(int32_t len, Pointers... arrays) {
+  if (len <= 0) return lumStsSizeErr;
+  if (((arrays == nullptr) || ...)) return lumStsNullPtrErr;
+  return lumStsOk;
+}
+
+// The shapes. A complex or real output type of its own is a matter of K, so a changed type is the shape of one input.
+template <class K>
+LUM_INLINE LumStatus OneInput(const typename K::Input* src, typename K::Output* dst, int32_t len, const K& kernel = {}) {
+  if (const auto bad = CheckArguments(len, src, dst); bad != lumStsOk) return bad;
+  return frame::RunChecked<K, 1, 1>(kernel, {{src}, {dst}}, len);
+}
+template <class K>
+LUM_INLINE LumStatus TwoInputs(const typename K::Input* src1, const typename K::Input* src2, typename K::Output* dst, int32_t len,
+                               const K& kernel = {}) {
+  if (const auto bad = CheckArguments(len, src1, src2, dst); bad != lumStsOk) return bad;
+  return frame::RunChecked<K, 2, 1>(kernel, {{src1, src2}, {dst}}, len);
+}
+template <class K>
+LUM_INLINE LumStatus TwoOutputs(const typename K::Input* src, typename K::Output* dst1, typename K::Output* dst2, int32_t len,
+                                const K& kernel = {}) {
+  if (const auto bad = CheckArguments(len, src, dst1, dst2); bad != lumStsOk) return bad;
+  return frame::RunChecked<K, 1, 2>(kernel, {{src}, {dst1, dst2}}, len);
+}
+
+}  // namespace lum

@@ -1,0 +1,106 @@
+"""Rounding of exact or high-precision values to IEEE binary formats, and the format of the generated files.
+
+A generated file holds bit patterns in hexadecimal, one row of the table a line, each followed by a comma, below a comment
+that says what the rows are and which script wrote them.
+"""
+
+from fractions import Fraction
+from pathlib import Path
+
+import mpmath
+
+mpmath.mp.prec = 400
+
+GENERATED = Path(__file__).resolve().parent.parent / "generated"
+
+# Significand bits and smallest exponent of the last place.
+FORMATS = {32: (24, -149, 127), 64: (53, -1074, 1023)}
+
+
+def exact(x):
+    """An mpf or number as a Fraction, exactly."""
+    if isinstance(x, mpmath.mpf):
+        sign, man, exp, _ = x._mpf_
+        value = Fraction(man) * (Fraction(2) ** exp)
+        return -value if sign else value
+    return Fraction(x)
+
+
+def floor_log2(x):
+    """floor(log2 x) of a positive Fraction."""
+    e = x.numerator.bit_length() - x.denominator.bit_length()
+    return e if x >= Fraction(2) ** e else e - 1
+
+
+def to_multiple(x, exponent, mode="nearest"):
+    """x rounded to a multiple of 2^exponent: "nearest" (ties to even), "down" or "zero"."""
+    q = exact(x) / Fraction(2) ** exponent
+    if mode == "nearest":
+        n = round(q)  # Fraction rounds ties to even
+    elif mode == "down":
+        n = q.numerator // q.denominator
+    else:
+        n = abs(q.numerator) // q.denominator * (1 if q >= 0 else -1)
+    return n * Fraction(2) ** exponent
+
+
+def to_significand(x, significand_bits, mode="nearest"):
+    """x rounded to that many significant bits, with no bound on the exponent."""
+    x = exact(x)
+    if x == 0:
+        return x
+    return to_multiple(x, floor_log2(abs(x)) - significand_bits + 1, mode)
+
+
+def to_binary(x, width, mode="nearest"):
+    """x rounded to binary32 or binary64, as a Fraction."""
+    significand, last_place, _ = FORMATS[width]
+    x = exact(x)
+    if x == 0:
+        return x
+    return to_multiple(x, max(floor_log2(abs(x)) - significand + 1, last_place), mode)
+
+
+def bits(x, width, mode="nearest"):
+    """The bit pattern of x rounded to binary32 or binary64 (zero as +0)."""
+    significand, last_place, bias = FORMATS[width]
+    x = to_binary(x, width, mode)
+    if x == 0:
+        return 0
+    magnitude = abs(x)
+    exponent = max(floor_log2(magnitude), 1 - bias)
+    integer = magnitude / Fraction(2) ** (exponent - significand + 1)
+    assert integer.denominator == 1
+    fraction = integer.numerator
+    normal = fraction >> (significand - 1)
+    field = exponent + bias if normal else 0
+    assert field <= 2 * bias
+    pattern = field << (significand - 1) | (fraction & ((1 << (significand - 1)) - 1))
+    return pattern | (1 << (width - 1)) if x < 0 else pattern
+
+
+def from_bits(pattern, width):
+    """The value of a bit pattern of a finite number, as a Fraction."""
+    significand, last_place, bias = FORMATS[width]
+    field = pattern >> (significand - 1) & ((1 << (width - significand)) - 1)
+    fraction = pattern & ((1 << (significand - 1)) - 1)
+    if field:
+        fraction |= 1 << (significand - 1)
+    value = Fraction(fraction) * Fraction(2) ** (max(field, 1) - bias - significand + 1)
+    return -value if pattern >> (width - 1) else value
+
+
+def rows_of(values, width):
+    """Lines of a table; a row is a value to round, a bit pattern given as str, or a list of these."""
+    lines = []
+    for row in values:
+        cells = row if isinstance(row, (list, tuple)) else [row]
+        words = [c if isinstance(c, str) else f"0x{bits(c, width):0{width // 4}X}" for c in cells]
+        lines.append(", ".join(words) + ",")
+    return lines
+
+
+def write(name, script, comment, values, width, directory=GENERATED):
+    """Writes generated/<name>.inc."""
+    lines = [f"// {comment}", f"// Written by src/tables/generators/{script}."] + rows_of(values, width)
+    (Path(directory) / f"{name}.inc").write_text("\n".join(lines) + "\n")

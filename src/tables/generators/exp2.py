@@ -1,0 +1,28 @@
+"""Powers of 2 in steps of 1/n: heads rounded to nearest, tails their relative residue (2^(j/n) - head) / head."""
+
+from mpmath import mpf
+
+from binary import to_binary, exact, write
+
+SCRIPT = "exp2.py"
+
+
+def power(j, n):
+    return exact(mpf(2) ** (mpf(j) / n))
+
+
+def head(j, n, width):
+    return to_binary(power(j, n), width)
+
+
+def residue(j, n, width):
+    return (power(j, n) - head(j, n, width)) / head(j, n, width)
+
+
+def generate(directory):
+    for n, width in ((16, 32), (8, 64)):
+        write(f"exp2_{n}_head", SCRIPT, f"2^(j/{n}), rounded.", [head(j, n, width) for j in range(n)], width, directory)
+        write(f"exp2_{n}_tail", SCRIPT, f"The relative residue of entry j of exp2_{n}_head.",
+              [residue(j, n, width) for j in range(n)], width, directory)
+    write("exp2_64_pairs", SCRIPT, "2^(j/64), rounded, and its relative residue.",
+          [[head(j, 64, 64), residue(j, 64, 64)] for j in range(64)], 64, directory)

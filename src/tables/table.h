@@ -1,0 +1,28 @@
+// Read-only tables given by bit patterns, aligned for whole-vector loads.
+#pragma once
+
+#include <bit>
+#include <cstddef>
+#include <cstdint>
+
+namespace lum {
+
+template <class T, size_t n> struct alignas(64) Table {
+  T entries[n];
+  constexpr operator const T*() const { return entries; }
+  static constexpr size_t size = n;
+};
+
+template <size_t n> consteval Table<float, n> table32(const uint32_t (&bits)[n]) {
+  Table<float, n> table{};
+  for (size_t i = 0; i < n; ++i) table.entries[i] = std::bit_cast<float>(bits[i]);
+  return table;
+}
+
+template <size_t n> consteval Table<double, n> table64(const uint64_t (&bits)[n]) {
+  Table<double, n> table{};
+  for (size_t i = 0; i < n; ++i) table.entries[i] = std::bit_cast<double>(bits[i]);
+  return table;
+}
+
+}  // namespace lum

@@ -1,0 +1,71 @@
+/* lumVM: elementwise mathematical functions over arrays.
+ *
+ * lums<Function>_<type>_<tag>(src, dst, len) applies a function to len elements and returns a status. The type is 32f or 64f
+ * (binary32, binary64) or 32fc or 64fc (complex: pairs re, im in adjacent memory). The tag is the number of correct bits of the
+ * significand that the function guarantees: A11, A21, A24 for the 32-bit types, A26, A50, A53 for the 64-bit ones. At A24 and
+ * A53 the error of a real function is below one unit in the last place. Fewer bits are faster.
+ *
+ * For every function:
+ *   - Arrays need no alignment. dst may be the same array as a source; partly overlapping arrays are not provided for.
+ *   - A len of zero or less returns lumStsSizeErr, a null array lumStsNullPtrErr, and nothing is touched.
+ *   - A positive status is a warning: every element has been written, and the status is that of the last element that had
+ *     something to report. Every function can return lumStsOk, lumStsSizeErr and lumStsNullPtrErr; others are listed with it.
+ *   - An element's result depends on nothing but its argument: neither on its position, nor on the caller's rounding mode,
+ *     flush-to-zero setting or exception masks, which are as before after the call. No exception flag is raised; of the
+ *     caller's sticky flags all but the inexact one may be found cleared.
+ *   - All functions are reentrant and thread-safe, allocate nothing and keep no state.
+ * Relative cost figures rank the functions and tags; they are of the same kind for all functions. */
+#ifndef LUMVM_H
+#define LUMVM_H
+
+#include <stdint.h>
+
+#if defined(__GNUC__)
+#define LUM_API __attribute__((visibility("default")))
+#else
+#define LUM_API
+#endif
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+typedef float Lum32f;
+typedef double Lum64f;
+typedef struct Lum32fc {
+  Lum32f re, im;
+} Lum32fc;
+typedef struct Lum64fc {
+  Lum64f re, im;
+} Lum64fc;
+
+typedef enum LumStatus {
+  lumStsOk = 0,
+  lumStsSizeErr = -6,       /* len is zero or negative; nothing was touched */
+  lumStsNullPtrErr = -8,    /* an array pointer is null; nothing was touched */
+  lumStsOverflow = 12,      /* finite arguments, result too large */
+  lumStsUnderflow = 17,     /* finite arguments, result too small: zero or denormal */
+  lumStsSingularity = 18,   /* pole: the element is an infinity */
+  lumStsDomain = 19         /* argument outside the domain: the element is a NaN */
+} LumStatus;
+
+typedef struct LumLibraryVersion {
+  int32_t versionMajor;
+  int32_t versionMinor;
+  int32_t versionPatch;
+  uint32_t buildTag;       /* revision number */
+  char targetCode[4];      /* processor class, filled with zeros */
+  const char* name;
+  const char* version;
+  const char* buildDate;
+} LumLibraryVersion;
+
+/* The version of the library, a constant record that the caller must not change or free. Never fails. */
+LUM_API const LumLibraryVersion* lumvmGetLibVersion(void);
+
+@FUNCTIONS@
+#ifdef __cplusplus
+}
+#endif
+
+#endif

@@ -1,0 +1,74 @@
+#!/usr/bin/env python3
+"""Writes include/lumvm.h from the catalogue and the descriptions of the functions. With --check, compares instead."""
+
+import argparse
+import sys
+import textwrap
+
+import catalogue
+
+HEADER = catalogue.ROOT / "include/lumvm.h"
+PREAMBLE = catalogue.ROOT / "tools/header_preamble.h"
+
+PARAMETERS = {
+    "OneInput": "const {T}* src, {T}* dst, int32_t len",
+    "TwoInputs": "const {T}* src1, const {T}* src2, {T}* dst, int32_t len",
+    "TwoOutputs": "const {T}* src, {T}* dst1, {T}* dst2, int32_t len",
+    "ScalarParameter": "const {T}* src, {T} value, {T}* dst, int32_t len",
+    "ToReal": "const {T}* src, {R}* dst, int32_t len",
+    "ToComplex": "const {R}* src, {T}* dst, int32_t len",
+}
+
+
+def comment_lines(label, text):
+    return textwrap.wrap(text, 116, initial_indent=f" * {label}: ", subsequent_indent=" *   ")
+
+
+def comment(name, entry, rows):
+    lines = textwrap.wrap(entry["summary"], 116, initial_indent=f"/* {name}: ", subsequent_indent=" *   ")
+    lines += comment_lines("Domain", entry["domain"])
+    lines += comment_lines("Special values", "; ".join(entry["special"]))
+    lines += comment_lines("Status", "; ".join(entry.get("statuses", ["always lumStsOk"])))
+    costs = []
+    for row in rows:
+        tags = [tag for _, tag in row.exports()]
+        figures = [f"{tag} {row.costs[tag]:g}" if tag else f"{row.costs[catalogue.TAGS[row.type[:3]][2]]:g}" for tag in tags]
+        costs.append(f"{row.type} {', '.join(figures)}")
+    lines += comment_lines("Relative cost", "; ".join(costs))
+    return lines[:-1] + [lines[-1] + " */"]
+
+
+def declarations(row):
+    types = {"T": f"Lum{row.type}", "R": f"Lum{row.type.rstrip('c')}"}
+    for name, _ in row.exports():
+        yield f"LUM_API LumStatus {name}({PARAMETERS[row.shape].format(**types)});"
+
+
+def text():
+    by_function = {}
+    for row in catalogue.rows():
+        by_function.setdefault(row.function, []).append(row)
+    entries = catalogue.descriptions()
+    lines = []
+    for name, rows in by_function.items():
+        lines += comment(name, entries[name], rows)
+        for row in rows:
+            lines += declarations(row)
+        lines.append("")
+    return PREAMBLE.read_text().replace("@FUNCTIONS@\n", "\n".join(lines))
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__)
+    parser.add_argument("--check", action="store_true")
+    arguments = parser.parse_args()
+    if arguments.check:
+        same = HEADER.read_text() == text()
+        print(f"{HEADER.name}: {'up to date' if same else 'differs from what tools/make_header.py writes'}")
+        return 0 if same else 1
+    HEADER.write_text(text())
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
