@@ -1,0 +1,45 @@
+// What the vector paths of the logarithms share: the split of the argument and its refusal.
+#pragma once
+
+#include "frame/types.h"
+#include "frame/vec.h"
+
+namespace lum {
+
+// Zeros, infinities and negative numbers, of which a logarithm has to report or whose result is special. NaN is not among them:
+// the significand and the exponent of a NaN are NaN and carry it to the result.
+template <Floating T>
+LUM_INLINE Mask<T> ZeroInfiniteOrNegative(Vec<T> x) {
+  return fpclass<0x5E>(x);
+}
+
+// log(x), to the base whose logarithm of 2 is given, by a polynomial of its own for each of sixteen segments of the significand
+// m in [3/4, 3/2). The polynomials in r = m - 1 have no constant term, so log(1) is +0. The columns hold their coefficients, 16
+// entries each, the highest power first.
+template <int degree>
+LUM_INLINE Vec<Lum32f> SegmentLogarithm(Vec<Lum32f> x, const Lum32f* columns, Lum32f log_of_2) {
+  const auto m = getmant<0xB>(x);
+  const auto j = shift_right<19>(bits(m));  // the top four bits of the fraction are the row
+  const auto r = m - all(1.0f);
+  const auto k = getexp(x) - getexp(m);
+  auto p = permute(load(columns), j);
+  for (int i = 1; i < degree; ++i) p = fma(p, r, permute(load(columns + 16 * i), j));
+  return fma(r, p, k * all(log_of_2));
+}
+
+// x = 2^e (1 + r) / c with c in [3/4, 3/2] of few fraction bits, so that r is exact but for one rounding.
+struct ReciprocalReduction {
+  Vec<Lum64f> r, e;
+  Vec<uint64_t> j;  // in the low bits: the row of c in the tables of 2^(fraction_bits - 1) rows
+};
+template <int fraction_bits>
+LUM_INLINE ReciprocalReduction ReduceByReciprocal(Vec<Lum64f> x) {
+  constexpr double shifter = 0x1.8p52 / (1 << fraction_bits);  // the last bit is worth that of c
+  const auto m = getmant<0x8>(x);
+  const auto t = rcp14(m) + all(shifter);  // rounds to nearest; the low bits are c, less its top bit the row
+  const auto c = t - all(shifter);         // in [1/2, 1]; below 3/4 doubled, in effect
+  const auto r = fms(c, m, all(1.0));
+  return {r, add(lt(c, all(0.75)), getexp(x), all(1.0)), bits(t)};
+}
+
+}  // namespace lum
