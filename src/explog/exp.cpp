@@ -20,7 +20,6 @@ template <> struct ExpConstants<Lum32f> {
   static constexpr auto shifter = f32(0x49400000, 786432.0);  // 1.5 * 2^19: the last bit is worth 1/16
   static constexpr auto ln2_hi = f32(0x3F317218, 0.6931471824645996);
   static constexpr auto ln2_lo = f32(0xB102E308, -1.9046542121259336e-09);
-  static constexpr uint32_t clamp = 0xBFFFFFFF;
   static constexpr auto threshold = f32(0x42AEAC4F, 87.33654022216797);
   static constexpr auto head = table32({
 #include "tables/generated/exp2_16_head.inc"
@@ -35,7 +34,6 @@ template <> struct ExpConstants<Lum64f> {
   static constexpr auto shifter = f64(0x4308000000003FF0, 844424930134014.0);
   static constexpr auto ln2_hi = f64(0x3FE62E42FEFA39EF, 0.6931471805599453);
   static constexpr auto ln2_lo = f64(0x3C7ABC9E3B39803F, 2.3190468138462996e-17);
-  static constexpr uint64_t clamp = 0xBFFFFFFFFFFFFFFF;
   static constexpr auto threshold = f64(0x40861DA04CBAFE44, 707.7032713517042);
   static constexpr auto head = table64({
 #include "tables/generated/exp2_8_head.inc"
@@ -57,7 +55,6 @@ template <int ln2_parts, class T> LUM_INLINE Reduced<T> Reduce(Vec<T> x) {
   const auto n = t - all(C::shifter);                         // exact
   auto r = fnma(n, all(C::ln2_hi), x);
   if constexpr (ln2_parts == 2) r = fnma(n, all(C::ln2_lo), r);
-  r = r & all(C::clamp);  // no change to a reduced argument; keeps the polynomial of a refused lane finite
   return {n, r, bits(t), le(all(C::threshold), abs(x))};
 }
 

@@ -161,7 +161,8 @@ LUM_INLINE Mask<T> operator&(Mask<T> a, Mask<T> b) {
 }
 template <Lane T>
 LUM_INLINE Mask<T> operator|(Mask<T> a, Mask<T> b) {
-  return mask_of<T>(uint32_t{a.k} | b.k);
+  if constexpr (is32<T>) return {_kor_mask16(a.k, b.k)};
+  else return {_kor_mask8(a.k, b.k)};
 }
 template <Lane T>
 LUM_INLINE Mask<T> operator^(Mask<T> a, Mask<T> b) {
@@ -173,7 +174,8 @@ LUM_INLINE Mask<T> operator~(Mask<T> a) {
 }
 template <Lane T>
 LUM_INLINE bool any(Mask<T> a) {
-  return a.k != 0;
+  if constexpr (is32<T>) return !_kortestz_mask16_u8(a.k, a.k);
+  else return !_kortestz_mask8_u8(a.k, a.k);
 }
 template <Lane T>
 LUM_INLINE bool none(Mask<T> a) {
