@@ -8,7 +8,9 @@
 namespace lum {
 namespace {
 
-template <class T> bool IsInfinite(T x) { return x == std::numeric_limits<T>::infinity() || x == -std::numeric_limits<T>::infinity(); }
+template <class T> bool IsInfinite(T x) {
+  return x == std::numeric_limits<T>::infinity() || x == -std::numeric_limits<T>::infinity();
+}
 template <class E> bool HasInfinity(E z) { return IsInfinite(z.re) || IsInfinite(z.im); }
 
 // Components that are infinite.

@@ -1,6 +1,6 @@
 // e^x. With x = n ln 2 + r, n a multiple of 1/N:  e^x = 2^floor(n) 2^(j/N) e^r,  0 <= r < ln(2)/N, N = 16 or 8.
-// 2^(j/N) comes from a table, e^r from a polynomial, and scalef applies 2^floor(n), so that there is no integer work on exponents.
-// The tiers differ in the parts of ln 2, the degree of the polynomial, and whether the table's tail takes part.
+// 2^(j/N) comes from a table, e^r from a polynomial, and scalef applies 2^floor(n), so that there is no integer work on
+// exponents. The tiers differ in the parts of ln 2, the degree of the polynomial, and whether the table's tail takes part.
 // Arguments beyond the threshold go to a lane routine, which knows overflow, denormal results and underflow.
 #include <bit>
 #include <cstdint>
@@ -20,7 +20,6 @@ template <> struct ExpConstants<Lum32f> {
   static constexpr auto shifter = f32(0x49400000, 786432.0);  // 1.5 * 2^19: the last bit is worth 1/16
   static constexpr auto ln2_hi = f32(0x3F317218, 0.6931471824645996);
   static constexpr auto ln2_lo = f32(0xB102E308, -1.9046542121259336e-09);
-  static constexpr uint32_t clamp = 0xBFFFFFFF;
   static constexpr auto threshold = f32(0x42AEAC4F, 87.33654022216797);
   static constexpr auto head = table32({
 #include "tables/generated/exp2_16_head.inc"
@@ -35,7 +34,6 @@ template <> struct ExpConstants<Lum64f> {
   static constexpr auto shifter = f64(0x4308000000003FF0, 844424930134014.0);
   static constexpr auto ln2_hi = f64(0x3FE62E42FEFA39EF, 0.6931471805599453);
   static constexpr auto ln2_lo = f64(0x3C7ABC9E3B39803F, 2.3190468138462996e-17);
-  static constexpr uint64_t clamp = 0xBFFFFFFFFFFFFFFF;
   static constexpr auto threshold = f64(0x40861DA04CBAFE44, 707.7032713517042);
   static constexpr auto head = table64({
 #include "tables/generated/exp2_8_head.inc"
@@ -57,7 +55,6 @@ template <int ln2_parts, class T> LUM_INLINE Reduced<T> Reduce(Vec<T> x) {
   const auto n = t - all(C::shifter);                         // exact
   auto r = fnma(n, all(C::ln2_hi), x);
   if constexpr (ln2_parts == 2) r = fnma(n, all(C::ln2_lo), r);
-  r = r & all(C::clamp);  // no change to a reduced argument; keeps the polynomial of a refused lane finite
   return {n, r, bits(t), le(all(C::threshold), abs(x))};
 }
 
@@ -118,8 +115,13 @@ LumStatus FloatRoutine(Lum32f x, Lum32f& result) {
   const uint32_t exponent = std::bit_cast<uint32_t>(t) << 23;  // m in the place of the exponent
   const float r = (x + m * f32(0xBF317200, -0.693145751953125)) + m * f32(0xB5BFBE8E, -1.428606765330187e-06);
   const float p = ((((f32(0x3C0950EF, 0.008381112478673458) * r + f32(0x3D2BB1B6, 0.041917525231838226)) * r +
-                     f32(0x3E2AA9C6, 0.166663259267807)) * r + f32(0x3EFFFE85, 0.49998870491981506)) * r +
-                   f32(0x3F800001, 1.0000001192092896)) * r + f32(0x3F800001, 1.0000001192092896);
+                     f32(0x3E2AA9C6, 0.166663259267807)) *
+                        r +
+                    f32(0x3EFFFE85, 0.49998870491981506)) *
+                       r +
+                   f32(0x3F800001, 1.0000001192092896)) *
+                      r +
+                  f32(0x3F800001, 1.0000001192092896);
   if (x < Limits<Lum32f>::denormal) {
     const auto scale = std::bit_cast<float>((exponent + 0x5D800000u) & 0x7F800000u);  // 2^(m + 60)
     result = p * scale * f32(0x21800000, 0x1p-60);
@@ -170,10 +172,12 @@ template <class T> LumStatus DoubleRoutine(T argument, T& result) {
   constexpr auto shifter = f64(0x4338000000000000, 0x1.8p52);
   const double t = x * f64(0x40571547652B82FE, 92.33248261689366) + shifter;
   const double k = t - shifter;
-  const double r = (x + k * f64(0xBF862E42FEFA0000, -0.010830424696223417)) + k * f64(0xBD1CF79ABC9E3B3A, -2.572804622327669e-14);
-  const double q = 0.5 + r * (f64(0x3FC55555555548F8, 0.1666666666665788) +
-                              r * (f64(0x3FA5555555558FCC, 0.04166666666677052) +
-                                   r * (f64(0x3F8111123AAF20D3, 0.008333341995140497) + r * f64(0x3F56C16A1C2A3FFD, 0.0013888870459233254))));
+  const double r =
+      (x + k * f64(0xBF862E42FEFA0000, -0.010830424696223417)) + k * f64(0xBD1CF79ABC9E3B3A, -2.572804622327669e-14);
+  const double q =
+      0.5 + r * (f64(0x3FC55555555548F8, 0.1666666666665788) +
+                 r * (f64(0x3FA5555555558FCC, 0.04166666666677052) + r * (f64(0x3F8111123AAF20D3, 0.008333341995140497) +
+                                                                          r * f64(0x3F56C16A1C2A3FFD, 0.0013888870459233254))));
   const auto count = static_cast<int64_t>(k);
   const auto j = static_cast<size_t>(count & 63);
   const int64_t e = count >> 6;

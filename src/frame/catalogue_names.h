@@ -17,8 +17,7 @@
 #define LUM_EXPORT_WITH_TAG_(X, function, type, shape, tag, slot) \
   X(lums##function##_##type##_##tag, function, type, shape, tag, slot)
 #define LUM_EXPORT_WITH_TAG(X, function, type, shape, tag, slot) LUM_EXPORT_WITH_TAG_(X, function, type, shape, tag, slot)
-#define LUM_EXPORTS_High(X, function, type, shape) \
-  LUM_EXPORT_WITH_TAG(X, function, type, shape, LUM_HIGH_##type, entryHigh)
+#define LUM_EXPORTS_High(X, function, type, shape) LUM_EXPORT_WITH_TAG(X, function, type, shape, LUM_HIGH_##type, entryHigh)
 #define LUM_EXPORTS_Tagged(X, function, type, shape)                      \
   LUM_EXPORT_WITH_TAG(X, function, type, shape, LUM_LOW_##type, entryLow) \
   LUM_EXPORT_WITH_TAG(X, function, type, shape, LUM_MID_##type, entryMid) \

@@ -1,5 +1,5 @@
-// The table from exported names to kernels: one FunctionRecord a function and element type, three slots each. A level of accuracy
-// may share a kernel with another one without any other code knowing it.
+// The table from exported names to kernels: one FunctionRecord a function and element type, three slots each. A level of
+// accuracy may share a kernel with another one without any other code knowing it.
 #pragma once
 
 #include <cstdint>
@@ -8,22 +8,16 @@
 
 namespace lum {
 
-// The kernels' signatures by shape, for element type T. ToReal and ToComplex take one type's elements to the other's; the parameter
-// of a 64fc kernel comes by address, in memory private to the call.
+// The kernels' signatures by shape, for element type T. ToReal and ToComplex take one type's elements to the other's; the
+// parameter of a 64fc kernel comes by address, in memory private to the call.
 namespace signature {
 template <class T> using OneInput = LumStatus(const T* src, T* dst, int32_t len);
 template <class T> using TwoInputs = LumStatus(const T* src1, const T* src2, T* dst, int32_t len);
 template <class T> using TwoOutputs = LumStatus(const T* src, T* dst1, T* dst2, int32_t len);
-template <class T> struct ParameterOf {
-  using Type = T;
-};
-template <> struct ParameterOf<Lum64fc> {
-  using Type = const Lum64fc*;
-};
+template <class T> struct ParameterOf { using Type = T; };
+template <> struct ParameterOf<Lum64fc> { using Type = const Lum64fc*; };
 template <class T> using ScalarParameter = LumStatus(const T* src, typename ParameterOf<T>::Type value, T* dst, int32_t len);
-template <class Complex> struct Part {
-  using Type = decltype(Complex::re);
-};
+template <class Complex> struct Part { using Type = decltype(Complex::re); };
 template <class Complex> using ToReal = LumStatus(const Complex* src, typename Part<Complex>::Type* dst, int32_t len);
 template <class Complex> using ToComplex = LumStatus(const typename Part<Complex>::Type* src, Complex* dst, int32_t len);
 }  // namespace signature

@@ -62,9 +62,7 @@ LUM_INLINE void WriteX87Control(uint16_t value) { asm volatile("fldcw %0" : : "m
 LUM_INLINE void ClearX87Flags() {
   uint16_t status;
   asm volatile("fnstsw %0" : "=a"(status) : : "memory");
-  if ((status & 0x80FF) != 0) [[unlikely]] {
-    asm volatile("fnclex" : : : "memory");
-  }
+  if ((status & 0x80FF) != 0) [[unlikely]] { asm volatile("fnclex" : : : "memory"); }
 }
 
 LUM_INLINE void ChangeX87Control(Environment& environment, uint16_t old_word, uint16_t new_word) {
@@ -108,8 +106,8 @@ template <Variant variant> LUM_INLINE Environment Enter() {
   return environment;
 }
 
-// A changed MXCSR is restored with the flags it had. An unchanged one loses the five flags other than precision, also those that
-// the caller had set before the call: this asymmetry is deliberate, and it saves a write in the usual case.
+// A changed MXCSR is restored with the flags it had. An unchanged one loses the five flags other than precision, also those
+// that the caller had set before the call: this asymmetry is deliberate, and it saves a write in the usual case.
 LUM_INLINE void Leave(const Environment& environment) {
   ClearX87Flags();
   if (environment.x87_changed) WriteX87Control(environment.x87_control);

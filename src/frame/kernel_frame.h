@@ -2,10 +2,13 @@
 // lanes that a vector path refuses.
 //
 // A kernel is described by a struct K derived from Kernel<Input, Output>:
-//   VectorPath(x...)     a pure function of packed inputs. Returns Packed<Output>, or Lanes<Output> with the mask of refused lanes;
+//   VectorPath(x...)     a pure function of packed inputs. Returns Packed<Output>, or Lanes<Output> with the mask of refused
+//   lanes;
 //                        with two outputs TwoValues<Output> or TwoLanes<Output>.
-//   LaneRoutine(x..., r...)  finishes one refused element: scalars in, results by reference (they hold the vector path's values).
-//                        Returns the element's LumStatus; a silent kernel's returns void, and the kernel's status is then always 0.
+//   LaneRoutine(x..., r...)  finishes one refused element: scalars in, results by reference (they hold the vector path's
+//   values).
+//                        Returns the element's LumStatus; a silent kernel's returns void, and the kernel's status is then
+//                        always 0.
 // Constants that a kernel may override: variant, vectors (in a block), fill (of inactive lanes: never to be refused).
 // A kernel with a parameter has it as a data member; all others are empty.
 #pragma once
@@ -33,9 +36,7 @@ template <class E, class Refused = Mask<Real<E>>> struct Lanes {
   Packed<E> value;
   Refused refused;
 };
-template <class E> struct TwoValues {
-  Packed<E> value1, value2;
-};
+template <class E> struct TwoValues { Packed<E> value1, value2; };
 template <class E> struct TwoLanes {
   Packed<E> value1, value2;
   Mask<Real<E>> refused;
@@ -57,7 +58,7 @@ struct Call {
 template <class K> inline uint32_t hook_cell = 0;
 
 template <class K> inline constexpr int step_of = lanes_of<Real<typename K::Input>>;
-template <class K> inline constexpr int block_of = step_of<K> * K::vectors;
+template <class K> inline constexpr int block_of = step_of<K>* K::vectors;
 
 namespace frame {
 
@@ -88,8 +89,8 @@ template <class K, int n, int m> LUM_INLINE Inputs<K, n> LoadStep(const Arrays<K
 
 }  // namespace frame
 
-// Finishes a block with refused lanes: count elements from index first on, fewer than a block in the tail. It computes the block
-// anew, so that the hot loop has no need to keep its vectors across a call.
+// Finishes a block with refused lanes: count elements from index first on, fewer than a block in the tail. It computes the
+// block anew, so that the hot loop has no need to keep its vectors across a call.
 template <class K, int n, int m>
 __attribute__((noinline, cold)) void FinishLanes(const K& kernel, const Arrays<K, n, m>& arrays, int64_t first, int count,
                                                  Call& call) {
@@ -153,9 +154,7 @@ LUM_INLINE void Block(const K& kernel, const Arrays<K, n, m>& arrays, int64_t i,
     }
   }
   const std::array values{Values<K, m>(results[v])...};
-  for (int j = 0; j < m; ++j) {
-    (StoreElements(arrays.dst[j] + i + static_cast<int64_t>(v) * step_of<K>, values[v][j]), ...);
-  }
+  for (int j = 0; j < m; ++j) { (StoreElements(arrays.dst[j] + i + static_cast<int64_t>(v) * step_of<K>, values[v][j]), ...); }
 }
 
 // A vector of fewer elements, the rest of its lanes holding the fill.
@@ -173,8 +172,7 @@ LUM_INLINE void TailStep(const K& kernel, const Arrays<K, n, m>& arrays, int64_t
 }
 
 // The environment, the blocks and the tail of a call whose arguments are good.
-template <class K, int n, int m>
-LUM_INLINE LumStatus RunChecked(const K& kernel, const Arrays<K, n, m>& arrays, int64_t len) {
+template <class K, int n, int m> LUM_INLINE LumStatus RunChecked(const K& kernel, const Arrays<K, n, m>& arrays, int64_t len) {
   Call call{Enter<K::variant>()};
   int64_t i = 0;
   for (; i + block_of<K> <= len; i += block_of<K>) {
@@ -203,8 +201,8 @@ LUM_INLINE LumStatus OneInput(const typename K::Input* src, typename K::Output* 
   return frame::RunChecked<K, 1, 1>(kernel, {{src}, {dst}}, len);
 }
 template <class K>
-LUM_INLINE LumStatus TwoInputs(const typename K::Input* src1, const typename K::Input* src2, typename K::Output* dst, int32_t len,
-                               const K& kernel = {}) {
+LUM_INLINE LumStatus TwoInputs(const typename K::Input* src1, const typename K::Input* src2, typename K::Output* dst,
+                               int32_t len, const K& kernel = {}) {
   if (const auto bad = CheckArguments(len, src1, src2, dst); bad != lumStsOk) return bad;
   return frame::RunChecked<K, 2, 1>(kernel, {{src1, src2}, {dst}}, len);
 }

@@ -1,5 +1,5 @@
-// What one step of a kernel loads and stores: a vector of real elements, or two vectors of interleaved complex ones. A step takes
-// as many elements as a vector has lanes of the real type.
+// What one step of a kernel loads and stores: a vector of real elements, or two vectors of interleaved complex ones. A step
+// takes as many elements as a vector has lanes of the real type.
 #pragma once
 
 #include <algorithm>
@@ -10,12 +10,8 @@
 namespace lum {
 
 // As many complex elements as a vector has lanes: the pairs re, im in memory order.
-template <Floating T> struct Interleaved {
-  Vec<T> low, high;
-};
-template <Floating T> struct ComplexVec {
-  Vec<T> re, im;
-};
+template <Floating T> struct Interleaved { Vec<T> low, high; };
+template <Floating T> struct ComplexVec { Vec<T> re, im; };
 template <Floating T> LUM_INLINE ComplexVec<T> split(Interleaved<T> x) {
   const auto parts = deinterleave(x.low, x.high);
   return {parts.even, parts.odd};
@@ -25,9 +21,7 @@ template <Floating T> LUM_INLINE Interleaved<T> join(ComplexVec<T> x) {
   return {halves.even, halves.odd};
 }
 // A mask over the components of interleaved elements; an element is in it when one of its components is.
-template <Floating T> struct ComponentMask {
-  Mask<T> low, high;
-};
+template <Floating T> struct ComponentMask { Mask<T> low, high; };
 
 // The elements of a mask as the low bits of a word.
 template <Lane T> LUM_INLINE uint32_t element_bits(Mask<T> m) { return to_bits(m); }
@@ -45,28 +39,20 @@ template <Floating T> LUM_INLINE ComponentMask<T> operator|(ComponentMask<T> a, 
   return {a.low | b.low, a.high | b.high};
 }
 
-template <class E> struct PackedOf {
-  using Type = Vec<E>;
-};
-template <> struct PackedOf<Lum32fc> {
-  using Type = Interleaved<Lum32f>;
-};
-template <> struct PackedOf<Lum64fc> {
-  using Type = Interleaved<Lum64f>;
-};
+template <class E> struct PackedOf { using Type = Vec<E>; };
+template <> struct PackedOf<Lum32fc> { using Type = Interleaved<Lum32f>; };
+template <> struct PackedOf<Lum64fc> { using Type = Interleaved<Lum64f>; };
 template <class E> using Packed = typename PackedOf<E>::Type;
 
 template <Lane T> LUM_INLINE Vec<T> LoadElements(const T* p) { return load(p); }
 template <class E>
-  requires is_complex<E>
-LUM_INLINE Packed<E> LoadElements(const E* p) {
+requires is_complex<E> LUM_INLINE Packed<E> LoadElements(const E* p) {
   const auto* parts = &p->re;
   return {load(parts), load(parts + lanes_of<Real<E>>)};
 }
 template <Lane T> LUM_INLINE void StoreElements(T* p, Vec<T> x) { store(p, x); }
 template <class E>
-  requires is_complex<E>
-LUM_INLINE void StoreElements(E* p, Packed<E> x) {
+requires is_complex<E> LUM_INLINE void StoreElements(E* p, Packed<E> x) {
   auto* parts = &p->re;
   store(parts, x.low);
   store(parts + lanes_of<Real<E>>, x.high);
@@ -82,8 +68,7 @@ template <Floating T> LUM_INLINE ComponentMask<T> FirstComponents(int count) {
   return {first_lanes<T>(std::min(2 * count, lanes)), first_lanes<T>(std::max(2 * count - lanes, 0))};
 }
 template <class E>
-  requires is_complex<E>
-LUM_INLINE Packed<E> LoadElements(int count, const E* p, Real<E> fill) {
+requires is_complex<E> LUM_INLINE Packed<E> LoadElements(int count, const E* p, Real<E> fill) {
   using T = Real<E>;
   const auto* parts = &p->re;
   const auto mask = FirstComponents<T>(count);
@@ -91,8 +76,7 @@ LUM_INLINE Packed<E> LoadElements(int count, const E* p, Real<E> fill) {
 }
 template <Lane T> LUM_INLINE void StoreElements(int count, T* p, Vec<T> x) { store(first_lanes<T>(count), p, x); }
 template <class E>
-  requires is_complex<E>
-LUM_INLINE void StoreElements(int count, E* p, Packed<E> x) {
+requires is_complex<E> LUM_INLINE void StoreElements(int count, E* p, Packed<E> x) {
   using T = Real<E>;
   auto* parts = &p->re;
   const auto mask = FirstComponents<T>(count);

@@ -13,6 +13,7 @@
 #include <immintrin.h>
 
 namespace lum {
+inline namespace avx512 {
 
 // ---- Types
 
@@ -161,7 +162,8 @@ LUM_INLINE Mask<T> operator&(Mask<T> a, Mask<T> b) {
 }
 template <Lane T>
 LUM_INLINE Mask<T> operator|(Mask<T> a, Mask<T> b) {
-  return mask_of<T>(uint32_t{a.k} | b.k);
+  if constexpr (is32<T>) return {_kor_mask16(a.k, b.k)};
+  else return {_kor_mask8(a.k, b.k)};
 }
 template <Lane T>
 LUM_INLINE Mask<T> operator^(Mask<T> a, Mask<T> b) {
@@ -173,7 +175,8 @@ LUM_INLINE Mask<T> operator~(Mask<T> a) {
 }
 template <Lane T>
 LUM_INLINE bool any(Mask<T> a) {
-  return a.k != 0;
+  if constexpr (is32<T>) return !_kortestz_mask16_u8(a.k, a.k);
+  else return !_kortestz_mask8_u8(a.k, a.k);
 }
 template <Lane T>
 LUM_INLINE bool none(Mask<T> a) {
@@ -645,6 +648,7 @@ LUM_INLINE Vec<T> duplicate_odd(Vec<T> a) {
   else return {_mm512_permute_pd(a.v, 0xFF)};
 }
 
+}  // namespace avx512
 }  // namespace lum
 
 #pragma GCC diagnostic pop
