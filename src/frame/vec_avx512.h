@@ -199,12 +199,6 @@ LUM_INLINE Vec<T> add(Vec<T> a, Vec<T> b) {
   if constexpr (is32<T>) return {_mm512_add_round_ps(a.v, b.v, suppressed<R>)};
   else return {_mm512_add_round_pd(a.v, b.v, suppressed<R>)};
 }
-// Per lane m ? a + b : a.
-template <Floating T>
-LUM_INLINE Vec<T> add(Mask<T> m, Vec<T> a, Vec<T> b) {
-  if constexpr (is32<T>) return {_mm512_mask_add_round_ps(a.v, m.k, a.v, b.v, suppressed<rn>)};
-  else return {_mm512_mask_add_round_pd(a.v, m.k, a.v, b.v, suppressed<rn>)};
-}
 template <int R = rn, Floating T>
 LUM_INLINE Vec<T> sub(Vec<T> a, Vec<T> b) {
   if constexpr (is32<T>) return {_mm512_sub_round_ps(a.v, b.v, suppressed<R>)};
@@ -400,6 +394,12 @@ LUM_INLINE Vec<T> select(Mask<T> m, Vec<T> a, Vec<T> b) {
   else if constexpr (std::same_as<T, double>) return {_mm512_mask_blend_pd(m.k, b.v, a.v)};
   else if constexpr (is32<T>) return {_mm512_mask_blend_epi32(m.k, b.v, a.v)};
   else return {_mm512_mask_blend_epi64(m.k, b.v, a.v)};
+}
+// Per lane m ? a + b : a.
+template <Floating T>
+LUM_INLINE Vec<T> add(Mask<T> m, Vec<T> a, Vec<T> b) {
+  if constexpr (is32<T>) return {_mm512_mask_add_round_ps(a.v, m.k, a.v, b.v, suppressed<rn>)};
+  else return {_mm512_mask_add_round_pd(a.v, m.k, a.v, b.v, suppressed<rn>)};
 }
 // Per lane m ? a : +0.
 template <Lane T>

@@ -54,16 +54,18 @@ def float_tables(directory):
           rows, 32, directory)
 
 
-def routine_table(directory):
-    rows = []
-    for i in range(65):
-        c = to_multiple(Fraction(64, 64 + i), -10)
-        rows.append([c] + split(of(log, c), -42))
-    write("ln_routine", SCRIPT, "c = 64/(64 + i) to ten fraction bits; -ln c: hi, a multiple of 2^-42, and lo.", rows, 64,
-          directory)
+def routine_tables(directory):
+    for name, function, width, grid in (("ln_routine", log, 64, -42), ("log10_routine", log10, 64, -42),
+                                        ("log10_routine_float", log10, 32, -17)):
+        rows = []
+        for i in range(65):
+            c = to_multiple(Fraction(64, 64 + i), -10)
+            rows.append([c] + split(of(function, c), grid))
+        write(name, SCRIPT, f"c = 64/(64 + i) to ten fraction bits; -{name.split('_')[0]} c: hi, a multiple of 2^{grid}, and lo.", rows,
+              width, directory)
 
 
 def generate(directory):
     double_tables(directory)
     float_tables(directory)
-    routine_table(directory)
+    routine_tables(directory)
