@@ -71,9 +71,12 @@ inline constexpr UnsignedOf<T> sign_bit = UnsignedOf<T>{1} << (8 * sizeof(T) - 1
 
 }  // namespace lum
 
+// The layers stand in inline namespaces of their own, so that one program may hold both.
 #ifdef LUM_AVX512
+#define LUM_LAYER avx512
 #include "frame/vec_avx512.h"
 #else
+#define LUM_LAYER portable
 #include "frame/vec_portable.h"
 #endif
 #include "frame/vec_shared.h"

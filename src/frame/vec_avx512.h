@@ -13,6 +13,7 @@
 #include <immintrin.h>
 
 namespace lum {
+inline namespace avx512 {
 
 // ---- Types
 
@@ -641,6 +642,7 @@ LUM_INLINE Vec<T> duplicate_odd(Vec<T> a) {
   else return {_mm512_permute_pd(a.v, 0xFF)};
 }
 
+}  // namespace avx512
 }  // namespace lum
 
 #pragma GCC diagnostic pop

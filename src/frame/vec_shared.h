@@ -5,6 +5,7 @@
 #include "frame/literals.h"
 
 namespace lum {
+inline namespace LUM_LAYER {
 
 template <Floating T>
 LUM_INLINE Vec<T> operator+(Vec<T> a, Vec<T> b) {
@@ -75,4 +76,5 @@ LUM_INLINE Sum<T> fast_two_sum(Vec<T> a, Vec<T> b) {
   return {s, b - (s - a)};
 }
 
+}  // namespace LUM_LAYER
 }  // namespace lum

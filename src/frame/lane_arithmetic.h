@@ -1,0 +1,213 @@
+// Arithmetic on one lane, correctly rounded in each direction, on a processor that rounds to nearest and may have no fused
+// multiply-add. A directed result is the nearest one, moved by a unit in the last place when the sign of the exact error says
+// so. A fused float result goes through a double rounded to odd, a fused double through three sums free of error (S. Boldo, G.
+// Melquiond: Emulation of FMA and correctly rounded sums, 2008).
+// Forms named quick_* are straight-line code for loops over lanes; *_needs_care says where their result does not hold.
+#pragma once
+
+#include "frame/lane_exact.h"
+
+namespace lum::lane {
+
+#if defined(__FMA__) || defined(__ARM_FEATURE_FMA)
+inline constexpr bool processor_has_fma = true;
+#else
+inline constexpr bool processor_has_fma = false;
+#endif
+
+// The number nearest to a value, and a number with the sign of (value - nearest); gives the value rounded by R. An overflow to
+// infinity has an infinite error and comes back to the largest number. A zero has the sign of the value.
+template <int R, Floating T, Floating E>
+LUM_INLINE T directed(T nearest, E error) {
+  using Bits = typename Format<T>::Bits;
+  const Bits b = to_bits(nearest);
+  const Bits negative = b >> (Format<T>::width - 1);
+  if constexpr (R == rd) return from_bits<T>(b + (mask_if<Bits>(error < 0) & (2 * negative - 1)));
+  if constexpr (R == ru) return from_bits<T>(b + (mask_if<Bits>(error > 0) & (1 - 2 * negative)));
+  if constexpr (R == rz) {
+    const Bits sign = Bits{0} - negative;
+    return from_bits<T>(b - (((mask_if<Bits>(error < 0) & ~sign) | (mask_if<Bits>(error > 0) & sign)) & 1));
+  }
+  return nearest;
+}
+
+// a + b - s exactly, s being a + b to nearest; infinite when s overflows, NaN when an operand is infinite or NaN.
+template <Floating T>
+LUM_INLINE T sum_error(T a, T b, T s) {
+  const bool ordered = magnitude(a) >= magnitude(b);
+  const T large = ordered ? a : b;
+  const T small = ordered ? b : a;
+  return small - (s - large);
+}
+// The same without a comparison, for numbers that cannot overflow.
+LUM_INLINE double two_sum_error(double a, double b, double s) {
+  const double b_part = s - a;
+  return (a - (s - b_part)) + (b - b_part);
+}
+// A sum that is zero has no error; toward minus infinity it is -0 unless both terms are +0.
+template <int R, Floating T, Floating S>
+LUM_INLINE T zero_sum_sign(T result, S sum, S a, S b) {
+  if constexpr (R != rd) return result;
+  const auto either =
+      static_cast<UnsignedOf<T>>((to_bits(a) | to_bits(b)) >> (Format<S>::width - Format<T>::width)) & Format<T>::sign;
+  return from_bits<T>(to_bits(result) | (mask_if<UnsignedOf<T>>(sum == 0) & either));
+}
+
+template <int R, Floating T>
+LUM_INLINE T add(T a, T b) {
+  const T s = a + b;
+  if constexpr (R == rn) return with_nan(s, a, b);
+  return with_nan(zero_sum_sign<R>(directed<R>(s, sum_error(a, b, s)), s, a, b), a, b);
+}
+// A NaN b keeps its sign.
+template <int R, Floating T>
+LUM_INLINE T sub(T a, T b) {
+  if constexpr (R == rn) return with_nan(a - b, a, b);
+  const T s = a - b;
+  return with_nan(zero_sum_sign<R>(directed<R>(s, sum_error(a, -b, s)), s, a, -b), a, b);
+}
+
+// x = high + low, 26 bits each; |x| below 2^970.
+struct Halves {
+  double high, low;
+};
+LUM_INLINE Halves split(double x) {
+  const double t = x * 0x1p27 + x;
+  const double high = t - (t - x);
+  return {high, x - high};
+}
+// a b - p exactly, p being a b to nearest, where product_is_safe.
+LUM_INLINE double product_error(double a, double b, double p) {
+  if constexpr (processor_has_fma) return __builtin_fma(a, b, -p);
+  const auto [a_high, a_low] = split(a);
+  const auto [b_high, b_low] = split(b);
+  return ((a_high * b_high - p) + a_high * b_low + a_low * b_high) + a_low * b_low;
+}
+// Conditions of a lane are all bits or none, so that a loop over lanes joins them without branches.
+LUM_INLINE uint64_t at_most(double x, double limit) { return mask_if<uint64_t>(magnitude(x) <= limit); }
+LUM_INLINE uint64_t is_zero(double x) { return mask_if<uint64_t>(x == 0); }
+// Whether p = a b to nearest has an error that is itself a double, and no step of product_error overflows.
+LUM_INLINE uint64_t product_is_safe(double a, double b, double p) {
+  const uint64_t no_overflow = at_most(p, 0x1p1020) & at_most(a, 0x1p970) & at_most(b, 0x1p970);
+  const uint64_t no_underflow = mask_if<uint64_t>(magnitude(p) >= 0x1p-960) | is_zero(a) | is_zero(b);
+  return no_overflow & no_underflow;
+}
+
+// The whole product of two floats is a double.
+template <int R>
+LUM_INLINE float round_to_float(double x) {
+  const auto nearest = static_cast<float>(x);
+  return directed<R>(nearest, x - static_cast<double>(nearest));
+}
+template <int R>
+LUM_INLINE float quick_mul(float a, float b) {
+  if constexpr (R == rn) return a * b;
+  return round_to_float<R>(static_cast<double>(a) * static_cast<double>(b));
+}
+template <int R>
+LUM_INLINE double quick_mul(double a, double b) {
+  const double p = a * b;
+  if constexpr (R == rn) return p;
+  return directed<R>(p, product_error(a, b, p));
+}
+template <int R, Floating T>
+LUM_INLINE UnsignedOf<T> mul_needs_care(T a, T b, T result) {
+  if constexpr (R != rn && sizeof(T) == 8) return ~product_is_safe(a, b, a * b);
+  else if constexpr (processor_gives_these_nans) return 0;
+  else return mask_if<UnsignedOf<T>>(is_nan(result));
+}
+template <int R>
+LUM_INLINE float careful_mul(float a, float b) {
+  const float result = quick_mul<R>(a, b);
+  return is_nan(result) ? nan_of(a, b) : result;
+}
+template <int R>
+LUM_INLINE double careful_mul(double a, double b) {
+  return exact_mul<R>(a, b);
+}
+
+// The sign of the error of a quotient q is that of (a - q b) / b, and that difference fits in a double when a and b are floats.
+template <int R>
+LUM_INLINE float div(float a, float b) {
+  const float q = a / b;
+  if constexpr (R == rn) return with_nan(q, a, b);
+  const double rest = static_cast<double>(a) - static_cast<double>(q) * static_cast<double>(b);
+  return with_nan(directed<R>(q, b < 0 ? -rest : rest), a, b);
+}
+template <int R>
+LUM_INLINE double div(double a, double b) {
+  if constexpr (R == rn) return with_nan(a / b, a, b);
+  else return exact_div<R>(a, b);
+}
+
+template <int R>
+LUM_INLINE float sqrt(float a) {
+  const float s = __builtin_sqrtf(a);
+  if constexpr (R == rn) return with_nan(s, a);
+  const double root = s;
+  return with_nan(directed<R>(s, static_cast<double>(a) - root * root), a);
+}
+// Small numbers are taken 2^200 times as large, so that the square of the root has an exact error.
+template <int R>
+LUM_INLINE double sqrt(double a) {
+  if constexpr (R == rn) return with_nan(__builtin_sqrt(a), a);
+  const bool small = a < 0x1p-800;
+  const double x = a * (small ? 0x1p200 : 1.0);
+  const double s = __builtin_sqrt(x);
+  const double square = s * s;
+  return with_nan(directed<R>(s, (x - square) - product_error(s, s, square)) * (small ? 0x1p-100 : 1.0), a);
+}
+
+// s with its last bit set when there is an error, of which only the sign matters: s + error rounded to odd.
+LUM_INLINE double to_odd(double s, double error) {
+  const uint64_t b = to_bits(s);
+  const uint64_t inexact = mask_if<uint64_t>(magnitude(error) > 0) & 1;  // not for a NaN
+  const uint64_t beyond = ((b ^ to_bits(error)) >> 63) & inexact;        // s is the larger in magnitude
+  return from_bits<double>((b - beyond) | inexact);
+}
+
+// a b + c with one rounding. In a double, a b is exact and the sum rounded to odd keeps what the second rounding needs.
+template <int R>
+LUM_INLINE float quick_fma(float a, float b, float c) {
+  if constexpr (R == rn && processor_has_fma) return __builtin_fmaf(a, b, c);
+  const double p = static_cast<double>(a) * static_cast<double>(b);
+  const double addend = c;
+  const double s = p + addend;
+  return zero_sum_sign<R, float>(round_to_float<R>(to_odd(s, two_sum_error(p, addend, s))), s, p, addend);
+}
+// a b = p + p_low; c + p_low = t + t_low; p + t = v + v_low; v plus the odd rounding of t_low + v_low.
+template <int R>
+LUM_INLINE double quick_fma(double a, double b, double c) {
+  if constexpr (R == rn && processor_has_fma) return __builtin_fma(a, b, c);
+  const double p = a * b;
+  const double p_low = product_error(a, b, p);
+  const double t = c + p_low;
+  const double t_low = two_sum_error(c, p_low, t);
+  const double v = p + t;
+  const double v_low = two_sum_error(p, t, v);
+  const double low = t_low + v_low;
+  const double z = to_odd(low, two_sum_error(t_low, v_low, low));
+  const double nearest = v + z;
+  const double result = directed<R>(nearest, two_sum_error(v, z, nearest));
+  // A zero sum is p + c, which has the sign that p_low, an unsigned zero then, has taken away.
+  return zero_sum_sign<R, double>(nearest == 0 ? p + c : result, nearest, p, c);
+}
+template <int R, Floating T>
+LUM_INLINE UnsignedOf<T> fma_needs_care(T a, T b, T c, T result) {
+  if constexpr (sizeof(T) == 4 || (R == rn && processor_has_fma)) return mask_if<UnsignedOf<T>>(is_nan(result));
+  else return ~(product_is_safe(a, b, a * b) & at_most(c, 0x1p1020));
+}
+// +-(a b) +- c; a NaN keeps the sign that it came with.
+template <int R, bool negate_product, bool negate_addend>
+LUM_INLINE float careful_fma(float a, float b, float c) {
+  if (is_nan(a) || is_nan(b) || is_nan(c)) return nan_of(a, b, c);
+  const float result = quick_fma<R>(negate_product ? -a : a, b, negate_addend ? -c : c);
+  return is_nan(result) ? default_nan<float>() : result;
+}
+template <int R, bool negate_product, bool negate_addend>
+LUM_INLINE double careful_fma(double a, double b, double c) {
+  if (is_nan(a) || is_nan(b) || is_nan(c)) return nan_of(a, b, c);
+  return exact_fma<R>(negate_product ? -a : a, b, negate_addend ? -c : c);
+}
+
+}  // namespace lum::lane

@@ -1,0 +1,184 @@
+// Operations on the exponent, the significand and the class of one lane: straight-line integer code for loops over lanes.
+#pragma once
+
+#include "frame/lane_arithmetic.h"
+
+namespace lum::lane {
+
+// |x| = 1.fraction * 2^exponent for x finite and not zero, denormals included.
+template <Floating T>
+struct Normalized {
+  UnsignedOf<T> fraction;
+  int exponent;
+};
+template <Floating T>
+LUM_INLINE Normalized<T> normalized(T x) {
+  using F = Format<T>;
+  const auto b = to_bits(magnitude(x));
+  const bool denormal = b < F::hidden;
+  const auto scaled = to_bits(from_bits<T>(b) * power_of_two<T>(F::fraction_bits + 1));
+  const auto n = denormal ? scaled : b;
+  const int bias = denormal ? F::bias + F::fraction_bits + 1 : F::bias;
+  return {n & F::fraction, static_cast<int>(n >> F::fraction_bits) - bias};
+}
+
+// floor(log2 |x|); -infinity for a zero, +infinity for an infinity.
+template <Floating T>
+LUM_INLINE T getexp(T x) {
+  using F = Format<T>;
+  const auto b = to_bits(magnitude(x));
+  const T exponent = static_cast<T>(normalized(x).exponent);
+  const auto finite = b == 0 ? F::sign | F::infinity : to_bits(exponent);
+  const auto special = b == F::infinity ? b : to_bits(x) | F::quiet;
+  return from_bits<T>(b >= F::infinity ? special : finite);
+}
+
+// The significand in the interval of imm bits 0-1, with the sign of bits 2-3. Zeros and infinities count as 1.0; -0 counts as
+// negative for its sign, but gives no NaN.
+template <int imm, Floating T>
+LUM_INLINE T getmant(T x) {
+  using F = Format<T>;
+  using Bits = typename F::Bits;
+  constexpr int interval = imm & 3;
+  constexpr bool clear_sign = (imm & 4) != 0;
+  constexpr bool nan_if_negative = (imm & 8) != 0;
+  const Bits b = to_bits(magnitude(x));
+  const auto [fraction, exponent] = normalized(x);
+  const Bits one = static_cast<Bits>(F::bias) << F::fraction_bits;
+  Bits halved = 0;  // 1 when the significand is taken from [1/2,1)
+  if constexpr (interval == 1) halved = static_cast<Bits>(exponent) & 1;
+  if constexpr (interval == 2) halved = 1;
+  if constexpr (interval == 3) halved = fraction >> (F::fraction_bits - 1);
+  const Bits finite = (one | fraction) - (halved << F::fraction_bits);
+  const Bits plain = b == 0 || b == F::infinity ? one : finite;
+  const Bits sign = clear_sign ? 0 : to_bits(x) & F::sign;
+  const bool refused = nan_if_negative && x < 0;
+  return from_bits<T>(b > F::infinity ? to_bits(x) | F::quiet : refused ? F::default_nan : plain | sign);
+}
+
+// floor(b) for use as a count of doublings, with b taken to the nearest end of [-limit, limit]; a NaN goes to the low end.
+template <int limit, Floating T>
+LUM_INLINE int limited_floor(T b) {
+  const T low = b > T{-limit} ? b : T{-limit};
+  const T limited = low < T{limit} ? low : T{limit};
+  const int truncated = static_cast<int>(limited);
+  return truncated - (static_cast<T>(truncated) > limited);
+}
+// a 2^floor(b) with one rounding. A float times 2^n, |n| <= 400, is exact in double, and beyond 400 nothing changes.
+template <int R>
+LUM_INLINE float quick_scalef(float a, float b) {
+  return round_to_float<R>(static_cast<double>(a) * power_of_two<double>(limited_floor<400>(b)));
+}
+template <int R>
+LUM_INLINE double quick_scalef(double a, double b) {
+  const int64_t n = limited_floor<5000>(b);
+  return from_bits<double>(to_bits(a) + (a == 0 ? 0 : static_cast<uint64_t>(n) << 52));
+}
+LUM_INLINE uint32_t scalef_needs_care(float a, float b) {
+  const float largest = from_bits<float>(Format<float>::infinity - 1);
+  return mask_if<uint32_t>(is_nan(a)) | mask_if<uint32_t>(!(magnitude(b) <= largest));
+}
+// The quick double form holds for normal numbers that stay normal, and for zeros.
+LUM_INLINE uint64_t scalef_needs_care(double a, double b) {
+  const auto exponent = static_cast<int32_t>(to_bits(magnitude(a)) >> 52);
+  const int32_t scaled = exponent + limited_floor<5000>(b);
+  const uint64_t normal = mask_if<uint64_t>(static_cast<uint32_t>(exponent - 1) < 2046) &
+                          mask_if<uint64_t>(static_cast<uint32_t>(scaled - 1) < 2046);
+  return ~((normal | is_zero(a)) & at_most(b, from_bits<double>(Format<double>::infinity - 1)));
+}
+
+// x rounded to a multiple of 2^-M, M in imm bits 4-7. Adding the power of two whose last bit is worth 2^-M rounds a smaller
+// magnitude to nearest even; the directed modes step back when that went the wrong way. Larger magnitudes are on the grid.
+template <int imm, Floating T>
+LUM_INLINE T rndscale(T x) {
+  using F = Format<T>;
+  constexpr int M = (imm >> 4) & 15;
+  constexpr int R = (imm & 4) ? rn : imm & 3;
+  const T grid_is_coarser_below = power_of_two<T>(F::fraction_bits - M);
+  const T step = power_of_two<T>(-M);
+  const auto sign = to_bits(x) & F::sign;
+  const T m = magnitude(x);
+  T rounded = (m + grid_is_coarser_below) - grid_is_coarser_below;
+  const T above = rounded > m ? rounded - step : rounded;
+  const T below = rounded < m ? rounded + step : rounded;
+  if constexpr (R == rz) rounded = above;
+  if constexpr (R == rd) rounded = sign ? below : above;
+  if constexpr (R == ru) rounded = sign ? above : below;
+  const auto kept = is_nan(x) ? to_bits(x) | F::quiet : to_bits(x);
+  return from_bits<T>(m < grid_is_coarser_below ? to_bits(rounded) | sign : kept);
+}
+// x - rndscale<imm>(x) in the rounding of imm; an infinity leaves a zero.
+template <int imm, Floating T>
+LUM_INLINE T reduce(T x) {
+  constexpr int R = (imm & 4) ? rn : imm & 3;
+  const T rest = sub<R>(x, rndscale<imm>(x));
+  return to_bits(magnitude(x)) == Format<T>::infinity ? T{R == rd ? -0.0f : 0.0f} : rest;
+}
+
+// Whether the class of x is in the set imm: bit 0 quiet NaN, 1 +0, 2 -0, 3 +infinity, 4 -infinity, 5 denormal, 6 negative
+// finite other than -0, 7 signalling NaN.
+template <int imm, Floating T>
+LUM_INLINE bool fpclass(T x) {
+  using F = Format<T>;
+  const auto b = to_bits(x);
+  const auto m = to_bits(magnitude(x));
+  bool in_set = false;
+  if constexpr ((imm & 0x01) != 0) in_set |= m >= (F::infinity | F::quiet);
+  if constexpr ((imm & 0x02) != 0) in_set |= b == 0;
+  if constexpr ((imm & 0x04) != 0) in_set |= b == F::sign;
+  if constexpr ((imm & 0x08) != 0) in_set |= b == F::infinity;
+  if constexpr ((imm & 0x10) != 0) in_set |= b == (F::sign | F::infinity);
+  if constexpr ((imm & 0x20) != 0) in_set |= (m - 1) < F::fraction;
+  if constexpr ((imm & 0x40) != 0) in_set |= x < 0 && m != F::infinity;
+  if constexpr ((imm & 0x80) != 0) in_set |= (m - F::infinity - 1) < F::quiet - 1;
+  return in_set;
+}
+
+// The place of the token for x: quiet NaN, signalling NaN, zero, 1, -infinity, +infinity, negative, positive.
+LUM_INLINE int fixup_class(double x) {
+  if (is_nan(x)) return fpclass<0x01>(x) ? 0 : 1;
+  if (x == 0) return 2;
+  if (x == 1) return 3;
+  if (is_infinite(x)) return x < 0 ? 4 : 5;
+  return x < 0 ? 6 : 7;
+}
+// a, or the value that the token of b's class names.
+LUM_INLINE double fixupimm(double a, double b, uint64_t tokens) {
+  using F = Format<double>;
+  switch ((tokens >> (4 * fixup_class(b))) & 15) {
+    case 0:
+      return a;
+    case 1:
+      return b;
+    case 2:
+      return from_bits<double>(to_bits(b) | F::infinity | F::quiet);
+    case 3:
+      return default_nan<double>();
+    case 4:
+      return from_bits<double>(F::sign | F::infinity);
+    case 5:
+      return from_bits<double>(F::infinity);
+    case 6:
+      return from_bits<double>((to_bits(b) & F::sign) | F::infinity);
+    case 7:
+      return -0.0;
+    case 8:
+      return 0.0;
+    case 9:
+      return -1.0;
+    case 10:
+      return 1.0;
+    case 11:
+      return 0.5;
+    case 12:
+      return 90.0;
+    case 13:
+      return 0x1.921FB54442D18p0;  // pi/2
+    case 14:
+      return from_bits<double>(F::infinity - 1);
+    default:
+      return from_bits<double>(F::sign | (F::infinity - 1));
+  }
+}
+
+}  // namespace lum::lane
