@@ -153,7 +153,7 @@ LUM_INLINE void Block(const K& kernel, const Arrays<K, n, m>& arrays, int64_t i,
       return;
     }
   }
-  const std::array values{Values<K, m>(results[v])...};
+  const Outputs<K, m> values[] = {Values<K, m>(results[v])...};
   for (int j = 0; j < m; ++j) { (StoreElements(arrays.dst[j] + i + static_cast<int64_t>(v) * step_of<K>, values[v][j]), ...); }
 }
 

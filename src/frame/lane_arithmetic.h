@@ -147,15 +147,16 @@ LUM_INLINE float sqrt(float a) {
   const double root = s;
   return with_nan(directed<R>(s, static_cast<double>(a) - root * root), a);
 }
-// Small numbers are taken 2^200 times as large, so that the square of the root has an exact error.
+// Small and large numbers are taken 2^200 times as large or small, so that the square of the root has an exact error.
 template <int R>
 LUM_INLINE double sqrt(double a) {
   if constexpr (R == rn) return with_nan(__builtin_sqrt(a), a);
-  const bool small = a < 0x1p-800;
-  const double x = a * (small ? 0x1p200 : 1.0);
+  const double scale = a < 0x1p-800 ? 0x1p200 : a > 0x1p800 ? 0x1p-200 : 1.0;
+  const double root_scale = a < 0x1p-800 ? 0x1p-100 : a > 0x1p800 ? 0x1p100 : 1.0;
+  const double x = a * scale;
   const double s = __builtin_sqrt(x);
   const double square = s * s;
-  return with_nan(directed<R>(s, (x - square) - product_error(s, s, square)) * (small ? 0x1p-100 : 1.0), a);
+  return with_nan(directed<R>(s, (x - square) - product_error(s, s, square)) * root_scale, a);
 }
 
 // s with its last bit set when there is an error, of which only the sign matters: s + error rounded to odd.

@@ -107,12 +107,12 @@ LUM_INLINE T rndscale(T x) {
   const auto kept = is_nan(x) ? to_bits(x) | F::quiet : to_bits(x);
   return from_bits<T>(m < grid_is_coarser_below ? to_bits(rounded) | sign : kept);
 }
-// x - rndscale<imm>(x) in the rounding of imm; an infinity leaves a zero.
+// x - rndscale<imm>(x) in the rounding of imm; an infinity of either sign leaves +0.
 template <int imm, Floating T>
 LUM_INLINE T reduce(T x) {
   constexpr int R = (imm & 4) ? rn : imm & 3;
   const T rest = sub<R>(x, rndscale<imm>(x));
-  return to_bits(magnitude(x)) == Format<T>::infinity ? T{R == rd ? -0.0f : 0.0f} : rest;
+  return to_bits(magnitude(x)) == Format<T>::infinity ? T{0} : rest;
 }
 
 // Whether the class of x is in the set imm: bit 0 quiet NaN, 1 +0, 2 -0, 3 +infinity, 4 -infinity, 5 denormal, 6 negative

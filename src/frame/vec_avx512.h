@@ -249,11 +249,13 @@ LUM_INLINE Vec<T> fmaddsub(Vec<T> a, Vec<T> b, Vec<T> c) {
   if constexpr (is32<T>) return {_mm512_fmaddsub_round_ps(a.v, b.v, c.v, suppressed<rn>)};
   else return {_mm512_fmaddsub_round_pd(a.v, b.v, c.v, suppressed<rn>)};
 }
-// a b + c in even lanes, a b - c in odd ones, with one rounding.
+// a b + c in even lanes, a b - c in odd ones, with one rounding. Written out because the compilers' intrinsic is fmaddsub with
+// c negated, which changes the sign of a NaN.
 template <Floating T>
 LUM_INLINE Vec<T> fmsubadd(Vec<T> a, Vec<T> b, Vec<T> c) {
-  if constexpr (is32<T>) return {_mm512_fmsubadd_round_ps(a.v, b.v, c.v, suppressed<rn>)};
-  else return {_mm512_fmsubadd_round_pd(a.v, b.v, c.v, suppressed<rn>)};
+  if constexpr (is32<T>) asm("vfmsubadd213ps %{rn-sae%}, %2, %1, %0" : "+v"(a.v) : "v"(b.v), "v"(c.v));
+  else asm("vfmsubadd213pd %{rn-sae%}, %2, %1, %0" : "+v"(a.v) : "v"(b.v), "v"(c.v));
+  return a;
 }
 // The smaller; b when either is a NaN or both are zeros, so the order of the operands matters.
 template <Floating T>

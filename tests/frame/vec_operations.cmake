@@ -1,0 +1,31 @@
+# The vector operations of both layers against each other. The table of operations is compiled once for each layer; the rest of
+# the test runs on any processor.
+set(vec_operations_dir ${PROJECT_SOURCE_DIR}/tests/frame)
+
+function(add_operation_table name)
+  add_library(${name} OBJECT ${vec_operations_dir}/operation_table.cpp)
+  target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/src)
+  target_compile_features(${name} PRIVATE cxx_std_20)
+  target_compile_options(${name} PRIVATE -ffp-contract=off -fno-math-errno ${ARGN})
+endfunction()
+
+add_executable(vec_operations_test ${vec_operations_dir}/vec_operations_test.cpp ${vec_operations_dir}/operation_inputs.cpp)
+target_compile_features(vec_operations_test PRIVATE cxx_std_20)
+# The inputs are computed, so these files must not depend on contraction either.
+target_compile_options(vec_operations_test PRIVATE -ffp-contract=off)
+target_compile_definitions(vec_operations_test PRIVATE LUM_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
+
+add_operation_table(operation_table_portable)
+target_link_libraries(vec_operations_test PRIVATE operation_table_portable)
+if(CMAKE_SYSTEM_PROCESSOR MATCHES "x86_64|AMD64")
+  add_operation_table(operation_table_native ${LUM_AVX512_FLAGS})
+  target_compile_definitions(operation_table_native PRIVATE LUM_AVX512)
+  target_compile_definitions(vec_operations_test PRIVATE LUM_TEST_NATIVE)
+  target_link_libraries(vec_operations_test PRIVATE operation_table_native)
+endif()
+
+find_package(GTest REQUIRED)
+find_package(Threads REQUIRED)
+target_link_libraries(vec_operations_test PRIVATE GTest::gtest_main Threads::Threads)
+include(GoogleTest)
+gtest_discover_tests(vec_operations_test DISCOVERY_TIMEOUT 60)

@@ -1,0 +1,399 @@
+// Every vector operation of the portable layer against the instruction, bit for bit; where there is no such processor, against
+// outcomes recorded on one. LUM_EXHAUSTIVE=1 adds all 2^32 inputs of rcp14 and rsqrt14, LUM_RECORD=path writes the record.
+#include <gtest/gtest.h>
+#include <sys/mman.h>
+#include <unistd.h>
+
+#include <atomic>
+#include <cstdlib>
+#include <cstring>
+#include <fstream>
+#include <map>
+#include <regex>
+#include <set>
+#include <sstream>
+#include <thread>
+
+#include "operation_inputs.h"
+#include "operation_table.h"
+
+namespace lum_test {
+namespace {
+
+bool has_avx512() {
+#ifdef LUM_TEST_NATIVE
+  return __builtin_cpu_supports("avx512f") && __builtin_cpu_supports("avx512cd") && __builtin_cpu_supports("avx512bw") &&
+         __builtin_cpu_supports("avx512dq") && __builtin_cpu_supports("avx512vl");
+#else
+  return false;
+#endif
+}
+
+const OperationTable& portable() {
+  static const OperationTable table = PortableTable();
+  return table;
+}
+#ifdef LUM_TEST_NATIVE
+const OperationTable& native() {
+  static const OperationTable table = NativeTable();
+  return table;
+}
+#else
+const OperationTable& native() { return portable(); }  // never asked: has_avx512 is false
+#endif
+
+bool is_nan(Element element, uint64_t bits) {
+  return element == Element::f32 ? (bits & 0x7FFFFFFF) > 0x7F800000
+                                 : element == Element::f64 && (bits & 0x7FFFFFFFFFFFFFFF) > 0x7FF0000000000000;
+}
+uint64_t quieted(Element element, uint64_t nan) { return nan | (element == Element::f32 ? 0x00400000 : 0x0008000000000000); }
+
+// The NaNs among the operands of a lane, quieted.
+std::vector<uint64_t> lane_nans(const Operation& operation, const Operands& operands, int lane) {
+  std::vector<uint64_t> nans;
+  for (std::size_t i = 0; i < operation.operands.size(); ++i) {
+    const Element element = operation.operands[i];
+    const uint64_t bits = GetLane(operands.vector[i], element, lane);
+    if (is_nan(element, bits)) nans.push_back(quieted(element, bits));
+  }
+  return nans;
+}
+
+// Where two operands of a lane are NaNs and the result is one of them, puts the first in its place: the order of the operands
+// within an instruction is the compiler's choice.
+void settle_nans(const Operation& operation, const Operands& operands, Outcome& outcome) {
+  if (!operation.arithmetic) return;
+  const Element element = operation.operands[0];
+  for (int lane = 0; lane < 64 / LaneBytes(element); ++lane) {
+    const auto nans = lane_nans(operation, operands, lane);
+    if (nans.size() < 2) continue;
+    for (RawVector& v : outcome.vector)
+      for (const uint64_t nan : nans)
+        if (GetLane(v, element, lane) == nan) SetLane(v, element, lane, nans[0]);
+  }
+}
+
+std::string hexadecimal(const unsigned char* bytes, std::size_t count) {
+  std::ostringstream text;
+  for (std::size_t i = count; i-- > 0;) text << "0123456789abcdef"[bytes[i] >> 4] << "0123456789abcdef"[bytes[i] & 15];
+  return text.str();
+}
+std::string describe(const Operands& operands, const Outcome& got, const Outcome& expected) {
+  std::ostringstream text;
+  for (const RawVector& v : operands.vector) text << "operand  " << hexadecimal(v.bytes, 64) << '\n';
+  text << "mask     " << std::hex << operands.mask << '\n';
+  for (const RawVector& v : got.vector) text << "portable " << hexadecimal(v.bytes, 64) << '\n';
+  for (const RawVector& v : expected.vector) text << "expected " << hexadecimal(v.bytes, 64) << '\n';
+  return text.str();
+}
+
+bool same(const Outcome& a, const Outcome& b) { return std::memcmp(&a, &b, sizeof a) == 0; }
+
+// Both layers on the same operands; false, with a failure reported, when they differ.
+bool agree(std::size_t index, const Operands& operands) {
+  const Operation& operation = portable().operations[index];
+  Outcome got, expected;
+  operation.run(operands, got);
+  native().operations[index].run(operands, expected);
+  settle_nans(operation, operands, got);
+  settle_nans(operation, operands, expected);
+  if (same(got, expected)) return true;
+  ADD_FAILURE() << operation.name << '\n' << describe(operands, got, expected);
+  return false;
+}
+
+uint64_t seed_of(const std::string& name, uint64_t salt) {
+  uint64_t seed = 14695981039346656037u ^ salt;
+  for (const char c : name) seed = (seed ^ static_cast<unsigned char>(c)) * 1099511628211u;
+  return seed;
+}
+
+bool on_floats(const Operation& operation) {
+  return !operation.operands.empty() && (operation.operands[0] == Element::f32 || operation.operands[0] == Element::f64);
+}
+
+TEST(VecOperations, SpecialValuesAsTheInstruction) {
+  if (!has_avx512()) GTEST_SKIP() << "this processor has no AVX-512; the recorded outcomes are compared instead";
+  for (std::size_t i = 0; i < portable().operations.size(); ++i) {
+    const Operation& operation = portable().operations[i];
+    Operands operands{};
+    const uint64_t count = SpecialVectors(operation);
+    for (uint64_t index = 0; index < count; ++index) {
+      FillSpecials(operation, index, operands);
+      if (!agree(i, operands)) break;
+    }
+  }
+}
+
+TEST(VecOperations, RandomValuesAsTheInstruction) {
+  if (!has_avx512()) GTEST_SKIP() << "this processor has no AVX-512; the recorded outcomes are compared instead";
+  uint64_t lanes = 0;
+  for (std::size_t i = 0; i < portable().operations.size(); ++i) {
+    const Operation& operation = portable().operations[i];
+    InputGenerator inputs(seed_of(operation.name, 1));
+    Operands operands{};
+    const int count = operation.arithmetic ? 6000 : on_floats(operation) ? 1500 : 500;
+    for (int n = 0; n < count; ++n) {
+      inputs.fill(operation, operands);
+      if (!agree(i, operands)) break;
+      lanes += operation.operands.empty() || operation.operands[0] == Element::none
+                   ? 1
+                   : static_cast<uint64_t>(64 / LaneBytes(operation.operands[0]));
+    }
+  }
+  RecordProperty("random_lanes", std::to_string(lanes));
+  EXPECT_GE(lanes, 10'000'000u);
+}
+
+TEST(VecOperations, TablesHaveTheSameEntries) {
+  std::set<std::string> names;
+  for (const Operation& operation : portable().operations)
+    EXPECT_TRUE(names.insert(operation.name).second) << operation.name << " occurs twice";
+  if (!has_avx512()) return;
+  ASSERT_EQ(native().operations.size(), portable().operations.size());
+  for (std::size_t i = 0; i < portable().operations.size(); ++i)
+    EXPECT_EQ(native().operations[i].name, portable().operations[i].name);
+}
+
+// The names of the operations that a header defines, in its order.
+std::vector<std::string> defined_operations(const std::string& header) {
+  std::ifstream file(std::string(LUM_SOURCE_DIR) + "/src/frame/" + header);
+  EXPECT_TRUE(file) << header;
+  std::vector<std::string> names;
+  const std::regex definition(R"(LUM_INLINE [^(]*?\b(operator[^ (]+|\w+)\()");
+  for (std::string line; std::getline(file, line);) {
+    std::smatch match;
+    const auto head = line.find("LUM_INLINE ");
+    if (head == std::string::npos) continue;
+    const std::string rest = line.substr(head);
+    if (std::regex_search(rest, match, definition)) names.push_back(match[1]);
+  }
+  return names;
+}
+
+TEST(VecOperations, EveryOperationOfTheVocabularyHasAnEntry) {
+  std::set<std::string> tested;
+  for (const Operation& operation : portable().operations) tested.insert(operation.vocabulary);
+  const auto native_names = defined_operations("vec_avx512.h");
+  ASSERT_GT(native_names.size(), 100u);
+  for (const auto& name : native_names) EXPECT_TRUE(tested.count(name)) << name << " has no entry in the table";
+  for (const auto& name : defined_operations("vec_shared.h")) EXPECT_TRUE(tested.count(name)) << name << " has no entry";
+}
+
+TEST(VecOperations, BothLayersDefineTheSameOperationsInTheSameOrder) {
+  const std::set<std::string> helpers = {
+      "each_lane", "each_mask_lane", "each_lane_with_care", "signed_fma", "negate_every_other", "restore_nan", "raw"};
+  std::vector<std::string> names;
+  for (const auto& name : defined_operations("vec_portable.h"))
+    if (!helpers.count(name)) names.push_back(name);
+  EXPECT_EQ(names, defined_operations("vec_avx512.h"));
+}
+
+// The record: for each entry, checksums of the outcomes over blocks of inputs that every machine generates alike, special
+// values and random ones in turn, and the outcome of the first vectors in full for the reader of a failure.
+constexpr int recorded_blocks = 24;
+constexpr int vectors_in_block = 24;
+constexpr int outcomes_in_full = 1;
+
+struct Record {
+  std::vector<std::string> outcomes;
+  std::vector<uint32_t> checksums;
+  bool operator==(const Record&) const = default;
+};
+
+std::string in_full(const Outcome& outcome) {
+  std::string text = hexadecimal(outcome.vector[0].bytes, 64);
+  text.erase(0, std::min(text.find_first_not_of('0'), text.size() - 1));
+  return text;
+}
+
+Record record_of(const Operation& operation) {
+  Record record;
+  InputGenerator inputs(seed_of(operation.name, 2));
+  std::mt19937_64 choice(seed_of(operation.name, 3));
+  Operands operands{};
+  for (int block = 0; block < recorded_blocks; ++block) {
+    uint64_t checksum = 14695981039346656037u;
+    for (int n = 0; n < vectors_in_block; ++n) {
+      if (n % 2 == 0) inputs.fill(operation, operands);
+      else FillSpecials(operation, choice() % SpecialVectors(operation), operands);
+      Outcome outcome;
+      operation.run(operands, outcome);
+      settle_nans(operation, operands, outcome);
+      if (block * vectors_in_block + n < outcomes_in_full) record.outcomes.push_back(in_full(outcome));
+      for (const RawVector& v : outcome.vector)
+        for (const unsigned char byte : v.bytes) checksum = (checksum ^ byte) * 1099511628211u;
+    }
+    record.checksums.push_back(static_cast<uint32_t>(checksum ^ checksum >> 32));
+  }
+  return record;
+}
+
+void write_records(const OperationTable& table, const std::string& path) {
+  std::ofstream file(path);
+  for (const Operation& operation : table.operations) {
+    const Record record = record_of(operation);
+    file << operation.name << '\n' << std::hex;
+    for (const auto& outcome : record.outcomes) file << "  " << outcome << '\n';
+    file << ' ';
+    for (const uint32_t checksum : record.checksums) file << ' ' << checksum;
+    file << '\n' << std::dec;
+  }
+  file.flush();
+  ASSERT_TRUE(file) << "could not write " << path;
+}
+
+std::map<std::string, Record> read_records(const std::string& path) {
+  std::map<std::string, Record> records;
+  std::ifstream file(path);
+  EXPECT_TRUE(file) << "could not read " << path;
+  for (std::string name, line; std::getline(file, name);) {
+    Record& record = records[name];
+    for (int i = 0; i < outcomes_in_full && std::getline(file, line); ++i) record.outcomes.push_back(line.substr(2));
+    std::getline(file, line);
+    std::istringstream words(line);
+    for (uint32_t checksum; words >> std::hex >> checksum;) record.checksums.push_back(checksum);
+  }
+  return records;
+}
+
+const std::string record_path = std::string(LUM_SOURCE_DIR) + "/tests/frame/recorded_operations.txt";
+
+void compare_with_records(const OperationTable& table) {
+  const auto records = read_records(record_path);
+  EXPECT_EQ(records.size(), table.operations.size());
+  for (const Operation& operation : table.operations) {
+    const auto expected = records.find(operation.name);
+    ASSERT_NE(expected, records.end()) << operation.name << " is not in the record";
+    const Record got = record_of(operation);
+    EXPECT_EQ(expected->second.checksums.size(), static_cast<std::size_t>(recorded_blocks));
+    EXPECT_EQ(got.outcomes, expected->second.outcomes) << operation.name;
+    EXPECT_EQ(got.checksums, expected->second.checksums) << operation.name;
+  }
+}
+
+TEST(VecOperations, PortableOutcomesAsRecorded) { compare_with_records(portable()); }
+
+TEST(VecOperations, NativeOutcomesAsRecorded) {
+  if (!has_avx512()) GTEST_SKIP() << "this processor has no AVX-512";
+  if (const char* path = std::getenv("LUM_RECORD")) write_records(native(), path);
+  compare_with_records(native());
+}
+
+// Pages of which only the middle one can be touched.
+class GuardedPage : public testing::Test {
+ protected:
+  void SetUp() override {
+    size_ = static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
+    pages_ = static_cast<unsigned char*>(mmap(nullptr, 3 * size_, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0));
+    ASSERT_NE(pages_, MAP_FAILED);
+    ASSERT_EQ(mprotect(begin(), size_, PROT_READ | PROT_WRITE), 0);
+    for (std::size_t i = 0; i < size_; ++i) begin()[i] = static_cast<unsigned char>(37 * i + 11);
+  }
+  void TearDown() override { munmap(pages_, 3 * size_); }
+  unsigned char* begin() { return pages_ + size_; }
+  unsigned char* end() { return begin() + size_; }
+
+  template <class T>
+  void masks_at_both_ends(void (*load)(uint32_t, const T*, T*), void (*store)(uint32_t, T*, const T*)) {
+    constexpr int lanes = 64 / static_cast<int>(sizeof(T));
+    for (int count = 0; count <= lanes; ++count) {
+      const uint32_t low = (1u << count) - 1;
+      const std::ptrdiff_t bytes = count * static_cast<std::ptrdiff_t>(sizeof(T));
+      check<T>(load, store, end() - bytes, low, 0xFFFFFFFF);
+      // Only the high lanes lie in the page: the vector begins before it.
+      check<T>(load, store, begin() + bytes - 64, low << (lanes - count), 0xFFFFFFFF);
+      check<T>(load, store, end() - bytes, low, 0x55555555);
+    }
+  }
+  template <class T>
+  void check(void (*load)(uint32_t, const T*, T*), void (*store)(uint32_t, T*, const T*), unsigned char* place, uint32_t mask,
+             uint32_t holes) {
+    constexpr std::size_t lanes = 64 / sizeof(T);
+    T values[lanes], old[lanes];
+    for (std::size_t i = 0; i < lanes; ++i) old[i] = values[i] = static_cast<T>(100 + i);
+    const std::vector<unsigned char> before(begin(), end());
+    T* const p = reinterpret_cast<T*>(place);
+    load(mask & holes, p, values);
+    for (std::size_t i = 0; i < lanes; ++i) {
+      const bool active = (mask & holes) >> i & 1;
+      EXPECT_EQ(std::memcmp(&values[i], active ? static_cast<const void*>(p + i) : &old[i], sizeof(T)), 0);
+    }
+    store(mask & holes, p, old);
+    for (std::size_t i = 0; i < lanes; ++i) {
+      if (!(mask >> i & 1)) continue;
+      const bool active = holes >> i & 1;
+      const auto offset = static_cast<std::size_t>(reinterpret_cast<unsigned char*>(p + i) - begin());
+      EXPECT_EQ(std::memcmp(p + i, active ? static_cast<const void*>(&old[i]) : &before[offset], sizeof(T)), 0);
+    }
+    std::memcpy(begin(), before.data(), size_);
+  }
+  template <class T, class Index>
+  void gather_beside_the_page(void (*gather)(uint32_t, const T*, const Index*, T*)) {
+    constexpr int lanes = 64 / static_cast<int>(sizeof(T));
+    T result[lanes];
+    Index index[lanes];
+    for (int active = 0; active < lanes; ++active) {
+      for (int i = 0; i < lanes; ++i) result[i] = static_cast<T>(i), index[i] = i % 2 ? 1 : -100000;
+      index[active] = -1 - active;
+      gather(1u << active, reinterpret_cast<const T*>(end()), index, result);
+      for (int i = 0; i < lanes; ++i) {
+        const T* const read = reinterpret_cast<const T*>(end()) - 1 - active;
+        const T kept = static_cast<T>(i);
+        EXPECT_EQ(std::memcmp(&result[i], i == active ? read : &kept, sizeof(T)), 0);
+      }
+    }
+  }
+  void every_masked_operation(const OperationTable& table) {
+    masks_at_both_ends<float>(table.masked_load_f32, table.masked_store_f32);
+    masks_at_both_ends<double>(table.masked_load_f64, table.masked_store_f64);
+    gather_beside_the_page<float>(table.masked_gather_f32);
+    gather_beside_the_page<double>(table.masked_gather_f64);
+  }
+
+ private:
+  std::size_t size_ = 0;
+  unsigned char* pages_ = nullptr;
+};
+
+TEST_F(GuardedPage, PortableTouchesOnlyLanesOfTheMask) { every_masked_operation(portable()); }
+TEST_F(GuardedPage, NativeTouchesOnlyLanesOfTheMask) {
+  if (!has_avx512()) GTEST_SKIP() << "this processor has no AVX-512";
+  every_masked_operation(native());
+}
+
+// All 2^32 floats through one entry of both tables, on two threads; gives the number of vectors that differ.
+uint64_t differences_over_all_floats(const std::string& name) {
+  std::size_t index = 0;
+  while (portable().operations[index].name != name) ++index;
+  const auto portable_run = portable().operations[index].run;
+  const auto native_run = native().operations[index].run;
+  std::atomic<uint64_t> differences{0};
+  const auto half = [&](uint64_t first, uint64_t last) {
+    Operands operands{};
+    Outcome got, expected;
+    for (uint64_t base = first; base < last; base += 16) {
+      for (uint32_t lane = 0; lane < 16; ++lane) {
+        const auto bits = static_cast<uint32_t>(base) + lane;
+        std::memcpy(operands.vector[0].bytes + 4 * lane, &bits, sizeof bits);
+      }
+      portable_run(operands, got);
+      native_run(operands, expected);
+      if (!same(got, expected)) ++differences;
+    }
+  };
+  std::thread other(half, 0, uint64_t{1} << 31);
+  half(uint64_t{1} << 31, uint64_t{1} << 32);
+  other.join();
+  return differences;
+}
+
+TEST(VecOperations, ReciprocalEstimatesOfAllFloats) {
+  if (!std::getenv("LUM_EXHAUSTIVE")) GTEST_SKIP() << "takes minutes: set LUM_EXHAUSTIVE=1";
+  if (!has_avx512()) GTEST_SKIP() << "this processor has no AVX-512";
+  EXPECT_EQ(differences_over_all_floats("rcp14 f32"), 0u);
+  EXPECT_EQ(differences_over_all_floats("rsqrt14 f32"), 0u);
+}
+
+}  // namespace
+}  // namespace lum_test

@@ -1,0 +1,237 @@
+#include "accuracy/inputs.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <map>
+#include <random>
+#include <string_view>
+
+namespace lum::accuracy {
+namespace {
+
+using support::Export;
+
+struct Interval {
+  double low, high;
+};
+
+// What is known of a function: its ordinary range by width of the type, and points whose neighbours are tried (poles, zeros,
+// thresholds, ends of the domain). Each point is taken with both signs.
+struct Domain {
+  Interval range32, range64;
+  std::vector<double> points;
+};
+
+const std::map<std::string_view, Domain>& Domains() {
+  static const std::map<std::string_view, Domain> domains = {
+      {"Acos", {{-1, 1}, {-1, 1}, {0.5, 1}}},
+      {"Acosh", {{1, 100}, {1, 1000}, {1, 2, 1.25, 1.5}}},
+      {"Asin", {{-1, 1}, {-1, 1}, {0.5, 1}}},
+      {"Asinh", {{-50, 50}, {-1000, 1000}, {1, 0.5, 2}}},
+      {"Atan", {{-20, 20}, {-20, 20}, {0.4375, 0.6875, 1, 1.1875, 2.4375, 7.75}}},
+      {"Atanh", {{-1, 1}, {-1, 1}, {0.5, 1}}},
+      {"CdfNorm", {{-14.2, 6}, {-38.5, 9}, {14.170185089111328, 38.485408335567335, 13, 37.5}}},
+      {"CdfNormInv", {{0, 1}, {0, 1}, {0.5, 1, 0.25, 0.75, 0x1p-24, 0x1p-35}}},
+      {"Cosh", {{-90, 90}, {-711, 711}, {89.41598629223294, 710.4758600739439, 1}}},
+      {"Erf", {{-4, 4}, {-6, 6}, {3.92, 5.92, 1}}},
+      {"ErfInv", {{-1, 1}, {-1, 1}, {1, 0.5, 0.75, 1 - 0x1p-24, 1 - 0x1p-35}}},
+      {"Erfc", {{-4, 10.1}, {-6, 27.3}, {9.19, 10.06, 26.54, 27.23, 1}}},
+      {"ErfcInv", {{0, 2}, {0, 2}, {1, 2, 0.5, 1.5, 0x1p-24, 0x1p-35}}},
+      {"Exp",
+       {{-104, 89},
+        {-746, 710},
+        {87.33654022216797, 88.72283172607422, 103.97207641601562, 707.7032713517042, 708.3964185322641, 709.782712893384,
+         745.1332191019411, 1, 0x1p-52}}},
+      {"Expm1", {{-20, 89}, {-40, 710}, {17.328679084777832, 37.42994775023705, 88.72283172607422, 709.782712893384, 1}}},
+      {"InvCbrt", {{-100, 100}, {-100, 100}, {1, 8, 27}}},
+      {"InvSqrt", {{0, 100}, {0, 100}, {1, 2, 4}}},
+      {"Ln", {{0, 100}, {0, 100}, {1, 0.75, 1.5, 2, 0.5}}},
+      {"Log10", {{0, 100}, {0, 100}, {1, 10, 100, 1000, 0.1, 0.75, 1.5}}},
+      {"Log1p", {{-1, 100}, {-1, 100}, {1, 0x1p-24, 0x1p-53, 0.5}}},
+      {"Pow3o2", {{0, 100}, {0, 100}, {1, 2, 4}}},
+      {"Sinh", {{-90, 90}, {-711, 711}, {89.41598629223294, 710.4758600739439, 1}}},
+      {"Sqrt", {{0, 100}, {0, 100}, {1, 2, 4}}},
+      {"Tanh", {{-10, 10}, {-22, 22}, {1, 9.01, 19.06, 0.5}}},
+  };
+  return domains;
+}
+
+bool IsCircular(std::string_view function) {
+  return function == "Sin" || function == "Cos" || function == "SinCos" || function == "CIS" || function == "Tan";
+}
+
+// Numbers of the type as doubles.
+class Generator {
+ public:
+  Generator(const Export& entry, uint64_t seed) : is32_(entry.is_32bit()), engine_(seed) {}
+
+  double Round(double x) const { return is32_ ? static_cast<double>(static_cast<float>(x)) : x; }
+  double Uniform(Interval range) {
+    return Round(range.low + (range.high - range.low) * (static_cast<double>(engine_() >> 11) * 0x1p-53));
+  }
+  // Any finite number: every exponent is as frequent.
+  double AnyBits() {
+    for (;;) {
+      const double x = is32_ ? static_cast<double>(std::bit_cast<float>(static_cast<uint32_t>(engine_())))
+                             : std::bit_cast<double>(engine_());
+      if (std::isfinite(x)) return x;
+    }
+  }
+  // A magnitude within 2^-spread to 2^spread.
+  double LogUniform(double spread) {
+    const double x = Round(std::exp2(Uniform({-spread, spread})));
+    return (engine_() & 1) != 0 ? -x : x;
+  }
+  double Denormal() {
+    const double x = is32_ ? static_cast<double>(std::bit_cast<float>(static_cast<uint32_t>(engine_() & 0x807FFFFF)))
+                           : std::bit_cast<double>(engine_() & 0x800FFFFFFFFFFFFF);
+    return x;
+  }
+  double Neighbour(double x, int steps) const {
+    const double towards = steps < 0 ? -std::numeric_limits<double>::infinity() : std::numeric_limits<double>::infinity();
+    for (int i = 0; i < std::abs(steps); ++i) {
+      x = is32_ ? static_cast<double>(std::nextafter(static_cast<float>(x), static_cast<float>(towards)))
+                : std::nextafter(x, towards);
+    }
+    return x;
+  }
+  double Smallest() const { return is32_ ? 0x1p-149 : 0x1p-1074; }
+  double Largest() const { return is32_ ? 0x1.fffffep127 : 0x1.fffffffffffffp1023; }
+  double SmallestNormal() const { return is32_ ? 0x1p-126 : 0x1p-1022; }
+  uint64_t Bits() { return engine_(); }
+
+ private:
+  bool is32_;
+  std::mt19937_64 engine_;
+};
+
+// Finite arguments along one axis.
+std::vector<double> Axis(const Export& entry, size_t count, uint64_t seed) {
+  Generator g(entry, seed);
+  const auto known = Domains().find(entry.function);
+  const Domain domain = known != Domains().end() ? known->second : Domain{{-10, 10}, {-10, 10}, {1, 2, 0.5}};
+  const Interval range = entry.is_32bit() ? domain.range32 : domain.range64;
+
+  std::vector<double> axis;
+  for (double point : {0.0, g.Smallest(), g.SmallestNormal(), g.Largest()}) {
+    for (int step = -3; step <= 3; ++step) axis.push_back(g.Neighbour(point, step));
+    for (int step = -3; step <= 3; ++step) axis.push_back(-g.Neighbour(point, step));
+  }
+  for (double point : domain.points) {
+    for (int step = -40; step <= 40; ++step) {
+      axis.push_back(g.Neighbour(g.Round(point), step));
+      axis.push_back(g.Neighbour(g.Round(-point), step));
+    }
+  }
+  // Borders of evenly spaced tables, whatever their spacing: k 2^-5 for ordinary arguments, and powers of 2.
+  for (int k = -1024; k <= 1024; ++k) {
+    for (int step = -1; step <= 1; ++step) axis.push_back(g.Neighbour(k / 32.0, step));
+  }
+  for (double power = g.Smallest(); power < g.Largest() / 2; power *= 2) {
+    for (int step = -1; step <= 1; ++step) axis.push_back(g.Neighbour(power, step));
+  }
+  if (IsCircular(entry.function)) {
+    for (int k = 1; k <= 4000; ++k) {
+      const double multiple = g.Round(k * 1.5707963267948966);
+      for (int step = -1; step <= 1; ++step) axis.push_back(g.Neighbour(multiple, step));
+    }
+  }
+  const size_t random = count > axis.size() ? count - axis.size() : count / 2;
+  for (size_t i = 0; i < random; ++i) {
+    switch (i % 8) {
+      case 0:
+        axis.push_back(g.AnyBits());
+        break;
+      case 1:
+        axis.push_back(g.LogUniform(10));
+        break;
+      case 2:
+        axis.push_back(i % 64 == 2 ? g.Denormal() : g.LogUniform(60));
+        break;
+      default:
+        axis.push_back(g.Uniform(range));
+        break;
+    }
+  }
+  std::erase_if(axis, [](double x) { return !std::isfinite(x); });
+  return axis;
+}
+
+// Two real arguments: independent ones, close ones, and for powers exponents that keep the result finite.
+std::vector<Point> RealPairs(const Export& entry, size_t count) {
+  const auto first = Axis(entry, count, 1);
+  Generator g(entry, 2);
+  std::vector<Point> points;
+  const bool is_power = entry.function == "Pow" || entry.function == "Powx";
+  const double limit = entry.is_32bit() ? 127 : 1022;
+  for (size_t i = 0; i < first.size(); ++i) {
+    const double x = first[i];
+    double y = 0;
+    if (is_power && i % 4 != 0) {
+      const double magnitude = std::log2(std::fabs(x));
+      y = magnitude == 0 ? g.LogUniform(40) : g.Uniform({-limit - 20, limit + 2}) / magnitude;
+      if (i % 4 == 1) y = std::rint(y);
+      y = g.Round(y);
+    } else if (i % 4 == 1) {
+      y = g.Neighbour(x, static_cast<int>(g.Bits() % 9) - 4);
+    } else if (i % 4 == 2) {
+      y = g.Round(x * g.LogUniform(4));
+    } else {
+      y = i % 8 == 0 ? g.AnyBits() : g.LogUniform(20);
+    }
+    if (std::isfinite(y)) points.push_back({x, 0, y, 0});
+  }
+  return points;
+}
+
+// Complex arguments over the plane, the axes, the unit circle, and with parts of very different size.
+std::vector<Point> ComplexPoints(const Export& entry, size_t count) {
+  Generator g(entry, 3);
+  std::vector<Point> points;
+  const bool two = entry.inputs() == 2 || entry.has_parameter();
+  const auto part = [&](size_t kind) -> double {
+    switch (kind % 5) {
+      case 0:
+        return g.Uniform({-2, 2});
+      case 1:
+        return g.LogUniform(20);
+      case 2:
+        return g.Uniform({-10, 10});
+      case 3:
+        return g.Uniform({-1, 1});
+      default:
+        return g.LogUniform(3);
+    }
+  };
+  for (size_t i = 0; i < count; ++i) {
+    Point p{part(i), part(i / 5), 0, 0};
+    if (i % 50 == 7) p.re1 = g.AnyBits();
+    if (i % 50 == 9) p.im1 = g.AnyBits();
+    if (i % 100 == 11) p.re1 = (i % 200 == 11) ? 0.0 : -0.0;
+    if (i % 100 == 13) p.im1 = (i % 200 == 13) ? 0.0 : -0.0;
+    if (i % 20 == 15) {
+      const double angle = g.Uniform({-3.2, 3.2});
+      p.re1 = g.Round(std::cos(angle));
+      p.im1 = g.Round(std::sin(angle));
+    }
+    if (two) {
+      p.re2 = part(i / 3);
+      p.im2 = part(i / 7);
+    }
+    points.push_back(p);
+  }
+  return points;
+}
+
+}  // namespace
+
+std::vector<Point> SamplePoints(const Export& entry, size_t count) {
+  if (support::IsComplex(entry.input)) return ComplexPoints(entry, count);
+  if (entry.inputs() == 2 || entry.has_parameter()) return RealPairs(entry, count);
+  std::vector<Point> points;
+  for (double x : Axis(entry, count, 1)) points.push_back({x, 0, 0, 0});
+  return points;
+}
+
+}  // namespace lum::accuracy

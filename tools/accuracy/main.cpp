@@ -1,0 +1,185 @@
+// Measures the error of the exported functions against MPFR and MPC, and keeps the results in one file.
+#include <fmt/format.h>
+#include <fmt/ostream.h>
+
+#include <CLI/CLI.hpp>
+#include <bit>
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <memory>
+#include <set>
+
+#include "accuracy/exhaustive.h"
+#include "accuracy/inputs.h"
+#include "accuracy/measure.h"
+
+namespace {
+
+using namespace lum::accuracy;
+using lum::support::Export;
+using lum::support::Library;
+
+constexpr const char* csv_header =
+    "export,inputs,count,max_ulp,bits,at,at_bits,correctly_rounded_percent,wrong_class,norm_ulp,bound_ulp";
+
+std::string Pattern(double x, bool is_32bit) {
+  return is_32bit ? fmt::format("0x{:08X}", std::bit_cast<uint32_t>(static_cast<float>(x)))
+                  : fmt::format("0x{:016X}", std::bit_cast<uint64_t>(x));
+}
+
+// All components of a point that the export has, separated by spaces.
+std::string Components(const Export& entry, const Point& p, const std::function<std::string(double)>& format) {
+  std::string text = format(p.re1);
+  if (lum::support::IsComplex(entry.input)) text += fmt::format(" {}", format(p.im1));
+  if (entry.inputs() == 1 && !entry.has_parameter()) return text;
+  text += fmt::format(" {}", format(p.re2));
+  if (lum::support::IsComplex(entry.input)) text += fmt::format(" {}", format(p.im2));
+  return text;
+}
+
+std::string Row(const Export& entry, const std::string& inputs, const Accuracy& a) {
+  const Point& at = a.worst.point;
+  const auto decimal = [&](double x) {
+    return entry.is_32bit() ? fmt::format("{}", static_cast<float>(x)) : fmt::format("{}", x);
+  };
+  const auto bits = [&](double x) { return Pattern(x, entry.is_32bit()); };
+  const bool is_complex = lum::support::IsComplex(entry.output);
+  return fmt::format("{},{},{},{:.4g},{:.1f},{},{},{:.4f},{},{},{:g}", entry.name, inputs, a.count, a.worst.ulp, a.Bits(entry),
+                     Components(entry, at, decimal), Components(entry, at, bits),
+                     100.0 * static_cast<double>(a.correctly_rounded) / static_cast<double>(a.count), a.wrong_class,
+                     is_complex ? fmt::format("{:.4g}", a.worst_norm.ulp) : "", Bound(entry));
+}
+
+// The committed results, one row an export and kind of inputs; measured rows replace those of the same key.
+class Results {
+ public:
+  explicit Results(std::filesystem::path path) : path_(std::move(path)) {
+    std::ifstream file(path_);
+    std::string line;
+    std::getline(file, line);
+    while (std::getline(file, line)) rows_[Key(line)] = line;
+  }
+  void Put(const std::string& row) { rows_[Key(row)] = row; }
+  void Write() const {
+    const auto part = path_.string() + ".part";
+    std::ofstream file(part);
+    fmt::print(file, "{}\n", csv_header);
+    for (const auto& [key, row] : rows_) fmt::print(file, "{}\n", row);
+    file.close();
+    if (!file) throw std::runtime_error(fmt::format("{}: cannot be written", part));
+    std::filesystem::rename(part, path_);
+  }
+
+ private:
+  static std::string Key(const std::string& row) { return row.substr(0, row.find(',', row.find(',') + 1)); }
+  std::filesystem::path path_;
+  std::map<std::string, std::string> rows_;
+};
+
+void WriteCurve(const std::filesystem::path& directory, const Export& entry, const Accuracy& accuracy) {
+  std::filesystem::create_directories(directory);
+  std::ofstream file(directory / fmt::format("{}.dat", entry.name));
+  for (const Bin& bin : accuracy.curve) fmt::print(file, "{:.9g} {:.6g}\n", bin.x, bin.ulp);
+}
+
+struct Options {
+  std::vector<std::string> functions;
+  bool exhaustive = false;
+  size_t count = 60000;
+  std::string csv;
+  std::string curves;
+  std::string target;
+};
+
+// The named functions' exports, or all. A name is a function (Exp) or an export (lumsExp_32f_A24).
+std::vector<const Export*> Chosen(const Options& options) {
+  std::vector<const Export*> chosen;
+  for (const Export& entry : lum::support::Exports()) {
+    const auto named = [&](const std::string& name) { return name == entry.function || name == entry.name; };
+    if (options.functions.empty() || std::ranges::any_of(options.functions, named)) chosen.push_back(&entry);
+  }
+  for (const std::string& name : options.functions) {
+    const auto is_named = [&](const Export* entry) { return name == entry->function || name == entry->name; };
+    if (std::ranges::none_of(chosen, is_named)) throw std::runtime_error(fmt::format("no function '{}'", name));
+  }
+  return chosen;
+}
+
+void PrintRow(const Export& entry, const Accuracy& a) {
+  const double share = 100.0 * static_cast<double>(a.correctly_rounded) / static_cast<double>(a.count);
+  fmt::print("{:<24} {:>10.4g} ulp {:>6.1f} bits {:>9.4f} % rounded", entry.name, a.worst.ulp, a.Bits(entry), share);
+  if (lum::support::IsComplex(entry.output)) fmt::print(" {:>10.4g} ulp norm-wise", a.worst_norm.ulp);
+  if (a.wrong_class != 0) {
+    fmt::print("  {} of the wrong class, as at {}", a.wrong_class,
+               Components(entry, a.wrong_at, [](double x) { return fmt::format("{}", x); }));
+  }
+  fmt::print("\n");
+  std::fflush(stdout);
+}
+
+void Run(const Options& options) {
+  std::string target = options.target;
+  if (target.empty()) target = lum::support::ProcessorHasAvx512() ? "k0" : "p0";
+  if (target == "k0" && !lum::support::ProcessorHasAvx512()) throw std::runtime_error("this processor lacks AVX-512");
+  std::string error;
+  const auto library = Library::LoadBuilt(target, error);
+  if (!library) throw std::runtime_error(error);
+  const auto chosen = Chosen(options);
+  std::unique_ptr<Results> results;
+  if (!options.csv.empty()) results = std::make_unique<Results>(options.csv);
+
+  std::vector<Point> points;
+  std::unique_ptr<ExactValues> exact;
+  const Export* exact_of = nullptr;
+  for (const Export* entry : chosen) {
+    Accuracy accuracy;
+    if (options.exhaustive) {
+      if (FindCheapReference(*entry) == nullptr) {
+        fmt::print(stderr, "accuracy: {} is skipped: not a function of one 32f input\n", entry->name);
+        continue;
+      }
+      accuracy = MeasureAll(*library, *entry);
+    } else {
+      const Reference reference = FindReference(*entry);
+      if (reference == nullptr) {
+        fmt::print(stderr, "accuracy: {} is skipped: no reference\n", entry->name);
+        continue;
+      }
+      if (exact_of == nullptr || exact_of->function != entry->function || exact_of->type != entry->type) {
+        points = SamplePoints(*entry, options.count);
+        exact = std::make_unique<ExactValues>(reference, points);
+        exact_of = entry;
+      }
+      accuracy = Measure(*library, *entry, points, *exact);
+      if (!options.curves.empty()) WriteCurve(options.curves, *entry, accuracy);
+    }
+    PrintRow(*entry, accuracy);
+    if (results) {
+      results->Put(Row(*entry, options.exhaustive ? "all" : "sample", accuracy));
+      results->Write();
+    }
+  }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  CLI::App app("Measures the error of functions against MPFR and MPC", "accuracy");
+  Options options;
+  app.add_option("functions", options.functions, "functions (Exp) or exports (lumsExp_32f_A24); all when none is given");
+  app.add_flag("--exhaustive", options.exhaustive, "all 2^32 arguments of the one-input 32f functions");
+  app.add_option("--count", options.count, "points a function and type");
+  app.add_option("--csv", options.csv, "results file to update");
+  app.add_option("--curves", options.curves, "folder for the error over the argument");
+  app.add_option("--target", options.target, "k0 or p0; k0 where the processor can");
+  try {
+    app.parse(argc, argv);
+    if (options.exhaustive && options.functions.empty()) throw std::runtime_error("--exhaustive needs a function");
+    Run(options);
+  } catch (const CLI::Success& request) { return app.exit(request); } catch (const std::exception& problem) {
+    fmt::print(stderr, "accuracy: {}\n", problem.what());
+    return 2;
+  }
+  return 0;
+}

@@ -1,0 +1,254 @@
+#include "accuracy/reference.h"
+
+#include <mpc.h>
+
+#include <cmath>
+#include <map>
+#include <string_view>
+
+namespace lum::accuracy {
+namespace {
+
+constexpr mpfr_rnd_t nearest = MPFR_RNDN;
+
+// An MPFR number with a lifetime.
+class Number {
+ public:
+  explicit Number(mpfr_prec_t bits = precision) { mpfr_init2(value_, bits); }
+  explicit Number(double x) : Number(precision) { mpfr_set_d(value_, x, nearest); }
+  Number(const Number&) = delete;
+  Number& operator=(const Number&) = delete;
+  ~Number() { mpfr_clear(value_); }
+  operator mpfr_ptr() { return value_; }
+  operator mpfr_srcptr() const { return value_; }
+
+ private:
+  mpfr_t value_;
+};
+
+class ComplexNumber {
+ public:
+  ComplexNumber() { mpc_init2(value_, precision); }
+  ComplexNumber(double re, double im) : ComplexNumber() { mpc_set_d_d(value_, re, im, MPC_RNDNN); }
+  ComplexNumber(const ComplexNumber&) = delete;
+  ComplexNumber& operator=(const ComplexNumber&) = delete;
+  ~ComplexNumber() { mpc_clear(value_); }
+  operator mpc_ptr() { return value_; }
+
+ private:
+  mpc_t value_;
+};
+
+// f(result, x) of a real argument.
+template <auto f> void Real(mpfr_ptr part1, mpfr_ptr, const Point& p) { f(part1, Number(p.re1)); }
+template <auto f> void Real2(mpfr_ptr part1, mpfr_ptr, const Point& p) { f(part1, Number(p.re1), Number(p.re2)); }
+// f(result, z) of complex arguments.
+template <auto f> void Complex(mpfr_ptr part1, mpfr_ptr part2, const Point& p) {
+  ComplexNumber z(p.re1, p.im1), result;
+  f(result, z);
+  mpfr_set(part1, mpc_realref(static_cast<mpc_ptr>(result)), nearest);
+  mpfr_set(part2, mpc_imagref(static_cast<mpc_ptr>(result)), nearest);
+}
+template <auto f> void Complex2(mpfr_ptr part1, mpfr_ptr part2, const Point& p) {
+  ComplexNumber z(p.re1, p.im1), w(p.re2, p.im2), result;
+  f(result, z, w);
+  mpfr_set(part1, mpc_realref(static_cast<mpc_ptr>(result)), nearest);
+  mpfr_set(part2, mpc_imagref(static_cast<mpc_ptr>(result)), nearest);
+}
+template <auto f> void ToReal(mpfr_ptr part1, mpfr_ptr, const Point& p) {
+  ComplexNumber z(p.re1, p.im1);
+  f(part1, z);
+}
+
+// Shorthands that give MPFR's and MPC's functions one shape.
+#define LUM_MPFR(name) Real<[](mpfr_ptr r, mpfr_srcptr x) { name(r, x, nearest); }>
+#define LUM_MPC(name) Complex<[](mpc_ptr r, mpc_srcptr z) { name(r, z, MPC_RNDNN); }>
+
+// x^(a/3) by the cube root, for a = -1 and 2.
+void InvCbrt(mpfr_ptr r, mpfr_srcptr x) {
+  mpfr_cbrt(r, x, nearest);
+  mpfr_ui_div(r, 1, r, nearest);
+}
+void Pow2o3(mpfr_ptr r, mpfr_srcptr x) {
+  mpfr_cbrt(r, x, nearest);
+  mpfr_sqr(r, r, nearest);
+}
+void Pow3o2(mpfr_ptr r, mpfr_srcptr x) {
+  mpfr_sqrt(r, x, nearest);
+  mpfr_mul(r, r, x, nearest);
+}
+
+// erfc(-x / sqrt 2) / 2; the argument needs more bits, as erfc magnifies its error by about x^2.
+void CdfNorm(mpfr_ptr r, mpfr_srcptr x) {
+  Number a(precision + 32), half(precision + 32);
+  mpfr_set_d(half, 0.5, nearest);
+  mpfr_sqrt(half, half, nearest);
+  mpfr_mul(a, x, half, nearest);
+  mpfr_neg(a, a, nearest);
+  mpfr_erfc(r, a, nearest);
+  mpfr_div_2ui(r, r, 1, nearest);
+}
+
+// The y with erfc(y) = p, 0 < p < 2, by Newton's method in working precision on log erfc, which is nearly quadratic:
+// y' = y - log(erfc(y) / p) / (log erfc)'(y).
+void InverseErfc(mpfr_ptr y, mpfr_srcptr p) {
+  if (mpfr_cmp_ui(p, 1) > 0) {  // erfc(-y) = 2 - erfc(y), exact here
+    Number q(precision + 1100);
+    mpfr_ui_sub(q, 2, p, nearest);
+    InverseErfc(y, q);
+    mpfr_neg(y, y, nearest);
+    return;
+  }
+  if (mpfr_cmp_ui(p, 1) == 0) {
+    mpfr_set_zero(y, 1);
+    return;
+  }
+  const mpfr_prec_t bits = precision + 40;
+  Number v(bits), e(bits), g(bits), d(bits);
+  mpfr_log(v, p, nearest);
+  const double guess = std::sqrt(-mpfr_get_d(v, nearest));
+  mpfr_set_d(v, guess > 1 ? guess - 0.3 : 0.88 * (1 - mpfr_get_d(p, nearest)), nearest);
+  for (int i = 0; i < 60; ++i) {
+    mpfr_erfc(e, v, nearest);
+    mpfr_sqr(g, v, nearest);
+    mpfr_neg(g, g, nearest);
+    mpfr_exp(g, g, nearest);  // the density, less its factor 2 / sqrt pi
+    mpfr_const_pi(d, nearest);
+    mpfr_sqrt(d, d, nearest);
+    mpfr_div(g, g, d, nearest);
+    mpfr_mul_2ui(g, g, 1, nearest);
+    mpfr_div(d, e, p, nearest);
+    mpfr_log(d, d, nearest);
+    mpfr_mul(d, d, e, nearest);
+    mpfr_div(d, d, g, nearest);
+    mpfr_add(v, v, d, nearest);
+    if (mpfr_zero_p(d) || (!mpfr_zero_p(v) && mpfr_get_exp(d) < mpfr_get_exp(v) - precision)) break;
+  }
+  mpfr_set(y, v, nearest);
+}
+void ErfcInv(mpfr_ptr r, mpfr_srcptr x) {
+  if (mpfr_sgn(x) < 0 || mpfr_cmp_ui(x, 2) > 0 || mpfr_nan_p(x)) mpfr_set_nan(r);
+  else if (mpfr_zero_p(x)) mpfr_set_inf(r, 1);
+  else if (mpfr_cmp_ui(x, 2) == 0) mpfr_set_inf(r, -1);
+  else InverseErfc(r, x);
+}
+// erfinv(x) = erfcinv(1 - x); 1 - x is formed exactly for any double.
+void ErfInv(mpfr_ptr r, mpfr_srcptr x) {
+  Number q(precision + 1100);
+  mpfr_ui_sub(q, 1, x, MPFR_RNDN);
+  if (mpfr_zero_p(x)) {
+    mpfr_set(r, x, nearest);
+  } else if (mpfr_get_exp(x) < -60) {  // sqrt(pi)/2 x (1 + pi/12 x^2), far beyond the precision compared
+    mpfr_const_pi(r, nearest);
+    mpfr_sqrt(r, r, nearest);
+    mpfr_mul(r, r, x, nearest);
+    mpfr_div_2ui(r, r, 1, nearest);
+  } else {
+    ErfcInv(r, q);
+  }
+}
+// The quantile of the normal distribution: -sqrt 2 erfcinv(2 p).
+void CdfNormInv(mpfr_ptr r, mpfr_srcptr x) {
+  Number q(precision), root(2.0);
+  mpfr_mul_2ui(q, x, 1, nearest);
+  ErfcInv(r, q);
+  mpfr_sqrt(root, root, nearest);
+  mpfr_mul(r, r, root, nearest);
+  mpfr_neg(r, r, nearest);
+  if (mpfr_zero_p(r)) mpfr_set_zero(r, 1);
+}
+
+void MulConjugate(mpc_ptr r, mpc_srcptr z, mpc_srcptr w) {
+  ComplexNumber conjugate;
+  mpc_conj(conjugate, w, MPC_RNDNN);
+  mpc_mul(r, z, conjugate, MPC_RNDNN);
+}
+
+void SinCos(mpfr_ptr sine, mpfr_ptr cosine, const Point& p) { mpfr_sin_cos(sine, cosine, Number(p.re1), nearest); }
+void Cis(mpfr_ptr re, mpfr_ptr im, const Point& p) { mpfr_sin_cos(im, re, Number(p.re1), nearest); }
+void Modf(mpfr_ptr whole, mpfr_ptr fraction, const Point& p) { mpfr_modf(whole, fraction, Number(p.re1), nearest); }
+
+struct Entry {
+  Reference real = nullptr;
+  Reference complex = nullptr;
+};
+
+const std::map<std::string_view, Entry>& AllReferences() {
+  static const std::map<std::string_view, Entry> references = {
+      {"Abs", {LUM_MPFR(mpfr_abs), ToReal<[](mpfr_ptr r, mpc_srcptr z) { mpc_abs(r, z, nearest); }>}},
+      {"Acos", {LUM_MPFR(mpfr_acos), LUM_MPC(mpc_acos)}},
+      {"Acosh", {LUM_MPFR(mpfr_acosh), LUM_MPC(mpc_acosh)}},
+      {"Add",
+       {Real2<[](mpfr_ptr r, mpfr_srcptr x, mpfr_srcptr y) { mpfr_add(r, x, y, nearest); }>,
+        Complex2<[](mpc_ptr r, mpc_srcptr x, mpc_srcptr y) { mpc_add(r, x, y, MPC_RNDNN); }>}},
+      {"Arg", {nullptr, ToReal<[](mpfr_ptr r, mpc_srcptr z) { mpc_arg(r, z, nearest); }>}},
+      {"Asin", {LUM_MPFR(mpfr_asin), LUM_MPC(mpc_asin)}},
+      {"Asinh", {LUM_MPFR(mpfr_asinh), LUM_MPC(mpc_asinh)}},
+      {"Atan", {LUM_MPFR(mpfr_atan), LUM_MPC(mpc_atan)}},
+      {"Atan2", {Real2<[](mpfr_ptr r, mpfr_srcptr x, mpfr_srcptr y) { mpfr_atan2(r, x, y, nearest); }>, nullptr}},
+      {"Atanh", {LUM_MPFR(mpfr_atanh), LUM_MPC(mpc_atanh)}},
+      {"CIS", {nullptr, Cis}},
+      {"Cbrt", {LUM_MPFR(mpfr_cbrt), nullptr}},
+      {"CdfNorm", {Real<CdfNorm>, nullptr}},
+      {"CdfNormInv", {Real<CdfNormInv>, nullptr}},
+      {"Ceil", {LUM_MPFR(mpfr_rint_ceil), nullptr}},
+      {"Conj", {nullptr, LUM_MPC(mpc_conj)}},
+      {"Cos", {LUM_MPFR(mpfr_cos), LUM_MPC(mpc_cos)}},
+      {"Cosh", {LUM_MPFR(mpfr_cosh), LUM_MPC(mpc_cosh)}},
+      {"Div",
+       {Real2<[](mpfr_ptr r, mpfr_srcptr x, mpfr_srcptr y) { mpfr_div(r, x, y, nearest); }>,
+        Complex2<[](mpc_ptr r, mpc_srcptr x, mpc_srcptr y) { mpc_div(r, x, y, MPC_RNDNN); }>}},
+      {"Erf", {LUM_MPFR(mpfr_erf), nullptr}},
+      {"ErfInv", {Real<ErfInv>, nullptr}},
+      {"Erfc", {LUM_MPFR(mpfr_erfc), nullptr}},
+      {"ErfcInv", {Real<ErfcInv>, nullptr}},
+      {"Exp", {LUM_MPFR(mpfr_exp), LUM_MPC(mpc_exp)}},
+      {"Expm1", {LUM_MPFR(mpfr_expm1), nullptr}},
+      {"Floor", {LUM_MPFR(mpfr_rint_floor), nullptr}},
+      {"Frac", {LUM_MPFR(mpfr_frac), nullptr}},
+      {"Hypot", {Real2<[](mpfr_ptr r, mpfr_srcptr x, mpfr_srcptr y) { mpfr_hypot(r, x, y, nearest); }>, nullptr}},
+      {"Inv", {Real<[](mpfr_ptr r, mpfr_srcptr x) { mpfr_ui_div(r, 1, x, nearest); }>, nullptr}},
+      {"InvCbrt", {Real<InvCbrt>, nullptr}},
+      {"InvSqrt", {LUM_MPFR(mpfr_rec_sqrt), nullptr}},
+      {"Ln", {LUM_MPFR(mpfr_log), LUM_MPC(mpc_log)}},
+      {"Log10", {LUM_MPFR(mpfr_log10), LUM_MPC(mpc_log10)}},
+      {"Log1p", {LUM_MPFR(mpfr_log1p), nullptr}},
+      {"Modf", {Modf, nullptr}},
+      {"Mul",
+       {Real2<[](mpfr_ptr r, mpfr_srcptr x, mpfr_srcptr y) { mpfr_mul(r, x, y, nearest); }>,
+        Complex2<[](mpc_ptr r, mpc_srcptr x, mpc_srcptr y) { mpc_mul(r, x, y, MPC_RNDNN); }>}},
+      {"MulByConj", {nullptr, Complex2<MulConjugate>}},
+      {"NearbyInt", {LUM_MPFR(mpfr_rint_roundeven), nullptr}},
+      {"Pow",
+       {Real2<[](mpfr_ptr r, mpfr_srcptr x, mpfr_srcptr y) { mpfr_pow(r, x, y, nearest); }>,
+        Complex2<[](mpc_ptr r, mpc_srcptr x, mpc_srcptr y) { mpc_pow(r, x, y, MPC_RNDNN); }>}},
+      {"Pow2o3", {Real<Pow2o3>, nullptr}},
+      {"Pow3o2", {Real<Pow3o2>, nullptr}},
+      {"Rint", {LUM_MPFR(mpfr_rint_roundeven), nullptr}},
+      {"Round", {LUM_MPFR(mpfr_rint_round), nullptr}},
+      {"Sin", {LUM_MPFR(mpfr_sin), LUM_MPC(mpc_sin)}},
+      {"SinCos", {SinCos, nullptr}},
+      {"Sinh", {LUM_MPFR(mpfr_sinh), LUM_MPC(mpc_sinh)}},
+      {"Sqr", {LUM_MPFR(mpfr_sqr), nullptr}},
+      {"Sqrt", {LUM_MPFR(mpfr_sqrt), LUM_MPC(mpc_sqrt)}},
+      {"Sub",
+       {Real2<[](mpfr_ptr r, mpfr_srcptr x, mpfr_srcptr y) { mpfr_sub(r, x, y, nearest); }>,
+        Complex2<[](mpc_ptr r, mpc_srcptr x, mpc_srcptr y) { mpc_sub(r, x, y, MPC_RNDNN); }>}},
+      {"Tan", {LUM_MPFR(mpfr_tan), LUM_MPC(mpc_tan)}},
+      {"Tanh", {LUM_MPFR(mpfr_tanh), LUM_MPC(mpc_tanh)}},
+      {"Trunc", {LUM_MPFR(mpfr_rint_trunc), nullptr}},
+  };
+  return references;
+}
+
+}  // namespace
+
+Reference FindReference(const support::Export& entry) {
+  // A power with a constant exponent is a power.
+  const auto function = entry.function == "Powx" ? std::string_view("Pow") : entry.function;
+  const auto found = AllReferences().find(function);
+  if (found == AllReferences().end()) return nullptr;
+  return entry.is_complex() ? found->second.complex : found->second.real;
+}
+
+}  // namespace lum::accuracy
