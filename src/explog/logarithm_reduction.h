@@ -8,16 +8,12 @@ namespace lum {
 
 // Zeros, infinities and negative numbers, of which a logarithm has to report or whose result is special. NaN is not among them:
 // the significand and the exponent of a NaN are NaN and carry it to the result.
-template <Floating T>
-LUM_INLINE Mask<T> ZeroInfiniteOrNegative(Vec<T> x) {
-  return fpclass<0x5E>(x);
-}
+template <Floating T> LUM_INLINE Mask<T> ZeroInfiniteOrNegative(Vec<T> x) { return fpclass<0x5E>(x); }
 
 // log(x), to the base whose logarithm of 2 is given, by a polynomial of its own for each of sixteen segments of the significand
 // m in [3/4, 3/2). The polynomials in r = m - 1 have no constant term, so log(1) is +0. The columns hold their coefficients, 16
 // entries each, the highest power first.
-template <int degree>
-LUM_INLINE Vec<Lum32f> SegmentLogarithm(Vec<Lum32f> x, const Lum32f* columns, Lum32f log_of_2) {
+template <int degree> LUM_INLINE Vec<Lum32f> SegmentLogarithm(Vec<Lum32f> x, const Lum32f* columns, Lum32f log_of_2) {
   const auto m = getmant<0xB>(x);
   const auto j = shift_right<19>(bits(m));  // the top four bits of the fraction are the row
   const auto r = m - all(1.0f);
@@ -32,8 +28,7 @@ struct ReciprocalReduction {
   Vec<Lum64f> r, e;
   Vec<uint64_t> j;  // in the low bits: the row of c in the tables of 2^(fraction_bits - 1) rows
 };
-template <int fraction_bits>
-LUM_INLINE ReciprocalReduction ReduceByReciprocal(Vec<Lum64f> x) {
+template <int fraction_bits> LUM_INLINE ReciprocalReduction ReduceByReciprocal(Vec<Lum64f> x) {
   constexpr double shifter = 0x1.8p52 / (1 << fraction_bits);  // the last bit is worth that of c
   const auto m = getmant<0x8>(x);
   const auto t = rcp14(m) + all(shifter);  // rounds to nearest; the low bits are c, less its top bit the row

@@ -4,6 +4,7 @@
 #include <bit>
 #include <cstdint>
 #include <limits>
+#include <type_traits>
 
 #include "frame/literals.h"
 #include "frame/types.h"
@@ -12,8 +13,7 @@
 namespace lum {
 
 // The logarithm of any argument; positive(x) gives that of a positive finite one.
-template <class T, class Positive>
-LumStatus LogarithmRoutine(T x, T& result, Positive positive) {
+template <class T, class Positive> LumStatus LogarithmRoutine(T x, T& result, Positive positive) {
   constexpr auto infinity = std::numeric_limits<T>::infinity();
   if (x != x) {
     result = x * x;
@@ -74,9 +74,87 @@ inline double LnPositive(double x) {
 }
 
 // ln x in binary64 arithmetic, rounded to T at the end.
-template <class T>
-LumStatus LnRoutine(T x, T& result) {
-  return LogarithmRoutine(x, result, LnPositive);
+template <class T> LumStatus LnRoutine(T x, T& result) { return LogarithmRoutine(x, result, LnPositive); }
+
+// What log10 of a positive number needs in either type. Products of `scale`, which is next to 1/ln 10, with a short number are
+// exact; what it lacks is the first coefficient of the tail.
+template <class T> struct Log10Constants;
+template <> struct Log10Constants<Lum32f> {
+  static constexpr auto table = table32({
+#include "tables/generated/log10_routine_float.inc"
+  });
+  static constexpr auto denormal_scale = f32(0x53800000, 0x1p40);
+  static constexpr float denormal_exponent = -40;
+  static constexpr auto index_shifter = f32(0x48000040, 131073.0);
+  static constexpr auto head_shifter = f32(0x46000000, 8192.0);  // ten fraction bits
+  static constexpr auto scale = f32(0x3EDE5C00, 0.434295654296875);
+  static constexpr uint32_t short_mask = 0xFFFFC000;
+  static float Tail(float t) {
+    return (((f32(0x3DB1E314, 0.08685889840126038) * t + f32(0xBDDE5BD9, -0.10857362300157547)) * t +
+             f32(0x3E143D3B, 0.14476482570171356)) *
+                t +
+            f32(0xBE5E5BD9, -0.21714724600315094)) *
+               t +
+           f32(0xB59D5B23, -1.172393581327924e-06);
+  }
+};
+template <> struct Log10Constants<Lum64f> {
+  static constexpr auto table = table64({
+#include "tables/generated/log10_routine.inc"
+  });
+  static constexpr auto denormal_scale = f64(0x43B0000000000000, 0x1p60);
+  static constexpr double denormal_exponent = -60;
+  static constexpr auto index_shifter = f64(0x42D0000000000040, 70368744177665.0);
+  static constexpr auto head_shifter = f64(0x4160000000000000, 8388608.0);  // 29 fraction bits
+  static constexpr auto scale = f64(0x3FDBC00000000000, 0.43359375);
+  static constexpr uint64_t short_mask = 0xFFFFFFFFFFFFFF00;
+  static double Tail(double t) {
+    return ((((((f64(0xBFABCB7B1526E50E, -0.05428681023790648) * t + f64(0x3FAFC3FA615105C7, 0.06204206884332169)) * t +
+                f64(0xBFB287A7636F435F, -0.07238241365054197)) *
+                   t +
+               f64(0x3FB63C62775250D8, 0.08685889638065036)) *
+                  t +
+              f64(0xBFBBCB7B1526E50E, -0.10857362047581295)) *
+                 t +
+             f64(0x3FC287A7636F435F, 0.14476482730108395)) *
+                t +
+            f64(0xBFCBCB7B1526E50E, -0.2171472409516259)) *
+               t +
+           f64(0x3F46F62A4DCA1C65, 0.0007007319032518276);
+  }
+};
+
+// log10 x of a positive finite x, by the same split as LnPositive, in the arithmetic of T.
+template <class T> T Log10Positive(T x) {
+  using C = Log10Constants<T>;
+  using Word = std::conditional_t<sizeof(T) == 4, uint32_t, uint64_t>;
+  constexpr int fraction_bits = std::numeric_limits<T>::digits - 1;
+  constexpr auto one = std::bit_cast<Word>(T(1));
+  T e = 0;
+  if (x < std::numeric_limits<T>::min()) {
+    x *= C::denormal_scale;
+    e = C::denormal_exponent;
+  }
+  const T near_one = x - 1;
+  if (T(-0.005859375) <= near_one && near_one <= T(0.005859375)) {
+    const auto head = std::bit_cast<T>(std::bit_cast<Word>(near_one) & C::short_mask);
+    return C::scale * head + (C::scale * (near_one - head) + near_one * C::Tail(near_one));
+  }
+
+  const auto word = std::bit_cast<Word>(x);
+  e += static_cast<T>(static_cast<int>(word >> fraction_bits) - static_cast<int>(one >> fraction_bits));
+  const auto m = std::bit_cast<T>((word & ((Word{1} << fraction_bits) - 1)) | one);
+  const size_t i = std::bit_cast<Word>(m + C::index_shifter) & 0x7F;
+  const T c = C::table[3 * i], hi = C::table[3 * i + 1], lo = C::table[3 * i + 2];
+  const T log10_of_2_hi = C::table[3 * 64 + 1], log10_of_2_lo = C::table[3 * 64 + 2];
+
+  const T head = (m + C::head_shifter) - C::head_shifter;
+  const T v = c * head - 1;  // exact
+  const T w = c * (m - head);
+  const T t = v + w;
+  return ((e * log10_of_2_hi + hi) + C::scale * v) + (((e * log10_of_2_lo + lo) + C::scale * w) + t * C::Tail(t));
 }
+
+template <class T> LumStatus Log10Routine(T x, T& result) { return LogarithmRoutine(x, result, Log10Positive<T>); }
 
 }  // namespace lum

@@ -1,15 +1,11 @@
-#!/usr/bin/env python3
 """Writes rcp14.inc and rsqrt14.inc: the straight lines of the 14-bit reciprocal and reciprocal square root.
 
 A line (a, b) gives, for the 1024 values j of its segment, the significand (scale * a - b * (j - 512)) >> 9 in units of 2^-17.
 The pairs below are those of the instructions VRCP14 and VRSQRT14: in each segment the only integers of this form that give all
 1024 results. Before writing, the relative error of every value is checked against 2^-14 over its whole input cell, in exact
 rational arithmetic.
-
-Usage: reciprocal_estimates.py OUTPUT_FOLDER
 """
 
-import sys
 from fractions import Fraction
 from pathlib import Path
 
@@ -71,16 +67,11 @@ def write(path, head, lines):
     path.write_text(f"// Written by src/tables/generators/reciprocal_estimates.py: {head}.\n{rows}")
 
 
-def main():
-    if len(sys.argv) != 2 or not Path(sys.argv[1]).is_dir():
-        sys.exit("usage: reciprocal_estimates.py OUTPUT_FOLDER (which must exist)")
-    folder = Path(sys.argv[1])
+def generate(directory):
+    folder = Path(directory)
     check_reciprocal()
     check_root(ROOT_EVEN, 1)
     check_root(ROOT_ODD, 2)
     write(folder / "rcp14.inc", "a, b of 1/x over [1, 2), relative error below 2^-14", RECIPROCAL)
     write(folder / "rsqrt14.inc", "a, b of 1/sqrt(x) over [1, 2), then [2, 4), relative error below 2^-14", ROOT_EVEN + ROOT_ODD)
 
-
-if __name__ == "__main__":
-    main()
