@@ -191,7 +191,7 @@ class Variants : public testing::TestWithParam<Probed> {
 };
 
 TEST_P(Variants, SetAndRestoreTheEnvironment) {
-  for (uint32_t mxcsr : {0x1F80u, 0x7F80u, 0x9FC0u, 0x1FBFu, 0x1F00u, 0x0000u, 0xFF80u, 0x1FA0u}) {
+  for (uint32_t mxcsr : {0x1F80u, 0x7F80u, 0x9FC0u, 0x1FBFu, 0x1F00u, 0x0000u, 0xFF80u, 0x1FA0u, 0xFF40u, 0xE040u}) {
     for (int control : {0x037F, 0x027F, 0x007F, 0x0F7F, 0x0340, 0x0C40, 0x037E}) {
       for (bool flags : {false, true}) {
         const Environment environment{mxcsr, static_cast<uint16_t>(control), flags};
