@@ -205,22 +205,22 @@ LUM_INLINE Vec<T> sub(Vec<T> a, Vec<T> b) {
   return each_lane<T>([&](int i) { return lane::sub<R>(a.lane[i], b.lane[i]); });
 }
 template <int R = rn, Floating T>
-LUM_INLINE Vec<T> mul(Vec<T> a, Vec<T> b) {
+[[gnu::noinline]] Vec<T> mul(Vec<T> a, Vec<T> b) {
   return each_lane_with_care<T>([&](int i) { return lane::quick_mul<R>(a.lane[i], b.lane[i]); },
                                 [&](int i, T r) { return lane::mul_needs_care<R>(a.lane[i], b.lane[i], r); },
                                 [&](int i) { return lane::careful_mul<R>(a.lane[i], b.lane[i]); });
 }
 template <int R = rn, Floating T>
-LUM_INLINE Vec<T> div(Vec<T> a, Vec<T> b) {
+[[gnu::noinline]] Vec<T> div(Vec<T> a, Vec<T> b) {
   return each_lane<T>([&](int i) { return lane::div<R>(a.lane[i], b.lane[i]); });
 }
 template <int R = rn, Floating T>
-LUM_INLINE Vec<T> sqrt(Vec<T> a) {
+[[gnu::noinline]] Vec<T> sqrt(Vec<T> a) {
   return each_lane<T>([&](int i) { return lane::sqrt<R>(a.lane[i]); });
 }
 // +-(a b) +- c with one rounding.
 template <int R, bool negate_product, bool negate_addend, Floating T>
-LUM_INLINE Vec<T> signed_fma(const Vec<T>& a, const Vec<T>& b, const Vec<T>& c) {
+[[gnu::noinline]] Vec<T> signed_fma(const Vec<T>& a, const Vec<T>& b, const Vec<T>& c) {
   const auto quick = [&](int i) {
     return lane::quick_fma<R>(negate_product ? -a.lane[i] : a.lane[i], b.lane[i], negate_addend ? -c.lane[i] : c.lane[i]);
   };
@@ -283,12 +283,12 @@ LUM_INLINE Vec<T> max(Vec<T> a, Vec<T> b) {
 }
 // 1 / a with a relative error below 2^-14; a zero gives an infinity and an infinity a zero, of its sign.
 template <Floating T>
-LUM_INLINE Vec<T> rcp14(Vec<T> a) {
+[[gnu::noinline]] Vec<T> rcp14(Vec<T> a) {
   return each_lane<T>([&](int i) { return lane::rcp14(a.lane[i]); });
 }
 // 1 / sqrt a with a relative error below 2^-14; a zero gives an infinity of its sign, a negative number the default NaN.
 template <Floating T>
-LUM_INLINE Vec<T> rsqrt14(Vec<T> a) {
+[[gnu::noinline]] Vec<T> rsqrt14(Vec<T> a) {
   return each_lane<T>([&](int i) { return lane::rsqrt14(a.lane[i]); });
 }
 
@@ -296,18 +296,18 @@ LUM_INLINE Vec<T> rsqrt14(Vec<T> a) {
 
 // floor(log2 |a|), also of denormals; -infinity for a zero, +infinity for an infinity.
 template <Floating T>
-LUM_INLINE Vec<T> getexp(Vec<T> a) {
+[[gnu::noinline]] Vec<T> getexp(Vec<T> a) {
   return each_lane<T>([&](int i) { return lane::getexp(a.lane[i]); });
 }
 // The significand of a in the interval of imm bits 0-1: 0 [1,2), 1 [1/2,2), 2 [1/2,1), 3 [3/4,3/2); bits 2-3: 0 keeps the sign,
 // 1 clears it, 2 gives the default NaN for a negative number.
 template <int imm, Floating T>
-LUM_INLINE Vec<T> getmant(Vec<T> a) {
+[[gnu::noinline]] Vec<T> getmant(Vec<T> a) {
   return each_lane<T>([&](int i) { return lane::getmant<imm>(a.lane[i]); });
 }
 // a 2^floor(b) with one rounding, gradual underflow included.
 template <int R = rn, Floating T>
-LUM_INLINE Vec<T> scalef(Vec<T> a, Vec<T> b) {
+[[gnu::noinline]] Vec<T> scalef(Vec<T> a, Vec<T> b) {
   return each_lane_with_care<T>([&](int i) { return lane::quick_scalef<R>(a.lane[i], b.lane[i]); },
                                 [&](int i, T) { return lane::scalef_needs_care(a.lane[i], b.lane[i]); },
                                 [&](int i) { return lane::exact_scalef<R>(a.lane[i], b.lane[i]); });
@@ -315,12 +315,12 @@ LUM_INLINE Vec<T> scalef(Vec<T> a, Vec<T> b) {
 // a rounded to a multiple of 2^-M, M in imm bits 4-7; bits 0-1: 0 nearest even, 1 down, 2 up, 3 toward zero; bit 2: the
 // environment's rounding, which kernels have set to nearest.
 template <int imm, Floating T>
-LUM_INLINE Vec<T> rndscale(Vec<T> a) {
+[[gnu::noinline]] Vec<T> rndscale(Vec<T> a) {
   return each_lane<T>([&](int i) { return lane::rndscale<imm>(a.lane[i]); });
 }
 // a - rndscale<imm>(a), the exact remainder.
 template <int imm, Floating T>
-LUM_INLINE Vec<T> reduce(Vec<T> a) {
+[[gnu::noinline]] Vec<T> reduce(Vec<T> a) {
   return each_lane<T>([&](int i) { return lane::reduce<imm>(a.lane[i]); });
 }
 
@@ -402,7 +402,7 @@ LUM_INLINE Mask<T> ord(Vec<T> a, Vec<T> b) {
 // Lanes whose class is in the set imm: bit 0 quiet NaN, 1 +0, 2 -0, 3 +infinity, 4 -infinity, 5 denormal, 6 negative finite
 // other than -0, 7 signalling NaN.
 template <int imm, Floating T>
-LUM_INLINE Mask<T> fpclass(Vec<T> a) {
+[[gnu::noinline]] Mask<T> fpclass(Vec<T> a) {
   return each_mask_lane<T>([&](int i) { return lane::fpclass<imm>(a.lane[i]); });
 }
 // Lanes in which a & b has a bit set.
@@ -439,7 +439,7 @@ LUM_INLINE Vec<T> zero_unless(Mask<T> m, Vec<T> a) {
 // a, replaced by the special value that the 4-bit token of b's class names (quiet NaN, signalling NaN, zero, 1, -infinity,
 // +infinity, negative, positive, from the low token up).
 template <int imm>
-LUM_INLINE Vec<double> fixupimm(Vec<double> a, Vec<double> b, Vec<uint64_t> tokens) {
+[[gnu::noinline]] Vec<double> fixupimm(Vec<double> a, Vec<double> b, Vec<uint64_t> tokens) {
   static_assert(imm >= 0, "says only which exceptions are raised, and none is");
   return each_lane<double>([&](int i) { return lane::fixupimm(a.lane[i], b.lane[i], tokens.lane[i]); });
 }
