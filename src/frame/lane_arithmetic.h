@@ -78,22 +78,23 @@ LUM_INLINE Halves split(double x) {
   const double high = t - (t - x);
   return {high, x - high};
 }
-// a b - p exactly, p being a b to nearest, where product_is_safe.
+// a b - p exactly, p being a b to nearest, where product_doubt is zero.
 LUM_INLINE double product_error(double a, double b, double p) {
   if constexpr (processor_has_fma) return __builtin_fma(a, b, -p);
   const auto [a_high, a_low] = split(a);
   const auto [b_high, b_low] = split(b);
   return ((a_high * b_high - p) + a_high * b_low + a_low * b_high) + a_low * b_low;
 }
-// Conditions of a lane are all bits or none, so that a loop over lanes joins them without branches.
-LUM_INLINE uint64_t at_most(double x, double limit) { return mask_where<double>(magnitude(x) <= limit); }
-LUM_INLINE uint64_t is_zero(double x) { return mask_where<double>(x == 0); }
-// Whether p = a b to nearest has an error that is itself a double, and no step of product_error overflows.
-LUM_INLINE uint64_t product_is_safe(double a, double b, double p) {
-  const uint64_t no_overflow = at_most(p, 0x1p1020) & at_most(a, 0x1p970) & at_most(b, 0x1p970);
-  const uint64_t no_underflow = mask_where<double>(magnitude(p) >= 0x1p-960) | is_zero(a) | is_zero(b);
-  return no_overflow & no_underflow;
+// Zero where p = a b to nearest has an error that is itself a double and no step of product_error or of a sum with c overflows;
+// positive or NaN elsewhere. One number, not several comparisons, so that loops over lanes stay free of branches: the second
+// term is NaN when |a|, |b|, |c| or |p| is too large, and the first is positive when 0 < |a b| < 2^-960.
+LUM_INLINE double product_doubt(double a, double b, double p, double c) {
+  const double large = (magnitude(a) + magnitude(b)) * 0x1p53 + (magnitude(p) + magnitude(c)) * 4;
+  const double scaled = magnitude((a * 0x1p540) * (b * 0x1p540));
+  const double small = scaled < 0x1p120 ? scaled : 0;
+  return small + (large - large);
 }
+LUM_INLINE uint64_t is_in_doubt(double doubt) { return mask_where<double>(!(doubt == 0)); }
 
 // The whole product of two floats is a double.
 template <int R>
@@ -114,7 +115,7 @@ LUM_INLINE double quick_mul(double a, double b) {
 }
 template <int R, Floating T>
 LUM_INLINE UnsignedOf<T> mul_needs_care(T a, T b, T result) {
-  if constexpr (R != rn && sizeof(T) == 8) return ~product_is_safe(a, b, a * b);
+  if constexpr (R != rn && sizeof(T) == 8) return is_in_doubt(product_doubt(a, b, a * b, 0));
   else if constexpr (processor_gives_these_nans) return 0;
   else return mask_where<T>(is_nan(result));
 }
@@ -197,7 +198,7 @@ LUM_INLINE double quick_fma(double a, double b, double c) {
 template <int R, Floating T>
 LUM_INLINE UnsignedOf<T> fma_needs_care(T a, T b, T c, T result) {
   if constexpr (sizeof(T) == 4 || (R == rn && processor_has_fma)) return mask_where<T>(is_nan(result));
-  else return ~(product_is_safe(a, b, a * b) & at_most(c, 0x1p1020));
+  else return is_in_doubt(product_doubt(a, b, a * b, c));
 }
 // +-(a b) +- c; a NaN keeps the sign that it came with.
 template <int R, bool negate_product, bool negate_addend, Floating T>

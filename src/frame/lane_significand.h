@@ -84,7 +84,7 @@ LUM_INLINE uint64_t scalef_needs_care(double a, double b) {
   const int32_t scaled = exponent + limited_floor<5000>(b);
   const uint64_t normal = mask_if<uint64_t>(static_cast<uint32_t>(exponent - 1) < 2046) &
                           mask_if<uint64_t>(static_cast<uint32_t>(scaled - 1) < 2046);
-  return ~((normal | is_zero(a)) & at_most(b, from_bits<double>(Format<double>::infinity - 1)));
+  return (~normal & ~mask_where<double>(a == 0)) | is_in_doubt(b - b);
 }
 
 // x rounded to a multiple of 2^-M, M in imm bits 4-7. Adding the power of two whose last bit is worth 2^-M rounds a smaller
