@@ -2,7 +2,8 @@
 // multiply-add. A directed result is the nearest one, moved by a unit in the last place when the sign of the exact error says
 // so. A fused float result goes through a double rounded to odd, a fused double through three sums free of error (S. Boldo, G.
 // Melquiond: Emulation of FMA and correctly rounded sums, 2008).
-// Forms named quick_* are straight-line code for loops over lanes; *_needs_care says where their result does not hold.
+// Forms named quick_* are straight-line code for loops over lanes; *_doubt is +0 where their result holds,
+// and has bits set where it does not.
 #pragma once
 
 #include "frame/lane_exact.h"
@@ -94,8 +95,6 @@ LUM_INLINE double product_doubt(double a, double b, double p, double c) {
   const double small = scaled < 0x1p120 ? scaled : 0;
   return small + (large - large);
 }
-LUM_INLINE uint64_t is_in_doubt(double doubt) { return mask_where<double>(!(doubt == 0)); }
-
 // The whole product of two floats is a double.
 template <int R>
 LUM_INLINE float round_to_float(double x) {
@@ -114,10 +113,10 @@ LUM_INLINE double quick_mul(double a, double b) {
   return directed<R>(p, product_error(a, b, p));
 }
 template <int R, Floating T>
-LUM_INLINE UnsignedOf<T> mul_needs_care(T a, T b, T result) {
-  if constexpr (R != rn && sizeof(T) == 8) return is_in_doubt(product_doubt(a, b, a * b, 0));
+LUM_INLINE T mul_doubt(T a, T b, T result) {
+  if constexpr (R != rn && sizeof(T) == 8) return product_doubt(a, b, a * b, 0);
   else if constexpr (processor_gives_these_nans) return 0;
-  else return mask_where<T>(is_nan(result));
+  else return is_nan(result) ? T{1} : T{0};
 }
 template <int R, Floating T>
 inline T careful_mul(T a, T b) {
@@ -196,9 +195,9 @@ LUM_INLINE double quick_fma(double a, double b, double c) {
   return with_zero_sum_sign<R>(result, nearest, p, c);  // p_low, an unsigned zero then, may have taken the sign away
 }
 template <int R, Floating T>
-LUM_INLINE UnsignedOf<T> fma_needs_care(T a, T b, T c, T result) {
-  if constexpr (sizeof(T) == 4 || (R == rn && processor_has_fma)) return mask_where<T>(is_nan(result));
-  else return is_in_doubt(product_doubt(a, b, a * b, c));
+LUM_INLINE T fma_doubt(T a, T b, T c, T result) {
+  if constexpr (sizeof(T) == 4 || (R == rn && processor_has_fma)) return is_nan(result) ? T{1} : T{0};
+  else return product_doubt(a, b, a * b, c);
 }
 // +-(a b) +- c; a NaN keeps the sign that it came with.
 template <int R, bool negate_product, bool negate_addend, Floating T>

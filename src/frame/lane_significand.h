@@ -74,17 +74,15 @@ LUM_INLINE double quick_scalef(double a, double b) {
   const int64_t n = limited_floor<5000>(b);
   return from_bits<double>(to_bits(a) + (a == 0 ? 0 : static_cast<uint64_t>(n) << 52));
 }
-LUM_INLINE uint32_t scalef_needs_care(float a, float b) {
-  const float largest = from_bits<float>(Format<float>::infinity - 1);
-  return mask_where<float>(is_nan(a)) | mask_where<float>(!(magnitude(b) <= largest));
-}
+LUM_INLINE float scalef_doubt(float a, float b) { return is_nan((a - a) * 0 + (b - b)) ? 1.0f : 0.0f; }
 // The quick double form holds for normal numbers that stay normal, and for zeros.
-LUM_INLINE uint64_t scalef_needs_care(double a, double b) {
+LUM_INLINE double scalef_doubt(double a, double b) {
   const auto exponent = static_cast<int32_t>(to_bits(magnitude(a)) >> 52);
   const int32_t scaled = exponent + limited_floor<5000>(b);
   const uint64_t normal = mask_if<uint64_t>(static_cast<uint32_t>(exponent - 1) < 2046) &
                           mask_if<uint64_t>(static_cast<uint32_t>(scaled - 1) < 2046);
-  return (~normal & ~mask_where<double>(a == 0)) | is_in_doubt(b - b);
+  const uint64_t doubtful = (~normal & ~mask_where<double>(a == 0)) | mask_where<double>(is_nan(b - b));
+  return from_bits<double>(doubtful);
 }
 
 // x rounded to a multiple of 2^-M, M in imm bits 4-7. Adding the power of two whose last bit is worth 2^-M rounds a smaller

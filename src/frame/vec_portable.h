@@ -20,10 +20,12 @@ struct alignas(16) Vec {
   T lane[lanes_of<T>];
 };
 
-// All bits set in the lanes of the mask, none in the others.
+// All bits set in the lanes of the mask, none in the others. The lanes are of type T, since some compilers do not vectorise a
+// comparison of doubles that gives integers.
 template <Lane T>
 struct alignas(16) Mask {
-  UnsignedOf<T> lane[lanes_of<T>];
+  T lane[lanes_of<T>];
+  LUM_INLINE UnsignedOf<T> bits_of(int i) const { return std::bit_cast<UnsignedOf<T>>(lane[i]); }
 };
 
 template <class T>
@@ -40,10 +42,15 @@ LUM_INLINE Vec<T> each_lane(F value) {
 template <Lane T, class F>
 LUM_INLINE Mask<T> each_mask_lane(F condition) {
   Mask<T> r;
-  for (int i = 0; i < lanes_of<T>; ++i) {
-    if constexpr (Floating<T>) r.lane[i] = lane::mask_where<T>(condition(i));
-    else r.lane[i] = lane::mask_if<UnsignedOf<T>>(condition(i));
-  }
+  constexpr T set = std::bit_cast<T>(static_cast<UnsignedOf<T>>(~UnsignedOf<T>{0}));
+  for (int i = 0; i < lanes_of<T>; ++i) r.lane[i] = condition(i) ? set : T{0};
+  return r;
+}
+// The mask whose lanes have the bits that value(i) gives.
+template <Lane T, class F>
+LUM_INLINE Mask<T> each_mask_bits(F value) {
+  Mask<T> r;
+  for (int i = 0; i < lanes_of<T>; ++i) r.lane[i] = std::bit_cast<T>(static_cast<UnsignedOf<T>>(value(i)));
   return r;
 }
 
@@ -73,7 +80,7 @@ LUM_INLINE Vec<T> load(const T* p) {
 template <Lane T>
 LUM_INLINE Vec<T> load(const Mask<T>& mask, const T* p, Vec<T> fill) {
   for (int i = 0; i < lanes_of<T>; ++i)
-    if (mask.lane[i]) std::memcpy(&fill.lane[i], p + i, sizeof(T));
+    if (mask.bits_of(i)) std::memcpy(&fill.lane[i], p + i, sizeof(T));
   return fill;
 }
 
@@ -86,7 +93,7 @@ LUM_INLINE void store(T* p, const Vec<T>& a) {
 template <Lane T>
 LUM_INLINE void store(const Mask<T>& mask, T* p, const Vec<T>& a) {
   for (int i = 0; i < lanes_of<T>; ++i)
-    if (mask.lane[i]) std::memcpy(p + i, &a.lane[i], sizeof(T));
+    if (mask.bits_of(i)) std::memcpy(p + i, &a.lane[i], sizeof(T));
 }
 
 // ---- Reinterpretation
@@ -137,7 +144,7 @@ LUM_INLINE Mask<T> mask_of(uint32_t lane_bits) {
 template <Lane T>
 LUM_INLINE uint32_t to_bits(const Mask<T>& m) {
   uint32_t lane_bits = 0;
-  for (int i = 0; i < lanes_of<T>; ++i) lane_bits |= static_cast<uint32_t>(m.lane[i]) & (1u << i);
+  for (int i = 0; i < lanes_of<T>; ++i) lane_bits |= static_cast<uint32_t>(m.bits_of(i)) & (1u << i);
   return lane_bits;
 }
 // The mask of lanes of one type as that of another type with as many lanes.
@@ -145,32 +152,24 @@ template <Lane To, Lane From>
 requires(sizeof(To) == sizeof(From)) LUM_INLINE Mask<To> mask_cast(const Mask<From>& m) { return std::bit_cast<Mask<To>>(m); }
 template <Lane T>
 LUM_INLINE Mask<T> operator&(const Mask<T>& a, const Mask<T>& b) {
-  Mask<T> r;
-  for (int i = 0; i < lanes_of<T>; ++i) r.lane[i] = a.lane[i] & b.lane[i];
-  return r;
+  return each_mask_bits<T>([&](int i) { return a.bits_of(i) & b.bits_of(i); });
 }
 template <Lane T>
 LUM_INLINE Mask<T> operator|(const Mask<T>& a, const Mask<T>& b) {
-  Mask<T> r;
-  for (int i = 0; i < lanes_of<T>; ++i) r.lane[i] = a.lane[i] | b.lane[i];
-  return r;
+  return each_mask_bits<T>([&](int i) { return a.bits_of(i) | b.bits_of(i); });
 }
 template <Lane T>
 LUM_INLINE Mask<T> operator^(const Mask<T>& a, const Mask<T>& b) {
-  Mask<T> r;
-  for (int i = 0; i < lanes_of<T>; ++i) r.lane[i] = a.lane[i] ^ b.lane[i];
-  return r;
+  return each_mask_bits<T>([&](int i) { return a.bits_of(i) ^ b.bits_of(i); });
 }
 template <Lane T>
 LUM_INLINE Mask<T> operator~(const Mask<T>& a) {
-  Mask<T> r;
-  for (int i = 0; i < lanes_of<T>; ++i) r.lane[i] = ~a.lane[i];
-  return r;
+  return each_mask_bits<T>([&](int i) { return ~a.bits_of(i); });
 }
 template <Lane T>
 LUM_INLINE bool any(const Mask<T>& a) {
   UnsignedOf<T> united = 0;
-  for (int i = 0; i < lanes_of<T>; ++i) united |= a.lane[i];
+  for (int i = 0; i < lanes_of<T>; ++i) united |= a.bits_of(i);
   return united != 0;
 }
 template <Lane T>
@@ -179,34 +178,34 @@ LUM_INLINE bool none(const Mask<T>& a) {
 }
 // The masks of two vectors of doubles as that of one vector of floats, and its halves.
 LUM_INLINE Mask<float> join(const Mask<double>& low, const Mask<double>& high) {
-  return each_mask_lane<float>([&](int i) { return (i < 8 ? low.lane[i] : high.lane[i - 8]) != 0; });
+  return each_mask_lane<float>([&](int i) { return (i < 8 ? low.bits_of(i) : high.bits_of(i - 8)) != 0; });
 }
 LUM_INLINE Mask<double> low_half(const Mask<float>& m) {
-  return each_mask_lane<double>([&](int i) { return m.lane[i] != 0; });
+  return each_mask_lane<double>([&](int i) { return m.bits_of(i) != 0; });
 }
 LUM_INLINE Mask<double> high_half(const Mask<float>& m) {
-  return each_mask_lane<double>([&](int i) { return m.lane[i + 8] != 0; });
+  return each_mask_lane<double>([&](int i) { return m.bits_of(i + 8) != 0; });
 }
 
 // ---- Arithmetic
 
-// r with careful(a, b, ...) in the lanes of care.
+// r with careful(a, b, ...) in the lanes of which doubt has bits set.
 template <auto careful, Floating T, class... Operands>
-[[gnu::noinline, gnu::cold]] void redo_lanes(Vec<T>& r, const Mask<T>& care, const Operands&... operands) {
+[[gnu::noinline, gnu::cold]] void redo_lanes(Vec<T>& r, const Mask<T>& doubt, const Operands&... operands) {
   for (int i = 0; i < lanes_of<T>; ++i)
-    if (care.lane[i]) r.lane[i] = careful(operands.lane[i]...);
+    if (doubt.bits_of(i)) r.lane[i] = careful(operands.lane[i]...);
 }
-// The result that quick(i) gives in every lane, with careful(a, b, ...) instead where needs_care(i, result) says so. The copies
+// The result that quick(i) gives in every lane, with careful(a, b, ...) instead where doubt(i, result) has bits set. The copies
 // keep the operands themselves out of memory on the usual way.
-template <auto careful, Floating T, class Quick, class NeedsCare, class... Operands>
-LUM_INLINE Vec<T> each_lane_with_care(Quick quick, NeedsCare needs_care, const Vec<T>& first, const Operands&... rest) {
+template <auto careful, Floating T, class Quick, class Doubt, class... Operands>
+LUM_INLINE Vec<T> each_lane_with_care(Quick quick, Doubt doubt, const Vec<T>& first, const Operands&... rest) {
   const Vec<T> r = each_lane<T>(quick);
-  Mask<T> care;
-  for (int i = 0; i < lanes_of<T>; ++i) care.lane[i] = needs_care(i, r.lane[i]);
-  if (!any(care)) [[likely]]
+  Mask<T> doubts;
+  for (int i = 0; i < lanes_of<T>; ++i) doubts.lane[i] = doubt(i, r.lane[i]);
+  if (none(doubts)) [[likely]]
     return r;
   Vec<T> redone = r;
-  [&care, &redone](Vec<T> a, Operands... others) { redo_lanes<careful>(redone, care, a, others...); }(first, rest...);
+  [&doubts, &redone](Vec<T> a, Operands... others) { redo_lanes<careful>(redone, doubts, a, others...); }(first, rest...);
   return redone;
 }
 
@@ -220,9 +219,9 @@ LUM_INLINE Vec<T> sub(const Vec<T>& a, const Vec<T>& b) {
 }
 template <int R = rn, Floating T>
 LUM_INLINE Vec<T> mul(const Vec<T>& a, const Vec<T>& b) {
-  return each_lane_with_care<lane::careful_mul<R, T>>(
-      [&](int i) { return lane::quick_mul<R>(a.lane[i], b.lane[i]); },
-      [&](int i, T r) { return lane::mul_needs_care<R>(a.lane[i], b.lane[i], r); }, a, b);
+  return each_lane_with_care<lane::careful_mul<R, T>>([&](int i) { return lane::quick_mul<R>(a.lane[i], b.lane[i]); },
+                                                      [&](int i, T r) { return lane::mul_doubt<R>(a.lane[i], b.lane[i], r); },
+                                                      a, b);
 }
 template <int R = rn, Floating T>
 LUM_INLINE Vec<T> div(const Vec<T>& a, const Vec<T>& b) {
@@ -239,7 +238,7 @@ LUM_INLINE Vec<T> signed_fma(const Vec<T>& a, const Vec<T>& b, const Vec<T>& c) 
     return lane::quick_fma<R>(negate_product ? -a.lane[i] : a.lane[i], b.lane[i], negate_addend ? -c.lane[i] : c.lane[i]);
   };
   return each_lane_with_care<lane::careful_fma<R, negate_product, negate_addend, T>>(
-      quick, [&](int i, T r) { return lane::fma_needs_care<R>(a.lane[i], b.lane[i], c.lane[i], r); }, a, b, c);
+      quick, [&](int i, T r) { return lane::fma_doubt<R>(a.lane[i], b.lane[i], c.lane[i], r); }, a, b, c);
 }
 // a b + c with one rounding.
 template <int R = rn, Floating T>
@@ -287,12 +286,18 @@ LUM_INLINE Vec<T> fmsubadd(const Vec<T>& a, const Vec<T>& b, const Vec<T>& c) {
 // The smaller; b when either is a NaN or both are zeros, so the order of the operands matters.
 template <Floating T>
 LUM_INLINE Vec<T> min(const Vec<T>& a, const Vec<T>& b) {
-  return each_lane<T>([&](int i) { return a.lane[i] < b.lane[i] ? a.lane[i] : b.lane[i]; });
+  return each_lane<T>([&](int i) {
+    const T x = a.lane[i], y = b.lane[i];
+    return x < y ? x : y;
+  });
 }
 // The larger; b when either is a NaN or both are zeros, so the order of the operands matters.
 template <Floating T>
 LUM_INLINE Vec<T> max(const Vec<T>& a, const Vec<T>& b) {
-  return each_lane<T>([&](int i) { return a.lane[i] > b.lane[i] ? a.lane[i] : b.lane[i]; });
+  return each_lane<T>([&](int i) {
+    const T x = a.lane[i], y = b.lane[i];
+    return x > y ? x : y;
+  });
 }
 // 1 / a with a relative error below 2^-14; a zero gives an infinity and an infinity a zero, of its sign.
 template <Floating T>
@@ -322,8 +327,8 @@ LUM_INLINE Vec<T> getmant(const Vec<T>& a) {
 template <int R = rn, Floating T>
 LUM_INLINE Vec<T> scalef(const Vec<T>& a, const Vec<T>& b) {
   return each_lane_with_care<lane::exact_scalef<R, T>>([&](int i) { return lane::quick_scalef<R>(a.lane[i], b.lane[i]); },
-                                                       [&](int i, T) { return lane::scalef_needs_care(a.lane[i], b.lane[i]); },
-                                                       a, b);
+                                                       [&](int i, T) { return lane::scalef_doubt(a.lane[i], b.lane[i]); }, a,
+                                                       b);
 }
 // a rounded to a multiple of 2^-M, M in imm bits 4-7; bits 0-1: 0 nearest even, 1 down, 2 up, 3 toward zero; bit 2: the
 // environment's rounding, which kernels have set to nearest.
@@ -436,13 +441,13 @@ template <Lane T>
 LUM_INLINE Vec<T> select(const Mask<T>& m, const Vec<T>& a, const Vec<T>& b) {
   return each_lane<T>([&](int i) {
     using U = UnsignedOf<T>;
-    return std::bit_cast<T>((std::bit_cast<U>(a.lane[i]) & m.lane[i]) | (std::bit_cast<U>(b.lane[i]) & ~m.lane[i]));
+    return std::bit_cast<T>((std::bit_cast<U>(a.lane[i]) & m.bits_of(i)) | (std::bit_cast<U>(b.lane[i]) & ~m.bits_of(i)));
   });
 }
 // Per lane m ? a : +0.
 template <Lane T>
 LUM_INLINE Vec<T> zero_unless(const Mask<T>& m, const Vec<T>& a) {
-  return each_lane<T>([&](int i) { return std::bit_cast<T>(std::bit_cast<UnsignedOf<T>>(a.lane[i]) & m.lane[i]); });
+  return each_lane<T>([&](int i) { return std::bit_cast<T>(std::bit_cast<UnsignedOf<T>>(a.lane[i]) & m.bits_of(i)); });
 }
 // a, replaced by the special value that the 4-bit token of b's class names (quiet NaN, signalling NaN, zero, 1, -infinity,
 // +infinity, negative, positive, from the low token up).
@@ -560,11 +565,17 @@ LUM_INLINE Vec<T> shift_right_arithmetic(const Vec<T>& a, const Vec<T>& n) {
 }
 template <Integer T>
 LUM_INLINE Vec<T> min(const Vec<T>& a, const Vec<T>& b) {
-  return each_lane<T>([&](int i) { return a.lane[i] < b.lane[i] ? a.lane[i] : b.lane[i]; });
+  return each_lane<T>([&](int i) {
+    const T x = a.lane[i], y = b.lane[i];
+    return x < y ? x : y;
+  });
 }
 template <Integer T>
 LUM_INLINE Vec<T> max(const Vec<T>& a, const Vec<T>& b) {
-  return each_lane<T>([&](int i) { return a.lane[i] > b.lane[i] ? a.lane[i] : b.lane[i]; });
+  return each_lane<T>([&](int i) {
+    const T x = a.lane[i], y = b.lane[i];
+    return x > y ? x : y;
+  });
 }
 
 // ---- Conversions
@@ -665,7 +676,7 @@ requires(sizeof(T) == sizeof(I)) LUM_INLINE Vec<T> gather(const T* base, const V
 template <Lane T, Integer I>
 requires(sizeof(T) == sizeof(I)) LUM_INLINE Vec<T> gather(const Mask<T>& mask, const T* base, const Vec<I>& index, Vec<T> old) {
   for (int i = 0; i < lanes_of<T>; ++i)
-    if (mask.lane[i]) old.lane[i] = base[static_cast<SignedOf<I>>(index.lane[i])];
+    if (mask.bits_of(i)) old.lane[i] = base[static_cast<SignedOf<I>>(index.lane[i])];
   return old;
 }
 
