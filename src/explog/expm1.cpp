@@ -85,10 +85,8 @@ template <class T, size_t entries> LUM_INLINE Vec<T> Lookup(const Table<T, entri
   else return permute2(load<T>(table), load(table + lanes_of<T>), j);
 }
 
-template <class T> LUM_INLINE Vec<T> WithSignOf(Vec<T> x, Vec<T> v) { return v | sign_of(x); }
-
 // s q + (s - 1) with the sign of x.
-template <class T> LUM_INLINE Vec<T> Join(Vec<T> x, Vec<T> s, Vec<T> q) { return WithSignOf(x, fma(s, q, s - all(T(1)))); }
+template <class T> LUM_INLINE Vec<T> Join(Vec<T> x, Vec<T> s, Vec<T> q) { return or_sign(x, fma(s, q, s - all(T(1)))); }
 
 template <class T> LUM_INLINE Mask<T> AboveThreshold(Vec<T> x) { return le(all(Expm1Constants<T>::threshold), x); }
 template <class T> LUM_INLINE Mask<T> AboveThresholdOrNan(Vec<T> x) { return nlt(x, all(Expm1Constants<T>::threshold)); }
@@ -108,7 +106,7 @@ template <class T> LUM_INLINE Vec<T> JoinCompensated(Vec<T> x, const Reduced<T>&
   const auto e = (select(below, minus_one, s) - c) + select(below, s, minus_one);  // s - 1 = c + e exactly
   const auto h = fma(s, a.r, c);
   const auto error = fms(s, a.r, h - c);
-  return WithSignOf(x, (fma(s, w, e) + error) + h);
+  return or_sign(x, (fma(s, w, e) + error) + h);
 }
 
 // Refused arguments are above the threshold or NaN, where the 1 is below half a unit in the last place of e^x.

@@ -23,8 +23,6 @@ template <class T> LUM_INLINE OnePlus<T> AddOne(Vec<T> x) {
   return {s, low - (s - high)};
 }
 
-template <class T> LUM_INLINE Vec<T> WithSignOf(Vec<T> x, Vec<T> result) { return result | sign_of(x); }
-
 // Refused are those s = 1 + x that are not positive, infinite or NaN.
 template <class T> struct Log1p : Kernel<T> {
   static LumStatus LaneRoutine(T x, T& result) { return LnRoutine<T>(x + 1, result); }
@@ -36,22 +34,23 @@ struct SplitReduction {
   Mask<Lum32f> refused;
 };
 LUM_INLINE SplitReduction Split(Vec<Lum32f> x) {
-  constexpr uint32_t two_thirds = 0x3F2AAAAB;
-  constexpr uint32_t one = 0x3F800000;
+  const auto one = all(1.0f);
   const auto [s, c] = AddOne(x);
-  const auto u = bits(s) - all(two_thirds);
-  const auto k = to_float(shift_right_arithmetic<23>(as_signed(u)));
-  const auto m = as_float((u & all(0x007FFFFFu)) + all(two_thirds));
-  const auto scale = as_float(all(one) - (u & all(0xFF800000u)));  // 2^-k
+  const auto u = bits(s) - bits(all(f32(0x3F2AAAAB, 0.6666666865348816)));
+  const auto count = shift_right_arithmetic<23>(as_signed(u));
+  const auto exponent = as_unsigned(shift_left<23>(count));  // k in the place of the exponent
+  const auto m = as_float(bits(s) - exponent);
+  const auto scale = as_float(bits(one) - exponent);  // 2^-k
   // The sum wraps round for s infinite, NaN and from 2^127 on; a negative s stays negative or comes out below the bound.
-  const auto refused = lt(as_signed(bits(s) + all(0x01000000u)), all(int32_t{0x01800000}));
-  return {(m - all(1.0f)) + c * scale, k, mask_cast<Lum32f>(refused)};
+  const auto wrapped = as_signed(bits(s) + bits(all(f32(0x01000000, 0x1p-125))));
+  const auto refused = lt(wrapped, as_signed(bits(all(f32(0x01800000, 0x1p-124)))));
+  return {fma(c, scale, m - one), to_float(count), mask_cast<Lum32f>(refused)};
 }
 
 // k ln 2 + r + r^2 p.
 LUM_INLINE Lanes<Lum32f> JoinSplit(Vec<Lum32f> x, const SplitReduction& a, Vec<Lum32f> p) {
   const auto q = fma(p, a.r * a.r, a.r);
-  return {WithSignOf(x, fma(a.k, all(f32(0x3F317218, 0.6931471824645996)), q)), a.refused};
+  return {or_sign(x, fma(a.k, all(f32(0x3F317218, 0.6931471824645996)), q)), a.refused};
 }
 
 struct A11_32f : Log1p<Lum32f> {
@@ -102,7 +101,7 @@ template <class T> LUM_INLINE Sum<T> ReduceInTwoParts(const Reciprocal<T>& a) {
 template <class T> LUM_INLINE Lanes<T> JoinPairs(Vec<T> x, Vec<T> hi, Vec<T> lo, Vec<T> r, Vec<T> p) {
   const auto s = hi + r;
   const auto d = r - (s - hi);
-  return {WithSignOf(x, s + (fma(r * r, p, lo) + d)), unord(d, d)};
+  return {or_sign(x, s + (fma(r * r, p, lo) + d)), unord(d, d)};
 }
 
 struct A24_32f : Log1p<Lum32f> {
@@ -132,7 +131,7 @@ LUM_INLINE Lanes<Lum64f> JoinOnePart(Vec<Lum64f> x, const Reciprocal<Lum64f>& a,
   const auto q = fma(p, r * r, r);
   const auto b = fma(RaisedExponent(a), all(f64(0x3FE62E42FEFA39EF, 0.6931471805599453)),
                      permute2(load<Lum64f>(rows), load(rows + 8), a.j));
-  return {WithSignOf(x, b + q), unord(q, q)};
+  return {or_sign(x, b + q), unord(q, q)};
 }
 
 // (ln(1 + r) - r) / r^2 to the accuracy of A50 and A53.
