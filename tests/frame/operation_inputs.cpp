@@ -144,27 +144,30 @@ uint64_t InputGenerator::integer_lane(int width) {
 // largest; 5 on or beside a multiple of a power of two.
 template <class T>
 uint64_t InputGenerator::floating_lane(int manner) {
-  using Bits = BitsOf<T>;
   constexpr int F = fraction_bits<T>;
+  constexpr uint64_t fraction_mask = (uint64_t{1} << F) - 1;
+  // Drawn one after the other, so that every compiler draws them in the same order.
+  const uint64_t any = random_();
   const uint64_t sign = below(2) << (8 * sizeof(T) - 1);
-  const uint64_t fraction = random_() & ((uint64_t{1} << F) - 1);
+  const uint64_t near = below(60);
+  const uint64_t cut = below(static_cast<uint64_t>(F));
+  const uint64_t cleared = below(static_cast<uint64_t>(F));
+  const uint64_t fraction = any & fraction_mask;
   const auto with_exponent = [&](uint64_t field, uint64_t significand) { return sign | field << F | significand; };
   switch (manner) {
     case 0:
-      return static_cast<Bits>(random_());
+      return static_cast<BitsOf<T>>(any);
     case 1:
-      return with_exponent(static_cast<uint64_t>(bias<T>) - 8 + below(16), fraction);
-    case 2: {
-      const uint64_t kept = fraction >> below(static_cast<uint64_t>(F)) << below(static_cast<uint64_t>(F));
-      return with_exponent(static_cast<uint64_t>(bias<T>) - 30 + below(60), kept & ((uint64_t{1} << F) - 1));
-    }
+      return with_exponent(static_cast<uint64_t>(bias<T>) - 8 + near % 16, fraction);
+    case 2:
+      return with_exponent(static_cast<uint64_t>(bias<T>) - 30 + near, (fraction >> cut << cleared) & fraction_mask);
     case 3:
-      return with_exponent(below(30), fraction >> below(static_cast<uint64_t>(F)));
+      return with_exponent(near / 2, fraction >> cut);
     case 4:
-      return with_exponent(2 * static_cast<uint64_t>(bias<T>) - below(30), fraction);
+      return with_exponent(2 * static_cast<uint64_t>(bias<T>) - near / 2, fraction);
     default: {
-      const T grid = static_cast<T>(static_cast<int64_t>(below(4096)) - 2048) / static_cast<T>(uint64_t{1} << below(8));
-      return (bits_of(grid) + below(3) - 1) | (grid == 0 ? sign : 0);
+      const T grid = static_cast<T>(static_cast<int64_t>(any % 4096) - 2048) / static_cast<T>(uint64_t{1} << near % 8);
+      return (bits_of(grid) + cut % 3 - 1) | (grid == 0 ? sign : 0);
     }
   }
 }
@@ -178,9 +181,13 @@ void InputGenerator::fill_floating_lanes(int lane, const std::vector<Element>& e
   T previous[2] = {T(1), T(1)};
   for (std::size_t i = 0; i < elements.size() && i < 3; ++i) {
     if (elements[i] != element) continue;
-    uint64_t bits = below(16) == 0 ? special(element) : floating_lane<T>(below(4) == 0 ? static_cast<int>(below(6)) : manner);
-    if (related && i == 1 && elements.size() == 2) bits = bits_of(previous[0]) + below(7) - 3;
-    if (related && i == 2) bits = bits_of(-(previous[0] * previous[1])) + below(7) - 3;
+    const bool is_special = below(16) == 0;
+    const int own_manner = static_cast<int>(below(24));  // at times not that of the other operands
+    const uint64_t step = below(7) - 3;
+    uint64_t bits = is_special ? special(element) : floating_lane<T>(own_manner < 6 ? own_manner : manner);
+    if (related && i == 1 && elements.size() == 2) bits = bits_of(previous[0]) + step;
+    const T product = previous[0] * previous[1];
+    if (related && i == 2 && product == product) bits = bits_of(-product) + step;  // a NaN's bits are not the same everywhere
     bits = static_cast<BitsOf<T>>(bits);
     if (i < 2) previous[i] = std::bit_cast<T>(static_cast<BitsOf<T>>(bits));
     SetLane(operands.vector[i], element, lane, bits);

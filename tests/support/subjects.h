@@ -32,6 +32,7 @@ struct Subject {
 std::vector<Subject> AllSubjects();
 // Exports alone.
 std::vector<Subject> CatalogueSubjects();
+void PrintTo(const Subject& subject, std::ostream* stream);
 // k0_Exp_32f_A24
 std::string NameOf(const testing::TestParamInfo<Subject>& info);
 
@@ -43,8 +44,9 @@ struct Output {
   explicit Output(const Export& entry, size_t size = 0);
   std::string Show(size_t i) const;
 };
-// "equal", or the first element, or the status, that differs.
-std::string FirstDifference(const Output& expected, const Output& actual);
+// "equal", or the first element, or the status, that differs. Where two components of an element's arguments are NaN, any
+// quiet NaN is as good as any other.
+std::string FirstDifference(const Output& expected, const Output& actual, const Batch& arguments);
 
 // A function at an address, called with batches.
 class Callee {

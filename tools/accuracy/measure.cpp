@@ -72,10 +72,12 @@ struct Format {
 };
 constexpr Format FormatOf(bool is_32bit) { return is_32bit ? Format{24, -149, 128} : Format{53, -1074, 1024}; }
 
-// The bin of an argument: sign and binary exponent in quarters.
+// The bin of an argument: a quarter of a binade for ordinary magnitudes, eight binades beyond.
 int BinOf(double x) {
-  const double magnitude = std::max(std::fabs(x), 1e-320);
-  return static_cast<int>(std::floor(std::log2(magnitude) * 4)) * (x < 0 ? -1 : 1) + (x < 0 ? -100000 : 100000);
+  const double exponent = std::log2(std::max(std::fabs(x), 1e-320));
+  const bool is_ordinary = exponent >= -6 && exponent < 11;
+  const int bin = static_cast<int>(std::floor(is_ordinary ? exponent * 4 : exponent / 8)) + (is_ordinary ? 5000 : 1000);
+  return x < 0 ? -bin : bin;
 }
 
 void AddToNorm(Worst& worst, const Point& point, double re, double im, mpfr_srcptr exact_re, mpfr_srcptr exact_im,

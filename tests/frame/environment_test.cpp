@@ -1,0 +1,135 @@
+// The caller's floating-point environment neither influences a result nor is disturbed by a call.
+#include "support/environment.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "support/subjects.h"
+#include "support/variants.h"
+
+namespace lum::test {
+namespace {
+
+constexpr uint32_t masks = 0x1F80;
+constexpr uint32_t precision_flag = 0x20;
+constexpr uint32_t other_flags = 0x1F;
+constexpr uint32_t denormals_are_zero = 0x40;
+constexpr uint32_t flush_to_zero = 0x8000;
+
+// All four roundings with and without flushing, each exception unmasked, all of them, and each sticky flag on top of it.
+std::vector<Environment> MxcsrEnvironments() {
+  std::vector<Environment> list;
+  for (uint32_t rounding = 0; rounding < 4; ++rounding) {
+    for (uint32_t flushing : {0u, denormals_are_zero, flush_to_zero, denormals_are_zero | flush_to_zero}) {
+      list.push_back({.mxcsr = masks | rounding << 13 | flushing});
+    }
+  }
+  for (uint32_t exception = 0; exception < 6; ++exception) {
+    list.push_back({.mxcsr = masks & ~(0x80u << exception)});
+    list.push_back({.mxcsr = (masks & ~(0x80u << exception)) | 1u << exception});
+    list.push_back({.mxcsr = masks | 1u << exception});
+    list.push_back({.mxcsr = masks | 0x2000u | 1u << exception});
+  }
+  list.push_back({.mxcsr = 0});
+  list.push_back({.mxcsr = 0xE07F});
+  list.push_back({.mxcsr = masks | 0x3F});
+  return list;
+}
+
+// Every precision and rounding, each exception unmasked and all, with flags and without.
+std::vector<Environment> X87Environments() {
+  std::vector<Environment> list;
+  for (const uint16_t control :
+       std::initializer_list<uint16_t>{0x037F, 0x027F, 0x007F, 0x077F, 0x0B7F, 0x0F7F, 0x0C7F, 0x037E, 0x037D, 0x037B, 0x0377,
+                                       0x036F, 0x035F, 0x0340, 0x0E40, 0x0240}) {
+    list.push_back({.x87_control = control});
+    list.push_back({.x87_control = control, .x87_flags = true});
+  }
+  list.push_back({.mxcsr = 0xE07F, .x87_control = 0x0C40, .x87_flags = true});
+  return list;
+}
+
+// Whether the kernel finds MXCSR as it needs it.
+bool IsAsNeeded(const Export& entry, uint32_t mxcsr) { return (mxcsr & (IsMaskOnly(entry) ? masks : 0xFFC0u)) == masks; }
+
+// What a call must leave behind.
+Environment Expected(const Export& entry, const Environment& entered) {
+  Environment left = entered;
+  left.x87_flags = false;
+  if (IsAsNeeded(entry, entered.mxcsr)) left.mxcsr &= ~other_flags;  // all but precision are lost, on purpose
+  return left;
+}
+
+bool IsRoundingAndFlushingDefault(const Environment& environment) { return (environment.mxcsr & 0xE040) == 0; }
+
+class Environments : public ExportTest {
+ protected:
+  void SetUp() override {
+    if (!has_environment) GTEST_SKIP() << "this processor has neither MXCSR nor an x87 unit";
+    ExportTest::SetUp();
+  }
+
+  Output RunIn(const Environment& entered, const Batch& batch, Environment& left) {
+    Output output(entry(), batch.size());
+    const auto arguments = Callee::ArgumentsOf(batch, output, 0, batch.size());
+    const Callee function = callee();
+    EnterEnvironment(entered);
+    output.status = function.Call(arguments);
+    left = LeaveEnvironment();
+    return output;
+  }
+
+  void ExpectNoInfluence(const Environment& entered, const Batch& batch, const Output& reference) {
+    SCOPED_TRACE(Describe(entered));
+    Environment left;
+    const Output output = RunIn(entered, batch, left);
+    if (!FollowsCallersRounding(entry()) || IsRoundingAndFlushingDefault(entered)) {
+      EXPECT_EQ(FirstDifference(reference, output, batch), "equal");
+    }
+    const Environment expected = Expected(entry(), entered);
+    // In a register that was not saved and restored, lane routines may have raised the precision flag.
+    if (IsAsNeeded(entry(), entered.mxcsr)) left.mxcsr &= ~precision_flag | (expected.mxcsr & precision_flag);
+    EXPECT_EQ(Describe(left), Describe(expected));
+  }
+};
+
+TEST_P(Environments, VectorUnit) {
+  const Batch batch = Sample(entry(), 150);
+  const Output reference = callee().Run(batch);
+  for (const Environment& environment : MxcsrEnvironments()) ExpectNoInfluence(environment, batch, reference);
+}
+
+TEST_P(Environments, X87Unit) {
+  const Batch batch = Sample(entry(), 150);
+  const Output reference = callee().Run(batch);
+  for (const Environment& environment : X87Environments()) ExpectNoInfluence(environment, batch, reference);
+}
+
+// Ordinary arguments stay on the vector path, which raises nothing, not even precision.
+TEST_P(Environments, VectorPathRaisesNothing) {
+  if (RaisesPrecision(entry())) GTEST_SKIP() << "computes with plain operations";
+  const Format format = FormatOf(entry().input);
+  Batch batch(entry());
+  for (int i = 0; i < 70; ++i) {
+    const Bits element{format.pattern(entry().function == "Acosh" ? 2.3 : 0.7), format.pattern(0.6)};
+    batch.src1.Append(element);
+    if (entry().inputs() == 2) batch.src2.Append(element);
+    if (i == 0 && entry().has_parameter()) batch.value.Append({format.pattern(0.3), 0});
+  }
+  Environment left;
+  RunIn({}, batch, left);
+  EXPECT_EQ(Describe(left), Describe({}));
+}
+
+TEST_P(Environments, NoFlagEscapes) {
+  const Batch batch = Sample(entry(), 400, 9);
+  Environment left;
+  RunIn({}, batch, left);
+  EXPECT_EQ(left.mxcsr & ~precision_flag, default_mxcsr);
+  EXPECT_FALSE(left.x87_flags);
+}
+
+INSTANTIATE_TEST_SUITE_P(Exports, Environments, testing::ValuesIn(AllSubjects()), NameOf);
+
+}  // namespace
+}  // namespace lum::test

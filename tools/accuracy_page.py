@@ -1,0 +1,103 @@
+#!/usr/bin/env python3
+"""Writes docs/accuracy.md and its pictures: accuracy_page.py [CURVES], from docs/data/accuracy.csv and a folder of error curves.
+
+Only the pictures of functions whose curves are in the folder are drawn anew."""
+
+import csv
+import subprocess
+import sys
+from pathlib import Path
+
+import catalogue
+
+DATA = catalogue.ROOT / "docs/data/accuracy.csv"
+PAGE = catalogue.ROOT / "docs/accuracy.md"
+IMAGES = catalogue.ROOT / "docs/images/accuracy"
+
+INTRODUCTION = """# Accuracy
+
+Largest errors measured against MPFR (real functions) and MPC (complex ones), in units in the last place (ulp) of the exact
+value. *Bits* is what the largest error means as a number of correct bits of the significand. *Rounded* is the share of results
+that are the exact value rounded to nearest. *Limit* is what the tag promises: below 1 ulp at A24 and A53, half a unit of the last
+promised bit at the others. For complex results the limit holds for the error of the whole number relative to its modulus
+(*norm-wise*); the largest error of a single part stands beside it.
+
+*all* marks figures over all 2^32 arguments; the others are of samples: the ordinary range, all magnitudes, the neighbours of
+thresholds, table borders, poles and zeros, denormal and huge arguments. To repeat them:
+
+    ./run accuracy                     # the samples, all functions
+    ./run accuracy --exhaustive Exp    # all arguments of the 32f tags of a function
+
+The pictures show the largest error over the argument in intervals of a quarter of a binade (of eight
+for very small and large arguments), one line a tag, relative to the tag's
+limit: a line must stay below 1.
+"""
+
+
+def read_rows():
+    with DATA.open() as file:
+        return {(row["export"], row["inputs"]): row for row in csv.DictReader(file)}
+
+
+def table_row(name, row, is_complex):
+    at = row["at"]
+    cells = [f"`{name}`", row["inputs"], row["max_ulp"], row["norm_ulp"] if is_complex else None, row["bits"],
+             f"{float(row['correctly_rounded_percent']):.2f} %", row["wrong_class"], f"`{at}`", row["bound_ulp"]]
+    return "| " + " | ".join(c for c in cells if c is not None) + " |"
+
+
+def draw(function, type_, exports, bounds, curves):
+    """One picture a function and type; nothing where no curve was measured."""
+    names = [(name, tag) for name, tag in exports if (curves / f"{name}.dat").exists()]
+    if not names:
+        return
+    IMAGES.mkdir(parents=True, exist_ok=True)
+    plots = ", ".join(
+        f"'{curves / (name + '.dat')}' using (sgn($1)*log10(1+abs($1)*1e3)):($2/{bounds[name]}) with lines title '{tag or name}'"
+        for name, tag in names)
+    script = f"""set terminal svg size 720,260 font 'sans,11'
+set output '{IMAGES / f"{function}_{type_}.svg"}'
+set yrange [0:1.1]
+set ylabel 'error / limit'
+set xlabel 'x'
+set xtics ('-1e30' -33, '-1e15' -18, '-1000' -6, '-1' -3, '0' 0, '1' 3, '1000' 6, '1e15' 18, '1e30' 33, '1e100' 103, '1e300' 303, '-1e100' -103, '-1e300' -303)
+set key outside right
+set grid ytics
+plot {plots}
+"""
+    subprocess.run(["gnuplot"], input=script, text=True, check=True)
+
+
+def main():
+    measured = read_rows()
+    families = {}
+    for row in catalogue.rows():
+        family = catalogue.descriptions()[row.function]["family"]
+        families.setdefault(family, []).append(row)
+    lines = [INTRODUCTION]
+    for family, rows in families.items():
+        lines.append(f"\n## {family}\n")
+        for row in rows:
+            is_complex = row.type.endswith("c") and row.shape != "ToReal"
+            norm = " norm-wise |" if is_complex else ""
+            lines.append(f"### {row.function} {row.type}\n")
+            lines.append(f"| name | inputs | ulp |{norm} bits | rounded | wrong class | at | limit |")
+            lines.append("|---|---|---|" + ("---|" if is_complex else "") + "---|---|---|---|---|")
+            bounds = {}
+            for name, _ in row.exports():
+                for inputs in ("all", "sample"):
+                    if (name, inputs) in measured:
+                        lines.append(table_row(name, measured[name, inputs], is_complex))
+                        bounds[name] = measured[name, inputs]["bound_ulp"]
+            if len(sys.argv) > 1:
+                draw(row.function, row.type, row.exports(), bounds, Path(sys.argv[1]))
+            image = IMAGES / f"{row.function}_{row.type}.svg"
+            if image.exists():
+                lines.append(f"\n![Error of {row.function} {row.type}](images/accuracy/{image.name})")
+            lines.append("")
+    PAGE.write_text("\n".join(lines))
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
