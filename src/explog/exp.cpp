@@ -2,11 +2,9 @@
 // 2^(j/N) comes from a table, e^r from a polynomial, and scalef applies 2^floor(n), so that there is no integer work on
 // exponents. The tiers differ in the parts of ln 2, the degree of the polynomial, and whether the table's tail takes part.
 // Arguments beyond the threshold go to a lane routine, which knows overflow, denormal results and underflow.
-#include <bit>
 #include <cstdint>
-#include <limits>
-#include <type_traits>
 
+#include "explog/exp_routine.h"
 #include "frame/kernel_frame.h"
 #include "frame/kernels.h"
 #include "tables/table.h"
@@ -74,128 +72,13 @@ LUM_INLINE Vec<Lum64f> LongPolynomial(Vec<Lum64f> r) {
                 f64(0x3F2B28056EA3D8B9, 0.00020718637762912553));
 }
 
-// Where the results of the lane routines change their kind, in either type.
-template <class T> struct Limits;
-template <> struct Limits<Lum32f> {
-  static constexpr auto overflow = f32(0x42B17217, 88.72283172607422);
-  static constexpr auto denormal = f32(0xC2AEAC4F, -87.33654022216797);
-  static constexpr auto underflow = f32(0xC2CFF1B4, -103.97207641601562);
-};
-template <> struct Limits<Lum64f> {
-  static constexpr auto overflow = f64(0x40862E42FEFA39EF, 709.782712893384);
-  static constexpr auto denormal = f64(0xC086232BDD7ABCD2, -708.3964185322641);
-  static constexpr auto underflow = f64(0xC0874910D52D3051, -745.1332191019411);
-};
-
-// Infinities, NaN, and arguments past the ends of the finite positive results. False: the result is an ordinary number.
-template <class T> bool ResultIsSpecial(T x, T& result, LumStatus& status) {
-  constexpr auto infinity = std::numeric_limits<T>::infinity();
-  status = lumStsOk;
-  if (!(x - x == 0)) {
-    result = x == -infinity ? T(0) : x * x;
-  } else if (x > Limits<T>::overflow) {
-    result = infinity;
-    status = lumStsOverflow;
-  } else if (x < Limits<T>::underflow) {
-    result = 0;
-    status = lumStsUnderflow;
-  } else {
-    return false;
-  }
-  return true;
-}
-
-// e^x in binary32 arithmetic, to about 22 bits.
-LumStatus FloatRoutine(Lum32f x, Lum32f& result) {
-  LumStatus status;
-  if (ResultIsSpecial(x, result, status)) return status;
-  constexpr auto shifter = f32(0x4B400000, 12582912.0);
-  const float t = x * f32(0x3FB8AA3B, 1.4426950216293335) + shifter;
-  const float m = t - shifter;
-  const uint32_t exponent = std::bit_cast<uint32_t>(t) << 23;  // m in the place of the exponent
-  const float r = (x + m * f32(0xBF317200, -0.693145751953125)) + m * f32(0xB5BFBE8E, -1.428606765330187e-06);
-  const float p = ((((f32(0x3C0950EF, 0.008381112478673458) * r + f32(0x3D2BB1B6, 0.041917525231838226)) * r +
-                     f32(0x3E2AA9C6, 0.166663259267807)) *
-                        r +
-                    f32(0x3EFFFE85, 0.49998870491981506)) *
-                       r +
-                   f32(0x3F800001, 1.0000001192092896)) *
-                      r +
-                  f32(0x3F800001, 1.0000001192092896);
-  if (x < Limits<Lum32f>::denormal) {
-    const auto scale = std::bit_cast<float>((exponent + 0x5D800000u) & 0x7F800000u);  // 2^(m + 60)
-    result = p * scale * f32(0x21800000, 0x1p-60);
-    return lumStsUnderflow;
-  }
-  if (m < 128) {
-    result = p * std::bit_cast<float>(exponent + 0x3F800000u);
-  } else {
-    result = p * std::bit_cast<float>(exponent + 0x3F000000u) * 2.0f;
-  }
-  return lumStsOk;
-}
-
-// 2^e s for e^x = 2^e (head + p) with a denormal result, rounded once: s = head + p and its rounding error are split so that
-// the last sum alone is inexact.
-double ScaleToDenormal(double head, double p, int64_t e) {
-  const int64_t field = e + 0x43B;
-  const auto scale = std::bit_cast<double>(field << 52);  // 2^(e + 60)
-  const double a = p * scale;
-  const double b = head * scale;
-  const double s = b + a;
-  constexpr auto down = f64(0x3C30000000000000, 0x1p-60);
-  if (field <= 0x32) return s * down;
-  const double w = s * f64(0x41F8000000000000, 0x1.8p32);
-  const double hi = (w + s) - w;
-  const double lo = (s - hi) + ((b - s) + a);
-  return hi * down + lo * down;
-}
-
-// 2^e s, also where 2^e alone would overflow.
-double Scale(double s, int64_t e) {
-  if (e == 1024) return s * 0x1p1023 * 2.0;
-  return s * std::bit_cast<double>((e + 1023) << 52);
-}
-
-// e^x in binary64 arithmetic with a table of 2^(j/64) in two parts, rounded to T at the end.
-template <class T> LumStatus DoubleRoutine(T argument, T& result) {
-  LumStatus status;
-  if (ResultIsSpecial(argument, result, status)) return status;
-  static constexpr auto table = table64({
-#include "tables/generated/exp2_64_pairs.inc"
-  });
-  const double x = argument;
-  if (x < 0x1p-52 && -x < 0x1p-52) {
-    result = static_cast<T>(1.0 + x);
-    return lumStsOk;
-  }
-  constexpr auto shifter = f64(0x4338000000000000, 0x1.8p52);
-  const double t = x * f64(0x40571547652B82FE, 92.33248261689366) + shifter;
-  const double k = t - shifter;
-  const double r =
-      (x + k * f64(0xBF862E42FEFA0000, -0.010830424696223417)) + k * f64(0xBD1CF79ABC9E3B3A, -2.572804622327669e-14);
-  const double q =
-      0.5 + r * (f64(0x3FC55555555548F8, 0.1666666666665788) +
-                 r * (f64(0x3FA5555555558FCC, 0.04166666666677052) + r * (f64(0x3F8111123AAF20D3, 0.008333341995140497) +
-                                                                          r * f64(0x3F56C16A1C2A3FFD, 0.0013888870459233254))));
-  const auto count = static_cast<int64_t>(k);
-  const auto j = static_cast<size_t>(count & 63);
-  const int64_t e = count >> 6;
-  const double head = table[2 * j];
-  const double p = ((r + r * r * q) + table[2 * j + 1]) * head;
-  const bool is_denormal = argument < Limits<T>::denormal;
-  if (std::is_same_v<T, Lum64f> && is_denormal) result = static_cast<T>(ScaleToDenormal(head, p, e));
-  else result = static_cast<T>(Scale(head + p, e));
-  return is_denormal ? lumStsUnderflow : lumStsOk;
-}
-
 struct A11_32f : Kernel<Lum32f> {
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
     const auto a = Reduce<1>(x);
     const auto p = horner(a.r, 1.0f, f32(0x3F82CC37, 1.0218571424484253));
     return {p * scalef(Head(a), a.n), a.refused};
   }
-  static LumStatus LaneRoutine(Lum32f x, Lum32f& result) { return FloatRoutine(x, result); }
+  static LumStatus LaneRoutine(Lum32f x, Lum32f& result) { return ExpFloatRoutine(x, result); }
 };
 
 struct A21_32f : Kernel<Lum32f> {
@@ -205,7 +88,7 @@ struct A21_32f : Kernel<Lum32f> {
     const auto s = scalef(Head(a), a.n);
     return {fma(u, s, s), a.refused};
   }
-  static LumStatus LaneRoutine(Lum32f x, Lum32f& result) { return FloatRoutine(x, result); }
+  static LumStatus LaneRoutine(Lum32f x, Lum32f& result) { return ExpFloatRoutine(x, result); }
 };
 
 struct A24_32f : Kernel<Lum32f> {
@@ -215,12 +98,12 @@ struct A24_32f : Kernel<Lum32f> {
     const auto s = scalef(Head(a), a.n);
     return {fma(u, s, s), a.refused};
   }
-  static LumStatus LaneRoutine(Lum32f x, Lum32f& result) { return DoubleRoutine(x, result); }
+  static LumStatus LaneRoutine(Lum32f x, Lum32f& result) { return ExpDoubleRoutine(x, result); }
 };
 
 struct Double : Kernel<Lum64f> {
   static constexpr int vectors = 4;
-  static LumStatus LaneRoutine(Lum64f x, Lum64f& result) { return DoubleRoutine(x, result); }
+  static LumStatus LaneRoutine(Lum64f x, Lum64f& result) { return ExpDoubleRoutine(x, result); }
 };
 
 struct A26_64f : Double {

@@ -48,6 +48,12 @@ LUM_INLINE Vec<UnsignedOf<T>> sign_of(Vec<T> a) {
   return bits(a) & all(sign_bit<T>);
 }
 
+// v with its sign bit set where that of x is.
+template <Floating T>
+LUM_INLINE Vec<T> or_sign(Vec<T> x, Vec<T> v) {
+  return as_float(ternary<0xF8>(bits(v), bits(x), all(sign_bit<T>)));
+}
+
 // c0 + x (c1 + x (c2 + ...)), one fused step a coefficient.
 template <Floating T>
 LUM_INLINE Vec<T> horner(Vec<T>, T c0) {

@@ -20,9 +20,9 @@ def residue(j, n, width):
 
 
 def generate(directory):
-    for n, width in ((16, 32), (8, 64)):
-        write(f"exp2_{n}_head", SCRIPT, f"2^(j/{n}), rounded.", [head(j, n, width) for j in range(n)], width, directory)
-        write(f"exp2_{n}_tail", SCRIPT, f"The relative residue of entry j of exp2_{n}_head.",
+    for name, n, width in (("exp2_16", 16, 32), ("exp2_32", 32, 32), ("exp2_8", 8, 64), ("exp2_double_16", 16, 64)):
+        write(f"{name}_head", SCRIPT, f"2^(j/{n}), rounded.", [head(j, n, width) for j in range(n)], width, directory)
+        write(f"{name}_tail", SCRIPT, f"The relative residue of entry j of {name}_head.",
               [residue(j, n, width) for j in range(n)], width, directory)
     write("exp2_64_pairs", SCRIPT, "2^(j/64), rounded, and its relative residue.",
           [[head(j, 64, 64), residue(j, 64, 64)] for j in range(64)], 64, directory)
