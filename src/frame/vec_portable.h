@@ -444,6 +444,11 @@ LUM_INLINE Vec<T> select(const Mask<T>& m, const Vec<T>& a, const Vec<T>& b) {
     return std::bit_cast<T>((std::bit_cast<U>(a.lane[i]) & m.bits_of(i)) | (std::bit_cast<U>(b.lane[i]) & ~m.bits_of(i)));
   });
 }
+// Per lane m ? a + b : a.
+template <Floating T>
+LUM_INLINE Vec<T> add(Mask<T> m, Vec<T> a, Vec<T> b) {
+  return select(m, a + b, a);
+}
 // Per lane m ? a : +0.
 template <Lane T>
 LUM_INLINE Vec<T> zero_unless(const Mask<T>& m, const Vec<T>& a) {
