@@ -51,8 +51,8 @@ long double RefinedErfcInv(long double p) {
   return y;
 }
 
-template <auto f> long double InDouble(float x) { return f(static_cast<double>(x)); }
-template <auto f> long double InLongDouble(float x) { return f(static_cast<long double>(x)); }
+template <auto f> double InDouble(float x) { return f(static_cast<double>(x)); }
+template <auto f> double InLongDouble(float x) { return static_cast<double>(f(static_cast<long double>(x))); }
 
 const std::map<std::string_view, CheapReference>& CheapReferences() {
   static const std::map<std::string_view, CheapReference> references = {
@@ -112,13 +112,13 @@ const std::map<std::string_view, CheapReference>& CheapReferences() {
 constexpr int chunk_bits = 20;
 constexpr uint64_t chunk_count = uint64_t{1} << (32 - chunk_bits);
 // Below this the cheap reference's own error is much smaller than a difference that matters.
-constexpr long double cheap_error = 0x1p-45L;
+constexpr double cheap_error = 0x1p-45;
 
-// The unit in the last place of binary32 at a value.
-long double UlpAt(long double value) {
-  int exponent;
-  std::frexp(value, &exponent);
-  return std::ldexp(1.0L, std::max(exponent - 24, -149));
+// One over the unit in the last place of binary32 at a value.
+double InverseUlpAt(double value) {
+  const auto field = static_cast<int64_t>(std::bit_cast<uint64_t>(value) >> 52 & 0x7FF);
+  const int64_t exponent = std::max<int64_t>(field - 1023 - 23, -149);
+  return std::bit_cast<double>(static_cast<uint64_t>(1023 - exponent) << 52);
 }
 
 // Progress and the time left, a line rewritten in place on a terminal.
@@ -150,7 +150,7 @@ class Judge {
   Judge& operator=(const Judge&) = delete;
 
   void Add(Accuracy& sum, float x, float result, double bound) {
-    const long double value = cheap_(x);
+    const double value = cheap_(x);
     const auto rounded = static_cast<float>(value);
     const Point point{static_cast<double>(x), 0, 0, 0};
     if (std::isnan(value) || std::isinf(value) || value == 0) {
@@ -159,15 +159,15 @@ class Judge {
       else AddExactly(sum, point, result, bound);
       return;
     }
-    const long double ulp = UlpAt(value);
-    const long double error = std::fabs(static_cast<long double>(result) - value) / ulp;
-    const long double doubt = cheap_error * std::fabs(value) / ulp;
+    const double inverse_ulp = InverseUlpAt(value);
+    const double error = std::fabs(static_cast<double>(result) - value) * inverse_ulp;
+    const double doubt = cheap_error * std::fabs(value) * inverse_ulp;
     const bool plain = std::isfinite(result) && std::signbit(result) == std::signbit(value) && std::isfinite(rounded);
     // To be rounded correctly the error must be at most a half; near a half, and near the largest error so far, MPFR decides.
-    if (!plain || error + doubt > sum.worst.ulp || std::fabs(error - 0.5L) <= doubt) {
+    if (!plain || error + doubt > sum.worst.ulp || std::fabs(error - 0.5) <= doubt) {
       AddExactly(sum, point, result, bound);
     } else {
-      sum.correctly_rounded += error < 0.5L;
+      sum.correctly_rounded += error < 0.5;
     }
   }
 
