@@ -49,24 +49,25 @@ TEST(Ln, AccuracyNextToThresholds) {
   }
 }
 
-// Lanes that the first level serves keep its results, bit for bit, next to lanes that it does not.
+// Lanes that the first level serves keep its results, bit for bit, next to lanes that it does not. The two levels round the
+// logarithms of these arguments differently.
 TEST(Ln, SecondLevelServesOnlyTheLanesThatNeedIt) {
+  constexpr double arguments[] = {0x1.142738p-1, 0x1.1e8ad4p-1, 0x1.2d55b4p-1, 0x1.32b018p-1, 0x1.43f15cp-1,
+                                  0x1.6702b4p-1, 0x1.7e50ep-1,  0x1.862784p-1, 0x1.89385cp-1, 0x1.d12a04p-1};
   for (const std::string& name : RunnableLibraries()) {
     std::string reason;
-    const support::Library& library = *TestLibrary(name, "", reason);
     const Export& entry = *ExportsNamed("Ln_32f_A24").at(0);
     const Format format = FormatOf(entry.input);
-    const Callee callee(library, entry);
+    const Callee callee(*TestLibrary(name, "", reason), entry);
     Batch ordinary(entry);
-    for (double x : Between(0.5, 8, 4096)) ordinary.src1.Append({format.pattern(x)});
+    for (double x : arguments) ordinary.src1.Append({format.pattern(x)});
     const Output expected = callee.Run(ordinary);
     for (double special : {0x1p-149, 0x1.8p-130, 0x1.8p127, 0.0}) {
       Batch mixed = ordinary;
-      for (size_t i = 0; i < mixed.size(); i += 7) mixed.src1.Set(i, {format.pattern(special)});
+      for (size_t i = 0; i < 5; ++i) mixed.src1.Append({format.pattern(special)});
       const Output output = callee.Run(mixed);
-      for (size_t i = 0; i < mixed.size(); ++i) {
-        if (i % 7 == 0) continue;
-        ASSERT_EQ(output.dst1[i], expected.dst1[i]) << name << " element " << i << " next to " << special;
+      for (size_t i = 0; i < ordinary.size(); ++i) {
+        ASSERT_EQ(output.dst1[i], expected.dst1[i]) << name << " of " << arguments[i] << " next to " << special;
       }
     }
   }
