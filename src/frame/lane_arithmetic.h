@@ -2,7 +2,8 @@
 // multiply-add. A directed result is the nearest one, moved by a unit in the last place when the sign of the exact error says
 // so. A fused float result goes through a double rounded to odd, a fused double through three sums free of error (S. Boldo, G.
 // Melquiond: Emulation of FMA and correctly rounded sums, 2008).
-// Forms named quick_* are straight-line code for loops over lanes; *_needs_care says where their result does not hold.
+// Forms named quick_* are straight-line code for loops over lanes; *_doubt is +0 where their result holds,
+// and has bits set where it does not.
 #pragma once
 
 #include "frame/lane_exact.h"
@@ -22,49 +23,51 @@ LUM_INLINE T directed(T nearest, E error) {
   using Bits = typename Format<T>::Bits;
   const Bits b = to_bits(nearest);
   const Bits negative = b >> (Format<T>::width - 1);
-  if constexpr (R == rd) return from_bits<T>(b + (mask_if<Bits>(error < 0) & (2 * negative - 1)));
-  if constexpr (R == ru) return from_bits<T>(b + (mask_if<Bits>(error > 0) & (1 - 2 * negative)));
-  if constexpr (R == rz) {
-    const Bits sign = Bits{0} - negative;
-    return from_bits<T>(b - (((mask_if<Bits>(error < 0) & ~sign) | (mask_if<Bits>(error > 0) & sign)) & 1));
-  }
+  const auto below = static_cast<Bits>(mask_where<E>(error < 0));
+  const auto above = static_cast<Bits>(mask_where<E>(error > 0));
+  if constexpr (R == rd) return from_bits<T>(b + (below & (2 * negative - 1)));
+  if constexpr (R == ru) return from_bits<T>(b + (above & (1 - 2 * negative)));
+  if constexpr (R == rz) return from_bits<T>(b - ((below & (negative ^ 1)) | (above & negative)));
   return nearest;
 }
 
 // a + b - s exactly, s being a + b to nearest; infinite when s overflows, NaN when an operand is infinite or NaN.
 template <Floating T>
 LUM_INLINE T sum_error(T a, T b, T s) {
-  const bool ordered = magnitude(a) >= magnitude(b);
-  const T large = ordered ? a : b;
-  const T small = ordered ? b : a;
-  return small - (s - large);
+  const auto ordered = mask_where<T>(magnitude(a) >= magnitude(b));
+  return blend(ordered, b, a) - (s - blend(ordered, a, b));
 }
 // The same without a comparison, for numbers that cannot overflow.
 LUM_INLINE double two_sum_error(double a, double b, double s) {
   const double b_part = s - a;
   return (a - (s - b_part)) + (b - b_part);
 }
-// A sum that is zero has no error; toward minus infinity it is -0 unless both terms are +0.
+// A zero sum of a and b is exact; toward minus infinity it is -0 unless both terms are +0, otherwise +0 unless both are -0.
 template <int R, Floating T, Floating S>
-LUM_INLINE T zero_sum_sign(T result, S sum, S a, S b) {
-  if constexpr (R != rd) return result;
-  const auto either =
-      static_cast<UnsignedOf<T>>((to_bits(a) | to_bits(b)) >> (Format<S>::width - Format<T>::width)) & Format<T>::sign;
-  return from_bits<T>(to_bits(result) | (mask_if<UnsignedOf<T>>(sum == 0) & either));
+LUM_INLINE T with_zero_sum_sign(T result, S sum, S a, S b) {
+  using F = Format<T>;
+  const auto of_terms = R == rd ? to_bits(a) | to_bits(b) : to_bits(a) & to_bits(b);
+  const auto sign = static_cast<UnsignedOf<T>>(of_terms >> (Format<S>::width - F::width)) & F::sign;
+  const auto zero = static_cast<UnsignedOf<T>>(mask_where<S>(sum == 0));
+  return from_bits<T>((to_bits(result) & ~(zero & F::sign)) | (zero & sign));
 }
 
 template <int R, Floating T>
 LUM_INLINE T add(T a, T b) {
   const T s = a + b;
   if constexpr (R == rn) return with_nan(s, a, b);
-  return with_nan(zero_sum_sign<R>(directed<R>(s, sum_error(a, b, s)), s, a, b), a, b);
+  const T result = directed<R>(s, sum_error(a, b, s));
+  if constexpr (R == rd) return with_nan(with_zero_sum_sign<R>(result, s, a, b), a, b);
+  return with_nan(result, a, b);
 }
 // A NaN b keeps its sign.
 template <int R, Floating T>
 LUM_INLINE T sub(T a, T b) {
-  if constexpr (R == rn) return with_nan(a - b, a, b);
   const T s = a - b;
-  return with_nan(zero_sum_sign<R>(directed<R>(s, sum_error(a, -b, s)), s, a, -b), a, b);
+  if constexpr (R == rn) return with_nan(s, a, b);
+  const T result = directed<R>(s, sum_error(a, -b, s));
+  if constexpr (R == rd) return with_nan(with_zero_sum_sign<R>(result, s, a, -b), a, b);
+  return with_nan(result, a, b);
 }
 
 // x = high + low, 26 bits each; |x| below 2^970.
@@ -76,23 +79,22 @@ LUM_INLINE Halves split(double x) {
   const double high = t - (t - x);
   return {high, x - high};
 }
-// a b - p exactly, p being a b to nearest, where product_is_safe.
+// a b - p exactly, p being a b to nearest, where product_doubt is zero.
 LUM_INLINE double product_error(double a, double b, double p) {
   if constexpr (processor_has_fma) return __builtin_fma(a, b, -p);
   const auto [a_high, a_low] = split(a);
   const auto [b_high, b_low] = split(b);
   return ((a_high * b_high - p) + a_high * b_low + a_low * b_high) + a_low * b_low;
 }
-// Conditions of a lane are all bits or none, so that a loop over lanes joins them without branches.
-LUM_INLINE uint64_t at_most(double x, double limit) { return mask_if<uint64_t>(magnitude(x) <= limit); }
-LUM_INLINE uint64_t is_zero(double x) { return mask_if<uint64_t>(x == 0); }
-// Whether p = a b to nearest has an error that is itself a double, and no step of product_error overflows.
-LUM_INLINE uint64_t product_is_safe(double a, double b, double p) {
-  const uint64_t no_overflow = at_most(p, 0x1p1020) & at_most(a, 0x1p970) & at_most(b, 0x1p970);
-  const uint64_t no_underflow = mask_if<uint64_t>(magnitude(p) >= 0x1p-960) | is_zero(a) | is_zero(b);
-  return no_overflow & no_underflow;
+// Zero where p = a b to nearest has an error that is itself a double and no step of product_error or of a sum with c overflows;
+// positive or NaN elsewhere. One number, not several comparisons, so that loops over lanes stay free of branches: the second
+// term is NaN when |a|, |b|, |c| or |p| is too large, and the first is positive when 0 < |a b| < 2^-960.
+LUM_INLINE double product_doubt(double a, double b, double p, double c) {
+  const double large = (magnitude(a) + magnitude(b)) * 0x1p53 + (magnitude(p) + magnitude(c)) * 4;
+  const double scaled = magnitude((a * 0x1p540) * (b * 0x1p540));
+  const double small = scaled < 0x1p120 ? scaled : 0;
+  return small + (large - large);
 }
-
 // The whole product of two floats is a double.
 template <int R>
 LUM_INLINE float round_to_float(double x) {
@@ -111,19 +113,16 @@ LUM_INLINE double quick_mul(double a, double b) {
   return directed<R>(p, product_error(a, b, p));
 }
 template <int R, Floating T>
-LUM_INLINE UnsignedOf<T> mul_needs_care(T a, T b, T result) {
-  if constexpr (R != rn && sizeof(T) == 8) return ~product_is_safe(a, b, a * b);
+LUM_INLINE T mul_doubt(T a, T b, T result) {
+  if constexpr (R != rn && sizeof(T) == 8) return product_doubt(a, b, a * b, 0);
   else if constexpr (processor_gives_these_nans) return 0;
-  else return mask_if<UnsignedOf<T>>(is_nan(result));
+  else return is_nan(result) ? T{1} : T{0};
 }
-template <int R>
-LUM_INLINE float careful_mul(float a, float b) {
-  const float result = quick_mul<R>(a, b);
+template <int R, Floating T>
+inline T careful_mul(T a, T b) {
+  if constexpr (sizeof(T) == 8) return exact_mul<R>(a, b);
+  const T result = quick_mul<R>(a, b);
   return is_nan(result) ? nan_of(a, b) : result;
-}
-template <int R>
-LUM_INLINE double careful_mul(double a, double b) {
-  return exact_mul<R>(a, b);
 }
 
 // The sign of the error of a quotient q is that of (a - q b) / b, and that difference fits in a double when a and b are floats.
@@ -132,7 +131,8 @@ LUM_INLINE float div(float a, float b) {
   const float q = a / b;
   if constexpr (R == rn) return with_nan(q, a, b);
   const double rest = static_cast<double>(a) - static_cast<double>(q) * static_cast<double>(b);
-  return with_nan(directed<R>(q, b < 0 ? -rest : rest), a, b);
+  return with_nan(directed<R>(q, from_bits<double>(to_bits(rest) ^ (to_bits(static_cast<double>(b)) & Format<double>::sign))),
+                  a, b);
 }
 template <int R>
 LUM_INLINE double div(double a, double b) {
@@ -162,8 +162,8 @@ LUM_INLINE double sqrt(double a) {
 // s with its last bit set when there is an error, of which only the sign matters: s + error rounded to odd.
 LUM_INLINE double to_odd(double s, double error) {
   const uint64_t b = to_bits(s);
-  const uint64_t inexact = mask_if<uint64_t>(magnitude(error) > 0) & 1;  // not for a NaN
-  const uint64_t beyond = ((b ^ to_bits(error)) >> 63) & inexact;        // s is the larger in magnitude
+  const uint64_t inexact = mask_where<double>(magnitude(error) > 0) & 1;  // not for a NaN
+  const uint64_t beyond = ((b ^ to_bits(error)) >> 63) & inexact;         // s is the larger in magnitude
   return from_bits<double>((b - beyond) | inexact);
 }
 
@@ -174,7 +174,9 @@ LUM_INLINE float quick_fma(float a, float b, float c) {
   const double p = static_cast<double>(a) * static_cast<double>(b);
   const double addend = c;
   const double s = p + addend;
-  return zero_sum_sign<R, float>(round_to_float<R>(to_odd(s, two_sum_error(p, addend, s))), s, p, addend);
+  const float result = round_to_float<R>(to_odd(s, two_sum_error(p, addend, s)));
+  if constexpr (R == rd) return with_zero_sum_sign<R>(result, s, p, addend);
+  return result;
 }
 // a b = p + p_low; c + p_low = t + t_low; p + t = v + v_low; v plus the odd rounding of t_low + v_low.
 template <int R>
@@ -190,25 +192,22 @@ LUM_INLINE double quick_fma(double a, double b, double c) {
   const double z = to_odd(low, two_sum_error(t_low, v_low, low));
   const double nearest = v + z;
   const double result = directed<R>(nearest, two_sum_error(v, z, nearest));
-  // A zero sum is p + c, which has the sign that p_low, an unsigned zero then, has taken away.
-  return zero_sum_sign<R, double>(nearest == 0 ? p + c : result, nearest, p, c);
+  return with_zero_sum_sign<R>(result, nearest, p, c);  // p_low, an unsigned zero then, may have taken the sign away
 }
 template <int R, Floating T>
-LUM_INLINE UnsignedOf<T> fma_needs_care(T a, T b, T c, T result) {
-  if constexpr (sizeof(T) == 4 || (R == rn && processor_has_fma)) return mask_if<UnsignedOf<T>>(is_nan(result));
-  else return ~(product_is_safe(a, b, a * b) & at_most(c, 0x1p1020));
+LUM_INLINE T fma_doubt(T a, T b, T c, T result) {
+  if constexpr (sizeof(T) == 4 || (R == rn && processor_has_fma)) return is_nan(result) ? T{1} : T{0};
+  else return product_doubt(a, b, a * b, c);
 }
 // +-(a b) +- c; a NaN keeps the sign that it came with.
-template <int R, bool negate_product, bool negate_addend>
-LUM_INLINE float careful_fma(float a, float b, float c) {
+template <int R, bool negate_product, bool negate_addend, Floating T>
+inline T careful_fma(T a, T b, T c) {
   if (is_nan(a) || is_nan(b) || is_nan(c)) return nan_of(a, b, c);
-  const float result = quick_fma<R>(negate_product ? -a : a, b, negate_addend ? -c : c);
-  return is_nan(result) ? default_nan<float>() : result;
-}
-template <int R, bool negate_product, bool negate_addend>
-LUM_INLINE double careful_fma(double a, double b, double c) {
-  if (is_nan(a) || is_nan(b) || is_nan(c)) return nan_of(a, b, c);
-  return exact_fma<R>(negate_product ? -a : a, b, negate_addend ? -c : c);
+  const T factor = negate_product ? -a : a;
+  const T addend = negate_addend ? -c : c;
+  if constexpr (sizeof(T) == 8) return exact_fma<R>(factor, b, addend);
+  const T result = quick_fma<R>(factor, b, addend);
+  return is_nan(result) ? default_nan<T>() : result;
 }
 
 }  // namespace lum::lane

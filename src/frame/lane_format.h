@@ -45,6 +45,19 @@ LUM_INLINE Bits mask_if(bool condition) {
   return condition ? static_cast<Bits>(~Bits{0}) : Bits{0};
 }
 
+// The same for a condition on numbers of type T: chosen as one of two such numbers, since a comparison of doubles that gives
+// integers keeps some compilers from vectorising a loop.
+template <Floating T>
+LUM_INLINE UnsignedOf<T> mask_where(bool condition) {
+  return to_bits(condition ? from_bits<T>(static_cast<UnsignedOf<T>>(~UnsignedOf<T>{0})) : T{0});
+}
+// Per bit mask ? a : b. Loops over lanes choose between computed values in this way: a conditional expression with arithmetic
+// in an arm becomes a branch, since the arithmetic may raise a flag.
+template <Floating T>
+LUM_INLINE T blend(UnsignedOf<T> mask, T a, T b) {
+  return from_bits<T>((to_bits(a) & mask) | (to_bits(b) & ~mask));
+}
+
 template <Floating T>
 LUM_INLINE bool is_nan(T x) {
   return x != x;

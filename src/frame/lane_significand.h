@@ -74,17 +74,15 @@ LUM_INLINE double quick_scalef(double a, double b) {
   const int64_t n = limited_floor<5000>(b);
   return from_bits<double>(to_bits(a) + (a == 0 ? 0 : static_cast<uint64_t>(n) << 52));
 }
-LUM_INLINE uint32_t scalef_needs_care(float a, float b) {
-  const float largest = from_bits<float>(Format<float>::infinity - 1);
-  return mask_if<uint32_t>(is_nan(a)) | mask_if<uint32_t>(!(magnitude(b) <= largest));
-}
+LUM_INLINE float scalef_doubt(float a, float b) { return is_nan((a - a) * 0 + (b - b)) ? 1.0f : 0.0f; }
 // The quick double form holds for normal numbers that stay normal, and for zeros.
-LUM_INLINE uint64_t scalef_needs_care(double a, double b) {
+LUM_INLINE double scalef_doubt(double a, double b) {
   const auto exponent = static_cast<int32_t>(to_bits(magnitude(a)) >> 52);
   const int32_t scaled = exponent + limited_floor<5000>(b);
   const uint64_t normal = mask_if<uint64_t>(static_cast<uint32_t>(exponent - 1) < 2046) &
                           mask_if<uint64_t>(static_cast<uint32_t>(scaled - 1) < 2046);
-  return ~((normal | is_zero(a)) & at_most(b, from_bits<double>(Format<double>::infinity - 1)));
+  const uint64_t doubtful = (~normal & ~mask_where<double>(a == 0)) | mask_where<double>(is_nan(b - b));
+  return from_bits<double>(doubtful);
 }
 
 // x rounded to a multiple of 2^-M, M in imm bits 4-7. Adding the power of two whose last bit is worth 2^-M rounds a smaller
@@ -92,6 +90,7 @@ LUM_INLINE uint64_t scalef_needs_care(double a, double b) {
 template <int imm, Floating T>
 LUM_INLINE T rndscale(T x) {
   using F = Format<T>;
+  using Bits = typename F::Bits;
   constexpr int M = (imm >> 4) & 15;
   constexpr int R = (imm & 4) ? rn : imm & 3;
   const T grid_is_coarser_below = power_of_two<T>(F::fraction_bits - M);
@@ -99,20 +98,21 @@ LUM_INLINE T rndscale(T x) {
   const auto sign = to_bits(x) & F::sign;
   const T m = magnitude(x);
   T rounded = (m + grid_is_coarser_below) - grid_is_coarser_below;
-  const T above = rounded > m ? rounded - step : rounded;
-  const T below = rounded < m ? rounded + step : rounded;
-  if constexpr (R == rz) rounded = above;
-  if constexpr (R == rd) rounded = sign ? below : above;
-  if constexpr (R == ru) rounded = sign ? above : below;
-  const auto kept = is_nan(x) ? to_bits(x) | F::quiet : to_bits(x);
-  return from_bits<T>(m < grid_is_coarser_below ? to_bits(rounded) | sign : kept);
+  const T toward_zero = rounded - blend(mask_where<T>(rounded > m), step, T{0});
+  const T away_from_zero = rounded + blend(mask_where<T>(rounded < m), step, T{0});
+  const auto negative = mask_where<T>(x < 0);
+  if constexpr (R == rz) rounded = toward_zero;
+  if constexpr (R == rd) rounded = blend(negative, away_from_zero, toward_zero);
+  if constexpr (R == ru) rounded = blend(negative, toward_zero, away_from_zero);
+  const Bits kept = to_bits(x) | (mask_where<T>(is_nan(x)) & F::quiet);
+  return blend(mask_where<T>(m < grid_is_coarser_below), from_bits<T>(to_bits(rounded) | sign), from_bits<T>(kept));
 }
 // x - rndscale<imm>(x) in the rounding of imm; an infinity of either sign leaves +0.
 template <int imm, Floating T>
 LUM_INLINE T reduce(T x) {
   constexpr int R = (imm & 4) ? rn : imm & 3;
   const T rest = sub<R>(x, rndscale<imm>(x));
-  return to_bits(magnitude(x)) == Format<T>::infinity ? T{0} : rest;
+  return from_bits<T>(to_bits(rest) & ~mask_where<T>(magnitude(x) > from_bits<T>(Format<T>::infinity - 1)));
 }
 
 // Whether the class of x is in the set imm: bit 0 quiet NaN, 1 +0, 2 -0, 3 +infinity, 4 -infinity, 5 denormal, 6 negative

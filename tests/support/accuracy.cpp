@@ -117,6 +117,7 @@ double ErrorInUlp(Format format, uint64_t result, mpfr_srcptr exact) {
   Number difference;
   if (std::isinf(number)) {
     mpfr_set_si_2exp(difference.get(), number > 0 ? 1 : -1, largest_exponent, MPFR_RNDN);
+    if (mpfr_sgn(exact) * number > 0 && mpfr_cmpabs(exact, difference.get()) >= 0) return 0;
   } else {
     mpfr_set_d(difference.get(), number, MPFR_RNDN);
   }

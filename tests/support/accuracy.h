@@ -32,8 +32,8 @@ Arguments1 operator+(Arguments1 a, const Arguments1& b);
 using Reference = std::function<void(mpfr_ptr result, mpfr_srcptr x)>;
 using Reference2 = std::function<void(mpfr_ptr result, mpfr_srcptr x, mpfr_srcptr y)>;
 
-// The error of a result: infinite when one of result and exact value is NaN or infinite and the other is something else.
-// A result beyond the largest number counts as that binade's: rounding to infinity is not an error of its own.
+// The error of a result: infinite when just one of result and exact value is a NaN.
+// An infinite result is right for exact values from 2^128 or 2^1024 on, and stands for these powers below them.
 double ErrorInUlp(Format format, uint64_t result, mpfr_srcptr exact);
 
 // The bound of the export's tag, in the same units.

@@ -12,10 +12,6 @@ namespace {
 
 using support::Export;
 
-struct Interval {
-  double low, high;
-};
-
 // What is known of a function: its ordinary range by width of the type, and points whose neighbours are tried (poles, zeros,
 // thresholds, ends of the domain). Each point is taken with both signs.
 struct Domain {
@@ -55,6 +51,12 @@ const std::map<std::string_view, Domain>& Domains() {
       {"Tanh", {{-10, 10}, {-22, 22}, {1, 9.01, 19.06, 0.5}}},
   };
   return domains;
+}
+
+const Domain& DomainOf(const Export& entry) {
+  static const Domain any{{-10, 10}, {-10, 10}, {1, 2, 0.5}};
+  const auto known = Domains().find(entry.function);
+  return known != Domains().end() ? known->second : any;
 }
 
 bool IsCircular(std::string_view function) {
@@ -109,8 +111,7 @@ class Generator {
 // Finite arguments along one axis.
 std::vector<double> Axis(const Export& entry, size_t count, uint64_t seed) {
   Generator g(entry, seed);
-  const auto known = Domains().find(entry.function);
-  const Domain domain = known != Domains().end() ? known->second : Domain{{-10, 10}, {-10, 10}, {1, 2, 0.5}};
+  const Domain& domain = DomainOf(entry);
   const Interval range = entry.is_32bit() ? domain.range32 : domain.range64;
 
   std::vector<double> axis;
@@ -225,6 +226,13 @@ std::vector<Point> ComplexPoints(const Export& entry, size_t count) {
 }
 
 }  // namespace
+
+Interval OrdinaryRange(const Export& entry) {
+  const Domain& domain = DomainOf(entry);
+  const Interval range = entry.is_32bit() ? domain.range32 : domain.range64;
+  if (entry.function == "Pow" || entry.function == "Powx") return {0.1, 20};
+  return {std::max(range.low, -20.0), std::min(range.high, 20.0)};
+}
 
 std::vector<Point> SamplePoints(const Export& entry, size_t count) {
   if (support::IsComplex(entry.input)) return ComplexPoints(entry, count);

@@ -12,4 +12,10 @@ namespace lum::accuracy {
 // circular functions multiples of pi/2.
 std::vector<Point> SamplePoints(const support::Export& entry, size_t count);
 
+struct Interval {
+  double low, high;
+};
+// Arguments of everyday size: what speed is measured at.
+Interval OrdinaryRange(const support::Export& entry);
+
 }  // namespace lum::accuracy

@@ -1,0 +1,31 @@
+# What users of the library see of it, and what its generated files say.
+foreach(library IN LISTS LUM_LIBRARIES)
+  add_test(NAME surface.exports.${library}
+           COMMAND ${Python3_EXECUTABLE} ${CMAKE_CURRENT_SOURCE_DIR}/surface/exports.py $<TARGET_FILE:${library}>)
+endforeach()
+
+# The header alone, as a C and as a C++ program would include it; both programs call the library.
+add_executable(test.surface.header_c surface/header.c)
+set_target_properties(test.surface.header_c PROPERTIES C_EXTENSIONS OFF)
+add_executable(test.surface.header_cpp surface/header.cpp)
+foreach(language c cpp)
+  target_link_libraries(test.surface.header_${language} PRIVATE lumvmp0)
+  target_compile_options(test.surface.header_${language} PRIVATE -Wall -Wextra -pedantic -Werror)
+  add_test(NAME surface.header_${language} COMMAND test.surface.header_${language})
+endforeach()
+
+add_test(NAME surface.header_is_current COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/tools/make_header.py --check)
+add_test(NAME surface.tables_are_current
+         COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/src/tables/generators/generate.py --check)
+set_tests_properties(surface.tables_are_current PROPERTIES
+                     SKIP_REGULAR_EXPRESSION "No module named 'mpmath';No such file or directory: 'sollya'")
+
+# The machine code of the optimised AVX-512 library.
+if("lumvmk0" IN_LIST LUM_LIBRARIES AND CMAKE_BUILD_TYPE STREQUAL "Release")
+  add_test(NAME surface.stubs
+           COMMAND ${Python3_EXECUTABLE} ${CMAKE_CURRENT_SOURCE_DIR}/surface/stubs.py $<TARGET_FILE:lumvmk0>)
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    add_test(NAME surface.hot_loops
+             COMMAND ${Python3_EXECUTABLE} ${CMAKE_CURRENT_SOURCE_DIR}/surface/hot_loops.py $<TARGET_FILE:lumvmk0>)
+  endif()
+endif()
