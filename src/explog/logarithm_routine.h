@@ -152,7 +152,10 @@ template <class T> T Log10Positive(T x) {
   const T v = c * head - 1;  // exact
   const T w = c * (m - head);
   const T t = v + w;
-  return ((e * log10_of_2_hi + hi) + C::scale * v) + (((e * log10_of_2_lo + lo) + C::scale * w) + t * C::Tail(t));
+  const T a = e * log10_of_2_hi + hi;  // exact; 0 or larger than b
+  const T b = C::scale * v;
+  const T sum = a + b;
+  return sum + ((b - (sum - a)) + (((e * log10_of_2_lo + lo) + C::scale * w) + t * C::Tail(t)));
 }
 
 template <class T> LumStatus Log10Routine(T x, T& result) { return LogarithmRoutine(x, result, Log10Positive<T>); }
