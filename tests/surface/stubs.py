@@ -8,10 +8,9 @@ import re
 import sys
 from pathlib import Path
 
-import disassembly
-
 sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "tools"))
 import catalogue
+import disassembly
 
 # The parameter of these is a pair passed by value, which the stub copies.
 COPYING = {("Powx", "64fc")}
