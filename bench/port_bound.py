@@ -21,9 +21,14 @@ def loop_bound(way, output_bytes, stack):
     for instruction in way:
         if instruction.mnemonic.startswith("j"):
             continue
-        lines.append(f"{instruction.mnemonic} {re.sub(r'[#<].*', '', instruction.operands)}".strip())
+        operands = re.sub(r"[#<].*", "", instruction.operands)
+        # objdump writes the rounding behind its operand, llvm-mca reads it as an operand.
+        operands = re.sub(r"(\w)\{(r.-sae|sae)\}", r"\1, {\2}", operands)
+        lines.append(f"{instruction.mnemonic} {operands}".strip())
     command = ["llvm-mca", "-march=x86-64", "-mcpu=icelake-server", "-x86-asm-syntax=intel", "-iterations=100"]
     result = subprocess.run(command, input="\n".join(lines), capture_output=True, text=True)
+    if "error:" in result.stderr:
+        return None
     throughput = re.search(r"Block RThroughput: ([\d.]+)", result.stdout)
     return float(throughput[1]) * output_bytes / stored if throughput and stored else None
 
