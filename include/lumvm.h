@@ -81,6 +81,14 @@ LUM_API LumStatus lumsAdd_32fc_A24(const Lum32fc* src1, const Lum32fc* src2, Lum
 LUM_API LumStatus lumsAdd_64f_A53(const Lum64f* src1, const Lum64f* src2, Lum64f* dst, int32_t len);
 LUM_API LumStatus lumsAdd_64fc_A53(const Lum64fc* src1, const Lum64fc* src2, Lum64fc* dst, int32_t len);
 
+/* Ceil: The smallest integer not below x.
+ * Domain: all numbers
+ * Special values: zeros and infinities unchanged; ceil(x) = -0 for -1 < x < 0; ceil(NaN) = NaN of the same payload
+ * Status: always lumStsOk
+ * Relative cost: 32f 0.17; 64f 0.36 */
+LUM_API LumStatus lumsCeil_32f(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsCeil_64f(const Lum64f* src, Lum64f* dst, int32_t len);
+
 /* Conj: The complex conjugate (re, -im).
  * Domain: all numbers; bits other than the sign of im are untouched
  * Special values: a NaN part keeps its payload and stays signalling if it was
@@ -113,6 +121,22 @@ LUM_API LumStatus lumsExpm1_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len)
 LUM_API LumStatus lumsExpm1_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len);
 LUM_API LumStatus lumsExpm1_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len);
 LUM_API LumStatus lumsExpm1_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
+
+/* Floor: The largest integer not above x.
+ * Domain: all numbers
+ * Special values: zeros and infinities unchanged; floor(x) = +0 for 0 < x < 1; floor(NaN) = NaN of the same payload
+ * Status: always lumStsOk
+ * Relative cost: 32f 0.17; 64f 0.36 */
+LUM_API LumStatus lumsFloor_32f(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsFloor_64f(const Lum64f* src, Lum64f* dst, int32_t len);
+
+/* Frac: The fractional part x - trunc(x), with the sign of x.
+ * Domain: all numbers
+ * Special values: frac(integer) = the zero of its sign; frac(+-inf) = +-0; frac(NaN) = NaN of the same payload
+ * Status: always lumStsOk
+ * Relative cost: 32f 0.24; 64f 0.48 */
+LUM_API LumStatus lumsFrac_32f(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsFrac_64f(const Lum64f* src, Lum64f* dst, int32_t len);
 
 /* Ln: The natural logarithm of x.
  * Domain: x >= 0; denormal x included
@@ -152,6 +176,15 @@ LUM_API LumStatus lumsLog1p_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len)
 LUM_API LumStatus lumsLog1p_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len);
 LUM_API LumStatus lumsLog1p_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
 
+/* Modf: dst1 = trunc(x), dst2 = x - trunc(x), both with the sign of x.
+ * Domain: all numbers; dst1 and dst2 must be different arrays
+ * Special values: modf(integer) = the integer and the zero of its sign; modf(+-inf) = +-inf and +-0; modf(NaN) =
+ *   NaN of the same payload, twice
+ * Status: always lumStsOk
+ * Relative cost: 32f 0.42; 64f 0.84 */
+LUM_API LumStatus lumsModf_32f(const Lum32f* src, Lum32f* dst1, Lum32f* dst2, int32_t len);
+LUM_API LumStatus lumsModf_64f(const Lum64f* src, Lum64f* dst1, Lum64f* dst2, int32_t len);
+
 /* Mul: src1 * src2.
  * Domain: all numbers
  * Special values: as IEEE 754 multiplication
@@ -159,6 +192,33 @@ LUM_API LumStatus lumsLog1p_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len)
  * Relative cost: 32f A24 0.25; 64f A53 0.55 */
 LUM_API LumStatus lumsMul_32f_A24(const Lum32f* src1, const Lum32f* src2, Lum32f* dst, int32_t len);
 LUM_API LumStatus lumsMul_64f_A53(const Lum64f* src1, const Lum64f* src2, Lum64f* dst, int32_t len);
+
+/* NearbyInt: The integer nearest to x, ties to even, whatever the caller's rounding mode: the same as Rint.
+ * Domain: all numbers
+ * Special values: zeros and infinities unchanged; a zero result has the sign of x; nearbyint(NaN) = NaN of the same
+ *   payload
+ * Status: always lumStsOk
+ * Relative cost: 32f 0.17; 64f 0.36 */
+LUM_API LumStatus lumsNearbyInt_32f(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsNearbyInt_64f(const Lum64f* src, Lum64f* dst, int32_t len);
+
+/* Rint: The integer nearest to x, ties to even, whatever the caller's rounding mode.
+ * Domain: all numbers
+ * Special values: zeros and infinities unchanged; a zero result has the sign of x; rint(NaN) = NaN of the same
+ *   payload
+ * Status: always lumStsOk
+ * Relative cost: 32f 0.17; 64f 0.36 */
+LUM_API LumStatus lumsRint_32f(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsRint_64f(const Lum64f* src, Lum64f* dst, int32_t len);
+
+/* Round: The integer nearest to x, ties away from zero.
+ * Domain: all numbers
+ * Special values: zeros and infinities unchanged; a zero result has the sign of x; round(NaN) = NaN of the same
+ *   payload
+ * Status: always lumStsOk
+ * Relative cost: 32f 0.24; 64f 0.48 */
+LUM_API LumStatus lumsRound_32f(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsRound_64f(const Lum64f* src, Lum64f* dst, int32_t len);
 
 /* Sqr: x * x.
  * Domain: all numbers
@@ -178,6 +238,15 @@ LUM_API LumStatus lumsSub_32f_A24(const Lum32f* src1, const Lum32f* src2, Lum32f
 LUM_API LumStatus lumsSub_32fc_A24(const Lum32fc* src1, const Lum32fc* src2, Lum32fc* dst, int32_t len);
 LUM_API LumStatus lumsSub_64f_A53(const Lum64f* src1, const Lum64f* src2, Lum64f* dst, int32_t len);
 LUM_API LumStatus lumsSub_64fc_A53(const Lum64fc* src1, const Lum64fc* src2, Lum64fc* dst, int32_t len);
+
+/* Trunc: The integer part of x, toward zero.
+ * Domain: all numbers
+ * Special values: zeros and infinities unchanged; a zero result has the sign of x; trunc(NaN) = NaN of the same
+ *   payload
+ * Status: always lumStsOk
+ * Relative cost: 32f 0.17; 64f 0.36 */
+LUM_API LumStatus lumsTrunc_32f(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsTrunc_64f(const Lum64f* src, Lum64f* dst, int32_t len);
 #ifdef __cplusplus
 }
 #endif
