@@ -38,28 +38,19 @@ template <class T, int slot> struct RoundKernel : PlainKernel<T> {
   }
 };
 
-template <class T> struct Parts {
-  Vec<T> whole, fraction;
-  Mask<T> refused;  // infinities and NaN
-};
-template <class T> LUM_INLINE Parts<T> Split(Vec<T> x) {
-  const auto t = rndscale<toward_zero | quiet>(x);
-  const auto f = x - t;  // exact
-  return {t, or_sign(x, f), fpclass<0x99>(x)};
-}
+// What x has behind the point, with its sign. The difference is exact.
+template <class T> LUM_INLINE Vec<T> Fraction(Vec<T> x, Vec<T> whole) { return or_sign(x, x - whole); }
 
+// Infinities and NaN are refused, since x - x would be a NaN there.
 template <class T> struct FracKernel : Kernel<T> {
-  static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) {
-    const auto p = Split(x);
-    return {p.fraction, p.refused};
-  }
+  static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) { return {Fraction(x, rndscale<toward_zero | quiet>(x)), fpclass<0x99>(x)}; }
   static void LaneRoutine(T x, T& fraction) { fraction = x != x ? x + x : std::copysign(T(0), x); }
 };
 
 template <class T> struct ModfKernel : Kernel<T> {
   static LUM_INLINE TwoLanes<T> VectorPath(Vec<T> x) {
-    const auto p = Split(x);
-    return {p.whole, p.fraction, p.refused};
+    const auto whole = rndscale<toward_zero | quiet>(x);
+    return {whole, Fraction(x, whole), fpclass<0x99>(x)};
   }
   static void LaneRoutine(T x, T& whole, T& fraction) {
     whole = x + x;  // an infinity, or the NaN quieted
