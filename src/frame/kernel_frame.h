@@ -153,8 +153,10 @@ LUM_INLINE void Block(const K& kernel, const Arrays<K, n, m>& arrays, int64_t i,
       return;
     }
   }
-  const Outputs<K, m> values[] = {Values<K, m>(results[v])...};
-  for (int j = 0; j < m; ++j) { (StoreElements(arrays.dst[j] + i + static_cast<int64_t>(v) * step_of<K>, values[v][j]), ...); }
+  (StoreElements(arrays.dst[0] + i + static_cast<int64_t>(v) * step_of<K>, Values<K, m>(results[v])[0]), ...);
+  if constexpr (m == 2) {
+    (StoreElements(arrays.dst[1] + i + static_cast<int64_t>(v) * step_of<K>, Values<K, m>(results[v])[1]), ...);
+  }
 }
 
 // A vector of fewer elements, the rest of its lanes holding the fill.
