@@ -81,6 +81,18 @@ LUM_API LumStatus lumsAdd_32fc_A24(const Lum32fc* src1, const Lum32fc* src2, Lum
 LUM_API LumStatus lumsAdd_64f_A53(const Lum64f* src1, const Lum64f* src2, Lum64f* dst, int32_t len);
 LUM_API LumStatus lumsAdd_64fc_A53(const Lum64fc* src1, const Lum64fc* src2, Lum64fc* dst, int32_t len);
 
+/* Cbrt: The cube root of x.
+ * Domain: all numbers; denormal x included
+ * Special values: cbrt(+-0) = +-0; cbrt(+-inf) = +-inf; cbrt(-x) = -cbrt(x); cbrt(NaN) = NaN
+ * Status: always lumStsOk
+ * Relative cost: 32f A11 0.52, A21 0.62, A24 0.78; 64f A26 1.26, A50 1.69, A53 1.95 */
+LUM_API LumStatus lumsCbrt_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsCbrt_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsCbrt_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsCbrt_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsCbrt_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsCbrt_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
+
 /* Ceil: The smallest integer not below x.
  * Domain: all numbers
  * Special values: zeros and infinities unchanged; ceil(x) = -0 for -1 < x < 0; ceil(NaN) = NaN of the same payload
@@ -151,6 +163,31 @@ LUM_API LumStatus lumsFloor_64f(const Lum64f* src, Lum64f* dst, int32_t len);
  * Relative cost: 32f 0.24; 64f 0.48 */
 LUM_API LumStatus lumsFrac_32f(const Lum32f* src, Lum32f* dst, int32_t len);
 LUM_API LumStatus lumsFrac_64f(const Lum64f* src, Lum64f* dst, int32_t len);
+
+/* Hypot: sqrt(src1^2 + src2^2), without overflow or underflow on the way.
+ * Domain: all numbers
+ * Special values: hypot(+-inf, anything) = +inf, NaN included; hypot(+-0, +-0) = +0; hypot(NaN, x) = NaN; too large
+ *   a result: +inf, without a status
+ * Status: always lumStsOk
+ * Relative cost: 32f A11 0.33, A21 0.47, A24 0.66; 64f A26 1.02, A50 1.2, A53 1.62 */
+LUM_API LumStatus lumsHypot_32f_A11(const Lum32f* src1, const Lum32f* src2, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsHypot_32f_A21(const Lum32f* src1, const Lum32f* src2, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsHypot_32f_A24(const Lum32f* src1, const Lum32f* src2, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsHypot_64f_A26(const Lum64f* src1, const Lum64f* src2, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsHypot_64f_A50(const Lum64f* src1, const Lum64f* src2, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsHypot_64f_A53(const Lum64f* src1, const Lum64f* src2, Lum64f* dst, int32_t len);
+
+/* InvCbrt: 1 / cbrt(x), the reciprocal of the cube root.
+ * Domain: all numbers other than zero; denormal x included
+ * Special values: invcbrt(+-0) = +-inf; invcbrt(+-inf) = +-0; invcbrt(-x) = -invcbrt(x); invcbrt(NaN) = NaN
+ * Status: lumStsSingularity: x = +-0
+ * Relative cost: 32f A11 0.53, A21 0.63, A24 0.83; 64f A26 1.31, A50 1.71, A53 1.97 */
+LUM_API LumStatus lumsInvCbrt_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsInvCbrt_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsInvCbrt_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsInvCbrt_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsInvCbrt_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsInvCbrt_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
 
 /* InvSqrt: 1 / sqrt(x).
  * Domain: x > 0; denormal x included
@@ -240,6 +277,31 @@ LUM_API LumStatus lumsMul_64f_A53(const Lum64f* src1, const Lum64f* src2, Lum64f
  * Relative cost: 32f 0.17; 64f 0.36 */
 LUM_API LumStatus lumsNearbyInt_32f(const Lum32f* src, Lum32f* dst, int32_t len);
 LUM_API LumStatus lumsNearbyInt_64f(const Lum64f* src, Lum64f* dst, int32_t len);
+
+/* Pow2o3: x^(2/3), the square of the cube root; positive for negative x.
+ * Domain: all numbers; denormal x included
+ * Special values: pow2o3(+-0) = +0; pow2o3(+-inf) = +inf; pow2o3(NaN) = NaN
+ * Status: always lumStsOk
+ * Relative cost: 32f A11 0.52, A21 0.61, A24 0.77; 64f A26 1.26, A50 1.69, A53 1.94 */
+LUM_API LumStatus lumsPow2o3_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsPow2o3_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsPow2o3_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsPow2o3_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsPow2o3_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsPow2o3_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
+
+/* Pow3o2: x^(3/2) = x sqrt(x).
+ * Domain: x >= 0; finite results for x up to 4.9e25 (32f), 3.2e205 (64f)
+ * Special values: pow3o2(+-0) = +0; pow3o2(+inf) = +inf; pow3o2(x < 0) = the positive NaN; pow3o2(NaN) = NaN; too
+ *   large or too small x: +inf or +0, without a status
+ * Status: lumStsDomain: x < 0, -inf included
+ * Relative cost: 32f A11 0.25, A21 0.36, A24 0.43; 64f A26 0.72, A50 0.94, A53 1.08 */
+LUM_API LumStatus lumsPow3o2_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsPow3o2_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsPow3o2_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsPow3o2_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsPow3o2_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsPow3o2_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
 
 /* Rint: The integer nearest to x, ties to even, whatever the caller's rounding mode.
  * Domain: all numbers
