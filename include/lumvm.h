@@ -109,6 +109,18 @@ LUM_API LumStatus lumsCeil_64f(const Lum64f* src, Lum64f* dst, int32_t len);
 LUM_API LumStatus lumsConj_32fc_A24(const Lum32fc* src, Lum32fc* dst, int32_t len);
 LUM_API LumStatus lumsConj_64fc_A53(const Lum64fc* src, Lum64fc* dst, int32_t len);
 
+/* Cos: The cosine of x, in radians; exact reduction of arguments of any size.
+ * Domain: all finite numbers
+ * Special values: cos(+-0) = 1; cos(+-inf) = NaN; cos(NaN) = NaN
+ * Status: lumStsDomain: x = +-inf
+ * Relative cost: 32f A11 0.54, A21 0.66, A24 0.98; 64f A26 1.44, A50 1.44, A53 2.7 */
+LUM_API LumStatus lumsCos_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsCos_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsCos_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsCos_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsCos_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsCos_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
+
 /* Div: src1 / src2.
  * Domain: all numbers; the low and mid tags scale by a rounded reciprocal, so that a quotient next to the ends of
  *   the range may overflow or underflow early
@@ -320,6 +332,18 @@ LUM_API LumStatus lumsRint_64f(const Lum64f* src, Lum64f* dst, int32_t len);
  * Relative cost: 32f 0.24; 64f 0.48 */
 LUM_API LumStatus lumsRound_32f(const Lum32f* src, Lum32f* dst, int32_t len);
 LUM_API LumStatus lumsRound_64f(const Lum64f* src, Lum64f* dst, int32_t len);
+
+/* Sin: The sine of x, in radians; exact reduction of arguments of any size.
+ * Domain: all finite numbers
+ * Special values: sin(+-0) = +-0; sin(+-inf) = NaN; sin(NaN) = NaN
+ * Status: lumStsDomain: x = +-inf
+ * Relative cost: 32f A11 0.49, A21 0.62, A24 0.9; 64f A26 1.26, A50 1.432, A53 2.719 */
+LUM_API LumStatus lumsSin_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsSin_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsSin_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsSin_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsSin_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsSin_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
 
 /* Sqr: x * x.
  * Domain: all numbers

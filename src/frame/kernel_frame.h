@@ -9,6 +9,9 @@
 //   values).
 //                        Returns the element's LumStatus; a silent kernel's returns void, and the kernel's status is then
 //                        always 0.
+//   LargePath(x, lanes)  optional, one input: a second, slower vector path over a vector with refused lanes. Given what
+//                        VectorPath returned, it returns the same with values in the lanes that it finishes and the mask of
+//                        those that remain for the lane routine.
 // Constants that a kernel may override: variant, vectors (in a block), fill (of inactive lanes: never to be refused).
 // A kernel with a parameter has it as a data member; all others are empty.
 #pragma once
@@ -70,6 +73,15 @@ template <class K, int n> LUM_INLINE auto Compute(const K& kernel, const Inputs<
   else return kernel.VectorPath(x[0], x[1]);
 }
 
+// The same with the second path, where a kernel has one.
+template <class K, int n> LUM_INLINE auto ComputeRefused(const K& kernel, const Inputs<K, n>& x) {
+  auto r = Compute<K, n>(kernel, x);
+  if constexpr (requires { kernel.LargePath(x[0], r); }) {
+    if (any(r.refused)) r = kernel.LargePath(x[0], r);
+  }
+  return r;
+}
+
 template <class K, int m, class Result> LUM_INLINE Outputs<K, m> Values(const Result& r) {
   if constexpr (requires { r.value; }) return {r.value};
   else if constexpr (requires { r.value1; }) return {r.value1, r.value2};
@@ -104,7 +116,7 @@ __attribute__((noinline, cold)) void FinishLanes(const K& kernel, const Arrays<K
   for (int v = 0; v * step < count; ++v) {
     const int active = std::min(step, count - v * step);
     const auto x = frame::LoadStep<K, n, m>(arrays, first + v * step, active);
-    const auto r = frame::Compute<K, n>(kernel, x);
+    const auto r = frame::ComputeRefused<K, n>(kernel, x);
     const auto values = frame::Values<K, m>(r);
     for (int j = 0; j < n; ++j) StoreElements(&inputs[j][v * step], x[j]);
     for (int j = 0; j < m; ++j) StoreElements(&results[j][v * step], values[j]);

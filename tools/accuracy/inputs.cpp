@@ -19,6 +19,28 @@ struct Domain {
   std::vector<double> points;
 };
 
+// Thresholds of the reductions, the numbers of each type nearest to a multiple of pi/2 (J.-M. Muller: Elementary Functions),
+// and powers of 2 at which the reductions change their tables.
+const std::vector<double> circular_points = {0x1p19,
+                                             10000,
+                                             8256,
+                                             0x1p24,
+                                             0x1p23,
+                                             128000,
+                                             65536.00349206588,
+                                             0x1p17,
+                                             0x1p30,
+                                             8388607 * 3.14159265358979323846,
+                                             0x1p31,
+                                             0x1p39,
+                                             0x1p127,
+                                             0x1p-20,
+                                             0x1p-27,
+                                             1.5707963267948966,
+                                             16367173 * 0x1p72,
+                                             6381956970095103 * 0x1p797,
+                                             0x1p1000};
+
 const std::map<std::string_view, Domain>& Domains() {
   static const std::map<std::string_view, Domain> domains = {
       {"Acos", {{-1, 1}, {-1, 1}, {0.5, 1}}},
@@ -29,6 +51,8 @@ const std::map<std::string_view, Domain>& Domains() {
       {"Atanh", {{-1, 1}, {-1, 1}, {0.5, 1}}},
       {"CdfNorm", {{-14.2, 6}, {-38.5, 9}, {14.170185089111328, 38.485408335567335, 13, 37.5}}},
       {"CdfNormInv", {{0, 1}, {0, 1}, {0.5, 1, 0.25, 0.75, 0x1p-24, 0x1p-35}}},
+      {"CIS", {{-100, 100}, {-100, 100}, circular_points}},
+      {"Cos", {{-100, 100}, {-100, 100}, circular_points}},
       {"Cosh", {{-90, 90}, {-711, 711}, {89.41598629223294, 710.4758600739439, 1}}},
       {"Erf", {{-4, 4}, {-6, 6}, {3.92, 5.92, 1}}},
       {"ErfInv", {{-1, 1}, {-1, 1}, {1, 0.5, 0.75, 1 - 0x1p-24, 1 - 0x1p-35}}},
@@ -46,8 +70,11 @@ const std::map<std::string_view, Domain>& Domains() {
       {"Log10", {{0, 100}, {0, 100}, {1, 10, 100, 1000, 0.1, 0.75, 1.5}}},
       {"Log1p", {{-1, 100}, {-1, 100}, {1, 0x1p-24, 0x1p-53, 0.5}}},
       {"Pow3o2", {{0, 100}, {0, 100}, {1, 2, 4}}},
+      {"Sin", {{-100, 100}, {-100, 100}, circular_points}},
+      {"SinCos", {{-100, 100}, {-100, 100}, circular_points}},
       {"Sinh", {{-90, 90}, {-711, 711}, {89.41598629223294, 710.4758600739439, 1}}},
       {"Sqrt", {{0, 100}, {0, 100}, {1, 2, 4}}},
+      {"Tan", {{-100, 100}, {-100, 100}, circular_points}},
       {"Tanh", {{-10, 10}, {-22, 22}, {1, 9.01, 19.06, 0.5}}},
   };
   return domains;

@@ -1,0 +1,143 @@
+// Sine and cosine of one number by scalar arithmetic, which finishes the lanes of the low binary64 tiers beyond the threshold
+// of their vector paths. The argument is reduced to (-pi/4, pi/4) and a count of quarter turns: from 2^30 on by products with
+// pieces of 25 bits of 4/pi, each exact, leaving out the pieces that only give whole turns; from 2^17 on by subtraction of
+// multiples of pi/4 in parts. A table of angles of pi/32 and short series finish. No step is fused.
+#pragma once
+
+#include <bit>
+#include <cstdint>
+
+#include "circular/nonfinite.h"
+#include "circular/wide_reduction.h"
+
+namespace lum {
+
+// Entry j + 1: bits 25 j to 25 j + 24 of 4/pi, in its place times 2^200.
+inline constexpr auto ChunkTable25 = table64({
+#include "tables/generated/chunks_25.inc"
+});
+
+// A sum of numbers with their rounding errors.
+struct CompensatedSum {
+  double hi = 0, lo = 0;
+  void Add(double x) {
+    const double s = hi + x;
+    const double part = s - hi;
+    lo += (hi - (s - part)) + (x - part);
+    hi = s;
+  }
+  void Normalise() {
+    const double s = hi + lo;
+    lo = lo - (s - hi);
+    hi = s;
+  }
+};
+
+// x = quarters pi/2 + hi + lo, the quarters modulo 4.
+struct ReducedArgument {
+  double hi, lo;
+  int64_t quarters;
+};
+
+// magnitude in [2^30, infinity).
+inline ReducedArgument ReduceByChunks(double magnitude) {
+  const auto pattern = std::bit_cast<uint64_t>(magnitude);
+  const auto x = std::bit_cast<double>(pattern - (uint64_t{200} << 52));
+  const auto xh = std::bit_cast<double>(std::bit_cast<uint64_t>(x) & 0xFFFFFFFFF8000000);
+  const double xl = x - xh;
+  const int exponent = static_cast<int>(pattern >> 52);
+  const double* p = &ChunkTable25.entries[(exponent - 1052) / 25];
+
+  CompensatedSum octants;
+  const auto add_pairs = [&](int first, int last) {
+    for (int j = first; j <= last; ++j) {
+      octants.Add(xh * p[j + 1]);
+      octants.Add(xl * p[j]);
+    }
+  };
+  add_pairs(0, 2);
+  octants.Normalise();
+  const auto whole = static_cast<int64_t>(octants.hi);
+  octants.hi -= static_cast<double>(whole & ~int64_t{7});        // whole turns; exact
+  octants.hi -= static_cast<double>((whole & 7) + (whole & 1));  // to the nearest even octant
+  octants.Normalise();
+  add_pairs(3, 7);
+  octants.Normalise();
+
+  const double w = octants.hi * 100663296.0;  // 1.5 * 2^26
+  const double head = (w + octants.hi) - w;
+  const double rest = (octants.hi - head) + octants.lo;
+  const double part1 = f64(0x3FE921FB40000000, 0.7853981256484985), part2 = f64(0x3E64442D18469899, 3.774894977445941e-08);
+  CompensatedSum r{head * part1, rest * part1 + (rest + head) * part2};
+  r.Normalise();
+  return {r.hi, r.lo, ((whole & 7) + 1) >> 1};
+}
+
+// magnitude in [2^17, 2^30).
+inline ReducedArgument ReduceByParts(double magnitude) {
+  // The first parts have so few bits that their products with the count are exact.
+  constexpr double long_parts[] = {f64(0x3FE921FA00000000, 0.7853975296020508), f64(0x3EA5444300000000, 6.337954800983425e-07),
+                                   f64(0xBD373DCA00000000, -8.256991011063031e-14),
+                                   f64(0xBBF3B39A00000000, -6.675151087907452e-20),
+                                   f64(0x3A845C06E0E68948, 8.223128468162129e-27)};
+  constexpr double short_parts[] = {f64(0x3FE921FB54000000, 0.7853981629014015), f64(0x3E010B4612000000, 4.960467904491228e-10),
+                                    f64(0xBC2676733C000000, -6.088525906594782e-19),
+                                    f64(0x3A61701B839A2520, 1.7607799325916e-27), 0.0};
+  const auto whole = static_cast<int64_t>(magnitude * f64(0x3FF45F306DC9C883, 1.2732395447351628));
+  const auto n = static_cast<double>(whole + (whole & 1));
+  CompensatedSum r{magnitude};
+  for (double part : magnitude >= 0x1p23 ? long_parts : short_parts) r.Add(-(n * part));
+  r.Normalise();
+  return {r.hi, r.lo, (whole + 1) >> 1};
+}
+
+// The sine of the angle of a row of AngleTable512, plus hi + lo.
+inline double SineAtRow(int64_t row, double hi, double lo) {
+  const double* entry = &AngleTable512.entries[4 * row];
+  const double cos_tail = entry[0], cos_head = entry[1], sin_head = entry[2], sin_tail = entry[3];
+  const double by_head = cos_head * hi, by_tail = cos_tail * hi;
+  const double p = sin_head + by_head;
+  const double result = p + by_tail;
+  const double error = ((p - result) + by_tail) + ((sin_head - p) + by_head);
+  const double q = hi * hi;
+  const double cosine = cos_tail + cos_head;
+  const double sine_part =
+      (((f64(0x3EC71DE3A556C734, 2.7557319223985893e-06) * q - 1.0 / 5040) * q + 1.0 / 120) * q - 1.0 / 6) * q * hi;
+  const double cosine_part = (((f64(0x3EFA01A01A01A01A, 2.48015873015873e-05) * q - 1.0 / 720) * q + 1.0 / 24) * q - 0.5) * q;
+  const double sum = sine_part * cosine + error + cosine_part * sin_head;
+  return result + (sum + ((cosine - hi * sin_head) * lo + sin_tail));
+}
+
+inline LumStatus SineAndCosine(double x, double& sine, double& cosine) {
+  const auto pattern = std::bit_cast<uint64_t>(x);
+  const int exponent = static_cast<int>(pattern >> 52 & 0x7FF);
+  if (exponent == 0x7FF) {
+    const LumStatus status = CircularOfNonFinite(x, sine);
+    cosine = sine;
+    return status;
+  }
+  if (exponent < 771) {
+    sine = x == 0 ? x : (x * 0x1p55 - x) * 0x1p-55;  // inexact, as it should be
+    cosine = 1;
+    return lumStsOk;
+  }
+  ReducedArgument a{x, 0, 0};
+  if (exponent >= 1023 + 17) {
+    const auto magnitude = std::bit_cast<double>(pattern << 1 >> 1);
+    a = exponent >= 1023 + 30 ? ReduceByChunks(magnitude) : ReduceByParts(magnitude);
+    if (x < 0) a = {-a.hi, -a.lo, -a.quarters};
+  }
+  constexpr auto shifter = f64(0x4338000000000000, 0x1.8p52);
+  const double w = a.hi * f64(0x40245F306DC9C883, 10.185916357881302) + shifter;
+  const double n = w - shifter;
+  const double r = a.hi - n * f64(0x3FB921FB54400000, 0.09817477042088285);  // exact
+  const double second = n * f64(0x3D90B4611A600000, 3.798187816439979e-12);
+  const double hi = r - second;
+  const double lo = ((r - hi) - second) + (n * f64(0xBB63198A2E037073, -1.2639164054974691e-22) + a.lo);
+  const int64_t row = static_cast<int64_t>(std::bit_cast<uint64_t>(w)) + 16 * a.quarters;
+  sine = SineAtRow((row & 63) * 8, hi, lo);
+  cosine = SineAtRow(((row + 16) & 63) * 8, hi, lo);
+  return lumStsOk;
+}
+
+}  // namespace lum
