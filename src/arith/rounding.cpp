@@ -2,6 +2,7 @@
 // rounds to an integer and keeps the sign of a zero. Rint and NearbyInt take the rounding from the environment, which every
 // kernel has set to nearest before: both round ties to even, whatever the caller's mode. None reports a status.
 #include <cmath>
+#include <limits>
 
 #include "frame/kernel_frame.h"
 #include "frame/kernels.h"
@@ -10,7 +11,6 @@ namespace lum {
 namespace {
 
 // The rounding fields of rndscale to integers.
-constexpr int ties_to_even = 0x0;
 constexpr int down = 0x1;
 constexpr int up = 0x2;
 constexpr int environment = 0x4;
@@ -26,16 +26,12 @@ template <class T, int rounding> struct ToInteger : PlainKernel<T> {
   static LUM_INLINE Vec<T> VectorPath(Vec<T> x) { return rndscale<rounding>(x); }
 };
 
-// Ties away from zero. On magnitudes the even neighbour is the wrong one exactly where it lies below, half a unit away. `slot`
-// makes kernels of the same code that differ in their address.
+// Ties away from zero: the number below 1/2 added to the magnitude, and what is behind the point cut. A tie then lies so close
+// to the next integer that the sum rounds to it, and what is less than a tie by one place stays below it; from the size on
+// where all numbers are integers the sum rounds back. `slot` makes kernels of the same code that differ in their address.
+template <class T> inline constexpr T below_half = T(0.5) - std::numeric_limits<T>::epsilon() / 4;
 template <class T, int slot> struct RoundKernel : PlainKernel<T> {
-  static LUM_INLINE Vec<T> VectorPath(Vec<T> x) {
-    const auto a = abs(x);
-    const auto i = rndscale<ties_to_even>(a);
-    const auto d = a - i;  // exact
-    const auto r = i + zero_unless(eq(d, all(T(0.5))), all(T(1)));
-    return or_sign(x, r);
-  }
+  static LUM_INLINE Vec<T> VectorPath(Vec<T> x) { return rndscale<toward_zero>(x + or_sign(x, all(below_half<T>))); }
 };
 
 // What x has behind the point, with its sign. The difference is exact.

@@ -56,8 +56,7 @@ struct Scheme {
 };
 
 template <class T, Tier tier> struct CbrtKernel : Kernel<T> {
-  // The constants of the longest path leave registers for one stream alone.
-  static constexpr int vectors = std::is_same_v<T, Lum64f> && tier == Tier::high ? 1 : 2;
+  static constexpr int vectors = thirds_vectors<T, tier>;
   static constexpr Variant variant = pure_vector_variant;
   static LUM_INLINE Vec<T> VectorPath(Vec<T> x) {
     return or_sign(x, ThirdsMagnitude<Scheme, tier>(ReduceThirds<Scheme::power>(x)));

@@ -59,8 +59,7 @@ struct Scheme {
 };
 
 template <class T, Tier tier> struct InvCbrtKernel : Kernel<T> {
-  // The constants of the longest path leave registers for one stream alone.
-  static constexpr int vectors = std::is_same_v<T, Lum64f> && tier == Tier::high ? 1 : 2;
+  static constexpr int vectors = thirds_vectors<T, tier>;
   static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) {
     const auto a = ReduceThirds<Scheme::power>(x);
     return {or_sign(x, ThirdsMagnitude<Scheme, tier>(a)), unord(a.j, a.j)};

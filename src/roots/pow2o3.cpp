@@ -56,6 +56,7 @@ struct Scheme {
 };
 
 template <class T, Tier tier> struct Pow2o3Kernel : Kernel<T> {
+  static constexpr int vectors = thirds_vectors<T, tier>;
   static constexpr Variant variant = pure_vector_variant;
   static LUM_INLINE Vec<T> VectorPath(Vec<T> x) { return ThirdsMagnitude<Scheme, tier>(ReduceThirds<Scheme::power>(x)); }
 };

@@ -3,6 +3,8 @@
 // Both table factors stand in registers; e / 3 needs no integer conversion, as the integers lie in the low bits of floats.
 #pragma once
 
+#include <type_traits>
+
 #include "frame/kernel_frame.h"
 #include "tables/table.h"
 
@@ -67,8 +69,8 @@ template <class T> struct ThirdsReduced {
   Vec<T> c, r;
 };
 
-// The product of the shifter and the rounded third lies above a whole number by less than a third, so that rounding down (for a
-// negative third: up) finds q.
+// The rounded third of the shifted exponent, less the third of the shifter, exceeds e / 3 by less than 1/3, so that rounding
+// down finds q; for the negative power it falls below -e / 3 by as little, and is rounded up.
 template <Power power, class T> LUM_INLINE ThirdsReduced<T> ReduceThirds(Vec<T> x) {
   using C = ThirdsConstants<T>;
   const auto m = getmant<0x0>(x);
