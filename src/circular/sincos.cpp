@@ -1,0 +1,51 @@
+// sin x and cos x into two arrays, from one reduction. 32f A11 and A21 are the same kernel but for their place in the table.
+#include "circular/sine_cosine.h"
+#include "frame/kernel_frame.h"
+#include "frame/kernels.h"
+
+namespace lum {
+namespace {
+
+template <class T> LUM_INLINE TwoLanes<T> Both(const SineAndCosineValues<T>& v) { return {v.sine, v.cosine, v.refused}; }
+
+// A tier without a second vector path finishes all refused lanes by the routine.
+template <class Tier> struct Plain : Kernel<typename Tier::Element> {
+  using T = typename Tier::Element;
+  static LUM_INLINE TwoLanes<T> VectorPath(Vec<T> x) { return Both(Tier::Ordinary(x)); }
+  static LumStatus LaneRoutine(T x, T& sine, T& cosine) { return SineAndCosineRoutine(x, sine, cosine); }
+};
+template <class Tier> struct WithLargePath : Plain<Tier> {
+  using T = typename Tier::Element;
+  static LUM_INLINE TwoLanes<T> LargePath(Vec<T> x, const TwoLanes<T>&) { return Both(Tier::Large(x)); }
+};
+
+// Distinct kernels, each with a cell of its own for the hook.
+struct A11_32f : WithLargePath<QuarterTurns_A21> {};
+struct A21_32f : WithLargePath<QuarterTurns_A21> {};
+struct A24_32f : WithLargePath<QuarterTurns_A24> {};
+struct A26_64f : Plain<SineAndCosine_A26> {};
+struct A50_64f : WithLargePath<SineAndCosine_A50> {};
+struct A53_64f : WithLargePath<SineAndCosine_A53> {};
+
+}  // namespace
+
+LumStatus SinCos_32f_A11(const Lum32f* src, Lum32f* dst1, Lum32f* dst2, int32_t len) {
+  return TwoOutputs<A11_32f>(src, dst1, dst2, len);
+}
+LumStatus SinCos_32f_A21(const Lum32f* src, Lum32f* dst1, Lum32f* dst2, int32_t len) {
+  return TwoOutputs<A21_32f>(src, dst1, dst2, len);
+}
+LumStatus SinCos_32f_A24(const Lum32f* src, Lum32f* dst1, Lum32f* dst2, int32_t len) {
+  return TwoOutputs<A24_32f>(src, dst1, dst2, len);
+}
+LumStatus SinCos_64f_A26(const Lum64f* src, Lum64f* dst1, Lum64f* dst2, int32_t len) {
+  return TwoOutputs<A26_64f>(src, dst1, dst2, len);
+}
+LumStatus SinCos_64f_A50(const Lum64f* src, Lum64f* dst1, Lum64f* dst2, int32_t len) {
+  return TwoOutputs<A50_64f>(src, dst1, dst2, len);
+}
+LumStatus SinCos_64f_A53(const Lum64f* src, Lum64f* dst1, Lum64f* dst2, int32_t len) {
+  return TwoOutputs<A53_64f>(src, dst1, dst2, len);
+}
+
+}  // namespace lum

@@ -1,0 +1,80 @@
+// Sine and cosine of a binary64 number at once, for the functions that return both. A50 and A26 take |x| = n pi + r and, on the
+// other side of r, the odd multiple of pi/2 next to |x|; one odd polynomial serves both remainders. A53 reduces to sixteenths
+// of a half turn with a table.
+#pragma once
+
+#include "circular/chunk_routine.h"
+#include "circular/half_turns.h"
+#include "circular/nonfinite.h"
+#include "circular/quarter_turns.h"
+#include "circular/sixteenths.h"
+#include "circular/wide_reduction.h"
+
+namespace lum {
+
+// (sin r - r) / r^3 of q = r^2, |r| <= pi/2.
+LUM_INLINE Vec<Lum64f> LongDoubleSine(Vec<Lum64f> q) {
+  return horner(q, f64(0xBFC55555555554A7, -0.16666666666666183), f64(0x3F8111111110A4A6, 0.008333333333285186),
+                f64(0xBF2A01A019A5B86D, -0.00019841269824944237), f64(0x3EC71DE38030FEA0, 2.755731658449074e-06),
+                f64(0xBE5AE63546002231, -2.505187912674299e-08), f64(0x3DE60E6857A2F220, 1.6048055576979365e-10),
+                f64(0xBD69F0D60811AAC8, -7.37280909726507e-13));
+}
+
+// The results of the wide reduction in the lanes beyond the threshold.
+LUM_INLINE SineAndCosineValues<Lum64f> MergeWide(Vec<Lum64f> x, const SineAndCosineValues<Lum64f>& ordinary) {
+  const auto a = ReduceWide(abs(x));
+  return {select(ordinary.refused, SineOf(a.index, a.hi, a.lo) ^ sign_of(x), ordinary.sine),
+          select(ordinary.refused, CosineOf(a.index, a.hi, a.lo), ordinary.cosine), fpclass<0x99>(x)};
+}
+
+template <bool is_long> LUM_INLINE SineAndCosineValues<Lum64f> ByHalfTurns(Vec<Lum64f> x) {
+  const auto a = abs(x);
+  const auto [n, shifted] = NearestHalfTurns(a);
+  auto r = TakeHalfTurns(a, n);
+  // The sign of r tells on which side the odd multiple of pi/2 lies.
+  const auto m = n + or_sign(r, all(0.5));
+  const auto parity = ParitySign(shifted);
+  const auto cosine_sign = ternary<0xD2>(parity, bits(r), all(sign_bit<Lum64f>));  // a ^ (~b & c)
+  auto rc = TakeHalfTurns(a, m);
+  if constexpr (is_long) {
+    r = TakeThirdPart(r, n);
+    rc = TakeThirdPart(rc, m);
+  }
+  const auto odd_sine = [](Vec<Lum64f> v) {
+    const auto q = v * v;
+    return fma(is_long ? LongDoubleSine(q) : ShortDoubleSine(q), q * v, v);
+  };
+  const auto sine = odd_sine(r) ^ OddParitySign(shifted, x, a);
+  const auto cosine = odd_sine(rc) ^ cosine_sign;
+  return {sine, select(eq(a, all(0.0)), all(1.0), cosine), nle(a, all(0x1p23))};
+}
+
+struct SineAndCosine_A26 {
+  using Element = Lum64f;
+  static LUM_INLINE SineAndCosineValues<Lum64f> Ordinary(Vec<Lum64f> x) { return ByHalfTurns<false>(x); }
+};
+struct SineAndCosine_A50 {
+  using Element = Lum64f;
+  static LUM_INLINE SineAndCosineValues<Lum64f> Ordinary(Vec<Lum64f> x) { return ByHalfTurns<true>(x); }
+  static LUM_INLINE SineAndCosineValues<Lum64f> Large(Vec<Lum64f> x) { return MergeWide(x, Ordinary(x)); }
+};
+struct SineAndCosine_A53 {
+  using Element = Lum64f;
+  static LUM_INLINE SineAndCosineValues<Lum64f> Ordinary(Vec<Lum64f> x) {
+    const auto a = abs(x);
+    const auto r = TakeSixteenths(a);
+    const auto angle = AngleOf(r.shifted);
+    return {SineOf(angle, r) ^ HalfTurnSign(r, x), CosineOf(angle, r) ^ HalfTurnSign(r), nle(a, all(0x1p24))};
+  }
+  static LUM_INLINE SineAndCosineValues<Lum64f> Large(Vec<Lum64f> x) { return MergeWide(x, Ordinary(x)); }
+};
+
+// The lane routine of either type and tier: in binary32 only infinities and NaN come here.
+inline LumStatus SineAndCosineRoutine(Lum32f x, Lum32f& sine, Lum32f& cosine) {
+  const LumStatus status = CircularOfNonFinite(x, sine);
+  cosine = sine;
+  return status;
+}
+inline LumStatus SineAndCosineRoutine(Lum64f x, Lum64f& sine, Lum64f& cosine) { return SineAndCosine(x, sine, cosine); }
+
+}  // namespace lum

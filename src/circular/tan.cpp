@@ -1,0 +1,235 @@
+// tan x. With x = k pi/N + r, N = 16 or 32, T = tan(k pi/N) from a table in registers and p = tan r by a polynomial:
+// tan x = (T + p) / (1 - T p). At the pole T is the most negative number, for which the quotient is -1/p without a case of its
+// own, and for k = 0 it is -0, which keeps the sign of a zero. The tiers differ in the tails that they carry of r, T and the
+// quotient. Beyond the threshold the angle from the wide reduction is brought to the same k and r, and the block evaluated
+// again.
+#include "circular/nonfinite.h"
+#include "circular/sixteenths.h"
+#include "circular/wide_reduction.h"
+#include "frame/kernel_frame.h"
+#include "frame/kernels.h"
+
+namespace lum {
+namespace {
+
+// x = k pi/N + hi + lo; k in the low bits. Tiers without tails have lo = 0.
+template <class T> struct Reduced {
+  Vec<T> hi, lo;
+  Vec<UnsignedOf<T>> k;
+};
+
+template <class T> struct TanConstants;
+template <> struct TanConstants<Lum32f> {  // N = 32
+  static constexpr auto table = table32({
+#include "tables/generated/tangent_32.inc"
+  });
+  static constexpr auto tails = table32({
+#include "tables/generated/tangent_32_tail.inc"
+  });
+  static constexpr auto wide_step = f32(0x3CC90FDB, 0.02454369328916073),
+                        wide_step_tail = f32(0xB03BBD2E, -6.829904419802801e-10);  // turn/256
+  static constexpr int wide_shift = 2;
+};
+template <> struct TanConstants<Lum64f> {  // N = 16
+  static constexpr auto table = table64({
+#include "tables/generated/tangent_16.inc"
+  });
+  static constexpr auto tails = table64({
+#include "tables/generated/tangent_16_tail.inc"
+  });
+  static constexpr auto wide_step = f64(0x3F8921FB54442D18, 0.01227184630308513),
+                        wide_step_tail = f64(0x3C21A62633145C06, 4.7837765591693475e-19);  // turn/512
+  static constexpr int wide_shift = 4;
+};
+
+LUM_INLINE Vec<Lum32f> FromInteger(Vec<uint32_t> m) { return to_float(as_signed(m)); }
+LUM_INLINE Vec<Lum64f> FromInteger(Vec<uint64_t> m) { return to_double(m); }
+
+// The wide reduction, its index rounded to the steps of the table. A tie goes to the side of the remainder.
+template <class T> LUM_INLINE Reduced<T> ReduceWideToTable(Vec<T> x) {
+  using C = TanConstants<T>;
+  using U = UnsignedOf<T>;
+  constexpr U steps = U{1} << C::wide_shift;
+  const auto a = ReduceWide(x);
+  const auto negative = shift_right_arithmetic<8 * sizeof(T) - 1>(bits(a.hi));  // -1 or 0
+  const auto rounded = a.index + all(static_cast<U>(steps / 2)) + negative;
+  const auto m = FromInteger(a.index - (rounded & all(static_cast<U>(~(steps - 1)))));
+  const auto product = m * all(C::wide_step);
+  const auto r = fast_two_sum(product, a.hi);  // m = 0 is exact, too
+  const auto lo = fma(m, all(C::wide_step_tail), fms(m, all(C::wide_step), product)) + (r.error + a.lo);
+  return {r.sum, lo, shift_right<C::wide_shift>(rounded)};
+}
+
+template <class T> LUM_INLINE Vec<T> Entry(const T* table, Vec<UnsignedOf<T>> k) {
+  return permute2(load(table), load(table + lanes_of<T>), k);
+}
+template <class T> LUM_INLINE Vec<T> TangentOf(const Reduced<T>& a) { return Entry<T>(TanConstants<T>::table, a.k); }
+
+// (T + p) / (1 - T p) with all tails, refined reciprocal or not. c is p - r, small against r.
+template <class T> LUM_INLINE Vec<T> QuotientWithTails(const Reduced<T>& a, Vec<T> c) {
+  const auto t = TangentOf(a), t_tail = Entry<T>(TanConstants<T>::tails, a.k);
+  const auto p = fast_two_sum(a.hi, c);
+  const auto p_tail = p.error + a.lo;
+  const auto u = fast_two_sum(t, p.sum);
+  const auto u_tail = (u.error + p_tail) + t_tail;
+  const auto product = t * p.sum;
+  const auto product_tail = fma(t, p_tail, fma(t_tail, p.sum, fms(t, p.sum, product)));
+  const auto d = two_sum(all(T{1}), negate(product));
+  const auto d_tail = d.error - product_tail;
+  auto w = rcp14(d.sum);
+  if constexpr (sizeof(T) == 8) w = fma(fnma(d.sum, w, all(T{1})), w, w);
+  const auto q = w * u.sum;
+  const auto z = fma(q, d_tail, fms(d.sum, q, u.sum)) - u_tail;
+  return fnma(w, z, q);
+}
+
+// The tiers by their Tier::Reduce, Tier::Evaluate and Tier::threshold.
+template <class Tier, class T> struct Tangent : Kernel<T> {
+  static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) {
+    return {Tier::Evaluate(Tier::Reduce(x)), nle(abs(x), all(T{Tier::threshold}))};
+  }
+  static LUM_INLINE Lanes<T> LargePath(Vec<T> x, const Lanes<T>& lanes) {
+    const auto ordinary = Tier::Reduce(x);
+    auto wide = ReduceWideToTable(x);
+    if constexpr (!Tier::has_tails) wide = {wide.hi + wide.lo, wide.lo, wide.k};
+    const auto at = lanes.refused;
+    const Reduced<T> merged{select(at, wide.hi, ordinary.hi), select(at, wide.lo, ordinary.lo),
+                            select(mask_cast<UnsignedOf<T>>(at), wide.k, ordinary.k)};
+    return {Tier::Evaluate(merged), fpclass<0x99>(x)};
+  }
+  static LumStatus LaneRoutine(T x, T& result) { return CircularOfNonFinite(x, result); }
+};
+
+struct CountOf32nds {
+  Vec<Lum32f> n, shifted;
+};
+LUM_INLINE CountOf32nds Nearest32nds(Vec<Lum32f> x) {
+  constexpr auto shifter = f32(0x4B400000, 12582912.0);
+  const auto t = fma(x, all(f32(0x4122F983, 10.18591594696045)), all(shifter));
+  return {t - all(shifter), t};
+}
+constexpr auto part1_of_32nd = f32(0x3DC90FDA, 0.09817476570606232);
+
+LUM_INLINE Reduced<Lum32f> Reduce32f(Vec<Lum32f> x) {
+  const auto [n, shifted] = Nearest32nds(x);
+  const auto r = fnma(n, all(f32(0x31A22168, 4.718618384913498e-09)), fnma(n, all(part1_of_32nd), x));
+  return {fnma(n, all(f32(0x25C234C5, 3.368939345921399e-16)), r), all(0.0f), bits(shifted)};
+}
+
+struct A11_32f : Tangent<A11_32f, Lum32f> {
+  static constexpr float threshold = 8256;
+  static constexpr bool has_tails = false;
+  static LUM_INLINE Reduced<Lum32f> Reduce(Vec<Lum32f> x) { return Reduce32f(x); }
+  static LUM_INLINE Vec<Lum32f> Evaluate(const Reduced<Lum32f>& a) {
+    const auto t = TangentOf(a);
+    const auto p = fma(all(f32(0x3EAAAAA6, 0.33333319425582886)) * a.hi, a.hi * a.hi, a.hi);
+    return (t + p) * rcp14(fnma(t, p, all(1.0f)));  // the reciprocal's 14 bits are enough
+  }
+};
+
+// (tan r - r) / r^3 of s = r^2, |r| <= pi/64.
+LUM_INLINE Vec<Lum32f> TangentSeries(Vec<Lum32f> s) {
+  return horner(s, f32(0x3EAAAAA6, 0.33333319425582886), f32(0x3E08B888, 0.13351643085479736));
+}
+
+struct A21_32f : Tangent<A21_32f, Lum32f> {
+  static constexpr float threshold = 8256;
+  static constexpr bool has_tails = false;
+  static LUM_INLINE Reduced<Lum32f> Reduce(Vec<Lum32f> x) { return Reduce32f(x); }
+  static LUM_INLINE Vec<Lum32f> Evaluate(const Reduced<Lum32f>& a) {
+    const auto t = TangentOf(a);
+    const auto s = a.hi * a.hi;
+    const auto p = fma(TangentSeries(s) * a.hi, s, a.hi);
+    const auto h = p + t;
+    const auto tail = p - (h - t);
+    const auto b = t * p;
+    const auto d = all(1.0f) - b;
+    const auto d_error = (d - all(1.0f)) + b;
+    const auto w = rcp14(d);
+    const auto q = h * w;
+    const auto z = fnma(q, d_error, fms(d, q, h)) - tail;
+    return fnma(w, z, q);
+  }
+};
+
+struct A24_32f : Tangent<A24_32f, Lum32f> {
+  static constexpr float threshold = 8256;
+  static constexpr bool has_tails = true;
+  static LUM_INLINE Reduced<Lum32f> Reduce(Vec<Lum32f> x) {
+    const auto [n, shifted] = Nearest32nds(x);
+    // The second part has so few bits that n times it is exact.
+    const auto part2 = all(f32(0x31A22000, 4.718458512797952e-09)), part3 = all(f32(0x2A34611A, 1.602090042660681e-13));
+    const auto r1 = fnma(n, all(part1_of_32nd), x);
+    const auto r2 = fnma(n, part2, r1);
+    const auto error2 = fnma(n, part2, r1 - r2);
+    const auto hi = fnma(n, part3, r2);
+    return {hi, error2 + fnma(n, part3, r2 - hi), bits(shifted)};
+  }
+  static LUM_INLINE Vec<Lum32f> Evaluate(const Reduced<Lum32f>& a) {
+    const auto s = a.hi * a.hi;
+    return QuotientWithTails(a, (TangentSeries(s) * a.hi) * s);
+  }
+};
+
+// The coefficients from r^5 up to r^9; A50 and A53 have one more.
+template <bool is_long> LUM_INLINE Vec<Lum64f> TangentSeries(Vec<Lum64f> s) {
+  if constexpr (is_long) {
+    return horner(s, f64(0x3FD55555555555DC, 0.3333333333333408), f64(0x3FC11111110B0802, 0.13333333332235503),
+                  f64(0x3FABA1BA489D25CA, 0.053968259204860994), f64(0x3F9664AB664EFBA9, 0.021868398780266727),
+                  f64(0x3F825CCCC7C9FA5D, 0.008966064307285021));
+  } else {
+    return horner(s, f64(0x3FD55555555555DC, 0.3333333333333408), f64(0x3FC11111110B0802, 0.13333333332235503),
+                  f64(0x3FABA1BA489D25CA, 0.053968259204860994), f64(0x3F9664AB664EFBA9, 0.021868398780266727));
+  }
+}
+
+template <bool is_long> struct OneWord_64f : Tangent<OneWord_64f<is_long>, Lum64f> {
+  static constexpr double threshold = 128000;
+  static constexpr bool has_tails = false;
+  static constexpr int vectors = 4;
+  static LUM_INLINE Reduced<Lum64f> Reduce(Vec<Lum64f> x) {
+    constexpr auto shifter = f64(0x4338000000000000, 0x1.8p52);
+    const auto t = fma(x, all(f64(0x40145F306DC9C883, 5.092958178940651)), all(shifter));
+    const auto n = t - all(shifter);
+    const auto r = fnma(n, all(f64(0x3C61A62633145C06, 7.654042494670956e-18)),
+                        fnma(n, all(f64(0x3FC921FB54442D18, 0.19634954084936207)), x));
+    return {fnma(n, all(f64(0x391C1CD129024E09, 1.3535708424023925e-33)), r), all(0.0), bits(t)};
+  }
+  static LUM_INLINE Vec<Lum64f> Evaluate(const Reduced<Lum64f>& a) {
+    const auto t = TangentOf(a);
+    const auto s = a.hi * a.hi;
+    const auto p = fma(TangentSeries<is_long>(s) * a.hi, s, a.hi);
+    const auto u = p + t;
+    const auto d = fnma(t, p, all(1.0));
+    const auto seed = rcp14(d);
+    const auto w = fma(fnma(d, seed, all(1.0)), seed, seed);
+    const auto q = w * u;
+    return fnma(w, fms(d, q, u), q);
+  }
+};
+struct A26_64f : OneWord_64f<false> {};
+struct A50_64f : OneWord_64f<true> {};
+
+struct A53_64f : Tangent<A53_64f, Lum64f> {
+  static constexpr double threshold = f64(0x40F000000E4DB24C, 65536.00349206588);
+  static constexpr bool has_tails = true;
+  static LUM_INLINE Reduced<Lum64f> Reduce(Vec<Lum64f> x) {
+    const auto r = TakeSixteenths(x);
+    return {r.hi, r.lo, r.shifted};
+  }
+  static LUM_INLINE Vec<Lum64f> Evaluate(const Reduced<Lum64f>& a) {
+    const auto s = a.hi * a.hi;
+    return QuotientWithTails(a, (TangentSeries<true>(s) * a.hi) * s);
+  }
+};
+
+}  // namespace
+
+LumStatus Tan_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len) { return OneInput<A11_32f>(src, dst, len); }
+LumStatus Tan_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len) { return OneInput<A21_32f>(src, dst, len); }
+LumStatus Tan_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len) { return OneInput<A24_32f>(src, dst, len); }
+LumStatus Tan_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A26_64f>(src, dst, len); }
+LumStatus Tan_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A50_64f>(src, dst, len); }
+LumStatus Tan_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A53_64f>(src, dst, len); }
+
+}  // namespace lum
