@@ -73,10 +73,15 @@ template <class K, int n> LUM_INLINE auto Compute(const K& kernel, const Inputs<
   else return kernel.VectorPath(x[0], x[1]);
 }
 
+template <class K, int n>
+concept HasLargePath = requires(const K kernel, const Inputs<K, n> x) {
+  kernel.LargePath(x[0], kernel.VectorPath(x[0]));
+};
+
 // The same with the second path, where a kernel has one.
 template <class K, int n> LUM_INLINE auto ComputeRefused(const K& kernel, const Inputs<K, n>& x) {
   auto r = Compute<K, n>(kernel, x);
-  if constexpr (requires { kernel.LargePath(x[0], r); }) {
+  if constexpr (HasLargePath<K, n>) {
     if (any(r.refused)) r = kernel.LargePath(x[0], r);
   }
   return r;
@@ -99,6 +104,15 @@ template <class K, int n, int m> LUM_INLINE Inputs<K, n> LoadStep(const Arrays<K
   return x;
 }
 
+template <class K, int n, int m, class Result> LUM_INLINE void StoreStep(const Arrays<K, n, m>& a, int64_t i, const Result& r) {
+  if constexpr (m == 2) {
+    StoreElements(a.dst[0] + i, r.value1);
+    StoreElements(a.dst[1] + i, r.value2);
+  } else {
+    StoreElements(a.dst[0] + i, Values<K, m>(r)[0]);
+  }
+}
+
 }  // namespace frame
 
 // Finishes a block with refused lanes: count elements from index first on, fewer than a block in the tail. It computes the
@@ -111,7 +125,7 @@ __attribute__((noinline, cold)) void FinishLanes(const K& kernel, const Arrays<K
   constexpr int step = step_of<K>;
   alignas(64) Input inputs[n][block_of<K>];
   alignas(64) Output results[m][block_of<K>];
-  uint32_t refused[K::vectors] = {};
+  uint32_t refused[K::vectors] = {}, any_refused = 0;
 
   for (int v = 0; v * step < count; ++v) {
     const int active = std::min(step, count - v * step);
@@ -122,11 +136,12 @@ __attribute__((noinline, cold)) void FinishLanes(const K& kernel, const Arrays<K
     for (int j = 0; j < m; ++j) StoreElements(&results[j][v * step], values[j]);
     // A fill lane is refused only where a parameter makes it so; its result would be dropped by the masked store.
     refused[v] = element_bits(r.refused) & ((1u << active) - 1u);
+    any_refused |= refused[v];
   }
   if constexpr (K::variant.x87 == X87Form::lazy) {
-    if (!call.environment.x87_prepared) X87Prepare(call.environment);
+    if (any_refused != 0 && !call.environment.x87_prepared) X87Prepare(call.environment);
   }
-  for (int lane = 0; lane < count; ++lane) {
+  for (int lane = 0; any_refused != 0 && lane < count; ++lane) {
     if ((refused[lane / step] >> (lane % step) & 1) == 0) continue;
     const auto routine = [&](auto&... cells) { return kernel.LaneRoutine(cells...); };
     const auto status = [&] {
@@ -155,18 +170,37 @@ __attribute__((noinline, cold)) void FinishLanes(const K& kernel, const Arrays<K
 
 namespace frame {
 
+// A full block with refused lanes whose kernel has a second vector path, which most often finishes all of them.
+template <class K, int n, int m>
+__attribute__((noinline)) void LargeBlock(const K& kernel, const Arrays<K, n, m>& arrays, int64_t first, Call& call) {
+  Outputs<K, m> values[K::vectors];
+  bool all_finished = true;
+  for (int v = 0; v < K::vectors; ++v) {
+    const auto r = ComputeRefused<K, n>(kernel, LoadStep<K, n, m>(arrays, first + v * step_of<K>));
+    values[v] = Values<K, m>(r);
+    all_finished = all_finished && !any(r.refused);
+  }
+  if (!all_finished) {
+    FinishLanes(kernel, arrays, first, block_of<K>, call);
+    return;
+  }
+  for (int v = 0; v < K::vectors; ++v) {
+    for (int j = 0; j < m; ++j) StoreElements(arrays.dst[j] + first + v * step_of<K>, values[v][j]);
+  }
+}
+
 // One full block: v runs over its vectors, whose streams the processor overlaps.
 template <class K, int n, int m, size_t... v>
 LUM_INLINE void Block(const K& kernel, const Arrays<K, n, m>& arrays, int64_t i, Call& call, std::index_sequence<v...>) {
   const std::array results{Compute<K, n>(kernel, LoadStep<K, n, m>(arrays, i + static_cast<int64_t>(v) * step_of<K>))...};
   if constexpr (requires { results[0].refused; }) {
     if (any((results[v].refused | ...))) [[unlikely]] {
-      FinishLanes(kernel, arrays, i, block_of<K>, call);
+      if constexpr (HasLargePath<K, n>) LargeBlock<K, n, m>(kernel, arrays, i, call);
+      else FinishLanes(kernel, arrays, i, block_of<K>, call);
       return;
     }
   }
-  const Outputs<K, m> values[] = {Values<K, m>(results[v])...};
-  for (int j = 0; j < m; ++j) { (StoreElements(arrays.dst[j] + i + static_cast<int64_t>(v) * step_of<K>, values[v][j]), ...); }
+  (StoreStep<K, n, m>(arrays, i + static_cast<int64_t>(v) * step_of<K>, results[v]), ...);
 }
 
 // A vector of fewer elements, the rest of its lanes holding the fill.
