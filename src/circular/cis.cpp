@@ -18,6 +18,7 @@ template <class C, class T> LUM_INLINE Lanes<C> Pairs(const SineAndCosineValues<
 template <class Tier> struct Plain : Kernel<typename Tier::Element, typename ComplexOf<typename Tier::Element>::Type> {
   using T = typename Tier::Element;
   using C = typename ComplexOf<T>::Type;
+  static constexpr int vectors = sizeof(T) == 8 ? 1 : 2;  // more would not fit into the registers
   static LUM_INLINE Lanes<C> VectorPath(Vec<T> x) { return Pairs<C>(Tier::Ordinary(x)); }
   static void LaneRoutine(T x, C& result) { SineAndCosineRoutine(x, result.im, result.re); }
 };

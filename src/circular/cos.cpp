@@ -72,7 +72,7 @@ struct A24_32f : Float {
 
 struct Double : Kernel<Lum64f> {
   static LUM_INLINE Lanes<Lum64f> LargePath(Vec<Lum64f> x, const Lanes<Lum64f>& lanes) {
-    return MergeLarge(x, lanes, LargeCosine(abs(x)));
+    return MergeLarge(x, lanes, LargeCosine(x));
   }
   static LumStatus LaneRoutine(Lum64f x, Lum64f& result) { return CircularOfNonFinite(x, result); }
 };

@@ -79,7 +79,7 @@ struct A26_64f : Kernel<Lum64f> {
 
 struct Double : Kernel<Lum64f> {
   static LUM_INLINE Lanes<Lum64f> LargePath(Vec<Lum64f> x, const Lanes<Lum64f>& lanes) {
-    return MergeLarge(x, lanes, LargeSine(abs(x)) ^ sign_of(x));
+    return MergeLarge(x, lanes, LargeSine(x) ^ sign_of(x));
   }
   static LumStatus LaneRoutine(Lum64f x, Lum64f& result) { return CircularOfNonFinite(x, result); }
 };

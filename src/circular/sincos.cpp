@@ -11,6 +11,7 @@ template <class T> LUM_INLINE TwoLanes<T> Both(const SineAndCosineValues<T>& v) 
 // A tier without a second vector path finishes all refused lanes by the routine.
 template <class Tier> struct Plain : Kernel<typename Tier::Element> {
   using T = typename Tier::Element;
+  static constexpr int vectors = sizeof(T) == 8 ? 1 : 2;  // more would not fit into the registers
   static LUM_INLINE TwoLanes<T> VectorPath(Vec<T> x) { return Both(Tier::Ordinary(x)); }
   static LumStatus LaneRoutine(T x, T& sine, T& cosine) { return SineAndCosineRoutine(x, sine, cosine); }
 };

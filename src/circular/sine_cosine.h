@@ -22,9 +22,16 @@ LUM_INLINE Vec<Lum64f> LongDoubleSine(Vec<Lum64f> q) {
 
 // The results of the wide reduction in the lanes beyond the threshold.
 LUM_INLINE SineAndCosineValues<Lum64f> MergeWide(Vec<Lum64f> x, const SineAndCosineValues<Lum64f>& ordinary) {
-  const auto a = ReduceWide(abs(x));
+  const auto a = ReduceLarge(x);
   return {select(ordinary.refused, SineOf(a.index, a.hi, a.lo) ^ sign_of(x), ordinary.sine),
           select(ordinary.refused, CosineOf(a.index, a.hi, a.lo), ordinary.cosine), fpclass<0x99>(x)};
+}
+
+// sin r.
+template <bool is_long> LUM_INLINE Vec<Lum64f> OddSine(Vec<Lum64f> r) {
+  const auto q = r * r;
+  if constexpr (is_long) return fma(LongDoubleSine(q), q * r, r);
+  else return fma(ShortDoubleSine(q), q * r, r);
 }
 
 template <bool is_long> LUM_INLINE SineAndCosineValues<Lum64f> ByHalfTurns(Vec<Lum64f> x) {
@@ -40,12 +47,8 @@ template <bool is_long> LUM_INLINE SineAndCosineValues<Lum64f> ByHalfTurns(Vec<L
     r = TakeThirdPart(r, n);
     rc = TakeThirdPart(rc, m);
   }
-  const auto odd_sine = [](Vec<Lum64f> v) {
-    const auto q = v * v;
-    return fma(is_long ? LongDoubleSine(q) : ShortDoubleSine(q), q * v, v);
-  };
-  const auto sine = odd_sine(r) ^ OddParitySign(shifted, x, a);
-  const auto cosine = odd_sine(rc) ^ cosine_sign;
+  const auto sine = OddSine<is_long>(r) ^ OddParitySign(shifted, x, a);
+  const auto cosine = OddSine<is_long>(rc) ^ cosine_sign;
   return {sine, select(eq(a, all(0.0)), all(1.0), cosine), nle(a, all(0x1p23))};
 }
 

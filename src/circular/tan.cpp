@@ -50,7 +50,7 @@ template <class T> LUM_INLINE Reduced<T> ReduceWideToTable(Vec<T> x) {
   using C = TanConstants<T>;
   using U = UnsignedOf<T>;
   constexpr U steps = U{1} << C::wide_shift;
-  const auto a = ReduceWide(x);
+  const auto a = ReduceWide(x, sign_of(x));
   const auto negative = shift_right_arithmetic<8 * sizeof(T) - 1>(bits(a.hi));  // -1 or 0
   const auto rounded = a.index + all(static_cast<U>(steps / 2)) + negative;
   const auto m = FromInteger(a.index - (rounded & all(static_cast<U>(~(steps - 1)))));
@@ -65,19 +65,26 @@ template <class T> LUM_INLINE Vec<T> Entry(const T* table, Vec<UnsignedOf<T>> k)
 }
 template <class T> LUM_INLINE Vec<T> TangentOf(const Reduced<T>& a) { return Entry<T>(TanConstants<T>::table, a.k); }
 
-// (T + p) / (1 - T p) with all tails, refined reciprocal or not. c is p - r, small against r.
+// 1 / d to 14 bits in binary32, to 28 in binary64.
+LUM_INLINE Vec<Lum32f> Reciprocal(Vec<Lum32f> d) { return rcp14(d); }
+LUM_INLINE Vec<Lum64f> Reciprocal(Vec<Lum64f> d) {
+  const auto seed = rcp14(d);
+  return fma(fnma(d, seed, all(1.0)), seed, seed);
+}
+
+// (T + p) / (1 - T p) with all tails. c is p - r, small against r.
 template <class T> LUM_INLINE Vec<T> QuotientWithTails(const Reduced<T>& a, Vec<T> c) {
-  const auto t = TangentOf(a), t_tail = Entry<T>(TanConstants<T>::tails, a.k);
-  const auto p = fast_two_sum(a.hi, c);
-  const auto p_tail = p.error + a.lo;
+  const auto [hi, lo, k] = a;
+  const auto t = Entry<T>(TanConstants<T>::table, k), t_tail = Entry<T>(TanConstants<T>::tails, k);
+  const auto p = fast_two_sum(hi, c);
+  const auto p_tail = p.error + lo;
   const auto u = fast_two_sum(t, p.sum);
   const auto u_tail = (u.error + p_tail) + t_tail;
   const auto product = t * p.sum;
   const auto product_tail = fma(t, p_tail, fma(t_tail, p.sum, fms(t, p.sum, product)));
   const auto d = two_sum(all(T{1}), negate(product));
   const auto d_tail = d.error - product_tail;
-  auto w = rcp14(d.sum);
-  if constexpr (sizeof(T) == 8) w = fma(fnma(d.sum, w, all(T{1})), w, w);
+  const auto w = Reciprocal(d.sum);
   const auto q = w * u.sum;
   const auto z = fma(q, d_tail, fms(d.sum, q, u.sum)) - u_tail;
   return fnma(w, z, q);
@@ -145,7 +152,7 @@ struct A21_32f : Tangent<A21_32f, Lum32f> {
     const auto b = t * p;
     const auto d = all(1.0f) - b;
     const auto d_error = (d - all(1.0f)) + b;
-    const auto w = rcp14(d);
+    const auto w = Reciprocal(d);
     const auto q = h * w;
     const auto z = fnma(q, d_error, fms(d, q, h)) - tail;
     return fnma(w, z, q);
@@ -201,8 +208,7 @@ template <bool is_long> struct OneWord_64f : Tangent<OneWord_64f<is_long>, Lum64
     const auto p = fma(TangentSeries<is_long>(s) * a.hi, s, a.hi);
     const auto u = p + t;
     const auto d = fnma(t, p, all(1.0));
-    const auto seed = rcp14(d);
-    const auto w = fma(fnma(d, seed, all(1.0)), seed, seed);
+    const auto w = Reciprocal(d);
     const auto q = w * u;
     return fnma(w, fms(d, q, u), q);
   }
@@ -211,13 +217,14 @@ struct A26_64f : OneWord_64f<false> {};
 struct A50_64f : OneWord_64f<true> {};
 
 struct A53_64f : Tangent<A53_64f, Lum64f> {
+  static constexpr int vectors = 1;
   static constexpr double threshold = f64(0x40F000000E4DB24C, 65536.00349206588);
   static constexpr bool has_tails = true;
   static LUM_INLINE Reduced<Lum64f> Reduce(Vec<Lum64f> x) {
-    const auto r = TakeSixteenths(x);
-    return {r.hi, r.lo, r.shifted};
+    const auto [hi, lo, shifted] = TakeSixteenths(x);
+    return {hi, lo, shifted};
   }
-  static LUM_INLINE Vec<Lum64f> Evaluate(const Reduced<Lum64f>& a) {
+  static LUM_INLINE Vec<Lum64f> Evaluate(Reduced<Lum64f> a) {
     const auto s = a.hi * a.hi;
     return QuotientWithTails(a, (TangentSeries<true>(s) * a.hi) * s);
   }

@@ -13,10 +13,11 @@
 namespace lum {
 
 // Row e, for the exponent field e of x: three words with (1/pi) 2^(e - 884) modulo 2^192, or 2^(e - 55) modulo 2^96.
-inline constexpr Table<uint64_t, 3 * 2048> WideReductionTable64 = {{
+// One more word, since rows are read four words at a time.
+inline constexpr Table<uint64_t, 3 * 2048 + 1> WideReductionTable64 = {{
 #include "tables/generated/wide_reduction_64.inc"
 }};
-inline constexpr Table<uint32_t, 3 * 256> WideReductionTable32 = {{
+inline constexpr Table<uint32_t, 3 * 256 + 1> WideReductionTable32 = {{
 #include "tables/generated/wide_reduction_32.inc"
 }};
 // Row i, for the angle of i/512 turn: tail and head of the cosine, head and tail of the sine. The head of the cosine is a power
@@ -69,7 +70,7 @@ template <class T> LUM_INLINE TurnBits<UnsignedOf<T>> TurnsOf(Vec<T> x) {
   const auto a = bits(x);
   const auto exponent = shift_right<C::fraction_bits>(a) & all(static_cast<U>(sizeof(T) == 8 ? 0x7FF : 0xFF));
   const auto row = exponent + exponent + exponent;
-  const auto w0 = gather(C::table, row), w1 = gather(C::table + 1, row), w2 = gather(C::table + 2, row);
+  const auto [w0, w1, w2, next_row] = gather_rows(C::table, row);
   const auto a5 = high(w0), a4 = LowLimb(w0), a3 = high(w1), a2 = LowLimb(w1), a1 = high(w2), a0 = LowLimb(w2);
   const auto m1 = (high(a) & all(static_cast<U>(hidden_bit - 1))) | all(hidden_bit);
   const auto m0 = LowLimb(a);
@@ -84,19 +85,18 @@ template <class T> LUM_INLINE TurnBits<UnsignedOf<T>> TurnsOf(Vec<T> x) {
 }
 
 // x = whole turns + index (turn/512 or turn/256) + hi + lo, |hi| up to half a step of the index. With a negative x the index is
-// negative, in two's complement.
+// negative, in two's complement; sign is the sign bit of x, or zero to reduce |x|.
 template <class T> struct WideAngle {
   Vec<UnsignedOf<T>> index;
   Vec<T> hi, lo;
 };
 
-template <class T> LUM_INLINE WideAngle<T> ReduceWide(Vec<T> x) {
+template <class T> LUM_INLINE WideAngle<T> ReduceWide(Vec<T> x, Vec<UnsignedOf<T>> sign) {
   using C = WideConstants<T>;
   using U = UnsignedOf<T>;
   constexpr int width = 8 * sizeof(T), p = C::fraction_bits, rest = 2 * (width - p);
   constexpr U fraction_mask = (U{1} << p) - 1;
   const auto turns = TurnsOf(x);
-  const auto sign = sign_of(x);
   // Numbers from bits: a unit with the bits as its fraction, less the unit. All differences are exact.
   const auto one = [&](U unit) { return all(unit) | sign; };
   const auto z = as_float(shift_right<width - p>(turns.high) | one(C::one));
@@ -116,10 +116,7 @@ template <class T> LUM_INLINE WideAngle<T> ReduceWide(Vec<T> x) {
 
 // sin(index + hi + lo), by the addition theorem with polynomials for the sine and cosine of hi.
 LUM_INLINE Vec<Lum64f> SineOf(Vec<uint64_t> index, Vec<Lum64f> hi, Vec<Lum64f> lo) {
-  const double* table = AngleTable512;
-  const auto row = shift_left<2>(index);
-  const auto cos_tail = gather(table, row), cos_head = gather(table + 1, row);
-  const auto sin_head = gather(table + 2, row), sin_tail = gather(table + 3, row);
+  const auto [cos_tail, cos_head, sin_head, sin_tail] = gather_rows<Lum64f>(AngleTable512, shift_left<2>(index));
   const auto p = fma(cos_head, hi, sin_head);
   const auto result = fma(cos_tail, hi, p);
   const auto error = fma(cos_tail, hi, p - result) + fma(cos_head, hi, sin_head - p);
@@ -134,10 +131,7 @@ LUM_INLINE Vec<Lum64f> SineOf(Vec<uint64_t> index, Vec<Lum64f> hi, Vec<Lum64f> l
   return result + (sum + fma(lo, slope, sin_tail));
 }
 LUM_INLINE Vec<Lum32f> SineOf(Vec<uint32_t> index, Vec<Lum32f> hi, Vec<Lum32f> lo) {
-  const float* table = AngleTable256;
-  const auto row = shift_left<2>(index);
-  const auto cos_tail = gather(table, row), sin_head = gather(table + 1, row);
-  const auto sin_tail = gather(table + 2, row), cos_head = gather(table + 3, row);
+  const auto [cos_tail, sin_head, sin_tail, cos_head] = gather_rows<Lum32f>(AngleTable256, shift_left<2>(index));
   const auto slope = fnma(sin_head, hi, cos_tail + cos_head);
   const auto q = hi * hi;
   const auto cosine_part = fma(all(f32(0x3D2AAA7C, 0.04166649281978607)), q, all(-0.5f)) * q;
@@ -155,12 +149,16 @@ template <class T> LUM_INLINE Vec<T> CosineOf(Vec<UnsignedOf<T>> index, Vec<T> h
   return SineOf((index + all(C::quarter)) & all(C::index_mask), hi, lo);
 }
 
+// sin x and cos x by way of |x|, the sign of the sine still to be applied (64f); with the sign of x (32f).
+LUM_INLINE WideAngle<Lum64f> ReduceLarge(Vec<Lum64f> x) { return ReduceWide(x, all(uint64_t{0})); }
+LUM_INLINE WideAngle<Lum32f> ReduceLarge(Vec<Lum32f> x) { return ReduceWide(x, sign_of(x)); }
+
 template <class T> LUM_INLINE Vec<T> LargeSine(Vec<T> x) {
-  const auto a = ReduceWide(x);
+  const auto a = ReduceLarge(x);
   return SineOf(a.index, a.hi, a.lo);
 }
 template <class T> LUM_INLINE Vec<T> LargeCosine(Vec<T> x) {
-  const auto a = ReduceWide(x);
+  const auto a = ReduceLarge(x);
   return CosineOf(a.index, a.hi, a.lo);
 }
 

@@ -73,10 +73,15 @@ template <class K, int n> LUM_INLINE auto Compute(const K& kernel, const Inputs<
   else return kernel.VectorPath(x[0], x[1]);
 }
 
+template <class K, int n>
+concept HasLargePath = requires(const K kernel, const Inputs<K, n> x) {
+  kernel.LargePath(x[0], kernel.VectorPath(x[0]));
+};
+
 // The same with the second path, where a kernel has one.
 template <class K, int n> LUM_INLINE auto ComputeRefused(const K& kernel, const Inputs<K, n>& x) {
   auto r = Compute<K, n>(kernel, x);
-  if constexpr (requires { kernel.LargePath(x[0], r); }) {
+  if constexpr (HasLargePath<K, n>) {
     if (any(r.refused)) r = kernel.LargePath(x[0], r);
   }
   return r;
@@ -99,6 +104,68 @@ template <class K, int n, int m> LUM_INLINE Inputs<K, n> LoadStep(const Arrays<K
   return x;
 }
 
+template <class K, int n, int m, class Result> LUM_INLINE void StoreStep(const Arrays<K, n, m>& a, int64_t i, const Result& r) {
+  if constexpr (m == 2) {
+    StoreElements(a.dst[0] + i, r.value1);
+    StoreElements(a.dst[1] + i, r.value2);
+  } else {
+    StoreElements(a.dst[0] + i, Values<K, m>(r)[0]);
+  }
+}
+
+}  // namespace frame
+
+// A block with refused lanes: its inputs and the vector path's results in lane order.
+template <class K, int n, int m> struct SpilledBlock {
+  alignas(64) typename K::Input inputs[n][block_of<K>];
+  alignas(64) typename K::Output results[m][block_of<K>];
+  uint32_t refused[K::vectors] = {};  // the lanes of each vector
+  bool any_refused = false;
+
+  bool IsRefused(int lane) const { return (refused[lane / step_of<K>] >> (lane % step_of<K>)&1) != 0; }
+};
+
+namespace frame {
+
+// Computes count elements from index first on.
+template <class K, int n, int m>
+LUM_INLINE void Spill(const K& kernel, const Arrays<K, n, m>& arrays, int64_t first, int count, SpilledBlock<K, n, m>& block) {
+  constexpr int step = step_of<K>;
+  for (int v = 0; v * step < count; ++v) {
+    const int active = std::min(step, count - v * step);
+    const auto x = LoadStep<K, n, m>(arrays, first + v * step, active);
+    const auto r = ComputeRefused<K, n>(kernel, x);
+    const auto values = Values<K, m>(r);
+    for (int j = 0; j < n; ++j) StoreElements(&block.inputs[j][v * step], x[j]);
+    for (int j = 0; j < m; ++j) StoreElements(&block.results[j][v * step], values[j]);
+    // A fill lane is refused only where a parameter makes it so; its result would be dropped by the masked store.
+    block.refused[v] = element_bits(r.refused) & ((1u << active) - 1u);
+    block.any_refused |= block.refused[v] != 0;
+  }
+}
+
+// The lane routine on one spilled lane; a reported element passes through the caller's array and the hook.
+template <class K, int n, int m>
+LUM_INLINE void FinishLane(const K& kernel, const Arrays<K, n, m>& arrays, int64_t index, int lane,
+                           SpilledBlock<K, n, m>& block, Call& call) {
+  auto& x = block.inputs;
+  auto& r = block.results;
+  const auto routine = [&] {
+    if constexpr (n == 2) return kernel.LaneRoutine(std::as_const(x[0][lane]), std::as_const(x[1][lane]), r[0][lane]);
+    else if constexpr (m == 2) return kernel.LaneRoutine(std::as_const(x[0][lane]), r[0][lane], r[1][lane]);
+    else return kernel.LaneRoutine(std::as_const(x[0][lane]), r[0][lane]);
+  };
+  if constexpr (std::is_void_v<decltype(routine())>) {
+    routine();
+  } else if (const LumStatus reported = routine(); reported != lumStsOk) {
+    call.status = reported;
+    for (int j = 0; j < m; ++j) arrays.dst[j][index] = r[j][lane];
+    ElementHook(reported, static_cast<int32_t>(index), arrays.src[0], arrays.src[n - 1], arrays.dst[0], arrays.dst[m - 1],
+                &hook_cell<K>);
+    for (int j = 0; j < m; ++j) r[j][lane] = arrays.dst[j][index];
+  }
+}
+
 }  // namespace frame
 
 // Finishes a block with refused lanes: count elements from index first on, fewer than a block in the tail. It computes the
@@ -106,54 +173,45 @@ template <class K, int n, int m> LUM_INLINE Inputs<K, n> LoadStep(const Arrays<K
 template <class K, int n, int m>
 __attribute__((noinline, cold)) void FinishLanes(const K& kernel, const Arrays<K, n, m>& arrays, int64_t first, int count,
                                                  Call& call) {
-  using Input = typename K::Input;
-  using Output = typename K::Output;
-  constexpr int step = step_of<K>;
-  alignas(64) Input inputs[n][block_of<K>];
-  alignas(64) Output results[m][block_of<K>];
-  uint32_t refused[K::vectors] = {};
-
-  for (int v = 0; v * step < count; ++v) {
-    const int active = std::min(step, count - v * step);
-    const auto x = frame::LoadStep<K, n, m>(arrays, first + v * step, active);
-    const auto r = frame::ComputeRefused<K, n>(kernel, x);
-    const auto values = frame::Values<K, m>(r);
-    for (int j = 0; j < n; ++j) StoreElements(&inputs[j][v * step], x[j]);
-    for (int j = 0; j < m; ++j) StoreElements(&results[j][v * step], values[j]);
-    // A fill lane is refused only where a parameter makes it so; its result would be dropped by the masked store.
-    refused[v] = element_bits(r.refused) & ((1u << active) - 1u);
-  }
-  if constexpr (K::variant.x87 == X87Form::lazy) {
-    if (!call.environment.x87_prepared) X87Prepare(call.environment);
-  }
-  for (int lane = 0; lane < count; ++lane) {
-    if ((refused[lane / step] >> (lane % step) & 1) == 0) continue;
-    const auto routine = [&](auto&... cells) { return kernel.LaneRoutine(cells...); };
-    const auto status = [&] {
-      if constexpr (n == 2) return routine(std::as_const(inputs[0][lane]), std::as_const(inputs[1][lane]), results[0][lane]);
-      else if constexpr (m == 2) return routine(std::as_const(inputs[0][lane]), results[0][lane], results[1][lane]);
-      else return routine(std::as_const(inputs[0][lane]), results[0][lane]);
-    };
-    if constexpr (std::is_void_v<decltype(status())>) {
-      status();
-    } else if (const LumStatus reported = status(); reported != lumStsOk) {
-      call.status = reported;
-      const int64_t index = first + lane;
-      for (int j = 0; j < m; ++j) arrays.dst[j][index] = results[j][lane];
-      ElementHook(reported, static_cast<int32_t>(index), arrays.src[0], arrays.src[n - 1], arrays.dst[0], arrays.dst[m - 1],
-                  &hook_cell<K>);
-      for (int j = 0; j < m; ++j) results[j][lane] = arrays.dst[j][index];
+  SpilledBlock<K, n, m> block;
+  frame::Spill(kernel, arrays, first, count, block);
+  if (block.any_refused) {
+    if constexpr (K::variant.x87 == X87Form::lazy) {
+      if (!call.environment.x87_prepared) X87Prepare(call.environment);
+    }
+    for (int lane = 0; lane < count; ++lane) {
+      if (block.IsRefused(lane)) frame::FinishLane(kernel, arrays, first + lane, lane, block, call);
     }
   }
+  constexpr int step = step_of<K>;
   for (int v = 0; v * step < count; ++v) {
     const int active = std::min(step, count - v * step);
     for (int j = 0; j < m; ++j) {
-      StoreElements(active, arrays.dst[j] + first + v * step, LoadElements(&results[j][v * step]));
+      StoreElements(active, arrays.dst[j] + first + v * step, LoadElements(&block.results[j][v * step]));
     }
   }
 }
 
 namespace frame {
+
+// A full block with refused lanes whose kernel has a second vector path, which most often finishes all of them.
+template <class K, int n, int m>
+__attribute__((noinline)) void LargeBlock(const K& kernel, const Arrays<K, n, m>& arrays, int64_t first, Call& call) {
+  Outputs<K, m> values[K::vectors];
+  bool all_finished = true;
+  for (int v = 0; v < K::vectors; ++v) {
+    const auto r = ComputeRefused<K, n>(kernel, LoadStep<K, n, m>(arrays, first + v * step_of<K>));
+    values[v] = Values<K, m>(r);
+    all_finished = all_finished && !any(r.refused);
+  }
+  if (!all_finished) {
+    FinishLanes(kernel, arrays, first, block_of<K>, call);
+    return;
+  }
+  for (int v = 0; v < K::vectors; ++v) {
+    for (int j = 0; j < m; ++j) StoreElements(arrays.dst[j] + first + v * step_of<K>, values[v][j]);
+  }
+}
 
 // One full block: v runs over its vectors, whose streams the processor overlaps.
 template <class K, int n, int m, size_t... v>
@@ -161,14 +219,12 @@ LUM_INLINE void Block(const K& kernel, const Arrays<K, n, m>& arrays, int64_t i,
   const std::array results{Compute<K, n>(kernel, LoadStep<K, n, m>(arrays, i + static_cast<int64_t>(v) * step_of<K>))...};
   if constexpr (requires { results[0].refused; }) {
     if (any((results[v].refused | ...))) [[unlikely]] {
-      FinishLanes(kernel, arrays, i, block_of<K>, call);
+      if constexpr (HasLargePath<K, n>) LargeBlock<K, n, m>(kernel, arrays, i, call);
+      else FinishLanes(kernel, arrays, i, block_of<K>, call);
       return;
     }
   }
-  (StoreElements(arrays.dst[0] + i + static_cast<int64_t>(v) * step_of<K>, Values<K, m>(results[v])[0]), ...);
-  if constexpr (m == 2) {
-    (StoreElements(arrays.dst[1] + i + static_cast<int64_t>(v) * step_of<K>, Values<K, m>(results[v])[1]), ...);
-  }
+  (StoreStep<K, n, m>(arrays, i + static_cast<int64_t>(v) * step_of<K>, results[v]), ...);
 }
 
 // A vector of fewer elements, the rest of its lanes holding the fill.

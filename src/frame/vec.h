@@ -12,8 +12,8 @@
 //   bits          & | ^  and_not(a, b)  bits(v)  as_float(v)  as_signed(v)  as_unsigned(v)
 //   integers      + - *  mul_low_halves(a, b)  mul_add_pairs(a, b)  shift_left right arithmetic, by constant or by lane  min
 //   max conversions   widen_low widen_high(v)  narrow(lo, hi)  to_float(v)  spread(mask)  sign_mask(v) lookup permute(table,
-//   index)  permute2(lo, hi, index)  permute2_words  gather(base, index)  gather(mask, base, index, old) moves deinterleave(a,
-//   b)  interleave(even, odd)  swap_pairs(v)  duplicate_even(v)  duplicate_odd(v)
+//   index)  permute2(lo, hi, index)  permute2_words  gather(base, index)  gather(mask, base, index, old)  gather_rows(base,
+//   index) moves deinterleave(a, b)  interleave(even, odd)  swap_pairs(v)  duplicate_even(v)  duplicate_odd(v)
 //
 // R is the rounding: rn (to nearest even, the default), rd, ru, rz. No operation raises a floating-point flag that a caller
 // sees.

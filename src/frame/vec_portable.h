@@ -685,6 +685,16 @@ requires(sizeof(T) == sizeof(I)) LUM_INLINE Vec<T> gather(const Mask<T>& mask, c
   return old;
 }
 
+// The four entries from base[index] on, of each lane: entry i of all lanes in column i.
+template <Lane T>
+struct Columns {
+  Vec<T> column0, column1, column2, column3;
+};
+template <Lane T, Integer I>
+requires(sizeof(T) == sizeof(I)) LUM_INLINE Columns<T> gather_rows(const T* base, const Vec<I>& index) {
+  return {gather(base, index), gather(base + 1, index), gather(base + 2, index), gather(base + 3, index)};
+}
+
 template <Lane T>
 struct Pair {
   Vec<T> even, odd;
