@@ -94,6 +94,26 @@ LUM_API LumStatus lumsCIS_64fc_A26(const Lum64f* src, Lum64fc* dst, int32_t len)
 LUM_API LumStatus lumsCIS_64fc_A50(const Lum64f* src, Lum64fc* dst, int32_t len);
 LUM_API LumStatus lumsCIS_64fc_A53(const Lum64f* src, Lum64fc* dst, int32_t len);
 
+/* Cbrt: The cube root of x.
+ * Domain: all numbers; denormal x included
+ * Special values: cbrt(+-0) = +-0; cbrt(+-inf) = +-inf; cbrt(-x) = -cbrt(x); cbrt(NaN) = NaN
+ * Status: always lumStsOk
+ * Relative cost: 32f A11 0.52, A21 0.62, A24 0.78; 64f A26 1.26, A50 1.69, A53 1.95 */
+LUM_API LumStatus lumsCbrt_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsCbrt_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsCbrt_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsCbrt_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsCbrt_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsCbrt_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
+
+/* Ceil: The smallest integer not below x.
+ * Domain: all numbers
+ * Special values: zeros and infinities unchanged; ceil(x) = -0 for -1 < x < 0; ceil(NaN) = NaN of the same payload
+ * Status: always lumStsOk
+ * Relative cost: 32f 0.17; 64f 0.36 */
+LUM_API LumStatus lumsCeil_32f(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsCeil_64f(const Lum64f* src, Lum64f* dst, int32_t len);
+
 /* Conj: The complex conjugate (re, -im).
  * Domain: all numbers; bits other than the sign of im are untouched
  * Special values: a NaN part keeps its payload and stays signalling if it was
@@ -113,6 +133,20 @@ LUM_API LumStatus lumsCos_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len);
 LUM_API LumStatus lumsCos_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len);
 LUM_API LumStatus lumsCos_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len);
 LUM_API LumStatus lumsCos_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
+
+/* Div: src1 / src2.
+ * Domain: all numbers; the low and mid tags scale by a rounded reciprocal, so that a quotient next to the ends of
+ *   the range may overflow or underflow early
+ * Special values: x / +-0 = an infinity, or a NaN where x is a zero or a NaN; x / +-inf = the zero of the sign; inf
+ *   / inf = NaN
+ * Status: lumStsSingularity: src2 = +-0, whatever src1
+ * Relative cost: 32f A11 0.217, A21 0.454, A24 0.582; 64f A26 0.94, A50 1.12, A53 1.38 */
+LUM_API LumStatus lumsDiv_32f_A11(const Lum32f* src1, const Lum32f* src2, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsDiv_32f_A21(const Lum32f* src1, const Lum32f* src2, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsDiv_32f_A24(const Lum32f* src1, const Lum32f* src2, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsDiv_64f_A26(const Lum64f* src1, const Lum64f* src2, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsDiv_64f_A50(const Lum64f* src1, const Lum64f* src2, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsDiv_64f_A53(const Lum64f* src1, const Lum64f* src2, Lum64f* dst, int32_t len);
 
 /* Exp: e to the power of x.
  * Domain: all numbers; finite positive results for x up to 88.72 (32f), 709.78 (64f)
@@ -138,6 +172,72 @@ LUM_API LumStatus lumsExpm1_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len)
 LUM_API LumStatus lumsExpm1_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len);
 LUM_API LumStatus lumsExpm1_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len);
 LUM_API LumStatus lumsExpm1_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
+
+/* Floor: The largest integer not above x.
+ * Domain: all numbers
+ * Special values: zeros and infinities unchanged; floor(x) = +0 for 0 < x < 1; floor(NaN) = NaN of the same payload
+ * Status: always lumStsOk
+ * Relative cost: 32f 0.17; 64f 0.36 */
+LUM_API LumStatus lumsFloor_32f(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsFloor_64f(const Lum64f* src, Lum64f* dst, int32_t len);
+
+/* Frac: The fractional part x - trunc(x), with the sign of x.
+ * Domain: all numbers
+ * Special values: frac(integer) = the zero of its sign; frac(+-inf) = +-0; frac(NaN) = NaN of the same payload
+ * Status: always lumStsOk
+ * Relative cost: 32f 0.24; 64f 0.48 */
+LUM_API LumStatus lumsFrac_32f(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsFrac_64f(const Lum64f* src, Lum64f* dst, int32_t len);
+
+/* Hypot: sqrt(src1^2 + src2^2), without overflow or underflow on the way.
+ * Domain: all numbers
+ * Special values: hypot(+-inf, anything) = +inf, NaN included; hypot(+-0, +-0) = +0; hypot(NaN, x) = NaN; too large
+ *   a result: +inf, without a status
+ * Status: always lumStsOk
+ * Relative cost: 32f A11 0.33, A21 0.47, A24 0.66; 64f A26 1.02, A50 1.2, A53 1.62 */
+LUM_API LumStatus lumsHypot_32f_A11(const Lum32f* src1, const Lum32f* src2, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsHypot_32f_A21(const Lum32f* src1, const Lum32f* src2, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsHypot_32f_A24(const Lum32f* src1, const Lum32f* src2, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsHypot_64f_A26(const Lum64f* src1, const Lum64f* src2, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsHypot_64f_A50(const Lum64f* src1, const Lum64f* src2, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsHypot_64f_A53(const Lum64f* src1, const Lum64f* src2, Lum64f* dst, int32_t len);
+
+/* InvCbrt: 1 / cbrt(x), the reciprocal of the cube root.
+ * Domain: all numbers other than zero; denormal x included
+ * Special values: invcbrt(+-0) = +-inf; invcbrt(+-inf) = +-0; invcbrt(-x) = -invcbrt(x); invcbrt(NaN) = NaN
+ * Status: lumStsSingularity: x = +-0
+ * Relative cost: 32f A11 0.53, A21 0.63, A24 0.83; 64f A26 1.31, A50 1.71, A53 1.97 */
+LUM_API LumStatus lumsInvCbrt_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsInvCbrt_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsInvCbrt_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsInvCbrt_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsInvCbrt_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsInvCbrt_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
+
+/* InvSqrt: 1 / sqrt(x).
+ * Domain: x > 0; denormal x included
+ * Special values: invsqrt(+-0) = +-inf; invsqrt(+inf) = +0; invsqrt(x < 0) = NaN, of negative sign for -inf;
+ *   invsqrt(NaN) = NaN
+ * Status: lumStsSingularity: x = +-0; lumStsDomain: x < 0, -inf included
+ * Relative cost: 32f A11 0.22, A21 0.33, A24 0.4; 64f A26 0.69, A50 0.86, A53 0.97 */
+LUM_API LumStatus lumsInvSqrt_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsInvSqrt_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsInvSqrt_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsInvSqrt_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsInvSqrt_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsInvSqrt_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
+
+/* Inv: 1 / x.
+ * Domain: all numbers; at A11 the result for |x| below 2^-128 is an infinity
+ * Special values: 1 / +-0 = +-inf; 1 / +-inf = +-0; 1 / NaN = NaN
+ * Status: lumStsSingularity: x = +-0
+ * Relative cost: 32f A11 0.19, A21 0.3, A24 0.3; 64f A26 0.531, A50 0.739, A53 0.739 */
+LUM_API LumStatus lumsInv_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsInv_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsInv_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsInv_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsInv_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsInv_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
 
 /* Ln: The natural logarithm of x.
  * Domain: x >= 0; denormal x included
@@ -177,6 +277,15 @@ LUM_API LumStatus lumsLog1p_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len)
 LUM_API LumStatus lumsLog1p_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len);
 LUM_API LumStatus lumsLog1p_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
 
+/* Modf: dst1 = trunc(x), dst2 = x - trunc(x), both with the sign of x.
+ * Domain: all numbers; dst1 and dst2 must be different arrays
+ * Special values: modf(integer) = the integer and the zero of its sign; modf(+-inf) = +-inf and +-0; modf(NaN) =
+ *   NaN of the same payload, twice
+ * Status: always lumStsOk
+ * Relative cost: 32f 0.42; 64f 0.84 */
+LUM_API LumStatus lumsModf_32f(const Lum32f* src, Lum32f* dst1, Lum32f* dst2, int32_t len);
+LUM_API LumStatus lumsModf_64f(const Lum64f* src, Lum64f* dst1, Lum64f* dst2, int32_t len);
+
 /* Mul: src1 * src2.
  * Domain: all numbers
  * Special values: as IEEE 754 multiplication
@@ -184,6 +293,58 @@ LUM_API LumStatus lumsLog1p_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len)
  * Relative cost: 32f A24 0.25; 64f A53 0.55 */
 LUM_API LumStatus lumsMul_32f_A24(const Lum32f* src1, const Lum32f* src2, Lum32f* dst, int32_t len);
 LUM_API LumStatus lumsMul_64f_A53(const Lum64f* src1, const Lum64f* src2, Lum64f* dst, int32_t len);
+
+/* NearbyInt: The integer nearest to x, ties to even, whatever the caller's rounding mode: the same as Rint.
+ * Domain: all numbers
+ * Special values: zeros and infinities unchanged; a zero result has the sign of x; nearbyint(NaN) = NaN of the same
+ *   payload
+ * Status: always lumStsOk
+ * Relative cost: 32f 0.17; 64f 0.36 */
+LUM_API LumStatus lumsNearbyInt_32f(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsNearbyInt_64f(const Lum64f* src, Lum64f* dst, int32_t len);
+
+/* Pow2o3: x^(2/3), the square of the cube root; positive for negative x.
+ * Domain: all numbers; denormal x included
+ * Special values: pow2o3(+-0) = +0; pow2o3(+-inf) = +inf; pow2o3(NaN) = NaN
+ * Status: always lumStsOk
+ * Relative cost: 32f A11 0.52, A21 0.61, A24 0.77; 64f A26 1.26, A50 1.69, A53 1.94 */
+LUM_API LumStatus lumsPow2o3_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsPow2o3_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsPow2o3_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsPow2o3_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsPow2o3_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsPow2o3_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
+
+/* Pow3o2: x^(3/2) = x sqrt(x).
+ * Domain: x >= 0; finite results for x up to 4.9e25 (32f), 3.2e205 (64f)
+ * Special values: pow3o2(+-0) = +0; pow3o2(+inf) = +inf; pow3o2(x < 0) = the positive NaN; pow3o2(NaN) = NaN; too
+ *   large or too small x: +inf or +0, without a status
+ * Status: lumStsDomain: x < 0, -inf included
+ * Relative cost: 32f A11 0.25, A21 0.36, A24 0.43; 64f A26 0.72, A50 0.94, A53 1.08 */
+LUM_API LumStatus lumsPow3o2_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsPow3o2_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsPow3o2_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsPow3o2_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsPow3o2_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsPow3o2_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
+
+/* Rint: The integer nearest to x, ties to even, whatever the caller's rounding mode.
+ * Domain: all numbers
+ * Special values: zeros and infinities unchanged; a zero result has the sign of x; rint(NaN) = NaN of the same
+ *   payload
+ * Status: always lumStsOk
+ * Relative cost: 32f 0.17; 64f 0.36 */
+LUM_API LumStatus lumsRint_32f(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsRint_64f(const Lum64f* src, Lum64f* dst, int32_t len);
+
+/* Round: The integer nearest to x, ties away from zero.
+ * Domain: all numbers
+ * Special values: zeros and infinities unchanged; a zero result has the sign of x; round(NaN) = NaN of the same
+ *   payload
+ * Status: always lumStsOk
+ * Relative cost: 32f 0.24; 64f 0.48 */
+LUM_API LumStatus lumsRound_32f(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsRound_64f(const Lum64f* src, Lum64f* dst, int32_t len);
 
 /* SinCos: The sine of x into the first array, the cosine into the second; exact reduction of arguments of any size.
  * Domain: all finite numbers
@@ -217,6 +378,18 @@ LUM_API LumStatus lumsSin_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
 LUM_API LumStatus lumsSqr_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len);
 LUM_API LumStatus lumsSqr_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
 
+/* Sqrt: The square root of x.
+ * Domain: x >= 0; denormal x included
+ * Special values: sqrt(+-0) = +-0; sqrt(+inf) = +inf; sqrt(x < 0) = the positive NaN; sqrt(NaN) = NaN
+ * Status: lumStsDomain: x < 0, -inf included
+ * Relative cost: 32f A11 0.23, A21 0.33, A24 0.4; 64f A26 0.69, A50 0.86, A53 0.93 */
+LUM_API LumStatus lumsSqrt_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsSqrt_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsSqrt_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsSqrt_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsSqrt_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsSqrt_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
+
 /* Sub: src1 - src2; complex numbers part by part.
  * Domain: all numbers
  * Special values: as IEEE 754 subtraction in each part
@@ -239,6 +412,15 @@ LUM_API LumStatus lumsTan_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len);
 LUM_API LumStatus lumsTan_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len);
 LUM_API LumStatus lumsTan_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len);
 LUM_API LumStatus lumsTan_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
+
+/* Trunc: The integer part of x, toward zero.
+ * Domain: all numbers
+ * Special values: zeros and infinities unchanged; a zero result has the sign of x; trunc(NaN) = NaN of the same
+ *   payload
+ * Status: always lumStsOk
+ * Relative cost: 32f 0.17; 64f 0.36 */
+LUM_API LumStatus lumsTrunc_32f(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsTrunc_64f(const Lum64f* src, Lum64f* dst, int32_t len);
 #ifdef __cplusplus
 }
 #endif

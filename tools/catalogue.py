@@ -15,6 +15,7 @@ class Row:
     type: str
     shape: str
     exported: str
+    kernels: tuple  # of the low, mid and high tag
     costs: dict  # cost figure by tag
 
     def exports(self):
@@ -28,10 +29,10 @@ def rows():
     text = (ROOT / "src/frame/catalogue.def").read_text()
     result = []
     for match in re.finditer(r"^LUM_ROW\((.*)\)$", text, re.M):
-        function, type_, shape, exported, _, _, _, mid, high, low = (c.strip() for c in match[1].split(","))
+        function, type_, shape, exported, *kernels, mid, high, low = (c.strip() for c in match[1].split(","))
         low_tag, mid_tag, high_tag = TAGS[type_[:3]]
         costs = {low_tag: float(low.rstrip("f")), mid_tag: float(mid.rstrip("f")), high_tag: float(high.rstrip("f"))}
-        result.append(Row(function, type_, shape, exported, costs))
+        result.append(Row(function, type_, shape, exported, (kernels[2], kernels[0], kernels[1]), costs))
     return result
 
 

@@ -7,30 +7,26 @@
 
 namespace lum {
 
-template <class T, size_t n>
-struct alignas(64) Table {
+template <class T, size_t n> struct alignas(64) Table {
   T entries[n];
   constexpr operator const T*() const { return entries; }
   static constexpr size_t size = n;
 };
 
-template <size_t n>
-consteval Table<float, n> table32(const uint32_t (&bits)[n]) {
+template <size_t n> consteval Table<float, n> table32(const uint32_t (&bits)[n]) {
   Table<float, n> table{};
   for (size_t i = 0; i < n; ++i) table.entries[i] = std::bit_cast<float>(bits[i]);
   return table;
 }
 
-template <size_t n>
-consteval Table<double, n> table64(const uint64_t (&bits)[n]) {
+template <size_t n> consteval Table<double, n> table64(const uint64_t (&bits)[n]) {
   Table<double, n> table{};
   for (size_t i = 0; i < n; ++i) table.entries[i] = std::bit_cast<double>(bits[i]);
   return table;
 }
 
 // The entries of a table of rows, column after column.
-template <size_t columns, class T, size_t n>
-consteval Table<T, n> by_columns(const Table<T, n>& table) {
+template <size_t columns, class T, size_t n> consteval Table<T, n> by_columns(const Table<T, n>& table) {
   Table<T, n> result{};
   for (size_t i = 0; i < n; ++i) result.entries[i % columns * (n / columns) + i / columns] = table.entries[i];
   return result;

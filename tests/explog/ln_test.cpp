@@ -4,8 +4,9 @@
 namespace lum::test {
 namespace {
 
+// Log10 has the same ones.
 TEST(Ln, SpecialValues) {
-  for (const char* name : {"Ln_32f", "Ln_64f"}) {
+  for (const char* name : {"Ln_32f", "Ln_64f", "Log10_32f", "Log10_64f"}) {
     ExpectCases(name, {{1, 0},
                        {0, -inf, lumStsSingularity},
                        {-0.0, -inf, lumStsSingularity},
@@ -18,8 +19,12 @@ TEST(Ln, SpecialValues) {
                        {nan, any_nan},
                        {default_nan, any_nan}});
   }
-  ExpectCases("Ln_32f", {{FromBits(0x7F800001), any_nan}, {FromBits(0xFFC12345), any_nan}});
-  ExpectCases("Ln_64f", {{FromBits(0x7FF0000000000001), any_nan}, {FromBits(0xFFF8123400000000), any_nan}});
+  for (const char* name : {"Ln_32f", "Log10_32f"}) {
+    ExpectCases(name, {{FromBits(0x7F800001), any_nan}, {FromBits(0xFFC12345), any_nan}});
+  }
+  for (const char* name : {"Ln_64f", "Log10_64f"}) {
+    ExpectCases(name, {{FromBits(0x7FF0000000000001), any_nan}, {FromBits(0xFFF8123400000000), any_nan}});
+  }
 }
 
 // Without a status, as the vector path computes them.

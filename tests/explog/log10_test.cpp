@@ -4,24 +4,6 @@
 namespace lum::test {
 namespace {
 
-TEST(Log10, SpecialValues) {
-  for (const char* name : {"Log10_32f", "Log10_64f"}) {
-    ExpectCases(name, {{1, 0},
-                       {0, -inf, lumStsSingularity},
-                       {-0.0, -inf, lumStsSingularity},
-                       {inf, inf},
-                       {-inf, nan, lumStsDomain},
-                       {-1, nan, lumStsDomain},
-                       {-max, nan, lumStsDomain},
-                       {-min_normal, nan, lumStsDomain},
-                       {-min_denormal, nan, lumStsDomain},
-                       {nan, any_nan},
-                       {default_nan, any_nan}});
-  }
-  ExpectCases("Log10_32f", {{FromBits(0x7F800001), any_nan}, {FromBits(0xFFC12345), any_nan}});
-  ExpectCases("Log10_64f", {{FromBits(0x7FF0000000000001), any_nan}, {FromBits(0xFFF8123400000000), any_nan}});
-}
-
 // Without a status, as the vector path computes them.
 TEST(Log10, EndsOfTheRange) {
   ExpectCases("Log10_32f_A24",

@@ -179,10 +179,12 @@ void add_floating(Builder& table) {
   table.add_arithmetic<V, V, V>("fmsubadd" + t, [](V a, V b, V c) { return fmsubadd(a, b, c); });
   table.add<V, V>("min" + t, [](V a, V b) { return min(a, b); });
   table.add<V, V>("max" + t, [](V a, V b) { return max(a, b); });
+  table.add_arithmetic<V, V, Mask<T>>("add under a mask" + t, [](V a, V b, Mask<T> m) { return add(m, a, b); });
   table.add<V>("rcp14" + t, [](V a) { return rcp14(a); });
   table.add<V>("rsqrt14" + t, [](V a) { return rsqrt14(a); });
   table.add<V>("abs" + t, [](V a) { return abs(a); });
   table.add<V>("negate" + t, [](V a) { return negate(a); });
+  table.add<V, V>("or_sign" + t, [](V a, V b) { return or_sign(a, b); });
   table.add<V>("sign_of" + t, [](V a) { return sign_of(a); });
   table.add<V, U>("operator& float with bits" + t, [](V a, U b) { return a & b; });
   table.add<V, U>("operator| float with bits" + t, [](V a, U b) { return a | b; });

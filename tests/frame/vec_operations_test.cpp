@@ -160,13 +160,10 @@ std::vector<std::string> defined_operations(const std::string& header) {
   std::ifstream file(std::string(LUM_SOURCE_DIR) + "/src/frame/" + header);
   EXPECT_TRUE(file) << header;
   std::vector<std::string> names;
-  const std::regex definition(R"(LUM_INLINE [^(]*?\b(operator[^ (]+|\w+)\()");
+  const std::regex definition(R"((?:LUM_INLINE|\[\[gnu::noinline\]\]) [^(]*?\b(operator[^ (]+|\w+)\()");
   for (std::string line; std::getline(file, line);) {
     std::smatch match;
-    const auto head = line.find("LUM_INLINE ");
-    if (head == std::string::npos) continue;
-    const std::string rest = line.substr(head);
-    if (std::regex_search(rest, match, definition)) names.push_back(match[1]);
+    if (std::regex_search(line, match, definition)) names.push_back(match[1]);
   }
   return names;
 }

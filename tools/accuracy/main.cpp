@@ -51,31 +51,24 @@ std::string Row(const Export& entry, const std::string& inputs, const Accuracy& 
                      is_complex ? fmt::format("{:.4g}", a.worst_norm.ulp) : "", Bound(entry));
 }
 
-// The committed results, one row an export and kind of inputs; measured rows replace those of the same key.
-class Results {
- public:
-  explicit Results(std::filesystem::path path) : path_(std::move(path)) {
-    std::ifstream file(path_);
-    std::string line;
-    std::getline(file, line);
-    while (std::getline(file, line)) rows_[Key(line)] = line;
-  }
-  void Put(const std::string& row) { rows_[Key(row)] = row; }
-  void Write() const {
-    const auto part = path_.string() + ".part";
-    std::ofstream file(part);
-    fmt::print(file, "{}\n", csv_header);
-    for (const auto& [key, row] : rows_) fmt::print(file, "{}\n", row);
-    file.close();
-    if (!file) throw std::runtime_error(fmt::format("{}: cannot be written", part));
-    std::filesystem::rename(part, path_);
-  }
+std::string KeyOf(const std::string& row) { return row.substr(0, row.find(',', row.find(',') + 1)); }
 
- private:
-  static std::string Key(const std::string& row) { return row.substr(0, row.find(',', row.find(',') + 1)); }
-  std::filesystem::path path_;
-  std::map<std::string, std::string> rows_;
-};
+// Puts a row into the file of results, which has one row an export and kind of inputs, in place of the former one.
+void Record(const std::filesystem::path& path, const std::string& row) {
+  std::map<std::string, std::string> rows;
+  std::string line;
+  std::ifstream stored(path);
+  std::getline(stored, line);
+  while (std::getline(stored, line)) rows[KeyOf(line)] = line;
+  rows[KeyOf(row)] = row;
+  const auto part = path.string() + ".part";
+  std::ofstream file(part);
+  fmt::print(file, "{}\n", csv_header);
+  for (const auto& [key, text] : rows) fmt::print(file, "{}\n", text);
+  file.close();
+  if (!file) throw std::runtime_error(fmt::format("{}: cannot be written", part));
+  std::filesystem::rename(part, path);
+}
 
 void WriteCurve(const std::filesystem::path& directory, const Export& entry, const Accuracy& accuracy) {
   std::filesystem::create_directories(directory);
@@ -126,8 +119,6 @@ void Run(const Options& options) {
   const auto library = Library::LoadBuilt(target, error);
   if (!library) throw std::runtime_error(error);
   const auto chosen = Chosen(options);
-  std::unique_ptr<Results> results;
-  if (!options.csv.empty()) results = std::make_unique<Results>(options.csv);
 
   std::vector<Point> points;
   std::unique_ptr<ExactValues> exact;
@@ -155,10 +146,7 @@ void Run(const Options& options) {
       if (!options.curves.empty()) WriteCurve(options.curves, *entry, accuracy);
     }
     PrintRow(*entry, accuracy);
-    if (results) {
-      results->Put(Row(*entry, options.exhaustive ? "all" : "sample", accuracy));
-      results->Write();
-    }
+    if (!options.csv.empty()) Record(options.csv, Row(*entry, options.exhaustive ? "all" : "sample", accuracy));
   }
 }
 

@@ -69,6 +69,11 @@ void InvCbrt(mpfr_ptr r, mpfr_srcptr x) {
   mpfr_cbrt(r, x, nearest);
   mpfr_ui_div(r, 1, r, nearest);
 }
+// As IEEE 754 has it, the pole at -0 is negative.
+void InvSqrt(mpfr_ptr r, mpfr_srcptr x) {
+  mpfr_rec_sqrt(r, x, nearest);
+  if (mpfr_zero_p(x)) mpfr_set_inf(r, mpfr_signbit(x) != 0 ? -1 : 1);
+}
 void Pow2o3(mpfr_ptr r, mpfr_srcptr x) {
   mpfr_cbrt(r, x, nearest);
   mpfr_sqr(r, r, nearest);
@@ -209,7 +214,7 @@ const std::map<std::string_view, Entry>& AllReferences() {
       {"Hypot", {Real2<[](mpfr_ptr r, mpfr_srcptr x, mpfr_srcptr y) { mpfr_hypot(r, x, y, nearest); }>, nullptr}},
       {"Inv", {Real<[](mpfr_ptr r, mpfr_srcptr x) { mpfr_ui_div(r, 1, x, nearest); }>, nullptr}},
       {"InvCbrt", {Real<InvCbrt>, nullptr}},
-      {"InvSqrt", {LUM_MPFR(mpfr_rec_sqrt), nullptr}},
+      {"InvSqrt", {Real<InvSqrt>, nullptr}},
       {"Ln", {LUM_MPFR(mpfr_log), LUM_MPC(mpc_log)}},
       {"Log10", {LUM_MPFR(mpfr_log10), LUM_MPC(mpc_log10)}},
       {"Log1p", {LUM_MPFR(mpfr_log1p), nullptr}},

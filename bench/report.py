@@ -1,0 +1,191 @@
+#!/usr/bin/env python3
+"""Runs the benchmarks and writes docs/data/performance.csv, docs/performance.md and its pictures.
+
+report.py BUILD [FUNCTION...]                 measure, all functions when none is named
+report.py BUILD --compare BASE [FUNCTION...]  measure this build and another one side by side, and write nothing
+
+BUILD is a build folder; BASE a build folder or a library file."""
+
+import argparse
+import csv
+import json
+import shutil
+import subprocess
+import sys
+import tempfile
+from pathlib import Path
+
+sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "tools"))
+import catalogue
+import port_bound
+
+DATA = catalogue.ROOT / "docs/data/performance.csv"
+PAGE = catalogue.ROOT / "docs/performance.md"
+IMAGES = catalogue.ROOT / "docs/images/performance"
+FIELDS = ["function", "length", "who", "ns", "ticks"]
+# Peers whose results are as exact as the high tags' (1 ulp, or exact); the others allow up to 4 ulp, as the mid tags do.
+EXACT_PEERS = {"sleef", "sleef_u05", "sleef_u10", "sleef_u15"}
+MAIN_LENGTH = 4096
+
+INTRODUCTION = """# Performance
+
+Nanoseconds and ticks of the time stamp counter an element, at arguments of everyday size, one thread. *ratio* is the time of the
+fastest peer of the same accuracy class over ours: at A24 and A53 SLEEF's functions of 1 ulp, at the other tags the faster of those,
+SLEEF's of 3.5 ulp and glibc's vector functions of 4 ulp. *scalar* is the time of a loop over the standard library's function over
+ours. *floor* is what the loop must take by the processor's execution ports alone (llvm-mca, Ice Lake server model, in core cycles;
+the time stamp counter runs at another frequency). All candidates of a function run interleaved in one process.
+
+Measured on {machine}. To repeat: `./run bench` (or `./run bench Exp`); `./run bench --compare BUILD Exp` sets two builds side by side.
+"""
+
+
+def machine():
+    for line in Path("/proc/cpuinfo").read_text().splitlines():
+        if line.startswith("model name"):
+            return line.split(":", 1)[1].strip()
+    return "an unknown processor"
+
+
+def run_benchmarks(build, functions, extra):
+    """Rows of FIELDS from one interleaved run; medians of the repetitions."""
+    with tempfile.NamedTemporaryFile(suffix=".json") as out:
+        command = [build / "bench/bench", *functions, *extra, "--benchmark_enable_random_interleaving=true",
+                   "--benchmark_repetitions=5", "--benchmark_min_time=0.01", f"--benchmark_out={out.name}",
+                   "--benchmark_out_format=json", "--benchmark_display_aggregates_only=true"]
+        code = subprocess.run(command, stdout=subprocess.DEVNULL).returncode
+        if code != 0:
+            sys.exit(code)
+        measured = json.load(open(out.name))["benchmarks"]
+    rows = []
+    for entry in measured:
+        if entry.get("aggregate_name") != "median":
+            continue
+        function, length, who = entry["run_name"].split("/")[:3]
+        rows.append({"function": function, "length": int(length), "who": who,
+                     "ns": f"{entry['real_time'] / int(length):.4g}", "ticks": f"{entry['ticks']:.4g}"})
+    return rows
+
+
+def print_comparison(rows):
+    base = {(r["function"], r["length"], r["who"][5:]): float(r["ns"]) for r in rows if r["who"].startswith("base:")}
+    print(f"{'function':<16} {'tag':<6} {'length':>9} {'ns here':>10} {'ns base':>10} {'base/here':>10}")
+    for r in rows:
+        key = (r["function"], r["length"], r["who"])
+        if key in base:
+            here = float(r["ns"])
+            print(f"{key[0]:<16} {key[2]:<6} {key[1]:>9} {here:>10.4g} {base[key]:>10.4g} {base[key] / here:>10.2f}")
+
+
+def merged(rows):
+    stored = {}
+    if DATA.exists():
+        with DATA.open() as file:
+            stored = {(r["function"], int(r["length"]), r["who"]): r for r in csv.DictReader(file)}
+    replaced = {r["function"] for r in rows}
+    stored = {key: r for key, r in stored.items() if key[0] not in replaced}
+    stored.update({(r["function"], r["length"], r["who"]): r for r in rows})
+    DATA.parent.mkdir(parents=True, exist_ok=True)
+    with DATA.open("w", newline="") as file:
+        writer = csv.DictWriter(file, FIELDS, lineterminator="\n")
+        writer.writeheader()
+        writer.writerows(stored[key] for key in sorted(stored))
+    return stored
+
+
+def best_peer(figures, is_high):
+    """Name and ns of the fastest peer of the class, or None."""
+    peers = {who: ns for who, ns in figures.items() if who.startswith(("sleef", "libmvec")) and (not is_high or who in EXACT_PEERS)}
+    return min(peers.items(), key=lambda item: item[1]) if peers else None
+
+
+def table(row, stored, floors):
+    """Lines of one function and type at the main length, and the call of one element."""
+    name = f"{row.function}_{row.type}"
+    figures = {who: float(r["ns"]) for (f, length, who), r in stored.items() if f == name and length == MAIN_LENGTH}
+    ticks = {who: r["ticks"] for (f, length, who), r in stored.items() if f == name and length == MAIN_LENGTH}
+    single = {who: r["ns"] for (f, length, who), r in stored.items() if f == name and length == 1}
+    lines = []
+    for (export, tag), kernel in zip(row.exports(), row.kernels if len(row.exports()) == 3 else row.kernels[2:]):
+        who = tag or "lumvm"
+        if who not in figures:
+            continue
+        peer = best_peer(figures, tag in ("A24", "A53", ""))
+        against = f"{peer[1] / figures[who]:.2f} ({peer[0]})" if peer else ""
+        scalar = f"{figures['scalar'] / figures[who]:.1f}" if "scalar" in figures else ""
+        floor = f"{floors[kernel]:.2f}" if kernel in floors else ""
+        lines.append(f"| `{export}` | {figures[who]:.3g} | {ticks[who]} | {floor} | {against} | {scalar} | {single.get(who, '')} |")
+    return lines
+
+
+def draw(row, stored):
+    """Time over length, one line a candidate."""
+    name = f"{row.function}_{row.type}"
+    series = {}
+    for (function, length, who), r in sorted(stored.items()):
+        if function == name:
+            series.setdefault(who, []).append(f"{length} {r['ns']}")
+    if not series or not shutil.which("gnuplot"):
+        return
+    IMAGES.mkdir(parents=True, exist_ok=True)
+    blocks = "".join(f"${i} << EOD\n" + "\n".join(points) + "\nEOD\n" for i, points in
+                     ((f"d{n}", p) for n, p in enumerate(series.values())))
+    plots = ", ".join(f"$d{n} with linespoints pt 7 ps 0.4 title '{who}' noenhanced" for n, who in enumerate(series))
+    script = f"""{blocks}set terminal svg size 720,300 font 'sans,11'
+set output '{IMAGES / f"{name}.svg"}'
+set logscale xy
+set xlabel 'length'
+set ylabel 'ns an element'
+set key outside right
+set grid
+plot {plots}
+"""
+    subprocess.run(["gnuplot"], input=script, text=True, check=True)
+
+
+def write_page(stored, floors, measured):
+    lines = [INTRODUCTION.format(machine=machine())]
+    for row in catalogue.rows():
+        body = table(row, stored, floors)
+        if not body:
+            continue
+        lines += [f"\n## {row.function} {row.type}\n", f"Length {MAIN_LENGTH}; the last column is a call of one element, in ns.\n",
+                  "| name | ns | ticks | floor | ratio | scalar | one |", "|---|---|---|---|---|---|---|", *body]
+        if f"{row.function}_{row.type}" in measured:
+            draw(row, stored)
+        image = IMAGES / f"{row.function}_{row.type}.svg"
+        if image.exists():
+            lines.append(f"\n![Time of {row.function} {row.type} over the length](images/performance/{image.name})")
+    PAGE.write_text("\n".join(lines) + "\n")
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
+    parser.add_argument("build", type=Path)
+    parser.add_argument("functions", nargs="*")
+    parser.add_argument("--compare", type=Path, metavar="BASE")
+    arguments = parser.parse_args()
+    if arguments.compare:
+        base = arguments.compare / "liblumvmk0.so" if arguments.compare.is_dir() else arguments.compare
+        if not base.exists():
+            print(f"bench: {base}: no such library", file=sys.stderr)
+            return 2
+        extra = ["--base", str(base.resolve()), "--lengths", f"1,{MAIN_LENGTH}"]
+        print_comparison(run_benchmarks(arguments.build, arguments.functions, extra))
+        return 0
+    rows = run_benchmarks(arguments.build, arguments.functions, [])
+    output_bytes = {}
+    for row in catalogue.rows():
+        parts = 2 if row.shape in ("TwoOutputs", "ToComplex") or (row.type.endswith("c") and row.shape != "ToReal") else 1
+        for kernel in row.kernels:
+            output_bytes[kernel] = parts * (4 if row.type.startswith("32") else 8)
+    floors = {}
+    if shutil.which("llvm-mca"):
+        floors = port_bound.bounds(str(arguments.build / "liblumvmk0.so"), output_bytes)
+    else:
+        print("bench: llvm-mca is not installed: the floors are left out", file=sys.stderr)
+    write_page(merged(rows), floors, {r["function"] for r in rows})
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

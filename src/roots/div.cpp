@@ -1,0 +1,85 @@
+// x / y without a divide instruction: an estimate r0 of 1 / y with 14 bits, and e = 1 - y r0 exactly enough to sum the series
+// 1 / (1 - e) = 1 + e + e^2 + ... as far as the tier needs. The high tiers divide the significands, correct the quotient by its
+// exact residual and scale by the difference of the exponents: no range of y is excluded but zero. The others multiply by 1 / y
+// and leave divisors whose reciprocal is not a normal number to a scalar division.
+#include <cstdint>
+#include <type_traits>
+
+#include "frame/kernel_frame.h"
+#include "frame/kernels.h"
+
+namespace lum {
+namespace {
+
+template <class T> struct DivKernel : Kernel<T> {
+  // Only a zero divisor reports, whatever the dividend.
+  static LumStatus LaneRoutine(T x, T y, T& result) {
+    result = x / y;
+    return y == 0 ? lumStsSingularity : lumStsOk;
+  }
+};
+
+// Divisors outside 2^-126 <= |y| < 2^126 or 2^-1021 <= |y| < 2^1022, zero, infinity and NaN among them.
+template <class T> LUM_INLINE Mask<T> OutOfRange(Vec<T> y) {
+  using U = UnsignedOf<T>;
+  constexpr bool is_float = std::is_same_v<T, Lum32f>;
+  constexpr auto smallest = static_cast<U>(is_float ? 0x00800000u : 0x0020000000000000u);
+  constexpr auto beyond = static_cast<U>(is_float ? 0x7E800000u : 0x7FD0000000000000u);
+  return mask_cast<T>(nlt(bits(abs(y)) - all(smallest), all(static_cast<U>(beyond - smallest))));
+}
+
+// 1 / y from its estimate: r0 (1 + e + ... + e^terms).
+template <int terms, class T> LUM_INLINE Vec<T> Reciprocal(Vec<T> y) {
+  const auto r0 = rcp14(y);
+  if constexpr (terms == 0) return r0;
+  const auto e = fnma(y, r0, all(T(1)));
+  auto p = e;
+  for (int i = 1; i < terms; ++i) p = fma(e, p, e);
+  return fma(r0, p, r0);
+}
+
+// x times the reciprocal. A product that overflows or underflows is what the multiplication gives.
+template <class T, int terms> struct ByReciprocal : DivKernel<T> {
+  static LUM_INLINE Lanes<T> VectorPath(Vec<T> x, Vec<T> y) { return {x * Reciprocal<terms>(y), OutOfRange(y)}; }
+};
+
+// Significands in [1, 2) and exponents apart. Infinities and zeros come out of the difference of the exponents.
+template <class T> struct BySignificands : DivKernel<T> {
+  static LUM_INLINE Lanes<T> VectorPath(Vec<T> x, Vec<T> y) {
+    const auto xm = getmant<0x0>(x);
+    const auto ym = getmant<0x0>(y);
+    const auto d = getexp(x) - getexp(y);
+    const auto r0 = rcp14(ym);
+    const auto q = xm * r0;
+    auto r = r0;
+    if constexpr (std::is_same_v<T, Lum64f>) {
+      const auto e = fnma(ym, r0, all(T(1)));
+      r = fma(r0, fma(e, e, e), r0);
+    }
+    const auto residual = fnma(q, ym, xm);
+    return {scalef(fma(r, residual, q), d), fpclass<0x06>(y)};
+  }
+};
+
+}  // namespace
+
+LumStatus Div_32f_A11(const Lum32f* src1, const Lum32f* src2, Lum32f* dst, int32_t len) {
+  return TwoInputs<ByReciprocal<Lum32f, 0>>(src1, src2, dst, len);
+}
+LumStatus Div_32f_A21(const Lum32f* src1, const Lum32f* src2, Lum32f* dst, int32_t len) {
+  return TwoInputs<ByReciprocal<Lum32f, 1>>(src1, src2, dst, len);
+}
+LumStatus Div_32f_A24(const Lum32f* src1, const Lum32f* src2, Lum32f* dst, int32_t len) {
+  return TwoInputs<BySignificands<Lum32f>>(src1, src2, dst, len);
+}
+LumStatus Div_64f_A26(const Lum64f* src1, const Lum64f* src2, Lum64f* dst, int32_t len) {
+  return TwoInputs<ByReciprocal<Lum64f, 2>>(src1, src2, dst, len);
+}
+LumStatus Div_64f_A50(const Lum64f* src1, const Lum64f* src2, Lum64f* dst, int32_t len) {
+  return TwoInputs<ByReciprocal<Lum64f, 4>>(src1, src2, dst, len);
+}
+LumStatus Div_64f_A53(const Lum64f* src1, const Lum64f* src2, Lum64f* dst, int32_t len) {
+  return TwoInputs<BySignificands<Lum64f>>(src1, src2, dst, len);
+}
+
+}  // namespace lum

@@ -1,0 +1,160 @@
+// sqrt(a^2 + b^2). The squares are formed as they stand, the root comes from an estimate of its reciprocal and one or two
+// steps. The high tiers keep the rounding errors of the squares and of their sum and add them to the residual of the last step.
+// Pairs whose squares might overflow or lose bits to underflow go to a lane routine, which scales. Nothing is ever reported.
+#include <bit>
+#include <cmath>
+#include <cstdint>
+#include <limits>
+#include <type_traits>
+#include <utility>
+
+#include "frame/kernel_frame.h"
+#include "frame/kernels.h"
+
+namespace lum {
+namespace {
+
+// a + b = sum + error, and a a = sum + error, exactly.
+struct DoubleWord {
+  double sum, error;
+};
+DoubleWord Square(double a) {
+  const double w = a * 134217729.0;  // 2^27 + 1: the head keeps 26 bits
+  const double head = w - (w - a);
+  const double tail = a - head;
+  const double p = a * a;
+  return {p, ((head * head - p) + 2.0 * head * tail) + tail * tail};
+}
+DoubleWord FastSum(double a, double b) {
+  const double s = a + b;
+  return {s, b - (s - a)};
+}
+
+// The root of m^2 + n^2 for n <= m, m near 1. One step with the exact residual makes the result correct to its last bits.
+double RootOfSquares(double m, double n) {
+  const auto p = Square(m), q = Square(n);
+  const auto s = FastSum(p.sum, q.sum);
+  const double tail = s.error + (p.error + q.error);
+  const double root = std::sqrt(s.sum);
+  const auto r = Square(root);
+  return root + ((s.sum - r.sum) - r.error + tail) / (root + root);
+}
+
+// The exponent field of the power of 2 that takes a finite m to [4, 8), and one below 2^-998 at least to 2^-72, far from
+// denormal numbers. The field of its inverse is 2046 less this; both powers are normal numbers.
+uint64_t ScaleField(double m) {
+  const auto exponent = std::bit_cast<uint64_t>(m) >> 52;
+  return (exponent < 25 ? 4073 - exponent : 2048 - exponent) & 0x7FF;
+}
+
+// Of finite numbers. The squares of floats are exact in binary64 and far from its limits.
+Lum32f OfFinite(Lum32f a, Lum32f b) {
+  const double x = a, y = b;
+  return static_cast<Lum32f>(std::sqrt(x * x + y * y));
+}
+Lum64f OfFinite(Lum64f a, Lum64f b) {
+  auto m = std::fabs(a), n = std::fabs(b);
+  if (m < n) std::swap(m, n);
+  const uint64_t field = ScaleField(m);
+  const auto scale = std::bit_cast<double>(field << 52);
+  const auto inverse = std::bit_cast<double>((2046 - field) << 52);
+  return RootOfSquares(m * scale, n * scale) * inverse;
+}
+
+template <class T> struct HypotKernel : Kernel<T> {
+  static void LaneRoutine(T a, T b, T& result) {
+    constexpr auto infinity = std::numeric_limits<T>::infinity();
+    if (std::fabs(a) == infinity || std::fabs(b) == infinity) {
+      result = infinity;
+    } else if (a != a) {
+      result = b != b ? a * b : a * a;
+    } else if (b != b) {
+      result = b * b;
+    } else if (a == 0 && b == 0) {
+      result = T(0);
+    } else {
+      result = OfFinite(a, b);
+    }
+  }
+};
+
+// The larger exponent beyond +-63 or +-511; infinities and NaN among them, as their patterns are larger still. A NaN in a
+// beside an ordinary b is not: the maximum is b's then, and the NaN runs through.
+template <class T> LUM_INLINE Mask<T> OutOfRange(Vec<T> a, Vec<T> b) {
+  constexpr auto limit = std::is_same_v<T, Lum32f> ? T(63) : T(511);
+  const auto e = max(getexp(a), getexp(b));
+  return mask_cast<T>(nlt(as_signed(bits(abs(e))), as_signed(bits(all(limit)))));
+}
+
+// The sum of squares and what it leaves; without the rest where the tier has no use for it.
+template <class T> struct Squares { Vec<T> sum, rest; };
+template <class T> LUM_INLINE Squares<T> ExactSquares(Vec<T> a, Vec<T> b) {
+  const auto p = a * a, q = b * b;
+  const auto p_rest = fms(a, a, p), q_rest = fms(b, b, q);  // exact
+  const auto s = fast_two_sum(max(p, q), min(p, q));
+  return {s.sum, s.error + (p_rest + q_rest)};
+}
+template <class T> LUM_INLINE Vec<T> PlainSquares(Vec<T> a, Vec<T> b) { return fma(a, a, b * b); }
+
+// t near the root of s, h near half its reciprocal.
+template <class T> struct Roots { Vec<T> t, h; };
+template <class T> LUM_INLINE Roots<T> Start(Vec<T> s) {
+  const auto y = rsqrt14(s);
+  return {s * y, all(T(0.5)) * y};
+}
+template <class T> LUM_INLINE Roots<T> NewtonStep(Roots<T> a) {
+  const auto e = fnma(a.t, a.h, all(T(0.5)));
+  return {fma(a.t, e, a.t), fma(a.h, e, a.h)};
+}
+
+// Squares that are zero, denormal, infinite or NaN are refused, and nothing else is looked at.
+struct A11_32f : HypotKernel<Lum32f> {
+  static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> a, Vec<Lum32f> b) {
+    const auto s = PlainSquares(a, b);
+    const auto above_smallest = bits(s) - all(0x00800000u);
+    return {s * rsqrt14(s), mask_cast<Lum32f>(nlt(above_smallest, all(0x7F000000u)))};
+  }
+};
+
+template <class T, int newton_steps, bool residual_step> struct Plain : HypotKernel<T> {
+  static LUM_INLINE Lanes<T> VectorPath(Vec<T> a, Vec<T> b) {
+    const auto s = PlainSquares(a, b);
+    auto r = Start(s);
+    for (int i = 0; i < newton_steps; ++i) r = NewtonStep(r);
+    if constexpr (residual_step) return {fma(fnma(r.t, r.t, s), r.h, r.t), OutOfRange(a, b)};
+    else return {r.t, OutOfRange(a, b)};
+  }
+};
+
+template <class T, int newton_steps> struct Exact : HypotKernel<T> {
+  static LUM_INLINE Lanes<T> VectorPath(Vec<T> a, Vec<T> b) {
+    const auto s = ExactSquares(a, b);
+    auto r = Start(s.sum);
+    for (int i = 0; i < newton_steps; ++i) r = NewtonStep(r);
+    const auto d = fnma(r.t, r.t, s.sum);
+    return {fma(d + s.rest, r.h, r.t), OutOfRange(a, b)};
+  }
+};
+
+}  // namespace
+
+LumStatus Hypot_32f_A11(const Lum32f* src1, const Lum32f* src2, Lum32f* dst, int32_t len) {
+  return TwoInputs<A11_32f>(src1, src2, dst, len);
+}
+LumStatus Hypot_32f_A21(const Lum32f* src1, const Lum32f* src2, Lum32f* dst, int32_t len) {
+  return TwoInputs<Plain<Lum32f, 0, true>>(src1, src2, dst, len);
+}
+LumStatus Hypot_32f_A24(const Lum32f* src1, const Lum32f* src2, Lum32f* dst, int32_t len) {
+  return TwoInputs<Exact<Lum32f, 0>>(src1, src2, dst, len);
+}
+LumStatus Hypot_64f_A26(const Lum64f* src1, const Lum64f* src2, Lum64f* dst, int32_t len) {
+  return TwoInputs<Plain<Lum64f, 1, false>>(src1, src2, dst, len);
+}
+LumStatus Hypot_64f_A50(const Lum64f* src1, const Lum64f* src2, Lum64f* dst, int32_t len) {
+  return TwoInputs<Plain<Lum64f, 1, true>>(src1, src2, dst, len);
+}
+LumStatus Hypot_64f_A53(const Lum64f* src1, const Lum64f* src2, Lum64f* dst, int32_t len) {
+  return TwoInputs<Exact<Lum64f, 1>>(src1, src2, dst, len);
+}
+
+}  // namespace lum

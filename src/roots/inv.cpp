@@ -1,0 +1,40 @@
+// 1 / x without a divide instruction: an estimate of 14 bits, and Newton steps r' = r + r (1 - x r), each doubling the bits.
+// Zeros, infinities and numbers whose estimate is a zero or an infinity are left to a scalar division.
+#include <cstdint>
+
+#include "frame/kernel_frame.h"
+#include "frame/kernels.h"
+
+namespace lum {
+namespace {
+
+template <class T> struct InvKernel : Kernel<T> {
+  static LumStatus LaneRoutine(T x, T& result) {
+    result = T(1) / x;
+    return x == 0 ? lumStsSingularity : lumStsOk;
+  }
+};
+
+// Refuses by the input, not by the estimate: that of a tiny denormal is an infinity, which stands. This differs from the tiers
+// with a Newton step, whose refused denormals have the scalar quotient, and is deliberate.
+template <class T> struct Estimate : InvKernel<T> {
+  static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) { return {rcp14(x), fpclass<0x1E>(x)}; }
+};
+
+template <class T, int steps> struct Newton : InvKernel<T> {
+  static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) {
+    const auto r0 = rcp14(x);
+    auto r = r0;
+    for (int i = 0; i < steps; ++i) r = fma(fnma(x, r, all(T(1))), r, r);
+    return {r, fpclass<0x1E>(r0)};
+  }
+};
+
+}  // namespace
+
+LumStatus Inv_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len) { return OneInput<Estimate<Lum32f>>(src, dst, len); }
+LumStatus Inv_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len) { return OneInput<Newton<Lum32f, 1>>(src, dst, len); }
+LumStatus Inv_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<Newton<Lum64f, 1>>(src, dst, len); }
+LumStatus Inv_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<Newton<Lum64f, 2>>(src, dst, len); }
+
+}  // namespace lum

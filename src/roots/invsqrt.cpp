@@ -1,0 +1,90 @@
+// 1 / sqrt x from an estimate s with 14 bits. With t = x s and d = 1 - t s = 1 - x s^2 the result is s (1 - d)^(-1/2): one term
+// of this series is a Newton step, two serve binary64. The high tiers put the rounding error of t back into d.
+#include <cstdint>
+#include <limits>
+
+#include "frame/kernel_frame.h"
+#include "frame/kernels.h"
+
+namespace lum {
+namespace {
+
+// Zeros, infinities and negative numbers are refused; NaN and denormals run through.
+template <class T> struct InvSqrtKernel : Kernel<T> {
+  static LUM_INLINE Mask<T> Refused(Vec<T> x) { return fpclass<0x5E>(x); }
+  static LumStatus LaneRoutine(T x, T& result) {
+    constexpr auto infinity = std::numeric_limits<T>::infinity();
+    if (x == 0) {
+      result = T(1) / x;
+      return lumStsSingularity;
+    }
+    if (x == infinity) {
+      result = T(0) / x;
+      return lumStsOk;
+    }
+    // The NaN of minus infinity has its sign set, as an invalid operation gives it; that of finite numbers has not.
+    result = x == -infinity ? x / x : std::numeric_limits<T>::quiet_NaN();
+    return lumStsDomain;
+  }
+};
+
+struct A11_32f : InvSqrtKernel<Lum32f> {
+  static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) { return {rsqrt14(x), Refused(x)}; }
+};
+struct A21_32f : InvSqrtKernel<Lum32f> {
+  static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
+    const auto s = rsqrt14(x);
+    const auto e = fma(all(-0.5f) * s, s * x, all(0.5f));
+    return {fma(e, s, s), Refused(x)};
+  }
+};
+struct A24_32f : InvSqrtKernel<Lum32f> {
+  static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
+    const auto s = rsqrt14(x);
+    const auto t = s * x;
+    const auto u = all(-0.5f) * s;
+    const auto e0 = fma(u, t, all(0.5f));
+    const auto w = fms(x, s, t);  // exact
+    const auto e = fma(u, w, e0);
+    return {fma(e, s, s), Refused(x)};
+  }
+};
+struct A26_64f : InvSqrtKernel<Lum64f> {
+  static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
+    const auto s = rsqrt14(x);
+    const auto e = fnma(s * x, all(0.5) * s, all(0.5));
+    return {fma(e, s, s), Refused(x)};
+  }
+};
+
+// s + s d (1/2 + 3/8 d + 5/16 d^2), the last two coefficients adjusted to the range of d.
+LUM_INLINE Vec<Lum64f> Series(Vec<Lum64f> s, Vec<Lum64f> d) {
+  const auto p = horner(d, 0.5, f64(0x3FD8000004600001, 0.3750000040745363), f64(0x3FD4000005E80001, 0.312500005500624));
+  return fma(p, s * d, s);
+}
+struct A50_64f : InvSqrtKernel<Lum64f> {
+  static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
+    const auto s = rsqrt14(x);
+    return {Series(s, fnma(s * x, s, all(1.0))), Refused(x)};
+  }
+};
+struct A53_64f : InvSqrtKernel<Lum64f> {
+  static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
+    const auto s = rsqrt14(x);
+    const auto t = s * x;
+    const auto d0 = fnma(t, s, all(1.0));
+    const auto w = fms(x, s, t);  // exact
+    return {Series(s, fnma(w, s, d0)), Refused(x)};
+  }
+};
+
+}  // namespace
+
+LumStatus InvSqrt_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len) { return OneInput<A11_32f>(src, dst, len); }
+LumStatus InvSqrt_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len) { return OneInput<A21_32f>(src, dst, len); }
+LumStatus InvSqrt_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len) { return OneInput<A24_32f>(src, dst, len); }
+LumStatus InvSqrt_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A26_64f>(src, dst, len); }
+LumStatus InvSqrt_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A50_64f>(src, dst, len); }
+LumStatus InvSqrt_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A53_64f>(src, dst, len); }
+
+}  // namespace lum

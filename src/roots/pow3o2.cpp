@@ -1,0 +1,130 @@
+// x^(3/2) = x sqrt x. The root comes from an estimate of 1 / sqrt x and coupled steps as in Sqrt; the high tiers add the exact
+// residual of the root to the product. Arguments whose result might leave the range of normal numbers, with negative ones, NaN
+// and the rest, go to a lane routine that is the whole function.
+#include <bit>
+#include <cmath>
+#include <cstdint>
+#include <limits>
+#include <type_traits>
+
+#include "frame/kernel_frame.h"
+#include "frame/kernels.h"
+#include "tables/table.h"
+
+namespace lum {
+namespace {
+
+constexpr auto midpoint_values = table64({
+// hi, lo
+#include "tables/generated/pow3o2_midpoints.inc"
+});
+constexpr auto midpoint_reciprocals = table64({
+#include "tables/generated/pow3o2_reciprocals.inc"
+});
+constexpr auto polynomial64 = table64({
+#include "tables/generated/pow3o2_polynomial.inc"
+});
+
+// ((1 + t)^(3/2) - 1) / t in binary64, for a result of the type T.
+template <class T> double Polynomial(double t) {
+  if constexpr (std::is_same_v<T, Lum32f>) {
+    return (((-0.015001341104507446 * t + 0.02343912050127983) * t - 0.0625) * t + 0.375) * t + 1.5;
+  } else {
+    double p = polynomial64[6];
+    for (int i = 5; i >= 0; --i) p = p * t + polynomial64[i];
+    return p;
+  }
+}
+
+// x^(3/2) of a positive normal number, by the value at the midpoint of the cell that its last exponent bit and its five upper
+// fraction bits name.
+template <class T> double OfNormal(double x) {
+  const auto pattern = std::bit_cast<uint64_t>(x);
+  const auto cell = static_cast<size_t>(pattern >> 47 & 63);
+  const auto significand = std::bit_cast<double>((pattern & 0x000FFFFFFFFFFFFF) | 0x3FF0000000000000);
+  const auto midpoint = std::bit_cast<double>((pattern & 0x000F800000000000) | 0x3FF0400000000000);
+  const double t = (significand - midpoint) * midpoint_reciprocals[cell & 31];
+  const double hi = midpoint_values[2 * cell];
+  const double p = Polynomial<T>(t) * t;
+  const int64_t exponent = static_cast<int64_t>(pattern >> 52) - 1023;
+  const int64_t half = (exponent - (cell < 32 ? 1 : 0)) / 2;  // exact: cells below 32 have odd exponents
+  return (hi + (hi * p + midpoint_values[2 * cell + 1])) * std::bit_cast<double>((3 * half + 1023) << 52);
+}
+
+template <class T> struct Limits;
+template <> struct Limits<Lum32f> {
+  static constexpr uint32_t lowest = 0x1D800000, highest = 0x69800000;  // of the vector path: 2^-68 to 2^84
+  static constexpr uint32_t vanishing = 0x0CFFFFFF;                     // the last magnitude with a result of +0
+  static constexpr uint32_t overflowing = 0x6A214518;                   // the first with an infinite one
+};
+template <> struct Limits<Lum64f> {
+  static constexpr uint64_t lowest = 0x1790000000000000, highest = 0x6A800000FFFFFFFF;
+  static constexpr uint64_t vanishing = 0x132FEFFFFFFFFFFF;
+  static constexpr uint64_t overflowing = 0x6A9965FEA53D6E3E;
+};
+
+template <class T> struct Pow3o2Kernel : Kernel<T> {
+  static LUM_INLINE Mask<T> Refused(Vec<T> x) {
+    using L = Limits<T>;
+    const auto distance = bits(x) - all(L::lowest);
+    return mask_cast<T>(nle(distance, all(L::highest - L::lowest)));
+  }
+  static LumStatus LaneRoutine(T x, T& result) {
+    const auto magnitude = std::bit_cast<UnsignedOf<T>>(x);
+    if (x != x) {
+      result = x + T(0);
+    } else if (x == 0) {
+      result = T(0);
+    } else if (x < 0) {
+      result = std::numeric_limits<T>::quiet_NaN();
+      return lumStsDomain;
+    } else if (magnitude >= Limits<T>::overflowing || magnitude <= Limits<T>::vanishing) {
+      result = x * x;
+    } else if (x < static_cast<T>(0x1p-680)) {
+      result = static_cast<T>(OfNormal<T>(static_cast<double>(x) * 0x1p60) * 0x1p-90);  // one rounding to a denormal
+    } else {
+      result = static_cast<T>(OfNormal<T>(static_cast<double>(x)));
+    }
+    return lumStsOk;
+  }
+};
+
+// The vector path: no step for the low tier of floats, the residual for the high tiers.
+template <class T, int steps, bool residual> struct ByRoot : Pow3o2Kernel<T> {
+  static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) {
+    const auto y = rsqrt14(x);
+    auto s = x * y;
+    auto h = all(T(0.5)) * y;
+    for (int i = 0; i < steps; ++i) {
+      const auto e = fnma(s, h, all(T(0.5)));
+      s = fma(s, e, s);
+      h = fma(h, e, h);
+    }
+    const auto refused = Pow3o2Kernel<T>::Refused(x);
+    if constexpr (residual) return {fma(x, s, fnma(s, s, x) * (x * h)), refused};
+    else return {s * x, refused};
+  }
+};
+
+}  // namespace
+
+LumStatus Pow3o2_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len) {
+  return OneInput<ByRoot<Lum32f, 0, false>>(src, dst, len);
+}
+LumStatus Pow3o2_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len) {
+  return OneInput<ByRoot<Lum32f, 1, false>>(src, dst, len);
+}
+LumStatus Pow3o2_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len) {
+  return OneInput<ByRoot<Lum32f, 1, true>>(src, dst, len);
+}
+LumStatus Pow3o2_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len) {
+  return OneInput<ByRoot<Lum64f, 1, false>>(src, dst, len);
+}
+LumStatus Pow3o2_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len) {
+  return OneInput<ByRoot<Lum64f, 2, false>>(src, dst, len);
+}
+LumStatus Pow3o2_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len) {
+  return OneInput<ByRoot<Lum64f, 2, true>>(src, dst, len);
+}
+
+}  // namespace lum

@@ -1,0 +1,88 @@
+// The square root without a square-root instruction: s, an estimate of 1 / sqrt x with 14 bits, gives the pair g = x s for the
+// root and h = s / 2 for half its reciprocal. A coupled step e = 1/2 - g h, g' = g + e g, h' = h + e h doubles the bits of
+// both. The high tiers end in a Heron step with the exact residual x - g^2, which they take on scaled values where x is so
+// small that it would be denormal.
+#include <cstdint>
+#include <limits>
+#include <type_traits>
+
+#include "frame/kernel_frame.h"
+#include "frame/kernels.h"
+
+namespace lum {
+namespace {
+
+// Zeros, infinities and negative numbers are refused; NaN and denormals run through.
+template <class T> struct SqrtKernel : Kernel<T> {
+  static LUM_INLINE Mask<T> Refused(Vec<T> x) { return fpclass<0x5E>(x); }
+  static LumStatus LaneRoutine(T x, T& result) {
+    if (x < 0) {
+      result = std::numeric_limits<T>::quiet_NaN();
+      return lumStsDomain;
+    }
+    result = x == 0 ? x : x + x;
+    return lumStsOk;
+  }
+};
+
+template <class T> struct Roots {
+  Vec<T> g, h;  // near sqrt x and 1 / (2 sqrt x)
+};
+template <class T> LUM_INLINE Roots<T> Start(Vec<T> x, Vec<T> s) { return {x * s, all(T(0.5)) * s}; }
+template <class T> LUM_INLINE Roots<T> CoupledStep(Roots<T> a) {
+  const auto e = fnma(a.g, a.h, all(T(0.5)));
+  return {fma(e, a.g, a.g), fma(e, a.h, a.h)};
+}
+
+template <class T, int steps> struct Coupled : SqrtKernel<T> {
+  static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) {
+    auto a = Start(x, rsqrt14(x));
+    for (int i = 0; i < steps; ++i) a = CoupledStep(a);
+    return {a.g, SqrtKernel<T>::Refused(x)};
+  }
+};
+
+// From this estimate of 1 / sqrt x on the residual is scaled, by 4^k, and the root by 2^k.
+template <class T> struct Scaling;
+template <> struct Scaling<Lum32f> {
+  static constexpr auto threshold = f32(0x53000000, 0x1p39);
+  static constexpr auto root = f32(0x53000000, 0x1p39);
+  static constexpr auto square = f32(0x66800000, 0x1p78);
+  static constexpr auto inverse = f32(0x18800000, 0x1p-78);
+};
+template <> struct Scaling<Lum64f> {
+  static constexpr auto threshold = f64(0x5C90000000000000, 0x1p458);
+  static constexpr auto root = f64(0x5C90000000000000, 0x1p458);
+  static constexpr auto square = f64(0x7930000000000000, 0x1p916);
+  static constexpr auto inverse = f64(0x06B0000000000000, 0x1p-916);
+};
+
+template <class T> struct Heron : SqrtKernel<T> {
+  static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) {
+    using C = Scaling<T>;
+    const auto s = rsqrt14(x);
+    auto a = Start(x, s);
+    if constexpr (std::is_same_v<T, Lum64f>) a = CoupledStep(a);
+    const auto small = lt(all(C::threshold), s);
+    // Decided lane by lane: an ordinary lane has the same bits beside a small one as alone.
+    auto scaled_x = x, scaled_g = a.g, scaled_h = a.h;
+    if (any(small)) [[unlikely]] {
+      scaled_x = select(small, x * all(C::square), x);
+      scaled_g = select(small, a.g * all(C::root), a.g);
+      scaled_h = select(small, a.h * all(C::inverse), a.h);
+    }
+    const auto residual = fnma(scaled_g, scaled_g, scaled_x);  // exact
+    return {fma(residual, scaled_h, a.g), SqrtKernel<T>::Refused(x)};
+  }
+};
+
+}  // namespace
+
+LumStatus Sqrt_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len) { return OneInput<Coupled<Lum32f, 0>>(src, dst, len); }
+LumStatus Sqrt_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len) { return OneInput<Coupled<Lum32f, 1>>(src, dst, len); }
+LumStatus Sqrt_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len) { return OneInput<Heron<Lum32f>>(src, dst, len); }
+LumStatus Sqrt_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<Coupled<Lum64f, 1>>(src, dst, len); }
+LumStatus Sqrt_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<Coupled<Lum64f, 2>>(src, dst, len); }
+LumStatus Sqrt_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<Heron<Lum64f>>(src, dst, len); }
+
+}  // namespace lum

@@ -1,0 +1,134 @@
+// Powers in thirds without a logarithm. With x = +-2^e m and c near 1 / m, a multiple of 2^-5 or 2^-4, r = m c - 1 is exact and
+// small, and with e = 3 q + j:   |x|^(1/3) = 2^q 2^(j/3) c^(-1/3) (1 + r)^(1/3).   The same holds for the powers -1/3 and 2/3.
+// Both table factors stand in registers; e / 3 needs no integer conversion, as the integers lie in the low bits of floats.
+#pragma once
+
+#include <type_traits>
+
+#include "frame/kernel_frame.h"
+#include "tables/table.h"
+
+namespace lum {
+
+enum class Power { one_third, minus_one_third, two_thirds };
+
+template <class T> struct ThirdsConstants;
+template <> struct ThirdsConstants<Lum32f> {
+  static constexpr auto shifter = f32(0x4B400000, 12582912.0);  // 1.5 * 2^23
+  static constexpr auto third = f32(0x3EAAAAAB, 0.3333333432674408);
+  static constexpr auto offset = f32(0x4A800000, 4194304.0);  // a third of the shifter
+  static constexpr int grid = 0x58;                           // reciprocals are multiples of 2^-5
+  static constexpr int index_shift = 19;  // down to their last bit: the index of 1 follows on those below it
+};
+template <> struct ThirdsConstants<Lum64f> {
+  static constexpr auto shifter = f64(0x4338000000000000, 6755399441055744.0);  // 1.5 * 2^52
+  static constexpr auto third = f64(0x3FD5555555555556, 0.33333333333333337);
+  static constexpr auto offset = f64(0x4320000000000000, 2251799813685248.0);
+  static constexpr int grid = 0x48;
+  static constexpr int index_shift = 49;
+};
+
+// 2^(j/3) or 2^(-j/3), head and tail.
+template <class T, bool negative> struct ThirdsOfTwo;
+template <> struct ThirdsOfTwo<Lum32f, false> {
+  static constexpr auto head = table32({
+#include "tables/generated/two_to_thirds_32_head.inc"
+  });
+  static constexpr auto tail = table32({
+#include "tables/generated/two_to_thirds_32_tail.inc"
+  });
+};
+template <> struct ThirdsOfTwo<Lum32f, true> {
+  static constexpr auto head = table32({
+#include "tables/generated/two_to_minus_thirds_32_head.inc"
+  });
+  static constexpr auto tail = table32({
+#include "tables/generated/two_to_minus_thirds_32_tail.inc"
+  });
+};
+template <> struct ThirdsOfTwo<Lum64f, false> {
+  static constexpr auto head = table64({
+#include "tables/generated/two_to_thirds_64_head.inc"
+  });
+  static constexpr auto tail = table64({
+#include "tables/generated/two_to_thirds_64_tail.inc"
+  });
+};
+template <> struct ThirdsOfTwo<Lum64f, true> {
+  static constexpr auto head = table64({
+#include "tables/generated/two_to_minus_thirds_64_head.inc"
+  });
+  static constexpr auto tail = table64({
+#include "tables/generated/two_to_minus_thirds_64_tail.inc"
+  });
+};
+
+template <class T> struct ThirdsReduced {
+  Vec<T> q;  // the power of 2 of the result
+  Vec<T> j;  // the remainder in its low bits; NaN for zeros, infinities and NaN
+  Vec<T> c, r;
+};
+
+// The rounded third of the shifted exponent, less the third of the shifter, exceeds e / 3 by less than 1/3, so that rounding
+// down finds q; for the negative power it falls below -e / 3 by as little, and is rounded up.
+template <Power power, class T> LUM_INLINE ThirdsReduced<T> ReduceThirds(Vec<T> x) {
+  using C = ThirdsConstants<T>;
+  const auto m = getmant<0x0>(x);
+  const auto e = getexp(x);
+  const auto E = (power == Power::two_thirds ? e + e : e) + all(C::shifter);
+  Vec<T> q, j;
+  if constexpr (power == Power::minus_one_third) {
+    q = rndscale<0xA>(fma(E, all(-C::third), all(C::offset)));
+    j = fma(q, all(T(3)), E);
+  } else {
+    q = rndscale<0x9>(fma(E, all(C::third), all(-C::offset)));
+    j = fnma(q, all(T(3)), E);
+  }
+  const auto c = rndscale<C::grid>(rcp14(m));
+  return {q, j, c, fms(m, c, all(T(1)))};
+}
+
+// An entry of a table of c^power. The index of c = 1 is the first one behind the table; `thirds` stands there, the powers of 2
+// whose first entry is 2^0 = 1 in the heads and 0 in the tails, which is right for c = 1 as well.
+template <class T, size_t n> LUM_INLINE Vec<T> AtReciprocal(const Table<T, n>& table, Vec<T> thirds, Vec<T> c) {
+  const auto index = shift_right<ThirdsConstants<T>::index_shift>(bits(c));
+  return permute2(load<T>(table), thirds, index);
+}
+
+// c0 + x c1 + x^2 (c2 + x c3 + x^2 (...)): pairs joined by the square in turn.
+template <Floating T> LUM_INLINE Vec<T> horner_of_pairs(Vec<T>, Vec<T>, T c0) { return all(c0); }
+template <Floating T> LUM_INLINE Vec<T> horner_of_pairs(Vec<T> x, Vec<T>, T c0, T c1) { return fma(all(c1), x, all(c0)); }
+template <Floating T, class... Rest>
+LUM_INLINE Vec<T> horner_of_pairs(Vec<T> x, Vec<T> square, T c0, T c1, T c2, Rest... rest) {
+  return fma(horner_of_pairs(x, square, c2, rest...), square, fma(all(c1), x, all(c0)));
+}
+
+// The tiers. F gives the power, the tables of c^power as F::head<T>() and F::tail<T>(), and p = ((1 + r)^power - 1) / r as
+// F::polynomial<tier>(r).
+enum class Tier { low, mid, high };
+
+// Vectors in a block: the constants of the longest path leave registers for one stream alone.
+template <class T, Tier tier> inline constexpr int thirds_vectors = std::is_same_v<T, Lum64f>&& tier == Tier::high ? 1 : 2;
+
+template <class F, Tier tier, class T> LUM_INLINE Vec<T> ThirdsMagnitude(const ThirdsReduced<T>& a) {
+  using Thirds = ThirdsOfTwo<T, F::power == Power::minus_one_third>;
+  const auto heads = load<T>(Thirds::head), tails = load<T>(Thirds::tail);
+  const auto third = permute(heads, bits(a.j));
+  const auto t = AtReciprocal(F::template head<T>(), heads, a.c);
+  const auto p = F::template polynomial<tier>(a.r);
+  if constexpr (tier == Tier::low) {
+    return fma(third * a.r, p, third) * scalef(t, a.q);
+  } else if constexpr (tier == Tier::mid) {
+    const auto w = fma(third * a.r, p, permute(tails, bits(a.j)));
+    return (w + third) * scalef(t, a.q);
+  } else {
+    // The product of the table factors as h + l.
+    const auto h = third * t;
+    auto l = fms(third, t, h);
+    l = fma(AtReciprocal(F::template tail<T>(), tails, a.c), third, l);
+    l = fma(permute(tails, bits(a.j)), t, l);
+    return scalef(h + fma(h * a.r, p, l), a.q);
+  }
+}
+
+}  // namespace lum

@@ -1,0 +1,11 @@
+# The programs around the library.
+add_test(NAME tools.command_line
+         COMMAND ${Python3_EXECUTABLE} ${CMAKE_CURRENT_SOURCE_DIR}/tools/command_line.py $<TARGET_FILE:lumvm>)
+foreach(program accuracy bench)
+  add_test(NAME tools.${program}_unknown_function COMMAND ${program} Nope)
+  set_tests_properties(tools.${program}_unknown_function PROPERTIES PASS_REGULAR_EXPRESSION
+                                                                    "^${program}: no function 'Nope'\n$")
+endforeach()
+
+# The installed tree, as a project outside uses it.
+add_test(NAME tools.installed_tree COMMAND bash ${CMAKE_CURRENT_SOURCE_DIR}/tools/installed_tree.sh ${PROJECT_BINARY_DIR})
