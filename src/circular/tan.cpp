@@ -38,7 +38,7 @@ template <> struct TanConstants<Lum64f> {  // N = 16
 #include "tables/generated/tangent_16_tail.inc"
   });
   static constexpr auto wide_step = f64(0x3F8921FB54442D18, 0.01227184630308513),
-                        wide_step_tail = f64(0x3C21A62633145C06, 4.7837765591693475e-19);  // turn/512
+                        wide_step_tail = f64(0x3C21A62633145C07, 4.783776559169348e-19);  // turn/512
   static constexpr int wide_shift = 4;
 };
 

@@ -259,6 +259,15 @@ void add_common(Builder& table) {
   table.add<const T*, Index, V, M>("gather masked" + t, [](const T* p, Index i, V old, M m) {
     return gather(m, p + lanes_of<T> / 2, shift_right_arithmetic<top_bits>(i), old);
   });
+  // Half as many indexes, so that the rows end within the vector.
+  table.add<const T*, Index>("gather_rows first" + t, [](const T* p, Index i) {
+    const auto r = gather_rows(p + lanes_of<T> / 4, shift_right_arithmetic<top_bits + 1>(i));
+    return Pair<T>{r.column0, r.column1};
+  });
+  table.add<const T*, Index>("gather_rows second" + t, [](const T* p, Index i) {
+    const auto r = gather_rows(p + lanes_of<T> / 4, shift_right_arithmetic<top_bits + 1>(i));
+    return Pair<T>{r.column2, r.column3};
+  });
 }
 
 template <Integer T>
