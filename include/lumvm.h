@@ -71,6 +71,18 @@ LUM_API const LumLibraryVersion* lumvmGetLibVersion(void);
 LUM_API LumStatus lumsAbs_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len);
 LUM_API LumStatus lumsAbs_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
 
+/* Acos: The angle in [0, pi] whose cosine is x.
+ * Domain: -1 <= x <= 1
+ * Special values: acos(1) = +0; acos(-1) = pi; acos(+-0) = pi/2; acos(NaN) = NaN
+ * Status: lumStsDomain: |x| > 1, infinities included; the result is NaN
+ * Relative cost: 32f A11 0.6, A21 0.75, A24 0.95; 64f A26 1.5, A50 2.1, A53 2.4 */
+LUM_API LumStatus lumsAcos_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsAcos_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsAcos_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsAcos_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsAcos_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsAcos_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
+
 /* Add: src1 + src2; complex numbers part by part.
  * Domain: all numbers
  * Special values: as IEEE 754 addition in each part
@@ -80,6 +92,44 @@ LUM_API LumStatus lumsAdd_32f_A24(const Lum32f* src1, const Lum32f* src2, Lum32f
 LUM_API LumStatus lumsAdd_32fc_A24(const Lum32fc* src1, const Lum32fc* src2, Lum32fc* dst, int32_t len);
 LUM_API LumStatus lumsAdd_64f_A53(const Lum64f* src1, const Lum64f* src2, Lum64f* dst, int32_t len);
 LUM_API LumStatus lumsAdd_64fc_A53(const Lum64fc* src1, const Lum64fc* src2, Lum64fc* dst, int32_t len);
+
+/* Asin: The angle in [-pi/2, pi/2] whose sine is x.
+ * Domain: -1 <= x <= 1
+ * Special values: asin(+-0) = +-0; asin(+-1) = +-pi/2; asin(NaN) = NaN
+ * Status: lumStsDomain: |x| > 1, infinities included; the result is NaN
+ * Relative cost: 32f A11 0.55, A21 0.85, A24 0.9; 64f A26 1.4, A50 2, A53 2.3 */
+LUM_API LumStatus lumsAsin_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsAsin_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsAsin_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsAsin_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsAsin_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsAsin_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
+
+/* Atan2: The angle in [-pi, pi] of the point with ordinate src1 and abscissa src2.
+ * Domain: all pairs of numbers
+ * Special values: atan2(+-0, x) = +-0 for x > 0 or +0; atan2(+-0, x) = +-pi for x < 0 or -0; atan2(y, +-0) = +-pi/2
+ *   for y != 0; atan2(+-y, +inf) = +-0, atan2(+-y, -inf) = +-pi for finite y; atan2(+-inf, x) = +-pi/2 for finite
+ *   x; atan2(+-inf, +inf) = +-pi/4, atan2(+-inf, -inf) = +-3 pi/4; NaN where either is NaN
+ * Status: always lumStsOk
+ * Relative cost: 32f A11 0.8, A21 1.05, A24 1.6; 64f A26 2.2, A50 3.6, A53 4.3 */
+LUM_API LumStatus lumsAtan2_32f_A11(const Lum32f* src1, const Lum32f* src2, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsAtan2_32f_A21(const Lum32f* src1, const Lum32f* src2, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsAtan2_32f_A24(const Lum32f* src1, const Lum32f* src2, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsAtan2_64f_A26(const Lum64f* src1, const Lum64f* src2, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsAtan2_64f_A50(const Lum64f* src1, const Lum64f* src2, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsAtan2_64f_A53(const Lum64f* src1, const Lum64f* src2, Lum64f* dst, int32_t len);
+
+/* Atan: The angle in [-pi/2, pi/2] whose tangent is x.
+ * Domain: all numbers
+ * Special values: atan(+-0) = +-0; atan(+-inf) = +-pi/2; atan(NaN) = NaN
+ * Status: always lumStsOk
+ * Relative cost: 32f A11 0.45, A21 0.72, A24 1; 64f A26 1.5, A50 2.2, A53 2.7 */
+LUM_API LumStatus lumsAtan_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsAtan_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsAtan_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsAtan_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsAtan_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsAtan_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
 
 /* CIS: cos x + i sin x, the complex exponential of i x, of a real x in radians; exact reduction of arguments of any
  *   size.

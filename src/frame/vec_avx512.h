@@ -403,6 +403,18 @@ LUM_INLINE Vec<T> add(Mask<T> m, Vec<T> a, Vec<T> b) {
   if constexpr (is32<T>) return {_mm512_mask_add_round_ps(a.v, m.k, a.v, b.v, suppressed<rn>)};
   else return {_mm512_mask_add_round_pd(a.v, m.k, a.v, b.v, suppressed<rn>)};
 }
+// Per lane m ? a - b : other.
+template <Floating T>
+LUM_INLINE Vec<T> sub(Mask<T> m, Vec<T> a, Vec<T> b, Vec<T> other) {
+  if constexpr (is32<T>) return {_mm512_mask_sub_round_ps(other.v, m.k, a.v, b.v, suppressed<rn>)};
+  else return {_mm512_mask_sub_round_pd(other.v, m.k, a.v, b.v, suppressed<rn>)};
+}
+// Per lane m ? a - b : +0.
+template <Floating T>
+LUM_INLINE Vec<T> sub_or_zero(Mask<T> m, Vec<T> a, Vec<T> b) {
+  if constexpr (is32<T>) return {_mm512_maskz_sub_round_ps(m.k, a.v, b.v, suppressed<rn>)};
+  else return {_mm512_maskz_sub_round_pd(m.k, a.v, b.v, suppressed<rn>)};
+}
 // Per lane m ? a : +0.
 template <Lane T>
 LUM_INLINE Vec<T> zero_unless(Mask<T> m, Vec<T> a) {

@@ -449,6 +449,16 @@ template <Floating T>
 LUM_INLINE Vec<T> add(Mask<T> m, Vec<T> a, Vec<T> b) {
   return select(m, a + b, a);
 }
+// Per lane m ? a - b : other.
+template <Floating T>
+LUM_INLINE Vec<T> sub(Mask<T> m, Vec<T> a, Vec<T> b, Vec<T> other) {
+  return select(m, sub(a, b), other);
+}
+// Per lane m ? a - b : +0.
+template <Floating T>
+LUM_INLINE Vec<T> sub_or_zero(Mask<T> m, Vec<T> a, Vec<T> b) {
+  return zero_unless(m, sub(a, b));
+}
 // Per lane m ? a : +0.
 template <Lane T>
 LUM_INLINE Vec<T> zero_unless(const Mask<T>& m, const Vec<T>& a) {

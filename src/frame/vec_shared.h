@@ -53,6 +53,11 @@ template <Floating T>
 LUM_INLINE Vec<T> or_sign(Vec<T> x, Vec<T> v) {
   return as_float(ternary<0xF8>(bits(v), bits(x), all(sign_bit<T>)));
 }
+// v with its sign turned over where x is negative.
+template <Floating T>
+LUM_INLINE Vec<T> xor_sign(Vec<T> x, Vec<T> v) {
+  return as_float(ternary<0x78>(bits(v), bits(x), all(sign_bit<T>)));
+}
 
 // c0 + x (c1 + x (c2 + ...)), one fused step a coefficient.
 template <Floating T>

@@ -180,11 +180,15 @@ void add_floating(Builder& table) {
   table.add<V, V>("min" + t, [](V a, V b) { return min(a, b); });
   table.add<V, V>("max" + t, [](V a, V b) { return max(a, b); });
   table.add_arithmetic<V, V, Mask<T>>("add under a mask" + t, [](V a, V b, Mask<T> m) { return add(m, a, b); });
+  table.add_arithmetic<V, V, V, Mask<T>>("sub under a mask" + t,
+                                         [](V a, V b, V other, Mask<T> m) { return sub(m, a, b, other); });
+  table.add_arithmetic<V, V, Mask<T>>("sub_or_zero" + t, [](V a, V b, Mask<T> m) { return sub_or_zero(m, a, b); });
   table.add<V>("rcp14" + t, [](V a) { return rcp14(a); });
   table.add<V>("rsqrt14" + t, [](V a) { return rsqrt14(a); });
   table.add<V>("abs" + t, [](V a) { return abs(a); });
   table.add<V>("negate" + t, [](V a) { return negate(a); });
   table.add<V, V>("or_sign" + t, [](V a, V b) { return or_sign(a, b); });
+  table.add<V, V>("xor_sign" + t, [](V a, V b) { return xor_sign(a, b); });
   table.add<V>("sign_of" + t, [](V a) { return sign_of(a); });
   table.add<V, U>("operator& float with bits" + t, [](V a, U b) { return a & b; });
   table.add<V, U>("operator| float with bits" + t, [](V a, U b) { return a | b; });

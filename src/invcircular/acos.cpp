@@ -1,0 +1,106 @@
+// arccos x, by the two branches of invcircular/arcsine.h: pi/2 - arcsin x for |x| < 1/2, and for larger |x| s + s W(q), or pi
+// less that where x is negative. The tiers differ in the square root, the polynomial, and whether pi, pi/2 and the root take
+// part in two parts. Lanes outside [-1, 1] go to the lane routine; a NaN does so in binary32 and runs through in binary64.
+#include "frame/kernels.h"
+#include "invcircular/arcsine.h"
+
+namespace lum {
+namespace {
+
+template <class T> struct Arguments {
+  Vec<T> a, y, q;  // -|x|, (1 - |x|) / 2, min(x^2, y)
+  Mask<T> big;     // |x| >= 1/2, or x a NaN
+};
+template <class T> LUM_INLINE Arguments<T> Reduce(Vec<T> x) {
+  const auto a = x | all(sign_bit<T>);
+  const auto y = fma(a, all(T(0.5)), all(T(0.5)));
+  const auto q = min(x * x, y);
+  return {a, y, q, nlt(q, y)};
+}
+
+LUM_INLINE Mask<Lum32f> IsRefused(Vec<Lum32f> a) { return nle(all(-1.0f), a); }
+LUM_INLINE Mask<Lum64f> IsRefused(Vec<Lum64f> a) { return lt(a, all(-1.0)); }
+
+// pi/2 in the small branch; pi or 0 in the big one, as x is negative or not.
+template <class T> LUM_INLINE Vec<T> Base(const Arguments<T>& r, Mask<T> negative, T half_pi, T pi) {
+  return select(r.big, zero_unless(negative, all(pi)), all(half_pi));
+}
+
+template <class T> LUM_INLINE Lanes<T> Join(Vec<T> x, const Arguments<T>& r, Vec<T> s, Vec<T> w) {
+  const auto negative = lt(x, r.q);  // in the big branch; q is never negative
+  const auto v = xor_sign(x, select(r.big, s, r.a));
+  return {Base(r, negative, Angles<T>::half_pi, Angles<T>::pi) + fma(v, w, v), IsRefused(r.a)};
+}
+
+// All but the base is formed for the sign of a negative x, the tails first, and turned over at the end.
+template <class T> LUM_INLINE Lanes<T> JoinSplit(Vec<T> x, const Arguments<T>& r, SplitRoot<T> s, Vec<T> w) {
+  using A = Angles<T>;
+  const auto negative = lt(x, r.q);
+  const auto h = select(r.big, s.head, r.a);
+  const auto base_tail = xor_sign(x, Base(r, negative, A::half_pi_tail, A::pi_tail));
+  const auto tail = sub(r.big, base_tail, s.c, base_tail);
+  const auto rest = xor_sign(x, fma(w, sub(r.big, h, s.c, h), tail) + h);
+  return {rest + Base(r, negative, A::half_pi, A::pi), IsRefused(r.a)};
+}
+
+template <int terms, class T> LUM_INLINE Vec<T> PlainRoot(Vec<T> y) {
+  const auto s = RootOf<terms>(y);
+  return fnma(s.h, s.p, s.g);
+}
+
+template <class T> struct Arccosine : Kernel<T> {
+  static LumStatus LaneRoutine(T x, T& result) { return OutsideUnitInterval(x, result); }
+};
+
+struct A11_32f : Arccosine<Lum32f> {
+  static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
+    const auto r = Reduce(x);
+    return Join(x, r, PlainRoot<1>(r.y), ShortCorrection(r.q));
+  }
+};
+
+struct A21_32f : Arccosine<Lum32f> {
+  static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
+    const auto r = Reduce(x);
+    return Join(x, r, PlainRoot<2>(r.y), LongCorrection(r.q));
+  }
+};
+
+struct A24_32f : Arccosine<Lum32f> {
+  static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
+    const auto r = Reduce(x);
+    return JoinSplit(x, r, SplitRootOf(r.y), LongCorrection(r.q));
+  }
+};
+
+struct A26_64f : Arccosine<Lum64f> {
+  static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
+    const auto r = Reduce(x);
+    return Join(x, r, PlainRoot<2>(r.y), ShortCorrection(r.q));
+  }
+};
+
+struct A50_64f : Arccosine<Lum64f> {
+  static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
+    const auto r = Reduce(x);
+    return Join(x, r, PlainRoot<4>(r.y), LongCorrection(r.q));
+  }
+};
+
+struct A53_64f : Arccosine<Lum64f> {
+  static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
+    const auto r = Reduce(x);
+    return JoinSplit(x, r, SplitRootOf(r.y), LongCorrection(r.q));
+  }
+};
+
+}  // namespace
+
+LumStatus Acos_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len) { return OneInput<A11_32f>(src, dst, len); }
+LumStatus Acos_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len) { return OneInput<A21_32f>(src, dst, len); }
+LumStatus Acos_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len) { return OneInput<A24_32f>(src, dst, len); }
+LumStatus Acos_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A26_64f>(src, dst, len); }
+LumStatus Acos_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A50_64f>(src, dst, len); }
+LumStatus Acos_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A53_64f>(src, dst, len); }
+
+}  // namespace lum

@@ -1,0 +1,102 @@
+// arcsin x, by the two branches of invcircular/arcsine.h; the sign of x is put in at the end. The tiers differ in the square
+// root, the polynomial, and whether pi/2 and the root take part in two parts. Lanes outside [-1, 1] go to the lane routine; a
+// NaN runs through.
+#include "frame/kernels.h"
+#include "invcircular/arcsine.h"
+
+namespace lum {
+namespace {
+
+template <class T> struct Arguments {
+  Vec<T> a, y, q;  // |x|, (1 - |x|) / 2, min(x^2, y)
+};
+template <class T> LUM_INLINE Arguments<T> Reduce(Vec<T> x) {
+  const auto a = as_float(and_not(all(sign_bit<T>), bits(x)));  // by the constant that also puts in the sign
+  const auto y = fnma(a, all(T(0.5)), all(T(0.5)));
+  return {a, y, min(x * x, y)};
+}
+
+// 1 - |x| is negative; a NaN has no sign here.
+template <class T> LUM_INLINE Mask<T> IsOutside(const Arguments<T>& r) { return mask_cast<T>(sign_mask(bits(r.y))); }
+// Not of a NaN, which the small branch leads through unchanged: the root's would be cut short.
+template <class T> LUM_INLINE Mask<T> IsBig(Vec<T> a) { return le(all(T(0.5)), a); }
+
+template <class T> LUM_INLINE Lanes<T> Join(Vec<T> x, const Arguments<T>& r, Vec<T> minus_s, Vec<T> w) {
+  const auto big = IsBig(r.a);
+  const auto u = select(big, all(Angles<T>::half_pi) + minus_s, r.a);
+  const auto v = select(big, minus_s, r.a);
+  return {xor_sign(x, fma(v, w, u)), IsOutside(r)};
+}
+
+// pi/2 - head = u - d exactly in the big branch, and what is below u is summed first.
+template <class T> LUM_INLINE Lanes<T> JoinSplit(Vec<T> x, const Arguments<T>& r, SplitRoot<T> s, Vec<T> w) {
+  using A = Angles<T>;
+  const auto big = IsBig(r.a);
+  const auto u = sub(big, all(A::half_pi), s.head, r.a);
+  const auto d = s.head - (all(A::half_pi) - u);
+  const auto z = sub_or_zero(big, all(A::half_pi_tail) + s.c, d);
+  const auto v = sub(big, s.c, s.head, r.a);
+  return {xor_sign(x, u + fma(w, v, z)), IsOutside(r)};
+}
+
+template <int terms, class T> LUM_INLINE Vec<T> MinusRoot(Vec<T> y) {
+  const auto s = RootOf<terms>(y);
+  return fms(s.h, s.p, s.g);
+}
+
+template <class T> struct Arcsine : Kernel<T> {
+  static LumStatus LaneRoutine(T x, T& result) { return OutsideUnitInterval(x, result); }
+};
+
+struct A11_32f : Arcsine<Lum32f> {
+  static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
+    const auto r = Reduce(x);
+    return Join(x, r, MinusRoot<1>(r.y), ShortCorrection(r.q));
+  }
+};
+
+struct A21_32f : Arcsine<Lum32f> {
+  static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
+    const auto r = Reduce(x);
+    return Join(x, r, sqrt(r.y) * all(-2.0f), LongCorrection(r.q));
+  }
+};
+
+struct A24_32f : Arcsine<Lum32f> {
+  static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
+    const auto r = Reduce(x);
+    return JoinSplit(x, r, SplitRootOf(r.y), LongCorrection(r.q));
+  }
+};
+
+struct A26_64f : Arcsine<Lum64f> {
+  static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
+    const auto r = Reduce(x);
+    return Join(x, r, MinusRoot<2>(r.y), ShortCorrection(r.q));
+  }
+};
+
+struct A50_64f : Arcsine<Lum64f> {
+  static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
+    const auto r = Reduce(x);
+    return Join(x, r, MinusRoot<4>(r.y), LongCorrection(r.q));
+  }
+};
+
+struct A53_64f : Arcsine<Lum64f> {
+  static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
+    const auto r = Reduce(x);
+    return JoinSplit(x, r, SplitRootOf(r.y), LongCorrection(r.q));
+  }
+};
+
+}  // namespace
+
+LumStatus Asin_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len) { return OneInput<A11_32f>(src, dst, len); }
+LumStatus Asin_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len) { return OneInput<A21_32f>(src, dst, len); }
+LumStatus Asin_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len) { return OneInput<A24_32f>(src, dst, len); }
+LumStatus Asin_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A26_64f>(src, dst, len); }
+LumStatus Asin_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A50_64f>(src, dst, len); }
+LumStatus Asin_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A53_64f>(src, dst, len); }
+
+}  // namespace lum

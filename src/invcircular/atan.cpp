@@ -1,0 +1,138 @@
+// arctan x. The mid and high tiers take the multiple c of 1/4 next to a = |x| and r = a - c:
+//   arctan a = arctan c + arctan(r / (1 + a c)),        arctan a = pi/2 + arctan(-1 / a) for large a,
+// with arctan c from a table in registers. They know no refused lane: a clamp makes an infinity finite. The high tiers add up
+// the rounding errors of the quotient and the sum. The low tiers have one polynomial on [-1, 1], and -1/x beyond; they refuse
+// the infinities. A NaN runs through everywhere.
+#include "frame/kernels.h"
+#include "invcircular/arctangent.h"
+#include "tables/table.h"
+
+namespace lum {
+namespace {
+
+template <class T> struct Grid;
+template <> struct Grid<Lum32f> {
+  static constexpr auto shifter = f32(0x4A000000, 2097152.0);  // 2^21: the last bit is worth 1/4
+  static constexpr auto large = f32(0x40F80000, 7.75);
+  static constexpr auto clamp = f32(0x4F800000, 4294967296.0);  // its arctangent rounds to pi/2
+  static constexpr auto half_pi_tail = f32(0xB33BBD2E, -4.371138828673793e-08);
+  static constexpr auto head = table32({
+#include "tables/generated/atan_float_head.inc"
+  });
+  static constexpr auto tail = table32({
+#include "tables/generated/atan_float_tail.inc"
+  });
+};
+template <> struct Grid<Lum64f> {
+  static constexpr auto shifter = f64(0x4318000000000000, 1688849860263936.0);     // 1.5 * 2^50
+  static constexpr auto upper_half = f64(0x4318000000000010, 1688849860263940.0);  // the shifter + 16/4
+  static constexpr auto large = f64(0x401F800000000000, 7.875);
+  static constexpr auto clamp = f64(0x47F0000000000000, 3.402823669209385e+38);
+  static constexpr auto half_pi_tail = f64(0x3C91A62633145C07, 6.123233995736766e-17);
+  static constexpr auto head = table64({
+#include "tables/generated/atan_double_head.inc"
+  });
+  static constexpr auto tail = table64({
+#include "tables/generated/atan_double_tail.inc"
+  });
+};
+
+// One of 32 entries, the index in the low bits of the sum.
+LUM_INLINE Vec<Lum32f> Lookup(const Table<Lum32f, 32>& table, Vec<Lum32f> sum) {
+  return permute2(load<Lum32f>(table), load(table + 16), bits(sum));
+}
+LUM_INLINE Vec<Lum64f> Lookup(const Table<Lum64f, 32>& table, Vec<Lum64f> sum) {
+  const auto lower = permute2(load<Lum64f>(table), load(table + 8), bits(sum));
+  const auto upper = permute2(load(table + 16), load(table + 24), bits(sum));
+  return select(lt(sum, all(Grid<Lum64f>::upper_half)), lower, upper);
+}
+
+// (arctan t - t) / t^3 for s = t^2, |t| up to 1/7.
+LUM_INLINE Vec<Lum32f> Cubic(Vec<Lum32f> s) {
+  return horner(s, f32(0xBEAAAAAA, -0.3333333134651184), f32(0x3E4CC8E2, 0.1999850571155548),
+                f32(0xBE0FA8DE, -0.14029261469841003));
+}
+LUM_INLINE Vec<Lum64f> Cubic(Vec<Lum64f> s) {
+  return horner(s, f64(0xBFD555555555554D, -0.33333333333333287), f64(0x3FC999999998741E, 0.19999999999791468),
+                f64(0xBFC249248EEF04DA, -0.14285714129622457), f64(0x3FBC71BFEFF916A0, 0.111110683524283),
+                f64(0xBFB74257C46790CC, -0.09085606141121899), f64(0x3FB2E9B9F5C4FE97, 0.07387888193351909));
+}
+
+// arctan |x| = table entry + arctan(n / d).
+template <class T> struct Reduced {
+  Vec<T> a, c;  // |x|, the multiple of 1/4 next to it
+  Vec<T> sum, n, d;
+  Mask<T> large;  // not of a NaN, which the clamp would hide
+};
+template <class T> LUM_INLINE Reduced<T> Reduce(Vec<T> x) {
+  using G = Grid<T>;
+  const auto a = abs(x);
+  const auto r = reduce<0x28>(a);  // exact
+  const auto c = a - r;
+  const auto large = le(all(G::large), a);
+  const auto n = select(large, all(T(-1)), r);
+  const auto d = select(large, min(all(G::clamp), a), fma(a, c, all(T(1))));
+  return {a, c, a + all(G::shifter), n, d, large};
+}
+
+template <class T> struct TableTier : Kernel<T> { static constexpr Variant variant = pure_vector_variant; };
+
+template <class T> struct Mid : TableTier<T> {
+  static LUM_INLINE Vec<T> VectorPath(Vec<T> x) {
+    const auto u = Reduce(x);
+    const auto base = select(u.large, all(half_pi<T>), Lookup(Grid<T>::head, u.sum));
+    const auto t = ScaledQuotient(u.n, u.d);
+    const auto s = t * t;
+    return xor_sign(x, base + fma(t * s, Cubic(s), t));
+  }
+};
+
+// 1 / d, by one Newton step for each doubling of the 14 bits.
+template <class T> LUM_INLINE Vec<T> NewtonStep(Vec<T> w, Vec<T> d) { return fma(w, fnma(d, w, all(T(1))), w); }
+template <class T> LUM_INLINE Vec<T> FullReciprocal(Vec<T> d) {
+  const auto w = NewtonStep(rcp14(d), d);
+  if constexpr (sizeof(T) == 4) return w;
+  else return NewtonStep(w, d);
+}
+
+template <class T> struct High : TableTier<T> {
+  static LUM_INLINE Vec<T> VectorPath(Vec<T> x) {
+    using G = Grid<T>;
+    const auto u = Reduce(x);
+    const auto one = all(T(1));
+    const auto d_error = fms(u.a, u.c, u.d - one);
+    const auto w = FullReciprocal(u.d);
+    const auto t = u.n * w;
+    const auto rounding = fma(t, fnma(u.d, w, one), fms(u.n, w, t));
+    const auto t_error = select(u.large, rounding, fnma(t, d_error * w, rounding));
+
+    const auto base = select(u.large, all(half_pi<T>), Lookup(G::head, u.sum));
+    const auto base_tail = select(u.large, all(G::half_pi_tail), Lookup(G::tail, u.sum));
+    const auto head = fast_two_sum(base, t);
+    const auto s = t * t;
+    const auto low = fma(t * s, Cubic(s), (base_tail + t_error) + head.error);
+    return xor_sign(x, head.sum + low);
+  }
+};
+
+template <class T> struct Low : Kernel<T> {
+  static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) {
+    const auto small = nlt(all(T(1)), abs(x));
+    const auto base = select(small, all(T(0)), all(half_pi<T>)) | sign_of(x);
+    const auto t = select(small, x, negate(ShortReciprocal(x)));
+    return {fma(t, ShortArctangent(t * t), base), fpclass<0x18>(x)};
+  }
+  // Infinities alone come here.
+  static void LaneRoutine(T x, T& result) { result = x < 0 ? -half_pi<T> : half_pi<T>; }
+};
+
+}  // namespace
+
+LumStatus Atan_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len) { return OneInput<Low<Lum32f>>(src, dst, len); }
+LumStatus Atan_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len) { return OneInput<Mid<Lum32f>>(src, dst, len); }
+LumStatus Atan_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len) { return OneInput<High<Lum32f>>(src, dst, len); }
+LumStatus Atan_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<Low<Lum64f>>(src, dst, len); }
+LumStatus Atan_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<Mid<Lum64f>>(src, dst, len); }
+LumStatus Atan_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<High<Lum64f>>(src, dst, len); }
+
+}  // namespace lum
