@@ -50,7 +50,7 @@ def run_benchmarks(build, functions, extra):
     """Rows of FIELDS from one interleaved run; medians of the repetitions."""
     with tempfile.NamedTemporaryFile(suffix=".json") as out:
         command = [build / "bench/bench", *functions, *extra, "--benchmark_enable_random_interleaving=true",
-                   "--benchmark_repetitions=5", "--benchmark_min_time=0.01", f"--benchmark_out={out.name}",
+                   "--benchmark_repetitions=3", "--benchmark_min_time=0.01", f"--benchmark_out={out.name}",
                    "--benchmark_out_format=json", "--benchmark_display_aggregates_only=true"]
         code = subprocess.run(command, stdout=subprocess.DEVNULL).returncode
         if code != 0:
@@ -172,7 +172,10 @@ def main():
         extra = ["--base", str(base.resolve()), "--lengths", f"1,{MAIN_LENGTH}"]
         print_comparison(run_benchmarks(arguments.build, arguments.functions, extra))
         return 0
-    rows = run_benchmarks(arguments.build, arguments.functions, [])
+    # A function at a time: all candidates of one interleave, and the arrays of all would not fit into memory.
+    rows = []
+    for function in arguments.functions or dict.fromkeys(row.function for row in catalogue.rows()):
+        rows += run_benchmarks(arguments.build, [function], [])
     output_bytes = {}
     for row in catalogue.rows():
         parts = 2 if row.shape in ("TwoOutputs", "ToComplex") or (row.type.endswith("c") and row.shape != "ToReal") else 1
