@@ -1,7 +1,5 @@
 // The cube root: the scheme of thirds, with the sign of x copied to the result. Zeros, infinities, NaN and denormals come out
 // of the operations on exponents and significands, so that no lane is ever refused.
-#include <type_traits>
-
 #include "frame/kernel_frame.h"
 #include "frame/kernels.h"
 #include "roots/thirds.h"
@@ -25,14 +23,8 @@ constexpr auto tail_64f = table64({
 
 struct Scheme {
   static constexpr auto power = Power::one_third;
-  template <class T> static consteval const auto& head() {
-    if constexpr (std::is_same_v<T, Lum32f>) return head_32f;
-    else return head_64f;
-  }
-  template <class T> static consteval const auto& tail() {
-    if constexpr (std::is_same_v<T, Lum32f>) return tail_32f;
-    else return tail_64f;
-  }
+  template <class T> static consteval const auto& head() { return of_type<T>(head_32f, head_64f); }
+  template <class T> static consteval const auto& tail() { return of_type<T>(tail_32f, tail_64f); }
   template <Tier tier> static LUM_INLINE Vec<Lum32f> polynomial(Vec<Lum32f> r) {
     if constexpr (tier == Tier::low) return horner(r, f32(0x3EAAB29A, 0.3333938717842102));
     else

@@ -1,7 +1,5 @@
 // x^(2/3) = cbrt(x)^2: the scheme of thirds. The significand of x and its reciprocal have the same sign, so that their product
 // and with it the result are positive. No lane is ever refused.
-#include <type_traits>
-
 #include "frame/kernel_frame.h"
 #include "frame/kernels.h"
 #include "roots/thirds.h"
@@ -25,14 +23,8 @@ constexpr auto tail_64f = table64({
 
 struct Scheme {
   static constexpr auto power = Power::two_thirds;
-  template <class T> static consteval const auto& head() {
-    if constexpr (std::is_same_v<T, Lum32f>) return head_32f;
-    else return head_64f;
-  }
-  template <class T> static consteval const auto& tail() {
-    if constexpr (std::is_same_v<T, Lum32f>) return tail_32f;
-    else return tail_64f;
-  }
+  template <class T> static consteval const auto& head() { return of_type<T>(head_32f, head_64f); }
+  template <class T> static consteval const auto& tail() { return of_type<T>(tail_32f, tail_64f); }
   template <Tier tier> static LUM_INLINE Vec<Lum32f> polynomial(Vec<Lum32f> r) {
     if constexpr (tier == Tier::low) return horner(r, f32(0x3F2AB034, 0.6667511463165283));
     else

@@ -32,4 +32,11 @@ template <size_t columns, class T, size_t n> consteval Table<T, n> by_columns(co
   return result;
 }
 
+// The one of two tables that holds T.
+template <class T, size_t n, size_t m>
+consteval const auto& of_type(const Table<float, n>& single, const Table<double, m>& twice) {
+  if constexpr (sizeof(T) == sizeof(float)) return single;
+  else return twice;
+}
+
 }  // namespace lum
