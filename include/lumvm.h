@@ -83,6 +83,40 @@ LUM_API LumStatus lumsAcos_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len);
 LUM_API LumStatus lumsAcos_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len);
 LUM_API LumStatus lumsAcos_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
 
+/* Acos (complex): The principal arc cosine of z, its real part in [0, pi]. All tags are one function, right in each
+ *   part nearly always to the last bit.
+ * Domain: all numbers; branch cuts along the real axis beyond -1 and 1, where the sign of a zero imaginary part
+ *   chooses the side
+ * Special values: acos(conj z) = conj acos(z); acos(+-0 + y i) = pi/2 - asinh(y) i; acos(inf +- y i) = 0 -+ inf i;
+ *   acos(-inf +- y i) = pi -+ inf i; acos(x +- inf i) = pi/2 -+ inf i; acos(inf +- inf i) = pi/4 -+ inf i;
+ *   acos(-inf +- inf i) = 3pi/4 -+ inf i; acos(+-inf + NaN i) = NaN + inf i; acos(NaN +- inf i) = NaN -+ inf i; NaN
+ *   in both parts for other NaN arguments
+ * Status: always lumStsOk
+ * Relative cost: 32fc A11 791.84, A21 791.84, A24 791.84; 64fc A26 791.84, A50 791.84, A53 791.84 */
+LUM_API LumStatus lumsAcos_32fc_A11(const Lum32fc* src, Lum32fc* dst, int32_t len);
+LUM_API LumStatus lumsAcos_32fc_A21(const Lum32fc* src, Lum32fc* dst, int32_t len);
+LUM_API LumStatus lumsAcos_32fc_A24(const Lum32fc* src, Lum32fc* dst, int32_t len);
+LUM_API LumStatus lumsAcos_64fc_A26(const Lum64fc* src, Lum64fc* dst, int32_t len);
+LUM_API LumStatus lumsAcos_64fc_A50(const Lum64fc* src, Lum64fc* dst, int32_t len);
+LUM_API LumStatus lumsAcos_64fc_A53(const Lum64fc* src, Lum64fc* dst, int32_t len);
+
+/* Acosh (complex): The principal inverse hyperbolic cosine of z, its real part not negative. All tags are one
+ *   function, right in each part nearly always to the last bit.
+ * Domain: all numbers; branch cut along the real axis below 1, where the sign of a zero imaginary part chooses the
+ *   side
+ * Special values: acosh(conj z) = conj acosh(z); acosh(+-0 +- 0 i) = 0 +- pi/2 i; acosh(+-0 + y i) = asinh(|y|) +
+ *   atan2(y, +-0) i; acosh(inf +- y i) = inf +- 0 i; acosh(-inf +- y i) = inf +- pi i; acosh(x +- inf i) = inf +-
+ *   pi/2 i; acosh(inf +- inf i) = inf +- pi/4 i; acosh(-inf +- inf i) = inf +- 3pi/4 i; acosh = inf + NaN i for an
+ *   infinity beside a NaN; NaN in both parts for other NaN arguments
+ * Status: always lumStsOk
+ * Relative cost: 32fc A11 780.5, A21 780.5, A24 780.5; 64fc A26 780.5, A50 780.5, A53 780.5 */
+LUM_API LumStatus lumsAcosh_32fc_A11(const Lum32fc* src, Lum32fc* dst, int32_t len);
+LUM_API LumStatus lumsAcosh_32fc_A21(const Lum32fc* src, Lum32fc* dst, int32_t len);
+LUM_API LumStatus lumsAcosh_32fc_A24(const Lum32fc* src, Lum32fc* dst, int32_t len);
+LUM_API LumStatus lumsAcosh_64fc_A26(const Lum64fc* src, Lum64fc* dst, int32_t len);
+LUM_API LumStatus lumsAcosh_64fc_A50(const Lum64fc* src, Lum64fc* dst, int32_t len);
+LUM_API LumStatus lumsAcosh_64fc_A53(const Lum64fc* src, Lum64fc* dst, int32_t len);
+
 /* Add: src1 + src2; complex numbers part by part.
  * Domain: all numbers
  * Special values: as IEEE 754 addition in each part
@@ -104,6 +138,37 @@ LUM_API LumStatus lumsAsin_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len);
 LUM_API LumStatus lumsAsin_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len);
 LUM_API LumStatus lumsAsin_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len);
 LUM_API LumStatus lumsAsin_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
+
+/* Asin (complex): The principal arc sine of z, its real part in [-pi/2, pi/2]. All tags are one function, right in
+ *   each part nearly always to the last bit.
+ * Domain: all numbers; branch cuts along the real axis beyond -1 and 1, where the sign of a zero imaginary part
+ *   chooses the side
+ * Special values: asin(z) = asinh(i z) / i, with the special values of asinh
+ * Status: always lumStsOk
+ * Relative cost: 32fc A11 768.2, A21 768.2, A24 768.2; 64fc A26 768.2, A50 768.2, A53 768.2 */
+LUM_API LumStatus lumsAsin_32fc_A11(const Lum32fc* src, Lum32fc* dst, int32_t len);
+LUM_API LumStatus lumsAsin_32fc_A21(const Lum32fc* src, Lum32fc* dst, int32_t len);
+LUM_API LumStatus lumsAsin_32fc_A24(const Lum32fc* src, Lum32fc* dst, int32_t len);
+LUM_API LumStatus lumsAsin_64fc_A26(const Lum64fc* src, Lum64fc* dst, int32_t len);
+LUM_API LumStatus lumsAsin_64fc_A50(const Lum64fc* src, Lum64fc* dst, int32_t len);
+LUM_API LumStatus lumsAsin_64fc_A53(const Lum64fc* src, Lum64fc* dst, int32_t len);
+
+/* Asinh (complex): The principal inverse hyperbolic sine of z, its imaginary part in [-pi/2, pi/2]. All tags are
+ *   one function, right in each part nearly always to the last bit.
+ * Domain: all numbers; branch cuts along the imaginary axis beyond -i and i, where the sign of a zero real part
+ *   chooses the side
+ * Special values: asinh(conj z) = conj asinh(z), asinh(-z) = -asinh(z); asinh(x +- 0 i) = asinh(x) +- 0 i, also of
+ *   a NaN; asinh(inf + y i) = inf +- 0 i; asinh(x +- inf i) = inf +- pi/2 i; asinh(inf +- inf i) = inf +- pi/4 i;
+ *   asinh(+-inf + NaN i) = +-inf + NaN i; asinh(NaN +- inf i) = inf + NaN i; NaN in both parts for other NaN
+ *   arguments
+ * Status: always lumStsOk
+ * Relative cost: 32fc A11 760.9, A21 760.9, A24 760.9; 64fc A26 760.9, A50 760.9, A53 760.9 */
+LUM_API LumStatus lumsAsinh_32fc_A11(const Lum32fc* src, Lum32fc* dst, int32_t len);
+LUM_API LumStatus lumsAsinh_32fc_A21(const Lum32fc* src, Lum32fc* dst, int32_t len);
+LUM_API LumStatus lumsAsinh_32fc_A24(const Lum32fc* src, Lum32fc* dst, int32_t len);
+LUM_API LumStatus lumsAsinh_64fc_A26(const Lum64fc* src, Lum64fc* dst, int32_t len);
+LUM_API LumStatus lumsAsinh_64fc_A50(const Lum64fc* src, Lum64fc* dst, int32_t len);
+LUM_API LumStatus lumsAsinh_64fc_A53(const Lum64fc* src, Lum64fc* dst, int32_t len);
 
 /* Atan2: The angle in [-pi, pi] of the point with ordinate src1 and abscissa src2.
  * Domain: all pairs of numbers
@@ -130,6 +195,36 @@ LUM_API LumStatus lumsAtan_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len);
 LUM_API LumStatus lumsAtan_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len);
 LUM_API LumStatus lumsAtan_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len);
 LUM_API LumStatus lumsAtan_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
+
+/* Atan (complex): The principal arc tangent of z, its real part in [-pi/2, pi/2]. All tags are one function, right
+ *   in each part nearly always to the last bit.
+ * Domain: all numbers; branch cuts along the imaginary axis beyond -i and i, where the sign of a zero real part
+ *   chooses the side
+ * Special values: atan(z) = atanh(i z) / i, with the special values of atanh
+ * Status: always lumStsOk
+ * Relative cost: 32fc A11 612.4, A21 612.4, A24 612.4; 64fc A26 612.4, A50 612.4, A53 612.4 */
+LUM_API LumStatus lumsAtan_32fc_A11(const Lum32fc* src, Lum32fc* dst, int32_t len);
+LUM_API LumStatus lumsAtan_32fc_A21(const Lum32fc* src, Lum32fc* dst, int32_t len);
+LUM_API LumStatus lumsAtan_32fc_A24(const Lum32fc* src, Lum32fc* dst, int32_t len);
+LUM_API LumStatus lumsAtan_64fc_A26(const Lum64fc* src, Lum64fc* dst, int32_t len);
+LUM_API LumStatus lumsAtan_64fc_A50(const Lum64fc* src, Lum64fc* dst, int32_t len);
+LUM_API LumStatus lumsAtan_64fc_A53(const Lum64fc* src, Lum64fc* dst, int32_t len);
+
+/* Atanh (complex): The principal inverse hyperbolic tangent of z, its imaginary part in [-pi/2, pi/2]. All tags are
+ *   one function, right in each part nearly always to the last bit.
+ * Domain: all numbers; branch cuts along the real axis beyond -1 and 1, where the sign of a zero imaginary part
+ *   chooses the side
+ * Special values: atanh(conj z) = conj atanh(z), atanh(-z) = -atanh(z); atanh(+-1 +- 0 i) = +-inf +- 0 i; atanh(+-0
+ *   + y i) = +-0 + atan(y) i, also of a NaN; atanh(+-inf + y i) = +-0 +- pi/2 i; atanh(x +- inf i) = 0 +- pi/2 i,
+ *   of a NaN +0; atanh(+-inf + NaN i) = +-0 + NaN i; NaN in both parts for other NaN arguments
+ * Status: always lumStsOk
+ * Relative cost: 32fc A11 598.7, A21 598.7, A24 598.7; 64fc A26 598.7, A50 598.7, A53 598.7 */
+LUM_API LumStatus lumsAtanh_32fc_A11(const Lum32fc* src, Lum32fc* dst, int32_t len);
+LUM_API LumStatus lumsAtanh_32fc_A21(const Lum32fc* src, Lum32fc* dst, int32_t len);
+LUM_API LumStatus lumsAtanh_32fc_A24(const Lum32fc* src, Lum32fc* dst, int32_t len);
+LUM_API LumStatus lumsAtanh_64fc_A26(const Lum64fc* src, Lum64fc* dst, int32_t len);
+LUM_API LumStatus lumsAtanh_64fc_A50(const Lum64fc* src, Lum64fc* dst, int32_t len);
+LUM_API LumStatus lumsAtanh_64fc_A53(const Lum64fc* src, Lum64fc* dst, int32_t len);
 
 /* CIS: cos x + i sin x, the complex exponential of i x, of a real x in radians; exact reduction of arguments of any
  *   size.
@@ -183,6 +278,34 @@ LUM_API LumStatus lumsCos_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len);
 LUM_API LumStatus lumsCos_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len);
 LUM_API LumStatus lumsCos_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len);
 LUM_API LumStatus lumsCos_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
+
+/* Cos (complex): The cosine of z. All tags are one function, right in each part nearly always to the last bit.
+ * Domain: all numbers
+ * Special values: cos(z) = cosh(i z), with the special values of cosh
+ * Status: lumStsOverflow: a part is infinite and both parts of z are finite and not zero
+ * Relative cost: 32fc A11 412.6, A21 412.6, A24 412.6; 64fc A26 412.6, A50 412.6, A53 412.6 */
+LUM_API LumStatus lumsCos_32fc_A11(const Lum32fc* src, Lum32fc* dst, int32_t len);
+LUM_API LumStatus lumsCos_32fc_A21(const Lum32fc* src, Lum32fc* dst, int32_t len);
+LUM_API LumStatus lumsCos_32fc_A24(const Lum32fc* src, Lum32fc* dst, int32_t len);
+LUM_API LumStatus lumsCos_64fc_A26(const Lum64fc* src, Lum64fc* dst, int32_t len);
+LUM_API LumStatus lumsCos_64fc_A50(const Lum64fc* src, Lum64fc* dst, int32_t len);
+LUM_API LumStatus lumsCos_64fc_A53(const Lum64fc* src, Lum64fc* dst, int32_t len);
+
+/* Cosh (complex): The hyperbolic cosine of z. All tags are one function, right in each part nearly always to the
+ *   last bit.
+ * Domain: all numbers
+ * Special values: cosh(+-0 +- 0 i) = 1, the sign of the imaginary zero being the product of both signs; cosh(inf +
+ *   0 i) = inf + 0 i; cosh(inf + y i) = inf cos(y) + inf sin(y) i; cosh(+-0 +- inf i) = NaN + 0 i, the sign of the
+ *   zero the product of both signs; cosh(x +- inf i) = NaN + NaN i; cosh(inf +- inf i) = cosh(inf + NaN i) = inf +
+ *   NaN i; cosh(NaN +- 0 i) = NaN +- 0 i; NaN in both parts for other NaN arguments
+ * Status: lumStsOverflow: a part is infinite and both parts of z are finite and not zero
+ * Relative cost: 32fc A11 405.3, A21 405.3, A24 405.3; 64fc A26 405.3, A50 405.3, A53 405.3 */
+LUM_API LumStatus lumsCosh_32fc_A11(const Lum32fc* src, Lum32fc* dst, int32_t len);
+LUM_API LumStatus lumsCosh_32fc_A21(const Lum32fc* src, Lum32fc* dst, int32_t len);
+LUM_API LumStatus lumsCosh_32fc_A24(const Lum32fc* src, Lum32fc* dst, int32_t len);
+LUM_API LumStatus lumsCosh_64fc_A26(const Lum64fc* src, Lum64fc* dst, int32_t len);
+LUM_API LumStatus lumsCosh_64fc_A50(const Lum64fc* src, Lum64fc* dst, int32_t len);
+LUM_API LumStatus lumsCosh_64fc_A53(const Lum64fc* src, Lum64fc* dst, int32_t len);
 
 /* Div: src1 / src2.
  * Domain: all numbers; the low and mid tags scale by a rounded reciprocal, so that a quotient next to the ends of
@@ -314,6 +437,23 @@ LUM_API LumStatus lumsLog10_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len)
 LUM_API LumStatus lumsLog10_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len);
 LUM_API LumStatus lumsLog10_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
 
+/* Log10 (complex): The principal logarithm of z to the base 10, the imaginary part in [-pi, pi] / ln 10. All tags
+ *   are one function, right in each part nearly always to the last bit.
+ * Domain: all numbers; branch cut along the negative real axis, where the sign of a zero imaginary part chooses the
+ *   side
+ * Special values: log10(+0 +- 0 i) = -inf +- 0 i; log10(-0 +- 0 i) = -inf +- pi/ln 10 i; log10(inf +- y i) = inf +-
+ *   0 i; log10(-inf +- y i) = inf +- pi/ln 10 i; log10(x +- inf i) = inf +- pi/(2 ln 10) i; log10(inf +- inf i) =
+ *   inf +- pi/(4 ln 10) i; log10(-inf +- inf i) = inf +- 3pi/(4 ln 10) i; log10 = inf + NaN i for an infinity
+ *   beside a NaN; NaN in both parts for other NaN arguments
+ * Status: always lumStsOk
+ * Relative cost: 32fc A11 331.8, A21 331.8, A24 331.8; 64fc A26 331.8, A50 331.8, A53 331.8 */
+LUM_API LumStatus lumsLog10_32fc_A11(const Lum32fc* src, Lum32fc* dst, int32_t len);
+LUM_API LumStatus lumsLog10_32fc_A21(const Lum32fc* src, Lum32fc* dst, int32_t len);
+LUM_API LumStatus lumsLog10_32fc_A24(const Lum32fc* src, Lum32fc* dst, int32_t len);
+LUM_API LumStatus lumsLog10_64fc_A26(const Lum64fc* src, Lum64fc* dst, int32_t len);
+LUM_API LumStatus lumsLog10_64fc_A50(const Lum64fc* src, Lum64fc* dst, int32_t len);
+LUM_API LumStatus lumsLog10_64fc_A53(const Lum64fc* src, Lum64fc* dst, int32_t len);
+
 /* Log1p: The natural logarithm of 1 + x, accurate also next to x = 0.
  * Domain: x >= -1
  * Special values: log1p(+-0) = +-0; log1p(-1) = -inf; log1p(+inf) = +inf; log1p(x < -1) = the positive NaN;
@@ -378,6 +518,35 @@ LUM_API LumStatus lumsPow3o2_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len
 LUM_API LumStatus lumsPow3o2_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len);
 LUM_API LumStatus lumsPow3o2_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
 
+/* Pow (complex): src1 to the power src2, as exp(src2 ln(src1)) with the principal logarithm. All tags are one
+ *   function; the error of the rounded product grows with its size and takes digits from large and small results.
+ * Domain: all numbers; branch cut of the logarithm along the negative real axis of src1
+ * Special values: 0 to the power 0 = NaN + NaN i; other special values as they come out of the logarithm, the
+ *   product and the exponential
+ * Status: lumStsOverflow: a part is infinite and all parts of both arguments are finite and not zero
+ * Relative cost: 32fc A11 742.5, A21 742.5, A24 742.5; 64fc A26 742.5, A50 742.5, A53 742.5 */
+LUM_API LumStatus lumsPow_32fc_A11(const Lum32fc* src1, const Lum32fc* src2, Lum32fc* dst, int32_t len);
+LUM_API LumStatus lumsPow_32fc_A21(const Lum32fc* src1, const Lum32fc* src2, Lum32fc* dst, int32_t len);
+LUM_API LumStatus lumsPow_32fc_A24(const Lum32fc* src1, const Lum32fc* src2, Lum32fc* dst, int32_t len);
+LUM_API LumStatus lumsPow_64fc_A26(const Lum64fc* src1, const Lum64fc* src2, Lum64fc* dst, int32_t len);
+LUM_API LumStatus lumsPow_64fc_A50(const Lum64fc* src1, const Lum64fc* src2, Lum64fc* dst, int32_t len);
+LUM_API LumStatus lumsPow_64fc_A53(const Lum64fc* src1, const Lum64fc* src2, Lum64fc* dst, int32_t len);
+
+/* Powx (complex): Each element to the power `value`, as exp(value ln(z)) with the principal logarithm. All tags are
+ *   one function; the error of the rounded product grows with its size and takes digits from large and small
+ *   results.
+ * Domain: all numbers; branch cut of the logarithm along the negative real axis
+ * Special values: 0 to the power 0 = NaN + NaN i; other special values as they come out of the logarithm, the
+ *   product and the exponential
+ * Status: lumStsOverflow: a part is infinite and all parts of the element and of value are finite and not zero
+ * Relative cost: 32fc A11 765.31, A21 765.31, A24 765.31; 64fc A26 780.622, A50 780.622, A53 780.622 */
+LUM_API LumStatus lumsPowx_32fc_A11(const Lum32fc* src, Lum32fc value, Lum32fc* dst, int32_t len);
+LUM_API LumStatus lumsPowx_32fc_A21(const Lum32fc* src, Lum32fc value, Lum32fc* dst, int32_t len);
+LUM_API LumStatus lumsPowx_32fc_A24(const Lum32fc* src, Lum32fc value, Lum32fc* dst, int32_t len);
+LUM_API LumStatus lumsPowx_64fc_A26(const Lum64fc* src, Lum64fc value, Lum64fc* dst, int32_t len);
+LUM_API LumStatus lumsPowx_64fc_A50(const Lum64fc* src, Lum64fc value, Lum64fc* dst, int32_t len);
+LUM_API LumStatus lumsPowx_64fc_A53(const Lum64fc* src, Lum64fc value, Lum64fc* dst, int32_t len);
+
 /* Rint: The integer nearest to x, ties to even, whatever the caller's rounding mode.
  * Domain: all numbers
  * Special values: zeros and infinities unchanged; a zero result has the sign of x; rint(NaN) = NaN of the same
@@ -419,6 +588,33 @@ LUM_API LumStatus lumsSin_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len);
 LUM_API LumStatus lumsSin_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len);
 LUM_API LumStatus lumsSin_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len);
 LUM_API LumStatus lumsSin_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
+
+/* Sin (complex): The sine of z. All tags are one function, right in each part nearly always to the last bit.
+ * Domain: all numbers
+ * Special values: sin(z) = sinh(i z) / i, with the special values of sinh
+ * Status: lumStsOverflow: a part is infinite and both parts of z are finite and not zero
+ * Relative cost: 32fc A11 414.1, A21 414.1, A24 414.1; 64fc A26 414.1, A50 414.1, A53 414.1 */
+LUM_API LumStatus lumsSin_32fc_A11(const Lum32fc* src, Lum32fc* dst, int32_t len);
+LUM_API LumStatus lumsSin_32fc_A21(const Lum32fc* src, Lum32fc* dst, int32_t len);
+LUM_API LumStatus lumsSin_32fc_A24(const Lum32fc* src, Lum32fc* dst, int32_t len);
+LUM_API LumStatus lumsSin_64fc_A26(const Lum64fc* src, Lum64fc* dst, int32_t len);
+LUM_API LumStatus lumsSin_64fc_A50(const Lum64fc* src, Lum64fc* dst, int32_t len);
+LUM_API LumStatus lumsSin_64fc_A53(const Lum64fc* src, Lum64fc* dst, int32_t len);
+
+/* Sinh (complex): The hyperbolic sine of z. All tags are one function, right in each part nearly always to the last
+ *   bit.
+ * Domain: all numbers
+ * Special values: sinh(x +- 0 i) = sinh(x) +- 0 i, also of a NaN; sinh(inf + y i) = inf cos(y) + inf sin(y) i;
+ *   sinh(+-0 +- inf i) = +-0 + NaN i; sinh(x +- inf i) = NaN + NaN i; sinh(+-inf +- inf i) = sinh(+-inf + NaN i) =
+ *   +-inf + NaN i; NaN in both parts for other NaN arguments
+ * Status: lumStsOverflow: a part is infinite and both parts of z are finite and not zero
+ * Relative cost: 32fc A11 406.7, A21 406.7, A24 406.7; 64fc A26 406.7, A50 406.7, A53 406.7 */
+LUM_API LumStatus lumsSinh_32fc_A11(const Lum32fc* src, Lum32fc* dst, int32_t len);
+LUM_API LumStatus lumsSinh_32fc_A21(const Lum32fc* src, Lum32fc* dst, int32_t len);
+LUM_API LumStatus lumsSinh_32fc_A24(const Lum32fc* src, Lum32fc* dst, int32_t len);
+LUM_API LumStatus lumsSinh_64fc_A26(const Lum64fc* src, Lum64fc* dst, int32_t len);
+LUM_API LumStatus lumsSinh_64fc_A50(const Lum64fc* src, Lum64fc* dst, int32_t len);
+LUM_API LumStatus lumsSinh_64fc_A53(const Lum64fc* src, Lum64fc* dst, int32_t len);
 
 /* Sqr: x * x.
  * Domain: all numbers
@@ -462,6 +658,33 @@ LUM_API LumStatus lumsTan_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len);
 LUM_API LumStatus lumsTan_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len);
 LUM_API LumStatus lumsTan_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len);
 LUM_API LumStatus lumsTan_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
+
+/* Tan (complex): The tangent of z. All tags are one function, right in each part nearly always to the last bit.
+ * Domain: all numbers
+ * Special values: tan(z) = tanh(i z) / i, with the special values of tanh
+ * Status: always lumStsOk
+ * Relative cost: 32fc A11 452.9, A21 452.9, A24 452.9; 64fc A26 452.9, A50 452.9, A53 452.9 */
+LUM_API LumStatus lumsTan_32fc_A11(const Lum32fc* src, Lum32fc* dst, int32_t len);
+LUM_API LumStatus lumsTan_32fc_A21(const Lum32fc* src, Lum32fc* dst, int32_t len);
+LUM_API LumStatus lumsTan_32fc_A24(const Lum32fc* src, Lum32fc* dst, int32_t len);
+LUM_API LumStatus lumsTan_64fc_A26(const Lum64fc* src, Lum64fc* dst, int32_t len);
+LUM_API LumStatus lumsTan_64fc_A50(const Lum64fc* src, Lum64fc* dst, int32_t len);
+LUM_API LumStatus lumsTan_64fc_A53(const Lum64fc* src, Lum64fc* dst, int32_t len);
+
+/* Tanh (complex): The hyperbolic tangent of z. All tags are one function, right in each part nearly always to the
+ *   last bit.
+ * Domain: all numbers
+ * Special values: tanh(+-inf + y i) = +-1, the imaginary part a zero with the sign of sin(2 y); tanh(+-inf +- inf
+ *   i) = +-1 +- 0 i; tanh(+-inf + NaN i) = +-1 + 0 i; tanh(x +- inf i) = NaN + NaN i, also for x = +-0; tanh(NaN +-
+ *   0 i) = NaN +- 0 i; NaN in both parts for other NaN arguments
+ * Status: always lumStsOk
+ * Relative cost: 32fc A11 447.2, A21 447.2, A24 447.2; 64fc A26 447.2, A50 447.2, A53 447.2 */
+LUM_API LumStatus lumsTanh_32fc_A11(const Lum32fc* src, Lum32fc* dst, int32_t len);
+LUM_API LumStatus lumsTanh_32fc_A21(const Lum32fc* src, Lum32fc* dst, int32_t len);
+LUM_API LumStatus lumsTanh_32fc_A24(const Lum32fc* src, Lum32fc* dst, int32_t len);
+LUM_API LumStatus lumsTanh_64fc_A26(const Lum64fc* src, Lum64fc* dst, int32_t len);
+LUM_API LumStatus lumsTanh_64fc_A50(const Lum64fc* src, Lum64fc* dst, int32_t len);
+LUM_API LumStatus lumsTanh_64fc_A53(const Lum64fc* src, Lum64fc* dst, int32_t len);
 
 /* Trunc: The integer part of x, toward zero.
  * Domain: all numbers

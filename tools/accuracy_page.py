@@ -71,8 +71,9 @@ plot {plots}
 def main():
     measured = read_rows()
     families = {}
+    descriptions = catalogue.descriptions()
     for row in catalogue.rows():
-        family = catalogue.descriptions()[row.function]["family"]
+        family = descriptions[catalogue.title_of(row, descriptions)]["family"]
         families.setdefault(family, []).append(row)
     lines = [INTRODUCTION]
     for family, rows in families.items():

@@ -37,9 +37,18 @@ def rows():
 
 
 def descriptions():
-    """Function name to its description: summary, domain, special values, statuses, family."""
+    """Title to description: summary, domain, special values, statuses, family. The title is the function's name; complex
+    functions that are described beside the real one of that name have " (complex)" behind it."""
     result = {}
     for path in sorted((ROOT / "src").glob("*/functions.toml")):
+        family = path.parent.name
         for name, entry in tomllib.loads(path.read_text()).items():
-            result[name] = dict(entry, family=path.parent.name)
+            title = f"{name} (complex)" if family == "complex" else name
+            result[title] = dict(entry, family=family)
     return result
+
+
+def title_of(row, entries):
+    """The title of the description of a row."""
+    special = f"{row.function} (complex)"
+    return special if row.type.endswith("c") and special in entries else row.function

@@ -9,8 +9,8 @@ import catalogue
 
 def main():
     lines = []
-    for name, entry in sorted(catalogue.descriptions().items()):
-        fields = [name, entry["summary"], entry["domain"], "; ".join(entry["special"]),
+    for title, entry in sorted(catalogue.descriptions().items()):
+        fields = [title, entry["summary"], entry["domain"], "; ".join(entry["special"]),
                   "; ".join(entry.get("statuses", ["always ok"]))]
         lines.append("{" + ", ".join(json.dumps(field) for field in fields) + "},\n")
     with open(sys.argv[1], "w") as file:

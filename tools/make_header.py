@@ -45,13 +45,13 @@ def declarations(row):
 
 
 def text():
-    by_function = {}
-    for row in catalogue.rows():
-        by_function.setdefault(row.function, []).append(row)
     entries = catalogue.descriptions()
+    by_title = {}
+    for row in catalogue.rows():
+        by_title.setdefault(catalogue.title_of(row, entries), []).append(row)
     lines = []
-    for name, rows in by_function.items():
-        lines += comment(name, entries[name], rows)
+    for title, rows in by_title.items():
+        lines += comment(title, entries[title], rows)
         for row in rows:
             lines += declarations(row)
         lines.append("")

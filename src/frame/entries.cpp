@@ -1,8 +1,17 @@
-// The exported functions: each is one jump through its slot, with all arguments left as they are.
+// The exported functions: each is one jump through its slot, with all arguments left as they are, but
+// for a parameter too large for a register.
 #include "frame/catalogue_names.h"
 #include "frame/entry_table.h"
 
 using lum::entryTable;
+
+namespace {
+
+// How a kernel takes its parameter: 16 bytes by the address of the stub's own copy, which no array of the caller overlaps.
+template <class T> T AsPassed(const T& value) { return value; }
+const Lum64fc* AsPassed(const Lum64fc& copy) { return &copy; }
+
+}  // namespace
 
 extern "C" {
 
@@ -18,9 +27,9 @@ extern "C" {
   LumStatus name(const Lum##type* src, Lum##type* dst1, Lum##type* dst2, int32_t len) { \
     return entryTable[lum::record].slot.TwoOutputs_##type(src, dst1, dst2, len);        \
   }
-#define LUM_STUB_ScalarParameter(name, type, record, slot)                             \
-  LumStatus name(const Lum##type* src, Lum##type value, Lum##type* dst, int32_t len) { \
-    return entryTable[lum::record].slot.ScalarParameter_##type(src, value, dst, len);  \
+#define LUM_STUB_ScalarParameter(name, type, record, slot)                                      \
+  LumStatus name(const Lum##type* src, Lum##type value, Lum##type* dst, int32_t len) {          \
+    return entryTable[lum::record].slot.ScalarParameter_##type(src, AsPassed(value), dst, len); \
   }
 #define LUM_STUB_ToReal(name, type, record, slot)                                   \
   LumStatus name(const Lum##type* src, decltype(Lum##type::re)* dst, int32_t len) { \

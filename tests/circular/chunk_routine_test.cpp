@@ -3,13 +3,13 @@
 
 #include <algorithm>
 
+#include "accuracy/measure.h"
 #include "circular.h"
 
 namespace lum::test {
 namespace {
 
 double LargestError(const Arguments1& x) {
-  const Format format = FormatOf(Element::f64);
   double largest = 0;
   mpfr_t sine, cosine, argument;
   mpfr_inits2(200, sine, cosine, argument, nullptr);
@@ -18,7 +18,7 @@ double LargestError(const Arguments1& x) {
     EXPECT_EQ(SineAndCosine(a, s, c), lumStsOk) << a;
     mpfr_set_d(argument, a, MPFR_RNDN);
     mpfr_sin_cos(sine, cosine, argument, MPFR_RNDN);
-    largest = std::max({largest, ErrorInUlp(format, format.pattern(s), sine), ErrorInUlp(format, format.pattern(c), cosine)});
+    largest = std::max({largest, accuracy::UlpError(s, sine, false), accuracy::UlpError(c, cosine, false)});
   }
   mpfr_clears(sine, cosine, argument, nullptr);
   return largest;

@@ -5,6 +5,7 @@
 #include <limits>
 #include <memory>
 
+#include "accuracy/measure.h"
 #include "support/cases.h"
 
 namespace lum::test {
@@ -38,7 +39,8 @@ using Exact = std::vector<std::unique_ptr<Number>>;
 Worst LargestError(const Array& results, const Exact& exact) {
   Worst worst;
   for (size_t i = 0; i < results.size(); ++i) {
-    const double error = ErrorInUlp(FormatOf(results.element()), results[i].re, exact[i]->get());
+    const double result = FormatOf(results.element()).number(results[i].re);
+    const double error = accuracy::UlpError(result, exact[i]->get(), support::Is32Bit(results.element()));
     if (error > worst.ulp) worst = {error, i};
   }
   return worst;
@@ -46,7 +48,7 @@ Worst LargestError(const Array& results, const Exact& exact) {
 
 void ExpectBound(const Export& entry, const Array& results, const Batch& batch, const Exact& exact) {
   const Worst worst = LargestError(results, exact);
-  const double allowed = AllowedUlp(entry);
+  const double allowed = accuracy::Bound(entry);
   const bool is_high = allowed == 1;
   testing::Test::RecordProperty(std::string(entry.name), std::to_string(worst.ulp));
   if (is_high ? worst.ulp < allowed : worst.ulp <= allowed) return;
@@ -108,33 +110,6 @@ Arguments1 operator+(Arguments1 a, const Arguments1& b) {
   return a;
 }
 
-double ErrorInUlp(Format format, uint64_t result, mpfr_srcptr exact) {
-  constexpr double infinite = std::numeric_limits<double>::infinity();
-  const double number = format.number(result);
-  if (mpfr_nan_p(exact) || std::isnan(number)) return mpfr_nan_p(exact) && std::isnan(number) ? 0 : infinite;
-  const int largest_exponent = 1 << (format.exponent_bits - 1);
-  if (mpfr_inf_p(exact)) return std::isinf(number) && mpfr_sgn(exact) * number > 0 ? 0 : infinite;
-  Number difference;
-  if (std::isinf(number)) {
-    mpfr_set_si_2exp(difference.get(), number > 0 ? 1 : -1, largest_exponent, MPFR_RNDN);
-    if (mpfr_sgn(exact) * number > 0 && mpfr_cmpabs(exact, difference.get()) >= 0) return 0;
-  } else {
-    mpfr_set_d(difference.get(), number, MPFR_RNDN);
-  }
-  mpfr_sub(difference.get(), difference.get(), exact, MPFR_RNDN);
-  // The exponent of the unit in the last place, for a significand in [1/2, 1) as the reference library has it.
-  const auto smallest = static_cast<mpfr_exp_t>(2 - largest_exponent - format.fraction_bits);
-  const mpfr_exp_t of_exact = mpfr_zero_p(exact) ? smallest : mpfr_get_exp(exact) - 1 - format.fraction_bits;
-  const mpfr_exp_t unit = std::clamp(of_exact, smallest, mpfr_exp_t{largest_exponent} - 1 - format.fraction_bits);
-  mpfr_mul_2si(difference.get(), difference.get(), -unit, MPFR_RNDN);
-  return std::fabs(mpfr_get_d(difference.get(), MPFR_RNDN));
-}
-
-double AllowedUlp(const Export& entry) {
-  const int precision = entry.is_32bit() ? 24 : 53;
-  return entry.bits() == precision ? 1 : std::ldexp(0.5, precision - entry.bits());
-}
-
 void ExpectAccuracy(std::string_view name, const Reference& reference, const Arguments1& x, int output) {
   const auto exports = ExportsNamed(name);
   ASSERT_FALSE(exports.empty()) << "no export is named " << name;
@@ -169,6 +144,26 @@ void ExpectAccuracy(std::string_view name, const Reference2& reference, const Ar
       reference(Append(exact), Number(format.number(a)).get(), Number(format.number(b)).get());
     }
     ExpectBounds(exports, batch, exact, 0);
+  }
+}
+
+void ExpectComplexAccuracy(std::string_view name, const std::vector<accuracy::Point>& points, const ComplexBound& bound) {
+  const auto exports = ExportsNamed(name);
+  ASSERT_FALSE(exports.empty()) << "no export is named " << name;
+  const accuracy::ExactValues exact(accuracy::FindReference(*exports[0]), points);
+  for (const std::string& library : RunnableLibraries()) {
+    SCOPED_TRACE(library);
+    std::string reason;
+    for (const Export* entry : exports) {
+      const auto measured = accuracy::Measure(*TestLibrary(library, "", reason), *entry, points, exact);
+      const auto& worst = bound.of == ComplexBound::parts ? measured.worst : measured.worst_norm;
+      const accuracy::Point& at = worst.point;
+      EXPECT_LE(worst.ulp, bound.ulp > 0 ? bound.ulp : accuracy::Bound(*entry))
+          << entry->name << " at (" << at.re1 << ", " << at.im1 << "), (" << at.re2 << ", " << at.im2 << ")";
+      EXPECT_EQ(measured.wrong_class, 0u) << entry->name << " at (" << measured.wrong_at.re1 << ", " << measured.wrong_at.im1
+                                          << "), (" << measured.wrong_at.re2 << ", " << measured.wrong_at.im2 << ")";
+      testing::Test::RecordProperty(std::string(entry->name), std::to_string(worst.ulp));
+    }
   }
 }
 

@@ -14,6 +14,7 @@
 #include <string_view>
 #include <vector>
 
+#include "accuracy/reference.h"
 #include "support/subjects.h"
 
 namespace lum::test {
@@ -32,13 +33,6 @@ Arguments1 operator+(Arguments1 a, const Arguments1& b);
 using Reference = std::function<void(mpfr_ptr result, mpfr_srcptr x)>;
 using Reference2 = std::function<void(mpfr_ptr result, mpfr_srcptr x, mpfr_srcptr y)>;
 
-// The error of a result: infinite when just one of result and exact value is a NaN.
-// An infinite result is right for exact values from 2^128 or 2^1024 on, and stands for these powers below them.
-double ErrorInUlp(Format format, uint64_t result, mpfr_srcptr exact);
-
-// The bound of the export's tag, in the same units.
-double AllowedUlp(const Export& entry);
-
 // Checks the exports that the name stands for on every library. output: 0 the first, 1 the second of two.
 void ExpectAccuracy(std::string_view name, const Reference& reference, const Arguments1& x, int output = 0);
 void ExpectAccuracy(std::string_view name, const Reference2& reference, const Arguments1& x, const Arguments1& y);
@@ -52,5 +46,13 @@ inline void ExpectAccuracy(std::string_view name, MpfrFunction* function, const 
 inline void ExpectAccuracy(std::string_view name, MpfrFunction2* function, const Arguments1& x, const Arguments1& y) {
   ExpectAccuracy(name, Reference2([=](mpfr_ptr r, mpfr_srcptr a, mpfr_srcptr b) { function(r, a, b, MPFR_RNDN); }), x, y);
 }
+
+// Complex functions, against their exact values, at points that the type holds exactly. The bound is on the error of each part,
+// or on that of the whole number relative to its modulus; without a figure it is the one of the export's tag.
+struct ComplexBound {
+  enum Of { parts, norm } of;
+  double ulp = 0;
+};
+void ExpectComplexAccuracy(std::string_view name, const std::vector<accuracy::Point>& points, const ComplexBound& bound);
 
 }  // namespace lum::test

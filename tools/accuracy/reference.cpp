@@ -2,6 +2,7 @@
 
 #include <mpc.h>
 
+#include <algorithm>
 #include <cmath>
 #include <map>
 #include <string_view>
@@ -163,6 +164,63 @@ void CdfNormInv(mpfr_ptr r, mpfr_srcptr x) {
   if (mpfr_zero_p(r)) mpfr_set_zero(r, 1);
 }
 
+// Hyperbolic functions of x + iy by those of the parts: products and sums of one sign, which lose nothing, where MPC's own take
+// hours for parts far outside the ordinary range.
+struct HyperbolicParts {
+  explicit HyperbolicParts(mpc_srcptr z) {
+    // Beyond this everything but a zero has overflowed; it keeps MPFR's own exponents finite.
+    Number x(std::clamp(mpfr_get_d(mpc_realref(z), nearest), -1e8, 1e8));
+    mpfr_sinh_cosh(sinh, cosh, x, nearest);
+    mpfr_sin_cos(sine, cosine, mpc_imagref(z), nearest);
+  }
+  Number sinh, cosh, sine, cosine;
+};
+void Cosh(mpc_ptr r, mpc_srcptr z) {
+  const HyperbolicParts p(z);
+  mpfr_mul(mpc_realref(r), p.cosh, p.cosine, nearest);
+  mpfr_mul(mpc_imagref(r), p.sinh, p.sine, nearest);
+}
+void Sinh(mpc_ptr r, mpc_srcptr z) {
+  const HyperbolicParts p(z);
+  mpfr_mul(mpc_realref(r), p.sinh, p.cosine, nearest);
+  mpfr_mul(mpc_imagref(r), p.cosh, p.sine, nearest);
+}
+// (sinh x cosh x + i sin y cos y) / (cos^2 y + sinh^2 x); far out its limit is 1 + 4 i e^(-2|x|) sin y cos y, up to signs.
+void Tanh(mpc_ptr r, mpc_srcptr z) {
+  mpfr_ptr re = mpc_realref(r), im = mpc_imagref(r);
+  if (mpfr_cmp_si(mpc_realref(z), 5000) > 0 || mpfr_cmp_si(mpc_realref(z), -5000) < 0) {
+    Number e, s;
+    mpfr_abs(e, mpc_realref(z), nearest);
+    mpfr_mul_si(e, e, -2, nearest);
+    mpfr_exp(e, e, nearest);
+    mpfr_mul_2ui(s, mpc_imagref(z), 1, nearest);
+    mpfr_sin(s, s, nearest);
+    mpfr_mul(im, e, s, nearest);
+    mpfr_mul_2ui(im, im, 1, nearest);
+    mpfr_set_si(re, mpfr_sgn(mpc_realref(z)), nearest);
+    return;
+  }
+  const HyperbolicParts p(z);
+  Number denominator, square;
+  mpfr_sqr(denominator, p.cosine, nearest);
+  mpfr_sqr(square, p.sinh, nearest);
+  mpfr_add(denominator, denominator, square, nearest);
+  mpfr_mul(re, p.sinh, p.cosh, nearest);
+  mpfr_div(re, re, denominator, nearest);
+  mpfr_mul(im, p.sine, p.cosine, nearest);
+  mpfr_div(im, im, denominator, nearest);
+}
+// The circular functions: f(i z), and f(i z) / i of an odd one.
+template <auto hyperbolic> void Even(mpc_ptr r, mpc_srcptr z) {
+  ComplexNumber rotated;
+  mpc_mul_i(rotated, z, 1, MPC_RNDNN);
+  hyperbolic(r, rotated);
+}
+template <auto hyperbolic> void Odd(mpc_ptr r, mpc_srcptr z) {
+  Even<hyperbolic>(r, z);
+  mpc_mul_i(r, r, -1, MPC_RNDNN);
+}
+
 void MulConjugate(mpc_ptr r, mpc_srcptr z, mpc_srcptr w) {
   ComplexNumber conjugate;
   mpc_conj(conjugate, w, MPC_RNDNN);
@@ -198,8 +256,8 @@ const std::map<std::string_view, Entry>& AllReferences() {
       {"CdfNormInv", {Real<CdfNormInv>, nullptr}},
       {"Ceil", {LUM_MPFR(mpfr_rint_ceil), nullptr}},
       {"Conj", {nullptr, LUM_MPC(mpc_conj)}},
-      {"Cos", {LUM_MPFR(mpfr_cos), LUM_MPC(mpc_cos)}},
-      {"Cosh", {LUM_MPFR(mpfr_cosh), LUM_MPC(mpc_cosh)}},
+      {"Cos", {LUM_MPFR(mpfr_cos), Complex<Even<Cosh>>}},
+      {"Cosh", {LUM_MPFR(mpfr_cosh), Complex<Cosh>}},
       {"Div",
        {Real2<[](mpfr_ptr r, mpfr_srcptr x, mpfr_srcptr y) { mpfr_div(r, x, y, nearest); }>,
         Complex2<[](mpc_ptr r, mpc_srcptr x, mpc_srcptr y) { mpc_div(r, x, y, MPC_RNDNN); }>}},
@@ -231,16 +289,16 @@ const std::map<std::string_view, Entry>& AllReferences() {
       {"Pow3o2", {Real<Pow3o2>, nullptr}},
       {"Rint", {LUM_MPFR(mpfr_rint_roundeven), nullptr}},
       {"Round", {LUM_MPFR(mpfr_rint_round), nullptr}},
-      {"Sin", {LUM_MPFR(mpfr_sin), LUM_MPC(mpc_sin)}},
+      {"Sin", {LUM_MPFR(mpfr_sin), Complex<Odd<Sinh>>}},
       {"SinCos", {SinCos, nullptr}},
-      {"Sinh", {LUM_MPFR(mpfr_sinh), LUM_MPC(mpc_sinh)}},
+      {"Sinh", {LUM_MPFR(mpfr_sinh), Complex<Sinh>}},
       {"Sqr", {LUM_MPFR(mpfr_sqr), nullptr}},
       {"Sqrt", {LUM_MPFR(mpfr_sqrt), LUM_MPC(mpc_sqrt)}},
       {"Sub",
        {Real2<[](mpfr_ptr r, mpfr_srcptr x, mpfr_srcptr y) { mpfr_sub(r, x, y, nearest); }>,
         Complex2<[](mpc_ptr r, mpc_srcptr x, mpc_srcptr y) { mpc_sub(r, x, y, MPC_RNDNN); }>}},
-      {"Tan", {LUM_MPFR(mpfr_tan), LUM_MPC(mpc_tan)}},
-      {"Tanh", {LUM_MPFR(mpfr_tanh), LUM_MPC(mpc_tanh)}},
+      {"Tan", {LUM_MPFR(mpfr_tan), Complex<Odd<Tanh>>}},
+      {"Tanh", {LUM_MPFR(mpfr_tanh), Complex<Tanh>}},
       {"Trunc", {LUM_MPFR(mpfr_rint_trunc), nullptr}},
   };
   return references;

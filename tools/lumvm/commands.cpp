@@ -20,8 +20,10 @@ using support::Arguments;
 using support::Export;
 using support::Library;
 
+// The title is the function's name, followed by " (complex)" where the complex types have a description of their own.
 struct Description {
-  std::string_view function, summary, domain, special, statuses;
+  std::string_view title, summary, domain, special, statuses;
+  bool IsOf(std::string_view function) const { return title.substr(0, title.find(' ')) == function; }
 };
 constexpr Description descriptions[] = {
 #include "descriptions.inc"
@@ -216,10 +218,14 @@ int List() {
 }
 
 int Info(const std::string& function) {
-  const auto found = std::ranges::find(descriptions, function, &Description::function);
-  if (found == std::end(descriptions)) throw InputError(fmt::format("no function '{}'; 'lumvm list' shows all", function));
-  fmt::print("{}: {}\n  domain          {}\n  special values  {}\n  statuses        {}\n", found->function, found->summary,
-             found->domain, found->special, found->statuses);
+  bool is_known = false;
+  for (const Description& text : descriptions) {
+    if (!text.IsOf(function)) continue;
+    is_known = true;
+    fmt::print("{}: {}\n  domain          {}\n  special values  {}\n  statuses        {}\n", text.title, text.summary,
+               text.domain, text.special, text.statuses);
+  }
+  if (!is_known) throw InputError(fmt::format("no function '{}'; 'lumvm list' shows all", function));
   for (const Export& entry : support::Exports()) {
     if (entry.function != function) continue;
     fmt::print("  {:<22} {} bits, relative cost {:g}\n", entry.name, entry.bits(), entry.cost);

@@ -1,0 +1,69 @@
+// Classes and signs of the parts of complex numbers, for the scalar cores. Everything is decided on bits: the caller may have
+// the vector unit take denormal operands for zero.
+#pragma once
+
+#include <bit>
+#include <concepts>
+#include <cstdint>
+#include <limits>
+
+#include "complex/core/cores.h"
+#include "complex/core/extended.h"
+
+namespace lum {
+
+template <std::floating_point T> struct PartFormat;
+template <> struct PartFormat<Lum32f> {
+  using Word = uint32_t;
+  static constexpr Word infinity = 0x7F800000, min_normal = 0x00800000;
+};
+template <> struct PartFormat<Lum64f> {
+  using Word = uint64_t;
+  static constexpr Word infinity = 0x7FF0000000000000, min_normal = 0x0010000000000000;
+};
+
+inline constexpr Lum64f infinity = std::numeric_limits<Lum64f>::infinity();
+
+template <std::floating_point T> auto MagnitudeBits(T x) {
+  using Word = typename PartFormat<T>::Word;
+  return std::bit_cast<Word>(x) & (~Word{0} >> 1);
+}
+template <std::floating_point T> bool IsNan(T x) { return MagnitudeBits(x) > PartFormat<T>::infinity; }
+template <std::floating_point T> bool IsInfinite(T x) { return MagnitudeBits(x) == PartFormat<T>::infinity; }
+template <std::floating_point T> bool IsFinite(T x) { return MagnitudeBits(x) < PartFormat<T>::infinity; }
+template <std::floating_point T> bool IsZero(T x) { return MagnitudeBits(x) == 0; }
+// A zero or a denormal.
+template <std::floating_point T> bool IsBelowNormal(T x) { return MagnitudeBits(x) < PartFormat<T>::min_normal; }
+template <std::floating_point T> bool IsDenormal(T x) { return IsBelowNormal(x) && !IsZero(x); }
+template <std::floating_point T> bool IsFiniteNonZero(T x) { return IsFinite(x) && !IsZero(x); }
+
+inline bool IsNegative(Lum64f x) { return (std::bit_cast<uint64_t>(x) >> 63) != 0; }
+inline Lum64f Magnitude(Lum64f x) { return std::bit_cast<Lum64f>(MagnitudeBits(x)); }
+inline Lum64f Negated(Lum64f x) { return std::bit_cast<Lum64f>(std::bit_cast<uint64_t>(x) ^ (uint64_t{1} << 63)); }
+inline Lum64f WithSign(bool negative, Lum64f magnitude) { return negative ? Negated(magnitude) : magnitude; }
+inline Lum64f WithSignOf(Lum64f sign, Lum64f magnitude) { return WithSign(IsNegative(sign), magnitude); }
+
+// An operation that is wanted for the floating-point flags it raises.
+inline void Discard(Lum64f value) {
+  volatile Lum64f sink = value;
+  static_cast<void>(sink);
+}
+template <std::floating_point T> void RaiseUnderflow() {
+  volatile T smallest_normal = std::numeric_limits<T>::min();
+  volatile T sink = smallest_normal * smallest_normal;
+  static_cast<void>(sink);
+}
+// A stored constant is not the exact result: it says so by the precision flag.
+inline Lum64f Inexact(Lum64f constant) {
+  volatile Lum64f small = std::numeric_limits<Lum64f>::min();
+  Discard(constant + small);
+  return constant;
+}
+
+// The end of a core: denormal parts have underflowed.
+inline void Finish(ComplexDouble& result, Lum64f re, Lum64f im) {
+  if (IsDenormal(re) || IsDenormal(im)) RaiseUnderflow<Lum64f>();
+  result = {re, im};
+}
+
+}  // namespace lum
