@@ -113,7 +113,7 @@ inline ExtendedPair odd_sum(ExtendedPair x, ExtendedPair c, Extended q) {
   const ExtendedPair square = multiply(x, x);
   const ExtendedPair cubic = multiply(multiply(square, x), c);
   const ExtendedPair sum = fast_two_sum(x.head, cubic.head);
-  return {sum.head, sum.tail + (x.tail + (cubic.tail + q * (square.head * square.head) * x.head))};
+  return fast_two_sum(sum.head, sum.tail + (x.tail + (cubic.tail + q * (square.head * square.head) * x.head)));
 }
 
 // x + x^3 times the polynomial of c in x^2, plainly: given |x| small enough that the rounding of the correction is lost.
