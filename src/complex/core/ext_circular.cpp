@@ -1,0 +1,92 @@
+// Sine and cosine. With x = k pi/4 + r for an even k, |r| <= pi/4 and a little, k/2 modulo 4 says which of the two is taken of
+// r and with which sign. Their leading terms are formed in pairs. Small arguments take as many terms of the series as they
+// need.
+#include "complex/core/ext_reduce.h"
+
+namespace lum {
+namespace {
+
+constexpr auto sine_terms = coefficients({
+#include "tables/generated/extended_sine.inc"
+});
+constexpr auto cosine_terms = coefficients({
+#include "tables/generated/extended_cosine.inc"
+});
+// (sin x - x) / x^3 and (cos x - 1 + x^2/2) / x^4.
+constexpr std::array<Extended, 4> sine_series = {-1.0L / 6, 1.0L / 120, -1.0L / 5040, 1.0L / 362880};
+constexpr std::array<Extended, 3> cosine_series = {1.0L / 24, -1.0L / 720, 1.0L / 40320};
+
+// Exponent fields: the last ones below which the series needs no correction, one, two and four of them.
+constexpr int no_term = 0x3fb3, one_term = 0x3feb, two_terms = 0x3ff3, four_terms = 0x3ff9;
+
+Extended SineOfRemainder(ExtendedPair r) { return rounded(odd_sum(r, ratio(-1, 6), polynomial(sine_terms, r.head * r.head))); }
+
+Extended CosineOfRemainder(ExtendedPair r) {
+  const ExtendedPair square = multiply(r, r);
+  const ExtendedPair sum = fast_two_sum(1, square.head * -0.5L);
+  const Extended rest = square.head * square.head * polynomial(cosine_terms, square.head);
+  return sum.head + (sum.tail + (rest - square.tail * 0.5L));
+}
+
+Extended SmallSine(const Extended& x, int exponent) {
+  if (exponent <= no_term) return inexact_identity(x);
+  if (exponent <= one_term) return odd_series<1>(sine_series, x);
+  if (exponent <= two_terms) return odd_series<2>(sine_series, x);
+  return odd_series<4>(sine_series, x);
+}
+
+Extended SmallCosine(const Extended& x, int exponent) {
+  if (exponent <= no_term) return 1;
+  const Extended square = x * x;
+  if (exponent <= one_term) return 1 - square * 0.5L;
+  if (exponent <= two_terms) return 1 - square * (0.5L - square * cosine_series[0]);
+  return 1 - square * (0.5L - square * polynomial(cosine_series, square));
+}
+
+// The sine of an argument with that remainder and that many quarter turns.
+Extended SineInQuadrant(ExtendedPair remainder, int64_t quadrant) {
+  const Extended value = (quadrant & 1) != 0 ? CosineOfRemainder(remainder) : SineOfRemainder(remainder);
+  return (quadrant & 2) != 0 ? -value : value;
+}
+
+Extended SineOf(const Extended& x, int exponent) {
+  if (exponent <= four_terms) return SmallSine(x, exponent);
+  const OctantRemainder r = ReduceOctants(x);
+  return SineInQuadrant(r.remainder, r.count >> 1);
+}
+
+Extended CosineOf(const Extended& x, int exponent) {
+  if (exponent <= four_terms) return SmallCosine(x, exponent);
+  const OctantRemainder r = ReduceOctants(x);
+  return SineInQuadrant(r.remainder, (r.count >> 1) + 1);
+}
+
+}  // namespace
+
+// Infinity less itself is the NaN of an invalid operation; NaN stays.
+void ExtSin(Extended& result, const Extended& x) {
+  const int exponent = exponent_field(x);
+  result = exponent == extended_special ? x - x : SineOf(x, exponent);
+}
+
+void ExtCos(Extended& result, const Extended& x) {
+  const int exponent = exponent_field(x);
+  result = exponent == extended_special ? x - x : CosineOf(x, exponent);
+}
+
+void ExtSinCos(const Extended& x, Extended& sine, Extended& cosine) {
+  const int exponent = exponent_field(x);
+  if (exponent == extended_special) {
+    sine = cosine = x - x;
+  } else if (exponent <= four_terms) {
+    const Extended argument = x;  // either result may lie over x
+    sine = SmallSine(argument, exponent);
+    cosine = SmallCosine(argument, exponent);
+  } else {
+    const OctantRemainder r = ReduceOctants(x);
+    sine = SineInQuadrant(r.remainder, r.count >> 1);
+    cosine = SineInQuadrant(r.remainder, (r.count >> 1) + 1);
+  }
+}
+
+}  // namespace lum

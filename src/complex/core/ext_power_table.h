@@ -1,0 +1,42 @@
+// The exponential by a table of 2^(j/256): x = n ln2/256 + r, and with j the low eight bits of n as a signed number and n = 256
+// e + j, e^x = 2^e 2^(j/256) e^r.
+#pragma once
+
+#include "complex/core/extended_pair.h"
+#include "frame/literals.h"
+
+namespace lum {
+
+// e^r - 1 = even + odd, e^-r - 1 = even - odd, |r| <= ln2/512 and a little.
+struct PowerArgument {
+  int e, j;
+  Extended even, odd;
+};
+
+// (e^r - 1 - r) / r^2.
+inline constexpr auto exp_table_terms = coefficients({
+#include "tables/generated/extended_exp_table.inc"
+});
+
+inline constexpr auto power_table = table64({
+#include "tables/generated/extended_powers.inc"
+});
+
+// Given |x| < 2^14. The product of n and the first part of ln2/256 is exact, and so is the difference from x where n is not 0.
+inline PowerArgument ReduceByPowers(Extended x) {
+  const Extended n = round_to_multiple<0>(x * f64(0x40771547652B82FE, 369.3299304675746));
+  const Extended r =
+      (x - n * f64(0x3F662E42FF000000, 0.0027076061742263846)) - n * f64(0xBD4718432A1B0E26, -1.6409824502660487e-13);
+  const int whole = static_cast<int>(n), j = static_cast<int8_t>(whole & 0xff);
+  const Extended square = r * r;
+  const auto& c = exp_table_terms;
+  return {(whole - j) / 256, j, square * (c[0] + square * (c[2] + square * c[4])), r + square * r * (c[1] + square * c[3])};
+}
+
+// 2^(j/256) (1 + p) as a short head and the rest. Given |p| < 2^-9.
+inline ExtendedPair TablePower(int j, Extended p) {
+  const ExtendedPair power = pair_at(power_table, j + 128);
+  return {power.head, power.tail + (power.head + power.tail) * p};
+}
+
+}  // namespace lum

@@ -1,0 +1,100 @@
+// The sign, exponent and leading significand bits of an Extended, and what depends on its width: rounding to a multiple of a
+// power of two, powers of two, values whose only effect is the inexact flag. Two layouts are known: the 80-bit format of the
+// x87 unit with its explicit leading bit, and little-endian binary128.
+#pragma once
+
+#include <bit>
+#include <cstring>
+
+#include "complex/core/extended.h"
+
+namespace lum {
+
+using ExtendedLimits = std::numeric_limits<Extended>;
+inline constexpr int extended_digits = ExtendedLimits::digits;
+inline constexpr int extended_bias = 0x3fff;
+inline constexpr int extended_special = 0x7fff;  // exponent field of infinity and NaN
+inline constexpr size_t extended_bytes = extended_digits == 64 ? 10 : 16;
+static_assert(extended_digits == 64 || extended_digits == 113, "an unknown layout");
+static_assert(ExtendedLimits::max_exponent == 16384, "the exponent field has 15 bits");
+static_assert(std::endian::native == std::endian::little, "an unknown layout");
+
+// The sign bit above the exponent field, and the leading 64 significand bits. The first of them is the integer bit.
+struct ExtendedFields {
+  uint32_t sign_and_exponent;
+  uint64_t significand;
+};
+
+inline ExtendedFields fields(const Extended& x) {
+  uint64_t words[2] = {};
+  std::memcpy(words, &x, extended_bytes);
+  if constexpr (extended_digits == 64) {
+    return {static_cast<uint32_t>(words[1]), words[0]};
+  } else {
+    const uint32_t upper = static_cast<uint32_t>(words[1] >> 48);
+    const uint64_t integer_bit = (upper & 0x7fff) != 0 ? uint64_t{1} << 63 : 0;
+    return {upper, integer_bit | (words[1] & 0xffffffffffff) << 15 | words[0] >> 49};
+  }
+}
+
+// The number with these fields and no significand bits beyond the leading 64.
+inline Extended from_fields(ExtendedFields f) {
+  uint64_t words[2] = {f.significand, f.sign_and_exponent};
+  if constexpr (extended_digits != 64) {
+    words[1] = uint64_t{f.sign_and_exponent} << 48 | (f.significand << 1) >> 16;
+    words[0] = f.significand << 49;
+  }
+  Extended x = 0;
+  std::memcpy(&x, words, extended_bytes);
+  return x;
+}
+
+inline int exponent_field(const Extended& x) { return static_cast<int>(fields(x).sign_and_exponent & 0x7fff); }
+inline bool sign_bit(const Extended& x) { return (fields(x).sign_and_exponent & 0x8000) != 0; }
+
+// The sign-and-exponent bits over the leading 16 significand bits: grows with |x|.
+inline uint32_t leading_word(const Extended& x) {
+  const ExtendedFields f = fields(x);
+  return f.sign_and_exponent << 16 | static_cast<uint32_t>(f.significand >> 48);
+}
+
+// 2^n. Given -16382 <= n <= 16383.
+inline Extended power_of_two(int n) { return from_fields({static_cast<uint32_t>(n + extended_bias), uint64_t{1} << 63}); }
+
+// x with the exponent of 1: 1 <= |result| < 2. Given a normal number.
+inline Extended significand(const Extended& x) {
+  uint64_t words[2] = {};
+  std::memcpy(words, &x, extended_bytes);
+  const int shift = extended_digits == 64 ? 0 : 48;
+  words[1] = (words[1] & ~(uint64_t{0x7fff} << shift)) | uint64_t{extended_bias} << shift;
+  Extended m = 0;
+  std::memcpy(&m, words, extended_bytes);
+  return m;
+}
+
+// 2^n by multiplication, for constants.
+constexpr Extended constant_power_of_two(int n) {
+  Extended power = 1;
+  for (; n > 0; --n) power *= 2;
+  for (; n < 0; ++n) power /= 2;
+  return power;
+}
+
+// x rounded to a multiple of 2^n: the shifter's last place is worth 2^n. Given |x| < 2^(n + digits - 2).
+template <int n> inline Extended round_to_multiple(Extended x) {
+  constexpr Extended shifter = 3 * constant_power_of_two(n + extended_digits - 2);
+  return (x + shifter) - shifter;
+}
+
+// x, non-zero and tiny, with the inexact flag raised: the scaled number has no place for x itself.
+inline Extended inexact_identity(Extended x) {
+  constexpr Extended up = constant_power_of_two(extended_digits + 11), down = constant_power_of_two(-extended_digits - 11);
+  return x == 0 ? x : (x * up - x) * down;
+}
+
+inline Extended magnitude(Extended x) { return sign_bit(x) ? -x : x; }
+
+// magnitude, not NaN, with the sign bit of sign.
+inline Extended with_sign_of(Extended magnitude, const Extended& sign) { return sign_bit(sign) ? -magnitude : magnitude; }
+
+}  // namespace lum

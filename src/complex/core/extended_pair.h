@@ -1,0 +1,125 @@
+// Unevaluated sums head + tail of two Extended numbers, with about twice the bits of one. A function computes its leading terms
+// in pairs and the others plainly; head + tail is rounded once, at the end. Sums after Knuth and Dekker, products after
+// Veltkamp and Dekker, without fused operations.
+#pragma once
+
+#include <array>
+
+#include "complex/core/extended_fields.h"
+#include "tables/table.h"
+
+namespace lum {
+
+struct ExtendedPair {
+  Extended head, tail;
+};
+
+inline Extended rounded(ExtendedPair a) { return a.head + a.tail; }
+constexpr ExtendedPair operator-(ExtendedPair a) { return {-a.head, -a.tail}; }
+
+// a + b, exactly. Given |a| >= |b| or a = 0.
+constexpr ExtendedPair fast_two_sum(Extended a, Extended b) {
+  const Extended sum = a + b;
+  return {sum, b - (sum - a)};
+}
+
+// a + b, exactly.
+constexpr ExtendedPair two_sum(Extended a, Extended b) {
+  const Extended sum = a + b;
+  const Extended b_in_sum = sum - a;
+  return {sum, (a - (sum - b_in_sum)) + (b - b_in_sum)};
+}
+
+// a as a sum of two numbers of half the digits. Given |a| < 2^(16383 - (digits + 1) / 2).
+constexpr ExtendedPair split(Extended a) {
+  constexpr Extended factor = constant_power_of_two((extended_digits + 1) / 2) + 1;
+  const Extended scaled = factor * a;
+  const Extended head = scaled - (scaled - a);
+  return {head, a - head};
+}
+
+// a * b, exactly, away from overflow and underflow.
+constexpr ExtendedPair two_product(Extended a, Extended b) {
+  const Extended product = a * b;
+  const ExtendedPair x = split(a), y = split(b);
+  return {product, ((x.head * y.head - product) + x.head * y.tail + x.tail * y.head) + x.tail * y.tail};
+}
+
+// Sums and products of pairs: relative error a few units of 2^(-2 digits), for sums where the heads do not cancel.
+constexpr ExtendedPair add(ExtendedPair a, ExtendedPair b) {
+  const ExtendedPair sum = two_sum(a.head, b.head);
+  return fast_two_sum(sum.head, sum.tail + (a.tail + b.tail));
+}
+
+constexpr ExtendedPair add(ExtendedPair a, Extended b) {
+  const ExtendedPair sum = two_sum(a.head, b);
+  return fast_two_sum(sum.head, sum.tail + a.tail);
+}
+
+constexpr ExtendedPair multiply(ExtendedPair a, Extended b) {
+  const ExtendedPair product = two_product(a.head, b);
+  return fast_two_sum(product.head, product.tail + a.tail * b);
+}
+
+constexpr ExtendedPair multiply(ExtendedPair a, ExtendedPair b) {
+  const ExtendedPair product = two_product(a.head, b.head);
+  return fast_two_sum(product.head, product.tail + (a.head * b.tail + a.tail * b.head));
+}
+
+// Times a power of two, exactly.
+constexpr ExtendedPair scale(ExtendedPair a, Extended power) { return {a.head * power, a.tail * power}; }
+
+// a / b: the rounded quotient and, from its exact remainder, the rest. Error a few units of 2^(-2 digits).
+constexpr ExtendedPair divide(ExtendedPair a, ExtendedPair b) {
+  const Extended quotient = a.head / b.head;
+  const ExtendedPair back = two_product(quotient, b.head);
+  const Extended remainder = (((a.head - back.head) - back.tail) + a.tail) - quotient * b.tail;
+  return fast_two_sum(quotient, remainder / b.head);
+}
+
+consteval ExtendedPair ratio(Extended numerator, Extended denominator) { return divide({numerator, 0}, {denominator, 0}); }
+
+// The row of a table of pairs of binary64.
+template <size_t n> inline ExtendedPair pair_at(const Table<double, n>& table, int row) {
+  const size_t first = 2 * static_cast<size_t>(row);
+  return {table.entries[first], table.entries[first + 1]};
+}
+
+// Coefficients, each written as a head and a tail in binary64.
+template <size_t n> consteval std::array<Extended, n / 2> coefficients(const uint64_t (&bits)[n]) {
+  std::array<Extended, n / 2> c{};
+  for (size_t i = 0; i < n / 2; ++i)
+    c[i] = static_cast<Extended>(std::bit_cast<double>(bits[2 * i])) + std::bit_cast<double>(bits[2 * i + 1]);
+  return c;
+}
+
+// c0 + c1 x + ... with the first terms of c, by two interleaved chains in x^2.
+template <size_t terms, size_t n> inline Extended first_terms(const std::array<Extended, n>& c, Extended x) {
+  static_assert(0 < terms && terms <= n);
+  const Extended square = x * x;
+  Extended even = 0, odd = 0;
+  for (size_t i = terms; i-- > 0;) {
+    if (i % 2 == 0) even = even * square + c[i];
+    else odd = odd * square + c[i];
+  }
+  return odd * x + even;
+}
+
+// All of it.
+template <size_t n> inline Extended polynomial(const std::array<Extended, n>& c, Extended x) { return first_terms<n>(c, x); }
+
+// x + c x^3 + q x^5, the first two terms in pairs. Given |c x^2| < 1/2 and |q x^4| small beside 1.
+inline ExtendedPair odd_sum(ExtendedPair x, ExtendedPair c, Extended q) {
+  const ExtendedPair square = multiply(x, x);
+  const ExtendedPair cubic = multiply(multiply(square, x), c);
+  const ExtendedPair sum = fast_two_sum(x.head, cubic.head);
+  return fast_two_sum(sum.head, sum.tail + (x.tail + (cubic.tail + q * (square.head * square.head) * x.head)));
+}
+
+// x + x^3 times the polynomial of c in x^2, plainly: given |x| small enough that the rounding of the correction is lost.
+template <size_t terms, size_t n> inline Extended odd_series(const std::array<Extended, n>& c, Extended x) {
+  const Extended square = x * x;
+  return x + x * square * first_terms<terms>(c, square);
+}
+
+}  // namespace lum
