@@ -51,14 +51,16 @@ Extended SineInQuadrant(ExtendedPair remainder, int64_t quadrant) {
 
 Extended SineOf(const Extended& x, int exponent) {
   if (exponent <= four_terms) return SmallSine(x, exponent);
-  const OctantRemainder r = ReduceOctants(x);
-  return SineInQuadrant(r.remainder, r.count >> 1);
+  ExtendedPair remainder;
+  const int64_t quadrant = ExtReducePi4(remainder, x) >> 1;
+  return SineInQuadrant(remainder, quadrant);
 }
 
 Extended CosineOf(const Extended& x, int exponent) {
   if (exponent <= four_terms) return SmallCosine(x, exponent);
-  const OctantRemainder r = ReduceOctants(x);
-  return SineInQuadrant(r.remainder, (r.count >> 1) + 1);
+  ExtendedPair remainder;
+  const int64_t quadrant = ExtReducePi4(remainder, x) >> 1;
+  return SineInQuadrant(remainder, quadrant + 1);
 }
 
 }  // namespace
@@ -83,9 +85,10 @@ void ExtSinCos(const Extended& x, Extended& sine, Extended& cosine) {
     sine = SmallSine(argument, exponent);
     cosine = SmallCosine(argument, exponent);
   } else {
-    const OctantRemainder r = ReduceOctants(x);
-    sine = SineInQuadrant(r.remainder, r.count >> 1);
-    cosine = SineInQuadrant(r.remainder, (r.count >> 1) + 1);
+    ExtendedPair remainder;
+    const int64_t quadrant = ExtReducePi4(remainder, x) >> 1;
+    sine = SineInQuadrant(remainder, quadrant);
+    cosine = SineInQuadrant(remainder, quadrant + 1);
   }
 }
 

@@ -24,6 +24,11 @@ constexpr uint64_t four_over_pi_bits[] = {
 #include "tables/generated/extended_four_over_pi.inc"
 };
 
+struct OctantRemainder {
+  ExtendedPair remainder;
+  int64_t count;
+};
+
 Extended FourOverPiPiece(int row) {
   const size_t first = 2 * static_cast<size_t>(row);
   return from_fields({static_cast<uint32_t>(four_over_pi_bits[first]), four_over_pi_bits[first + 1]});
@@ -40,9 +45,7 @@ template <size_t n> ExtendedPair SubtractMultiple(Extended x, Extended k, const 
 }
 
 OctantRemainder ReduceDirectly(Extended x, int exponent) {
-  const Extended octants = x * four_over_pi;
-  if (octants < 1) return {{x, 0}, 0};
-  const int64_t count = (static_cast<int64_t>(octants) + 1) & ~int64_t{1};
+  const int64_t count = (static_cast<int64_t>(x * four_over_pi) + 1) & ~int64_t{1};
   const Extended k = static_cast<Extended>(count);
   return {exponent <= three_part_limit ? SubtractMultiple(x, k, three_parts) : SubtractMultiple(x, k, five_parts), count};
 }
@@ -73,17 +76,17 @@ struct Accumulator {
 
 // x times 4/pi modulo 8, x > 0.
 Accumulator OctantsOf(Extended x, int exponent) {
-  // Of a wider format the tail reaches further down, so the pieces start earlier.
-  constexpr int earlier = (extended_digits - 64 + 30) / 31;
+  // Of a wider format the tail reaches further down and remainders are smaller: the pieces start earlier and end later.
+  constexpr int further = (extended_digits - 64 + 30) / 31;
   const int beyond = exponent > 0x4021 ? exponent - 0x4021 : 0;
   const int row = (beyond * 0x4211) >> 19;  // beyond / 31
-  const int last = row + (beyond - 31 * row >= 17 ? 8 : 7);
+  const int last = row + (beyond - 31 * row >= 17 ? 8 : 7) + further;
   const Extended scaled = x * constant_power_of_two(-217);
   ExtendedFields leading = fields(scaled);
   leading.significand &= uint64_t{0xffffffff} << 32;
   const Extended head = from_fields(leading), tail = scaled - head;
   Accumulator sum;
-  for (int i = row > earlier ? row - earlier : 0; i <= last; ++i) {
+  for (int i = row > further ? row - further : 0; i <= last; ++i) {
     const Extended piece = FourOverPiPiece(i);
     sum.Add(ModuloEight(head * piece));
     sum.Add(ModuloEight(tail * piece));
@@ -101,18 +104,19 @@ OctantRemainder ReduceHuge(Extended x, int exponent) {
 
 }  // namespace
 
-OctantRemainder ReduceOctants(const Extended& x) {
+int64_t ExtReducePi4(ExtendedPair& remainder, const Extended& x) {
+  // Numbers of a wider format come closer to multiples of pi/4 than the parts reach.
+  constexpr bool parts_suffice = extended_digits == 64;
   const int exponent = exponent_field(x);
   const Extended positive = magnitude(x);
-  const OctantRemainder r = exponent <= direct_limit ? ReduceDirectly(positive, exponent) : ReduceHuge(positive, exponent);
-  return sign_bit(x) ? OctantRemainder{-r.remainder, -r.count} : r;
-}
-
-int64_t ExtReducePi4(const Extended& x, int phase, Lum64f (&remainder)[2]) {
-  const OctantRemainder r = ReduceOctants(x);
-  remainder[0] = static_cast<Lum64f>(rounded(r.remainder));
-  remainder[1] = static_cast<Lum64f>((r.remainder.head - remainder[0]) + r.remainder.tail);
-  return r.count + phase;
+  if (exponent <= direct_limit && positive * four_over_pi < 1) {
+    remainder = {x, 0};
+    return 0;
+  }
+  const bool is_direct = parts_suffice && exponent <= direct_limit;
+  const OctantRemainder r = is_direct ? ReduceDirectly(positive, exponent) : ReduceHuge(positive, exponent);
+  remainder = sign_bit(x) ? -r.remainder : r.remainder;
+  return sign_bit(x) ? -r.count : r.count;
 }
 
 }  // namespace lum

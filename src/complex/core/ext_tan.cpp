@@ -38,9 +38,8 @@ Extended TangentOfSum(int k, ExtendedPair p, bool is_reciprocal) {
 }
 
 Extended TanByTable(const Extended& x) {
-  const OctantRemainder octants = ReduceOctants(x);
-  const ExtendedPair r = octants.remainder;
-  const bool is_reciprocal = (octants.count & 2) != 0;
+  ExtendedPair r;
+  const bool is_reciprocal = (ExtReducePi4(r, x) & 2) != 0;
   const int k = static_cast<int>(r.head * f64(0x40345F306DC9C883, 20.371832715762604));
   if (k != 0) return TangentOfSum(k, ShortTangent(SubtractAngle(r, k)), is_reciprocal);
   const ExtendedPair tangent = ShortTangent(r);
