@@ -3,7 +3,7 @@
 // sixteen segments of m. 64f A53 and 32f A24 carry e ln 2 - ln c in two parts. 32f A24 takes the reciprocal of x itself and has
 // a second way for the arguments whose reciprocal is no normal number. In the two high tiers a NaN goes to the lane routine
 // with the other special arguments; elsewhere it passes through.
-#include "explog/logarithm_reduction.h"
+#include "explog/ln_terms.h"
 #include "explog/logarithm_routine.h"
 #include "frame/kernel_frame.h"
 #include "frame/kernels.h"
@@ -90,58 +90,14 @@ struct A24_32f : Float {
   }
 };
 
-constexpr auto ln2_double = f64(0x3FE62E42FEFA39EF, 0.6931471805599453);
-constexpr auto rows = table64({
-#include "tables/generated/ln_8.inc"
-});
-
-// p is (ln(1 + r) - r) / r^2.
-LUM_INLINE Lanes<Lum64f> OnePart(Vec<Lum64f> x, const ReciprocalReduction& a, Vec<Lum64f> p) {
-  const auto q = fma(p, a.r * a.r, a.r);
-  const auto b = fma(a.e, all(ln2_double), permute(load<Lum64f>(rows), a.j));
-  return {b + q, ZeroInfiniteOrNegative(x)};
-}
-
-struct A26_64f : Double {
+template <class Tier> struct ByReciprocal : Double {
   static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
-    const auto a = ReduceByReciprocal<4>(x);
-    return OnePart(x, a,
-                   horner(a.r, f64(0xBFE00000006661EF, -0.5000000007449311), f64(0x3FD555502024AAB1, 0.3333320917032934),
-                          f64(0xBFCFFFF289B15435, -0.2499983951881021), f64(0x3FC9B53BE7EAD47D, 0.2008433229836192),
-                          f64(0xBFC570FAD80A4B64, -0.16751037167395133)));
+    return {Tier::Sum(Tier::Terms(ReduceByReciprocal<4>(x))), fpclass<Tier::refused_classes>(x)};
   }
 };
-
-struct A50_64f : Double {
-  static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
-    const auto a = ReduceByReciprocal<4>(x);
-    return OnePart(x, a,
-                   horner(a.r, f64(0xBFE0000000000007, -0.5000000000000008), f64(0x3FD555555554C04A, 0.3333333333312153),
-                          f64(0xBFCFFFFFFFFDC42C, -0.24999999999593692), f64(0x3FC99999A2DFBB47, 0.20000000431852014),
-                          f64(0xBFC5555562046F41, -0.16666667257310944), f64(0x3FC2490ABAA89CDE, 0.14285406221572478),
-                          f64(0xBFBFFFC5826CF903, -0.12499651369305202), f64(0x3FBCAC8227F9F69E, 0.11200726963030624),
-                          f64(0xBFB9D45BAFA806C9, -0.10089657820210642)));
-  }
-};
-
-struct A53_64f : Double {
-  static constexpr auto pairs = by_columns<2>(table64({
-#include "tables/generated/ln_8_pairs.inc"
-  }));
-  static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
-    const auto a = ReduceByReciprocal<4>(x);
-    const auto b = fma(a.e, all(f64(0x3FE62E42FEFA0000, 0.6931471805582987)), permute(load<Lum64f>(pairs), a.j));  // exact
-    const auto lo = fma(a.e, all(f64(0x3D7CF79ABC9E0000, 1.6465949582866463e-12)), permute(load(pairs + 8), a.j));
-    const auto s = b + a.r;
-    const auto u = a.r - (s - b);
-    const auto p = horner(a.r, f64(0xBFE0000000000008, -0.5000000000000009), f64(0x3FD5555555555580, 0.3333333333333357),
-                          f64(0xBFCFFFFFFFFDA662, -0.24999999999572525), f64(0x3FC9999999959EA2, 0.1999999999927598),
-                          f64(0xBFC55555626F41E5, -0.166666672767419), f64(0x3FC24924A36E51FF, 0.1428571508410101),
-                          f64(0xBFBFFFC466AF551D, -0.12499644762950309), f64(0x3FBC718497BDD31F, 0.1111071463072446),
-                          f64(0xBFB9D4D94C6A34BD, -0.10090406528088898), f64(0x3FB7811843796ACA, 0.09181358001061848));
-    return {s + (fma(p, a.r * a.r, u) + lo), fpclass<0xDF>(x)};
-  }
-};
+using A26_64f = ByReciprocal<LnTerms_A26>;
+using A50_64f = ByReciprocal<LnTerms_A50>;
+using A53_64f = ByReciprocal<LnTerms_A53>;
 
 }  // namespace
 

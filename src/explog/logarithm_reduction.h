@@ -10,17 +10,21 @@ namespace lum {
 // the significand and the exponent of a NaN are NaN and carry it to the result.
 template <Floating T> LUM_INLINE Mask<T> ZeroInfiniteOrNegative(Vec<T> x) { return fpclass<0x5E>(x); }
 
-// log(x), to the base whose logarithm of 2 is given, by a polynomial of its own for each of sixteen segments of the significand
-// m in [3/4, 3/2). The polynomials in r = m - 1 have no constant term, so log(1) is +0. The columns hold their coefficients, 16
-// entries each, the highest power first.
-template <int degree> LUM_INLINE Vec<Lum32f> SegmentLogarithm(Vec<Lum32f> x, const Lum32f* columns, Lum32f log_of_2) {
-  const auto m = getmant<0xB>(x);
+// log(m) / r of m = 1 + r in [3/4, 3/2), by a polynomial of its own for each of sixteen segments. They have no constant term,
+// so log(1) is +0. The columns hold their coefficients, 16 entries each, the highest power first.
+template <int degree> LUM_INLINE Vec<Lum32f> SegmentPolynomial(Vec<Lum32f> m, Vec<Lum32f> r, const Lum32f* columns) {
   const auto j = shift_right<19>(bits(m));  // the top four bits of the fraction are the row
-  const auto r = m - all(1.0f);
-  const auto k = getexp(x) - getexp(m);
   auto p = permute(load(columns), j);
   for (int i = 1; i < degree; ++i) p = fma(p, r, permute(load(columns + 16 * i), j));
-  return fma(r, p, k * all(log_of_2));
+  return p;
+}
+
+// log(x), to the base of the polynomials and of the logarithm of 2 that is given.
+template <int degree> LUM_INLINE Vec<Lum32f> SegmentLogarithm(Vec<Lum32f> x, const Lum32f* columns, Lum32f log_of_2) {
+  const auto m = getmant<0xB>(x);
+  const auto r = m - all(1.0f);
+  const auto k = getexp(x) - getexp(m);
+  return fma(r, SegmentPolynomial<degree>(m, r, columns), k * all(log_of_2));
 }
 
 // x = 2^e (1 + r) / c with c in [3/4, 3/2] of few fraction bits, so that r is exact but for one rounding.

@@ -88,6 +88,21 @@ inline void ForceX87Precision(Environment& environment, uint16_t target) {
   ChangeX87Control(environment, word, static_cast<uint16_t>((word & 0xF0C0) | target));
 }
 
+// Extended precision of the x87 unit for the lifetime of the object, whatever the caller has set: for lane routines of kernels
+// that otherwise leave the precision alone.
+class ExtendedPrecision {
+ public:
+  ExtendedPrecision() { ForceX87Precision(environment_, 0x033F); }
+  ~ExtendedPrecision() {
+    if (environment_.x87_changed) WriteX87Control(environment_.x87_control);
+  }
+  ExtendedPrecision(const ExtendedPrecision&) = delete;
+  ExtendedPrecision& operator=(const ExtendedPrecision&) = delete;
+
+ private:
+  Environment environment_;
+};
+
 template <Variant variant> LUM_INLINE Environment Enter() {
   Environment environment;
   if constexpr (variant.x87 == X87Form::at_entry) X87Prepare(environment);
@@ -136,6 +151,7 @@ inline bool X87Prepare(Environment& environment) {
   environment.x87_prepared = true;
   return false;
 }
+struct ExtendedPrecision {};
 
 template <Variant variant> inline Environment Enter() {
   Environment environment;

@@ -1,13 +1,13 @@
-// The square root without a square-root instruction: s, an estimate of 1 / sqrt x with 14 bits, gives the pair g = x s for the
-// root and h = s / 2 for half its reciprocal. A coupled step e = 1/2 - g h, g' = g + e g, h' = h + e h doubles the bits of
-// both. The high tiers end in a Heron step with the exact residual x - g^2, which they take on scaled values where x is so
-// small that it would be denormal.
+// The square root without a square-root instruction, by coupled steps from an estimate of 1 / sqrt x with 14 bits. The high
+// tiers end in a Heron step with the exact residual x - g^2, which they take on scaled values where x is so small that it would
+// be denormal.
 #include <cstdint>
 #include <limits>
 #include <type_traits>
 
 #include "frame/kernel_frame.h"
 #include "frame/kernels.h"
+#include "roots/coupled_root.h"
 
 namespace lum {
 namespace {
@@ -24,15 +24,6 @@ template <class T> struct SqrtKernel : Kernel<T> {
     return lumStsOk;
   }
 };
-
-template <class T> struct Roots {
-  Vec<T> g, h;  // near sqrt x and 1 / (2 sqrt x)
-};
-template <class T> LUM_INLINE Roots<T> Start(Vec<T> x, Vec<T> s) { return {x * s, all(T(0.5)) * s}; }
-template <class T> LUM_INLINE Roots<T> CoupledStep(Roots<T> a) {
-  const auto e = fnma(a.g, a.h, all(T(0.5)));
-  return {fma(e, a.g, a.g), fma(e, a.h, a.h)};
-}
 
 template <class T, int steps> struct Coupled : SqrtKernel<T> {
   static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) {

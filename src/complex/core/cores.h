@@ -9,6 +9,12 @@ namespace lum {
 // Elements of both complex types pass through the cores in this form.
 using ComplexDouble = Lum64fc;
 
+// Of two arguments: z w, z conj(w), z / w.
+void CoreMul(ComplexDouble& result, const ComplexDouble& z, const ComplexDouble& w);
+void CoreMulByConj(ComplexDouble& result, const ComplexDouble& z, const ComplexDouble& w);
+void CoreDiv(ComplexDouble& result, const ComplexDouble& z, const ComplexDouble& w);
+void CoreAbs(Lum64f& result, const ComplexDouble& z);
+
 void CoreExp(ComplexDouble& result, const ComplexDouble& z);
 void CoreLog(ComplexDouble& result, const ComplexDouble& z);
 void CoreLog10(ComplexDouble& result, const ComplexDouble& z);

@@ -109,6 +109,14 @@ def half_turn_sixteenths(directory):
           [f"0x{tail_word(cosine(t)) << 32 | tail_word(sine(t)):016X}" for t in turns], 64, directory)
 
 
+def half_turn_32nds(directory):
+    rows = []
+    for k in range(64):
+        s, c = sine(Fraction(k, 64)), cosine(Fraction(k, 64))
+        rows.append([to_binary(s, 64), s - to_binary(s, 64), to_binary(c, 64), c - to_binary(c, 64)])
+    write("sine_cosine_32", SCRIPT, "Angle k pi/32: sin, rounded, what it lacks, cos, rounded, what it lacks.", rows, 64, directory)
+
+
 def tangents(directory):
     for width, n in ((32, 32), (64, 16)):
         largest = to_binary(Fraction(2) ** (128 if width == 32 else 1024) * (1 - Fraction(1, 2 ** (24 if width == 32 else 53))), width)
@@ -137,4 +145,5 @@ def generate(directory):
     chunks(directory)
     angles(directory)
     half_turn_sixteenths(directory)
+    half_turn_32nds(directory)
     tangents(directory)

@@ -1,0 +1,78 @@
+// Products, quotients and the modulus of complex numbers. Products of binary64 numbers are exact as pairs of Extended numbers,
+// whose range no product of two or quotient of such products leaves.
+#include "complex/core/extended_pair.h"
+#include "complex/core/parts.h"
+
+namespace lum {
+namespace {
+
+bool BothFinite(const ComplexDouble& z) { return IsFinite(z.re) && IsFinite(z.im); }
+bool AnyInfinite(const ComplexDouble& z) { return IsInfinite(z.re) || IsInfinite(z.im); }
+bool BothZero(const ComplexDouble& z) { return IsZero(z.re) && IsZero(z.im); }
+
+// a c + b d to about twice the digits of Extended.
+ExtendedPair SumOfProducts(Extended a, Extended c, Extended b, Extended d) {
+  const ExtendedPair first = two_product(a, c), second = two_product(b, d);
+  const ExtendedPair heads = two_sum(first.head, second.head);
+  return fast_two_sum(heads.head, heads.tail + (first.tail + second.tail));
+}
+
+// An exact zero has the sign that the plain sum gives it.
+Lum64f RoundedSum(Lum64f a, Lum64f c, Lum64f b, Lum64f d) {
+  const ExtendedPair sum = SumOfProducts(a, c, b, d);
+  return sum.head == 0 ? a * c + b * d : static_cast<Lum64f>(rounded(sum));
+}
+
+// 1 or 0 for an infinity or a finite number, with the sign.
+Lum64f Boxed(Lum64f x) { return WithSignOf(x, IsInfinite(x) ? 1.0 : 0.0); }
+
+// A zero or an infinity in the direction of z conj(w).
+void DirectedQuotient(ComplexDouble& result, Lum64f size, const ComplexDouble& z, const ComplexDouble& w) {
+  result = {size * (z.re * w.re + z.im * w.im), size * (z.im * w.re - z.re * w.im)};
+}
+
+}  // namespace
+
+void CoreMul(ComplexDouble& result, const ComplexDouble& z, const ComplexDouble& w) {
+  if (!BothFinite(z) || !BothFinite(w)) {
+    result = {z.re * w.re - z.im * w.im, z.re * w.im + z.im * w.re};
+    return;
+  }
+  Finish(result, RoundedSum(z.re, w.re, Negated(z.im), w.im), RoundedSum(z.re, w.im, z.im, w.re));
+}
+
+void CoreMulByConj(ComplexDouble& result, const ComplexDouble& z, const ComplexDouble& w) {
+  CoreMul(result, z, {w.re, Negated(w.im)});
+}
+
+// By zero: infinities with the signs of z, or NaN. Beside an infinity the finite number counts by its direction alone.
+void CoreDiv(ComplexDouble& result, const ComplexDouble& z, const ComplexDouble& w) {
+  if (BothFinite(z) && BothZero(w)) {
+    result = {z.re * infinity, z.im * infinity};
+  } else if (BothFinite(z) && AnyInfinite(w)) {
+    DirectedQuotient(result, 0.0, z, {Boxed(w.re), Boxed(w.im)});
+  } else if (AnyInfinite(z) && BothFinite(w)) {
+    DirectedQuotient(result, infinity, {Boxed(z.re), Boxed(z.im)}, w);
+  } else if (!BothFinite(z) || !BothFinite(w)) {
+    const Lum64f not_a_number = (z.re * w.re + z.im * w.im) * 0.0;
+    result = {not_a_number - not_a_number, not_a_number - not_a_number};
+  } else {
+    const ExtendedPair square = SumOfProducts(w.re, w.re, w.im, w.im);
+    const ExtendedPair re = divide(SumOfProducts(z.re, w.re, z.im, w.im), square);
+    const ExtendedPair im = divide(SumOfProducts(z.im, w.re, Negated(z.re), w.im), square);
+    Finish(result, static_cast<Lum64f>(rounded(re)), static_cast<Lum64f>(rounded(im)));
+  }
+}
+
+void CoreAbs(Lum64f& result, const ComplexDouble& z) {
+  if (AnyInfinite(z)) {
+    result = infinity;
+    return;
+  }
+  const Extended x = z.re, y = z.im;
+  Extended root;
+  ExtSqrt(root, x * x + y * y);
+  result = static_cast<Lum64f>(root);
+}
+
+}  // namespace lum

@@ -1,0 +1,129 @@
+// z / w = z conj(w) / |w|^2. The high tag of 32fc takes numerator and denominator in binary64 and one quotient; that of 64fc
+// scales both arguments to significands of the larger part and keeps the errors of all products and of the quotient. The low
+// tags multiply by an estimate of the reciprocal. Lanes whose products leave the range are refused.
+#include "complex/refused.h"
+#include "frame/kernels.h"
+
+namespace lum {
+namespace {
+
+template <class E> struct Quotient : Kernel<E> {
+  static constexpr int vectors = 1;
+  static LumStatus LaneRoutine(const E& z, const E& w, E& result) { return ProductCoreOnLane<CoreDiv>(z, w, result); }
+};
+
+// z conj(w) and |w|^2, plainly.
+template <class T> struct Terms { Vec<T> re, im, square; };
+template <class T> LUM_INLINE Terms<T> TermsOf(ComplexVec<T> z, ComplexVec<T> w) {
+  return {fma(z.re, w.re, z.im * w.im), fms(z.im, w.re, z.re * w.im), fma(w.re, w.re, w.im * w.im)};
+}
+
+// Products between these bounds have lost no bits to the ends of the range.
+template <class T> LUM_INLINE Mask<T> IsFar(const Terms<T>& t) {
+  constexpr T low = sizeof(T) == 4 ? T(0x1p-100) : T(0x1p-960), high = sizeof(T) == 4 ? T(0x1p126) : T(0x1p1022);
+  const auto numerator = max(abs(t.re), abs(t.im));
+  return nle(all(low), numerator) | nle(numerator, all(high)) | nle(all(low), t.square) | nle(t.square, all(high));
+}
+
+template <class T> LUM_INLINE Vec<T> Reciprocal(Vec<T> x) {
+  const auto w = rcp14(x);
+  if constexpr (sizeof(T) == 4) return w;
+  else return fma(fnma(x, w, all(T(1))), w, w);
+}
+
+template <class E> struct Low : Quotient<E> {
+  using T = Real<E>;
+  static constexpr Variant variant = x87_up_front_variant;
+  static LUM_INLINE Lanes<E> VectorPath(Interleaved<T> z, Interleaved<T> w) {
+    const auto t = TermsOf(split(z), split(w));
+    const auto r = Reciprocal(t.square);
+    const ComplexVec<T> q{t.re * r, t.im * r};
+    return {join(q), IsFar(t) | fpclass<0x99>(q.re) | fpclass<0x99>(q.im)};
+  }
+};
+
+struct A24_32fc : Quotient<Lum32fc> {
+  static constexpr Variant variant = x87_up_front_variant;
+  static LUM_INLINE ComplexVec<Lum64f> Widened(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w) {
+    const auto t = TermsOf(z, w);
+    const auto r = div(all(1.0), t.square);
+    return {t.re * r, t.im * r};
+  }
+  static LUM_INLINE Lanes<Lum32fc> VectorPath(Interleaved<Lum32f> packed_z, Interleaved<Lum32f> packed_w) {
+    const auto z = split(packed_z), w = split(packed_w);
+    const auto low = Widened({widen_low(z.re), widen_low(z.im)}, {widen_low(w.re), widen_low(w.im)});
+    const auto high = Widened({widen_high(z.re), widen_high(z.im)}, {widen_high(w.re), widen_high(w.im)});
+    const ComplexVec<Lum32f> q{narrow(low.re, high.re), narrow(low.im, high.im)};
+    return {join(q), fpclass<0x99>(q.re) | fpclass<0x99>(q.im)};
+  }
+};
+
+struct A53_64fc : Quotient<Lum64fc> {
+  // An unevaluated sum.
+  struct HeadTail {
+    Vec<Lum64f> head, tail;
+  };
+
+  // a c + b d.
+  static LUM_INLINE HeadTail SumOfProducts(Vec<Lum64f> a, Vec<Lum64f> c, Vec<Lum64f> b, Vec<Lum64f> d) {
+    const auto first = a * c, second = b * d;
+    const auto sum = two_sum(first, second);
+    return {sum.sum, sum.error + (fms(a, c, first) + fms(b, d, second))};
+  }
+  // numerator / denominator, r being near the reciprocal of the denominator.
+  static LUM_INLINE Vec<Lum64f> Ratio(const HeadTail& numerator, const HeadTail& denominator, Vec<Lum64f> r) {
+    const auto q = numerator.head * r;
+    const auto remainder = fnma(q, denominator.head, numerator.head) + fnma(q, denominator.tail, numerator.tail);
+    return fma(remainder, r, q);
+  }
+  // Both parts times a power of 2 that takes the larger to [1, 2).
+  struct Scaled {
+    ComplexVec<Lum64f> z;
+    Vec<Lum64f> exponent;
+  };
+  static LUM_INLINE Scaled Scale(ComplexVec<Lum64f> z) {
+    const auto exponent = getexp(max(abs(z.re), abs(z.im)));
+    const auto down = negate(exponent);
+    return {{scalef(z.re, down), scalef(z.im, down)}, exponent};
+  }
+  // Parts that scaling could take out of the range, on either way. A zero is none of them.
+  static LUM_INLINE Mask<Lum64f> IsFar(ComplexVec<Lum64f> z) {
+    const auto far = [](Vec<Lum64f> x) __attribute__((always_inline)) {
+      return nlt(abs(getexp(x)), all(480.0)) & ne(x, all(0.0));
+    };
+    return far(z.re) | far(z.im);
+  }
+
+  static LUM_INLINE Lanes<Lum64fc> VectorPath(Interleaved<Lum64f> packed_z, Interleaved<Lum64f> packed_w) {
+    const auto unscaled_z = split(packed_z), unscaled_w = split(packed_w);
+    const auto [z, z_exponent] = Scale(unscaled_z);
+    const auto [w, w_exponent] = Scale(unscaled_w);
+    const auto square = SumOfProducts(w.re, w.re, w.im, w.im);
+    const auto re = SumOfProducts(z.re, w.re, z.im, w.im);
+    const auto im = SumOfProducts(z.im, w.re, negate(z.re), w.im);
+    auto r = rcp14(square.head);
+    r = fma(fnma(square.head, r, all(1.0)), r, r);
+    r = fma(fnma(square.head, r, all(1.0)), r, r);
+    const auto back = z_exponent - w_exponent;
+    const ComplexVec<Lum64f> q{scalef(Ratio(re, square, r), back), scalef(Ratio(im, square, r), back)};
+    // Where an argument is zero as a whole, its exponent is infinite and the quotient is NaN.
+    return {join(q), IsFar(unscaled_z) | IsFar(unscaled_w) | fpclass<0x99>(q.re) | fpclass<0x99>(q.im)};
+  }
+};
+
+}  // namespace
+
+LumStatus Div_32fc_A11(const Lum32fc* src1, const Lum32fc* src2, Lum32fc* dst, int32_t len) {
+  return TwoInputs<Low<Lum32fc>>(src1, src2, dst, len);
+}
+LumStatus Div_32fc_A24(const Lum32fc* src1, const Lum32fc* src2, Lum32fc* dst, int32_t len) {
+  return TwoInputs<A24_32fc>(src1, src2, dst, len);
+}
+LumStatus Div_64fc_A26(const Lum64fc* src1, const Lum64fc* src2, Lum64fc* dst, int32_t len) {
+  return TwoInputs<Low<Lum64fc>>(src1, src2, dst, len);
+}
+LumStatus Div_64fc_A53(const Lum64fc* src1, const Lum64fc* src2, Lum64fc* dst, int32_t len) {
+  return TwoInputs<A53_64fc>(src1, src2, dst, len);
+}
+
+}  // namespace lum

@@ -1,0 +1,119 @@
+// z w and z conj(w), on interleaved parts: with z = (a, b) and w = (c, d) the vectors (a, b) (c, c) and (b, a) (d, d) hold the
+// four products. The low tags take one of them exactly, in a fused step, and refuse a lane whose difference has cancelled. The
+// others of 32fc take both exactly in binary64; those of 64fc keep the errors of both and refuse numbers near the ends of the
+// range, zeros among them.
+#include "complex/refused.h"
+#include "frame/kernels.h"
+
+namespace lum {
+namespace {
+
+// The factors of the two products of each part.
+template <class T> struct Factors { Vec<T> z, w_re, z_swapped, w_im; };
+template <class T> LUM_INLINE Factors<T> FactorsOf(Vec<T> z, Vec<T> w) {
+  return {z, duplicate_even(w), swap_pairs(z), duplicate_odd(w)};
+}
+
+// (a c - p, b c + q) of p = b d, q = a d; of the conjugate (a c + p, b c - q).
+template <bool by_conjugate, class T> LUM_INLINE Vec<T> Joined(const Factors<T>& f, Vec<T> products) {
+  if constexpr (by_conjugate) return fmsubadd(f.z, f.w_re, products);
+  else return fmaddsub(f.z, f.w_re, products);
+}
+
+template <class E, bool by_conjugate> struct Product : Kernel<E> {
+  static constexpr int vectors = 1;
+  static LumStatus LaneRoutine(const E& z, const E& w, E& result) {
+    return ProductCoreOnLane < by_conjugate ? CoreMulByConj : CoreMul > (z, w, result);
+  }
+};
+
+template <class E, bool by_conjugate> struct Low : Product<E, by_conjugate> {
+  using T = Real<E>;
+  // A difference below this part of its terms has lost more digits than the tag can spare.
+  static constexpr T cancelled = sizeof(T) == 4 ? T(0x1p-10) : T(0x1p-20);
+
+  struct Half {
+    Vec<T> value;
+    Mask<T> refused;
+  };
+  static LUM_INLINE Half HalfOf(Vec<T> z, Vec<T> w) {
+    const auto f = FactorsOf(z, w);
+    const auto products = f.z_swapped * f.w_im;
+    const auto r = Joined<by_conjugate>(f, products);
+    return {r, nlt(abs(products) * all(cancelled), abs(r)) | fpclass<0x99>(r)};
+  }
+  static LUM_INLINE Lanes<E, ComponentMask<T>> VectorPath(Interleaved<T> z, Interleaved<T> w) {
+    const auto low = HalfOf(z.low, w.low), high = HalfOf(z.high, w.high);
+    return {{low.value, high.value}, {low.refused, high.refused}};
+  }
+};
+
+template <bool by_conjugate> struct A24_32fc : Product<Lum32fc, by_conjugate> {
+  static LUM_INLINE Vec<Lum64f> Widened(Vec<Lum64f> z, Vec<Lum64f> w) {
+    const auto f = FactorsOf(z, w);
+    return Joined<by_conjugate>(f, f.z_swapped * f.w_im);
+  }
+  static LUM_INLINE Vec<Lum32f> HalfOf(Vec<Lum32f> z, Vec<Lum32f> w) {
+    return narrow(Widened(widen_low(z), widen_low(w)), Widened(widen_high(z), widen_high(w)));
+  }
+  static LUM_INLINE Lanes<Lum32fc, ComponentMask<Lum32f>> VectorPath(Interleaved<Lum32f> z, Interleaved<Lum32f> w) {
+    const Interleaved<Lum32f> r{HalfOf(z.low, w.low), HalfOf(z.high, w.high)};
+    return {r, {fpclass<0x99>(r.low), fpclass<0x99>(r.high)}};
+  }
+};
+
+template <bool by_conjugate> struct A53_64fc : Product<Lum64fc, by_conjugate> {
+  // The products and their errors are normal numbers between these ends: one signed comparison, as the difference wraps round
+  // for patterns below the lower end.
+  static LUM_INLINE Mask<Lum64f> IsFar(Vec<Lum64f> x) {
+    const auto moved = as_signed(bits(abs(x))) - all(std::bit_cast<int64_t>(uint64_t{0xA340000000000000}));
+    return mask_cast<Lum64f>(lt(all(std::bit_cast<int64_t>(uint64_t{0xBC96A09DFFFFFFFF})), moved));
+  }
+  static LUM_INLINE Vec<Lum64f> HalfOf(Vec<Lum64f> z, Vec<Lum64f> w) {
+    constexpr uint64_t s = sign_bit<Lum64f>;
+    static constexpr uint64_t even_signs[8] = {s, 0, s, 0, s, 0, s, 0}, odd_signs[8] = {0, s, 0, s, 0, s, 0, s};
+    const auto f = FactorsOf(z, w);
+    const auto w_im = f.w_im ^ load(by_conjugate ? odd_signs : even_signs);
+    const auto first = f.z * f.w_re, second = f.z_swapped * w_im;
+    const auto sum = two_sum(first, second);
+    return sum.sum + (sum.error + (fms(f.z, f.w_re, first) + fms(f.z_swapped, w_im, second)));
+  }
+  static LUM_INLINE Lanes<Lum64fc, ComponentMask<Lum64f>> VectorPath(Interleaved<Lum64f> z, Interleaved<Lum64f> w) {
+    return {{HalfOf(z.low, w.low), HalfOf(z.high, w.high)}, {IsFar(z.low) | IsFar(w.low), IsFar(z.high) | IsFar(w.high)}};
+  }
+};
+
+// A kernel of its own, with the method of A24.
+struct MulByConj_A21 : A24_32fc<true> {};
+
+}  // namespace
+
+LumStatus Mul_32fc_A11(const Lum32fc* src1, const Lum32fc* src2, Lum32fc* dst, int32_t len) {
+  return TwoInputs<Low<Lum32fc, false>>(src1, src2, dst, len);
+}
+LumStatus Mul_32fc_A24(const Lum32fc* src1, const Lum32fc* src2, Lum32fc* dst, int32_t len) {
+  return TwoInputs<A24_32fc<false>>(src1, src2, dst, len);
+}
+LumStatus Mul_64fc_A26(const Lum64fc* src1, const Lum64fc* src2, Lum64fc* dst, int32_t len) {
+  return TwoInputs<Low<Lum64fc, false>>(src1, src2, dst, len);
+}
+LumStatus Mul_64fc_A53(const Lum64fc* src1, const Lum64fc* src2, Lum64fc* dst, int32_t len) {
+  return TwoInputs<A53_64fc<false>>(src1, src2, dst, len);
+}
+LumStatus MulByConj_32fc_A11(const Lum32fc* src1, const Lum32fc* src2, Lum32fc* dst, int32_t len) {
+  return TwoInputs<Low<Lum32fc, true>>(src1, src2, dst, len);
+}
+LumStatus MulByConj_32fc_A21(const Lum32fc* src1, const Lum32fc* src2, Lum32fc* dst, int32_t len) {
+  return TwoInputs<MulByConj_A21>(src1, src2, dst, len);
+}
+LumStatus MulByConj_32fc_A24(const Lum32fc* src1, const Lum32fc* src2, Lum32fc* dst, int32_t len) {
+  return TwoInputs<A24_32fc<true>>(src1, src2, dst, len);
+}
+LumStatus MulByConj_64fc_A26(const Lum64fc* src1, const Lum64fc* src2, Lum64fc* dst, int32_t len) {
+  return TwoInputs<Low<Lum64fc, true>>(src1, src2, dst, len);
+}
+LumStatus MulByConj_64fc_A53(const Lum64fc* src1, const Lum64fc* src2, Lum64fc* dst, int32_t len) {
+  return TwoInputs<A53_64fc<true>>(src1, src2, dst, len);
+}
+
+}  // namespace lum

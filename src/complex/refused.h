@@ -1,0 +1,33 @@
+// The lane routines of the complex vector kernels: the scalar core of the function, whose every part is right nearly always to
+// the last bit, whatever the tag.
+#pragma once
+
+#include "complex/element_loop.h"
+
+namespace lum {
+
+template <OneInputCore core, class E> void CoreOnLane(const E& z, E& result) {
+  const ExtendedPrecision precision;
+  ComplexDouble value;
+  core(value, Widened(z));
+  result = Narrowed<E>(value);
+}
+
+// For functions that report overflow.
+template <OneInputCore core, class E> LumStatus ReportingCoreOnLane(const E& z, E& result) {
+  const bool can_overflow = CanOverflow(z);
+  CoreOnLane<core>(z, result);
+  return can_overflow && HasInfinitePart(result) ? lumStsOverflow : lumStsOk;
+}
+
+// For products and quotients, which report every infinite part that finite arguments give; dividing by zero is not an overflow.
+template <TwoInputsCore core, class E> LumStatus ProductCoreOnLane(const E& z, const E& w, E& result) {
+  const ExtendedPrecision precision;
+  ComplexDouble value;
+  core(value, Widened(z), Widened(w));
+  result = Narrowed<E>(value);
+  const bool are_finite = IsFinite(z.re) && IsFinite(z.im) && IsFinite(w.re) && IsFinite(w.im);
+  return are_finite && HasInfinitePart(result) ? lumStsOverflow : lumStsOk;
+}
+
+}  // namespace lum

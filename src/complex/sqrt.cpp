@@ -1,0 +1,135 @@
+// The principal square root. With w = sqrt((|x| + |z|) / 2) and v = |y| / (2 w):  sqrt z = w + v i for x >= 0, v + w i for
+// x < 0, the imaginary part with the sign of y. Squares are kept in range by a power of 4 taken from the exponents of both
+// parts, or in A24 by binary64. The highest tag of 64fc is a loop over the scalar core.
+#include "complex/refused.h"
+#include "frame/kernels.h"
+#include "roots/coupled_root.h"
+
+namespace lum {
+namespace {
+
+template <class E> struct SqrtKernel : Kernel<E> {
+  static constexpr int vectors = 1;
+  static void LaneRoutine(const E& z, E& result) { CoreOnLane<CoreSqrt>(z, result); }
+};
+
+// The larger and the smaller part of the root in their places. A zero z keeps the sign of its imaginary part: both are zero.
+template <class T> LUM_INLINE Interleaved<T> Placed(ComplexVec<T> z, Vec<T> large, Vec<T> small) {
+  const auto is_left = mask_cast<T>(sign_mask(bits(z.re)));
+  return join(ComplexVec<T>{select(is_left, small, large), or_sign(z.im, select(is_left, large, small))});
+}
+
+// Zero, denormal, infinite and NaN parts.
+template <class T> LUM_INLINE Mask<T> NotNormal(ComplexVec<T> z) { return fpclass<0xBF>(z.re) | fpclass<0xBF>(z.im); }
+
+template <class T> struct ExponentField;
+template <> struct ExponentField<Lum32f> {
+  static constexpr int fraction_bits = 23;
+  static constexpr int32_t bias = 127, far = 18;
+};
+template <> struct ExponentField<Lum64f> {
+  static constexpr int fraction_bits = 52;
+  static constexpr int64_t bias = 1023, far = 32;
+};
+
+// |x| and |y| times 4^-h, h being half the exponent of the larger, or so near it that both squares are in range. A part so much
+// smaller that its square cannot count is zero.
+template <class T> struct Scaled {
+  Vec<T> a, b;
+  Vec<SignedOf<T>> h;
+};
+
+template <class T> LUM_INLINE Vec<T> PowerOfTwo(Vec<SignedOf<T>> e) {
+  using F = ExponentField<T>;
+  return as_float(shift_left<F::fraction_bits>(e + all(F::bias)));
+}
+
+template <class T> LUM_INLINE Scaled<T> Scale(Vec<T> x, Vec<T> y) {
+  using F = ExponentField<T>;
+  const auto half_exponent = [](Vec<T> part) __attribute__((always_inline)) {
+    const auto from_one = as_signed(bits(part)) - all(static_cast<SignedOf<T>>(F::bias << F::fraction_bits));
+    return shift_right_arithmetic<F::fraction_bits + 1>(from_one);
+  };
+  const auto hx = half_exponent(x), hy = half_exponent(y);
+  const auto d = hx - hy;
+  const auto x_counts = lt(all(static_cast<SignedOf<T>>(-F::far)), d), y_counts = lt(d, all(F::far));
+  const auto h = select(x_counts, hx, hy);
+  const auto power = PowerOfTwo<T>(all(SignedOf<T>{0}) - (h + h));
+  return {zero_unless(mask_cast<T>(x_counts), x * power), zero_unless(mask_cast<T>(y_counts), y * power), h};
+}
+
+// With the instructions for root and quotient, in binary32.
+struct A21_32fc : SqrtKernel<Lum32fc> {
+  static constexpr Variant variant = x87_up_front_variant;
+  static LUM_INLINE Lanes<Lum32fc> VectorPath(Interleaved<Lum32f> packed) {
+    const auto z = split(packed);
+    const auto y = abs(z.im);
+    const auto s = Scale(abs(z.re), y);
+    const auto modulus = sqrt(fma(s.a, s.a, s.b * s.b));
+    const auto u = all(0.5f) * (s.a + modulus);
+    const auto reciprocal = div(all(1.0f), sqrt(u));
+    const auto large = (u * reciprocal) * PowerOfTwo<Lum32f>(s.h);
+    const auto small = ((all(0.5f) * reciprocal) * PowerOfTwo<Lum32f>(all(0) - s.h)) * y;
+    return {Placed(z, large, small), NotNormal(z)};
+  }
+};
+
+// The scaled squares are so near 1 that the steps from the estimate need no care for the ends of the range.
+struct A50_64fc : SqrtKernel<Lum64fc> {
+  static LUM_INLINE Lanes<Lum64fc> VectorPath(Interleaved<Lum64f> packed) {
+    const auto z = split(packed);
+    const auto y = abs(z.im);
+    const auto s = Scale(abs(z.re), y);
+    const auto square = fma(s.a, s.a, s.b * s.b);
+    const auto modulus = HeronStep(square, CoupledStep(Start(square, rsqrt14(square))));
+    const auto u = all(0.5) * (s.a + modulus);
+    const auto roots = CoupledStep(Start(u, rsqrt14(u)));
+    const auto root = HeronStep(u, roots);
+    const auto half_reciprocal = fma(fnma(root, roots.h, all(0.5)), roots.h + roots.h, roots.h);
+    const auto large = root * PowerOfTwo<Lum64f>(s.h);
+    const auto small = (half_reciprocal * PowerOfTwo<Lum64f>(all(int64_t{0}) - s.h)) * y;
+    return {Placed(z, large, small), NotNormal(z)};
+  }
+};
+
+// The root of a binary64 number that has been a sum of squares of binary32 ones: from 2^-298 on, or zero.
+LUM_INLINE Vec<Lum64f> DoubleRoot(Vec<Lum64f> x) {
+  const auto is_small = lt(x, all(0.5));
+  const auto scaled = select(is_small, x * all(0x1p108), x);
+  const auto root = HeronStep(scaled, CoupledStep(Start(scaled, rsqrt14(scaled))));
+  const auto unscaled = select(is_small, root * all(0x1p-54), root);
+  return zero_unless(ne(x, all(0.0)), unscaled);
+}
+
+// Of positive normal numbers, |error| below 2^-27.
+LUM_INLINE Vec<Lum64f> DoubleQuotient(Vec<Lum64f> a, Vec<Lum64f> b) {
+  const auto fraction = getmant<0>(b);
+  const auto estimate = rcp14(fraction);
+  const auto reciprocal = fma(fnma(fraction, estimate, all(1.0)), estimate, estimate);
+  return scalef(getmant<0>(a) * reciprocal, getexp(a) - getexp(b));
+}
+
+struct A24_32fc : SqrtKernel<Lum32fc> {
+  struct Parts {
+    Vec<Lum64f> large, small;
+  };
+  static LUM_INLINE Parts PartsOf(Vec<Lum64f> x, Vec<Lum64f> y) {
+    const auto modulus = DoubleRoot(fma(x, x, y * y));
+    const auto large = DoubleRoot(all(0.5) * (x + modulus));
+    return {large, zero_unless(ne(y, all(0.0)), DoubleQuotient(all(0.5) * y, large))};
+  }
+  static LUM_INLINE Lanes<Lum32fc> VectorPath(Interleaved<Lum32f> packed) {
+    const auto z = split(packed);
+    const auto x = abs(z.re), y = abs(z.im);
+    const auto low = PartsOf(widen_low(x), widen_low(y)), high = PartsOf(widen_high(x), widen_high(y));
+    return {Placed(z, narrow(low.large, high.large), narrow(low.small, high.small)), fpclass<0x99>(z.re) | fpclass<0x99>(z.im)};
+  }
+};
+
+}  // namespace
+
+LumStatus Sqrt_32fc_A21(const Lum32fc* src, Lum32fc* dst, int32_t len) { return OneInput<A21_32fc>(src, dst, len); }
+LumStatus Sqrt_32fc_A24(const Lum32fc* src, Lum32fc* dst, int32_t len) { return OneInput<A24_32fc>(src, dst, len); }
+LumStatus Sqrt_64fc_A50(const Lum64fc* src, Lum64fc* dst, int32_t len) { return OneInput<A50_64fc>(src, dst, len); }
+
+}  // namespace lum
