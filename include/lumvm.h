@@ -184,6 +184,18 @@ LUM_API LumStatus lumsCos_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len);
 LUM_API LumStatus lumsCos_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len);
 LUM_API LumStatus lumsCos_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
 
+/* Cosh: The hyperbolic cosine of x.
+ * Domain: all numbers; finite results for |x| up to 89.41 (32f), 710.47 (64f)
+ * Special values: cosh(+-0) = 1; cosh(+-inf) = +inf; cosh(NaN) = NaN
+ * Status: lumStsOverflow: finite x with |x| too large, the result is +inf
+ * Relative cost: 32f A11 0.42, A21 0.52, A24 0.6; 64f A26 1.1, A50 1.35, A53 1.5 */
+LUM_API LumStatus lumsCosh_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsCosh_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsCosh_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsCosh_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsCosh_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsCosh_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
+
 /* Div: src1 / src2.
  * Domain: all numbers; the low and mid tags scale by a rounded reciprocal, so that a quotient next to the ends of
  *   the range may overflow or underflow early
@@ -419,6 +431,18 @@ LUM_API LumStatus lumsSin_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len);
 LUM_API LumStatus lumsSin_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len);
 LUM_API LumStatus lumsSin_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len);
 LUM_API LumStatus lumsSin_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
+
+/* Sinh: The hyperbolic sine of x.
+ * Domain: all numbers; finite results for |x| up to 89.41 (32f), 710.47 (64f)
+ * Special values: sinh(+-0) = +-0; sinh(+-inf) = +-inf; sinh(NaN) = NaN
+ * Status: lumStsOverflow: finite x with |x| too large, the result is an infinity of its sign
+ * Relative cost: 32f A11 0.4, A21 0.5, A24 0.75; 64f A26 2.1, A50 2.1, A53 1.9 */
+LUM_API LumStatus lumsSinh_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsSinh_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsSinh_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsSinh_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsSinh_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsSinh_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
 
 /* Sqr: x * x.
  * Domain: all numbers
