@@ -487,6 +487,18 @@ LUM_API LumStatus lumsTan_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len);
 LUM_API LumStatus lumsTan_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len);
 LUM_API LumStatus lumsTan_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
 
+/* Tanh: The hyperbolic tangent of x.
+ * Domain: all numbers
+ * Special values: tanh(+-0) = +-0; tanh(+-inf) = +-1; tanh(NaN) = NaN
+ * Status: always lumStsOk
+ * Relative cost: 32f A11 0.3, A21 0.6, A24 0.65; 64f A26 1.3, A50 1.9, A53 2 */
+LUM_API LumStatus lumsTanh_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsTanh_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsTanh_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsTanh_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsTanh_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsTanh_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
+
 /* Trunc: The integer part of x, toward zero.
  * Domain: all numbers
  * Special values: zeros and infinities unchanged; a zero result has the sign of x; trunc(NaN) = NaN of the same
