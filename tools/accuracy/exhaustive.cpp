@@ -58,11 +58,11 @@ const std::map<std::string_view, CheapReference>& CheapReferences() {
   static const std::map<std::string_view, CheapReference> references = {
       {"Abs", InDouble<[](double x) { return std::fabs(x); }>},
       {"Acos", InLongDouble<[](long double x) { return std::acos(x); }>},
-      {"Acosh", InLongDouble<[](long double x) { return std::acosh(x); }>},
+      {"Acosh", InDouble<[](double x) { return std::acosh(x); }>},
       {"Asin", InDouble<[](double x) { return std::asin(x); }>},
-      {"Asinh", InLongDouble<[](long double x) { return std::asinh(x); }>},
+      {"Asinh", InDouble<[](double x) { return std::asinh(x); }>},
       {"Atan", InDouble<[](double x) { return std::atan(x); }>},
-      {"Atanh", InLongDouble<[](long double x) { return std::atanh(x); }>},
+      {"Atanh", InDouble<[](double x) { return std::atanh(x); }>},
       {"Cbrt", InLongDouble<[](long double x) { return std::cbrt(x); }>},
       {"CdfNorm", InLongDouble<[](long double x) { return std::erfc(-x * inverse_root2) / 2; }>},
       {"CdfNormInv", InLongDouble<[](long double x) {
@@ -71,7 +71,7 @@ const std::map<std::string_view, CheapReference>& CheapReferences() {
        }>},
       {"Ceil", InDouble<[](double x) { return std::ceil(x); }>},
       {"Cos", InDouble<[](double x) { return std::cos(x); }>},
-      {"Cosh", InLongDouble<[](long double x) { return std::cosh(x); }>},
+      {"Cosh", InDouble<[](double x) { return std::cosh(x); }>},
       {"Erf", InDouble<[](double x) { return std::erf(x); }>},
       {"ErfInv", InLongDouble<[](long double x) {
          if (!(x > -1 && x < 1))
@@ -99,11 +99,11 @@ const std::map<std::string_view, CheapReference>& CheapReferences() {
       {"Rint", InDouble<[](double x) { return std::rint(x); }>},
       {"Round", InDouble<[](double x) { return std::round(x); }>},
       {"Sin", InDouble<[](double x) { return std::sin(x); }>},
-      {"Sinh", InLongDouble<[](long double x) { return std::sinh(x); }>},
+      {"Sinh", InDouble<[](double x) { return std::sinh(x); }>},
       {"Sqr", InDouble<[](double x) { return x * x; }>},
       {"Sqrt", InLongDouble<[](long double x) { return std::sqrt(x); }>},
       {"Tan", InDouble<[](double x) { return std::tan(x); }>},
-      {"Tanh", InLongDouble<[](long double x) { return std::tanh(x); }>},
+      {"Tanh", InDouble<[](double x) { return std::tanh(x); }>},
       {"Trunc", InDouble<[](double x) { return std::trunc(x); }>},
   };
   return references;

@@ -1,0 +1,159 @@
+// sinh x and cosh x by scalar arithmetic in binary64, which finish the lanes that the vector paths refuse.
+#pragma once
+
+#include <bit>
+#include <cmath>
+#include <cstdint>
+#include <limits>
+
+#include "frame/literals.h"
+#include "frame/types.h"
+#include "tables/table.h"
+
+namespace lum {
+
+// A number in two parts.
+struct Parts {
+  double hi, lo;
+};
+
+// hi + lo = a + b exactly.
+inline Parts ExactSum(double a, double b) {
+  const double sum = a + b;
+  const double b_part = sum - a;
+  return {sum, (a - (sum - b_part)) + (b - b_part)};
+}
+
+// hi + lo = a b exactly, by the products of half significands.
+inline Parts ExactProduct(double a, double b) {
+  constexpr auto splitter = f64(0x41A0000002000000, 134217729.0);
+  const double a_shifted = a * splitter, b_shifted = b * splitter;
+  const double a_high = a_shifted - (a_shifted - a), b_high = b_shifted - (b_shifted - b);
+  const double a_low = a - a_high, b_low = b - b_high;
+  const double product = a * b;
+  return {product, ((a_high * b_high - product) + a_high * b_low + a_low * b_high) + a_low * b_low};
+}
+
+// m = count ln(2)/64 + q for 0 <= m < 711.
+struct ScalarReduced {
+  int64_t count;
+  double q;
+};
+inline ScalarReduced ReduceBySixtyFourths(double m) {
+  constexpr auto shifter = f64(0x4338000000000000, 6755399441055744.0);  // 1.5 * 2^52
+  const double n = (m * f64(0x40571547652B82FE, 92.33248261689366) + shifter) - shifter;
+  const double q = (m - n * f64(0x3F862E42FEFA0000, 0.010830424696223417)) - n * f64(0x3D1CF79ABC9E3B3A, 2.572804622327669e-14);
+  return {static_cast<int64_t>(n), q};
+}
+
+inline double PowerOfTwo(int64_t exponent) { return std::bit_cast<double>((exponent + 1023) << 52); }
+
+inline constexpr auto exp2_64_split = table64({
+#include "tables/generated/exp2_64_split.inc"
+});
+
+// e^m / 2, which is both functions where e^-m does not matter, up to the overflow of binary64.
+inline double HalfExponential(double m) {
+  const auto [count, q] = ReduceBySixtyFourths(m);
+  const auto i = static_cast<size_t>(count & 63);
+  const double hi = exp2_64_split[2 * i], lo = exp2_64_split[2 * i + 1];
+  const double p =
+      q + q * q *
+              (f64(0x3FE0000000000000, 0.5) + q * (f64(0x3FC55555555548F8, 0.1666666666665788) +
+                                                   q * (f64(0x3FA5555555558FCC, 0.04166666666677052) +
+                                                        q * (f64(0x3F8111123AAF20D3, 0.008333341995140497) +
+                                                             q * f64(0x3F56C16A1C2A3FFD, 0.0013888870459233254)))));
+  const double sum = hi + (hi * p + lo);
+  // The largest exponent has no power of 2 of its own.
+  if ((count & 0x1FFC0) == 0x10040) return sum * f64(0x7FE0000000000000, 8.98846567431158e+307) * 2;
+  return sum * PowerOfTwo((count >> 6) - 1);
+}
+
+// With m = n ln 2 + q:  2^(n-1) + 2^(-n-1), the difference of the two, and q.
+struct SumAndDifference {
+  Parts sum, difference;
+  double q;
+};
+inline SumAndDifference HalfPowers(double m) {
+  const auto [count, q] = ReduceBySixtyFourths(m);
+  const auto i = static_cast<size_t>(count & 63);
+  const double up = PowerOfTwo((count >> 6) - 1), down = PowerOfTwo(-(count >> 6) - 2);
+  const Parts plus{exp2_64_split[2 * i] * up, exp2_64_split[2 * i + 1] * up};
+  const Parts minus{exp2_64_split[2 * (64 - i)] * down, exp2_64_split[2 * (64 - i) + 1] * down};
+  const Parts sum = ExactSum(plus.hi, minus.hi);
+  const Parts difference = ExactSum(plus.hi, -minus.hi);
+  return {{sum.hi, sum.lo + (plus.lo + minus.lo)}, {difference.hi, difference.lo + (plus.lo - minus.lo)}, q};
+}
+
+// base cosh q + factor sinh q for |q| up to ln(2)/128.
+inline double Turn(const Parts& base, const Parts& factor, double q) {
+  const double q2 = q * q;
+  const double sinh_rest = q * (q2 * (1.0 / 6 + q2 * (1.0 / 120)));
+  const double cosh_rest = q2 * (0.5 + q2 * (1.0 / 24 + q2 * (1.0 / 720)));
+  const Parts product = ExactProduct(factor.hi, q);
+  const Parts head = ExactSum(base.hi, product.hi);
+  const double rest = (factor.hi * sinh_rest + base.hi * cosh_rest) + (factor.lo * q + base.lo);
+  return head.hi + (head.lo + (product.lo + rest));
+}
+
+// From here on e^-m is below half a unit of the last place.
+inline constexpr auto single_exponential = f64(0x40357CD0E7026820, 21.487562597358306);
+inline constexpr double tiny_argument = 0x1p-53;
+// The least magnitude whose result overflows.
+template <class T> inline constexpr double hyperbolic_overflow = f64(0x40565A9FA0000000, 89.4159927368164);
+template <> inline constexpr double hyperbolic_overflow<Lum64f> = f64(0x408633CE8FB9F87E, 710.475860073944);
+
+inline double SinhOfMagnitude(double m) {
+  if (m < tiny_argument) return m;
+  if (m < f64(0x3F9BDB8CDADBE120, 0.02720470510300388)) {
+    const double u = m * m;
+    const double p =
+        ((f64(0x3EC71DE3A556C734, 2.7557319223985893e-06) * u + f64(0x3F2A01A01A01A01A, 0.0001984126984126984)) * u +
+         f64(0x3F81111111111111, 0.008333333333333333)) *
+            u +
+        f64(0x3FC5555555555555, 0.16666666666666666);
+    return m + m * (u * p);
+  }
+  if (m >= single_exponential) return HalfExponential(m);
+  const auto [sum, difference, q] = HalfPowers(m);
+  return Turn(difference, sum, q);
+}
+
+inline double CoshOfMagnitude(double m) {
+  if (m < tiny_argument) return m + 1;
+  if (m >= single_exponential) return HalfExponential(m);
+  const auto [sum, difference, q] = HalfPowers(m);
+  return Turn(sum, difference, q);
+}
+
+// A binary32 result is computed in binary64 and rounded once more.
+template <class T> LumStatus SinhRoutine(T x, T& result) {
+  const double m = x < 0 ? -static_cast<double>(x) : static_cast<double>(x);
+  if (!(x - x == 0)) {
+    result = x + x;
+    return lumStsOk;
+  }
+  if (m >= hyperbolic_overflow<T>) {
+    result = x < 0 ? -std::numeric_limits<T>::infinity() : std::numeric_limits<T>::infinity();
+    return lumStsOverflow;
+  }
+  const auto magnitude = static_cast<T>(SinhOfMagnitude(m));
+  result = std::signbit(x) ? -magnitude : magnitude;
+  return lumStsOk;
+}
+
+template <class T> LumStatus CoshRoutine(T x, T& result) {
+  const double m = x < 0 ? -static_cast<double>(x) : static_cast<double>(x);
+  if (!(x - x == 0)) {
+    result = x * x;
+    return lumStsOk;
+  }
+  if (m >= hyperbolic_overflow<T>) {
+    result = std::numeric_limits<T>::infinity();
+    return lumStsOverflow;
+  }
+  result = static_cast<T>(CoshOfMagnitude(m));
+  return lumStsOk;
+}
+
+}  // namespace lum

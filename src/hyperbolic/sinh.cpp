@@ -1,0 +1,145 @@
+// sinh x, by the scheme of hyperbolic/exponentials.h. Next to zero n is 0, so that the difference of the two powers vanishes
+// and the result is the polynomial of sinh r alone: nothing cancels, down to the denormals. The sign of x is put in at the end.
+// Arguments near the overflow, infinities and NaN go to the lane routine.
+#include "frame/kernels.h"
+#include "hyperbolic/exponentials.h"
+#include "hyperbolic/hyperbolic_routine.h"
+
+namespace lum {
+namespace {
+
+template <class T> struct HyperbolicSine : Kernel<T> {
+  static LumStatus LaneRoutine(T x, T& result) { return SinhRoutine(x, result); }
+};
+
+// Infinities and NaN have larger patterns than every threshold.
+template <class T> LUM_INLINE Mask<T> IsFrom(UnsignedOf<T> first_refused, Vec<T> a) {
+  return mask_cast<T>(le(all(first_refused), bits(a)));
+}
+inline constexpr uint32_t beyond_float = 0x42AEAC4F;
+
+// N = 1, without a table: the powers are exact and so are their sum and difference but for one rounding.
+struct WholeTerms {
+  Vec<Lum32f> sum, difference, r;
+};
+LUM_INLINE WholeTerms WholeTermsOf(Vec<Lum32f> a) {
+  const auto [count, r] = ReduceToRows<0>(a);
+  const auto exponent = shift_left<fraction_bits<Lum32f>>(count);
+  const auto half = all(std::bit_cast<uint32_t>(0.5f));
+  const auto plus = as_float(half + exponent), minus = as_float(half - exponent);
+  return {plus + minus, plus - minus, r};
+}
+
+struct A11_32f : HyperbolicSine<Lum32f> {
+  static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
+    const auto a = as_float(WithoutSign<Lum32f>(bits(x)));
+    const auto [sum, difference, r] = WholeTermsOf(a);
+    const auto r2 = r * r;
+    const auto p = horner(r2, f32(0x3F7FFBC9, 0.9999356865882874), f32(0x3E2CCD2E, 0.16875144839286804));
+    const auto q = horner(r2, f32(0x3EFFFB2F, 0.49996325373649597), f32(0x3D2CA395, 0.04214819148182869));
+    return {or_sign(x, fma(r, fma(sum, p, (r * difference) * q), difference)), IsFrom(beyond_float, a)};
+  }
+};
+
+struct A21_32f : HyperbolicSine<Lum32f> {
+  static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
+    const auto a = as_float(WithoutSign<Lum32f>(bits(x)));
+    const auto [sum, difference, r] = WholeTermsOf(a);
+    const auto r2 = r * r;
+    const auto s = fma(r * r2, horner(r2, f32(0x3E2AAA57, 0.16666541993618011), f32(0x3C091461, 0.008366675116121769)), r);
+    const auto c =
+        r2 * horner(r2, f32(0x3F000000, 0.5), f32(0x3D2AAA72, 0.04166645556688309), f32(0x3AB6A8A3, 0.0013935755705460906));
+    return {or_sign(x, fma(sum, s, c * difference) + difference), IsFrom(beyond_float, a)};
+  }
+};
+
+// Both powers in two parts each.
+template <class T> struct SplitPowers {
+  Vec<UnsignedOf<T>> plus, minus, plus_lo, minus_lo;  // as the table has them
+};
+template <class T> LUM_INLINE SplitPowers<T> LookupAll(Vec<UnsignedOf<T>> count) {
+  return {LookupHalfPower<0, T>(count), LookupHalfPower<1, T>(count), LookupHalfPower<2, T>(count),
+          LookupHalfPower<3, T>(count)};
+}
+
+// The count is held on the first row as far as one and a half rows from zero.
+template <int row_bits, class T> LUM_INLINE ReducedMagnitude<T> ReduceGuarded(Vec<T> a) {
+  constexpr T shifter = row_shifter<row_bits, T>;
+  constexpr auto next = std::bit_cast<T>(std::bit_cast<UnsignedOf<T>>(shifter) + 1);
+  const auto shifted = fma(a, all(Ln2<T>::inverse), all(shifter));
+  return SubtractMultiple<row_bits>(a, select(eq(shifted, all(next)), all(shifter), shifted));
+}
+
+// s = sinh r, c = cosh r - 1.
+template <class T> LUM_INLINE Vec<T> JoinSplit(const SplitPowers<T>& powers, Vec<UnsignedOf<T>> exponent, Vec<T> s, Vec<T> c) {
+  const auto plus = as_float(powers.plus + exponent), minus = as_float(powers.minus - exponent);
+  const auto plus_lo = as_float(powers.plus_lo + exponent);
+  // Where the exponent field of the small part would become negative, the part is too small to matter.
+  const auto magnitude = WithoutSign<T>(powers.minus_lo);
+  const auto minus_lo = as_float(zero_unless(le(exponent, magnitude), powers.minus_lo - exponent));
+  const auto sum = plus + minus, difference = plus - minus;
+  const auto low = ((plus - difference) - minus) + (plus_lo - minus_lo);
+  return fma(sum, s, fma(c, difference, low)) + difference;
+}
+
+struct A24_32f : HyperbolicSine<Lum32f> {
+  static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
+    const auto a = as_float(WithoutSign<Lum32f>(bits(x)));
+    const auto [count, r] = ReduceGuarded<5>(a);
+    const auto r2 = r * r;
+    const auto s = fma(r * r2, all(f32(0x3E2AAAB5, 0.16666682064533234)), r);
+    const auto c = r2 * all(f32(0x3F000044, 0.5000040531158447));
+    return {or_sign(x, JoinSplit(LookupAll<Lum32f>(count), ExponentPart<5, Lum32f>(count), s, c)), IsFrom(beyond_float + 1, a)};
+  }
+};
+
+// 128 rows, which need few terms. What the difference of the two powers lacks matters next to zero, where it is small and the
+// exponent part is zero.
+struct A50_64f : HyperbolicSine<Lum64f> {
+  static constexpr int row_bits = 7;
+  static constexpr size_t row_count = 128;
+  static constexpr auto columns = by_columns<3>(table64({
+#include "tables/generated/half_exp2_128.inc"
+  }));
+  static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
+    const auto a = as_float(WithoutSign<Lum64f>(bits(x)));
+    const auto [count, r] = ReduceGuarded<row_bits>(a);
+    const auto row = count & all(uint64_t{row_count - 1});
+    const auto exponent = ExponentPart<row_bits, Lum64f>(count);
+    const auto plus = as_float(bits(gather<Lum64f>(columns, row)) + exponent);
+    const auto minus = as_float(bits(gather(columns + row_count, row)) - exponent);
+    const auto sum = plus + minus, difference = plus - minus;
+    const auto low = ((plus - difference) - minus) + gather(columns + 2 * row_count, row);
+    const auto r2 = r * r;
+    const auto s =
+        fma(r * r2, horner(r2, f64(0x3FC55555555554AD, 0.166666666666662), f64(0x3F8111115712F425, 0.008333335370815995)), r);
+    const auto c = r2 * horner(r2, f64(0x3FDFFFFFFFFFFDBD, 0.49999999999996786), f64(0x3FA55555CF16D299, 0.04166668084090936));
+    return {or_sign(x, fma(sum, s, fma(c, difference, low)) + difference), IsFrom(0x40861D9A00000000, a)};
+  }
+};
+
+struct A53_64f : HyperbolicSine<Lum64f> {
+  static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
+    const auto a = as_float(WithoutSign<Lum64f>(bits(x)));
+    const auto [count, r] = ReduceGuarded<4>(a);
+    const auto r2 = r * r;
+    const auto s = fma(r * r2,
+                       horner(r2, f64(0x3FC5555555555CA6, 0.16666666666671864), f64(0x3F8111110EDC6EDA, 0.008333333269141919),
+                              f64(0x3F2A026D06015EC6, 0.0001984365544582726)),
+                       r);
+    const auto c = r2 * horner(r2, f64(0x3FE0000000000000, 0.5), f64(0x3FA5555555554B4C, 0.04166666666664884),
+                               f64(0x3F56C16C1902580B, 0.0013888888970874393), f64(0x3EFA01AC1B806259, 2.4801762009559563e-05));
+    return {or_sign(x, JoinSplit(LookupAll<Lum64f>(count), ExponentPart<4, Lum64f>(count), s, c)),
+            IsFrom(0x4084EE3400000000, a)};
+  }
+};
+
+}  // namespace
+
+LumStatus Sinh_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len) { return OneInput<A11_32f>(src, dst, len); }
+LumStatus Sinh_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len) { return OneInput<A21_32f>(src, dst, len); }
+LumStatus Sinh_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len) { return OneInput<A24_32f>(src, dst, len); }
+LumStatus Sinh_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A50_64f>(src, dst, len); }
+LumStatus Sinh_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A53_64f>(src, dst, len); }
+
+}  // namespace lum

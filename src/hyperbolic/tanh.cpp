@@ -1,0 +1,123 @@
+// tanh x, by a polynomial of its own for each segment of |x|: the exponent and the top fraction bits choose the row, whose
+// polynomial runs around a centre. Row 0 runs from zero, with slope 1 and no constant term, so that denormals come out as they
+// are; the last row is the constant 1. The high tiers hold the value at the centre in two parts. The cheapest is a rational
+// function. No tier ever reports.
+#include "frame/kernel_frame.h"
+#include "frame/kernels.h"
+#include "tables/table.h"
+
+namespace lum {
+namespace {
+
+// How the bits of |x| lead to the row.
+template <class T> struct Segments;
+template <> struct Segments<Lum32f> {
+  static constexpr int32_t base = 0x3D400000;  // four segments a power of 2; row 1 begins one segment above
+  static constexpr int32_t span = 0x03E00000;  // to the last row, which begins at 10
+  static constexpr int shift = 21;
+  static constexpr int32_t last_kept = 0x7F000000;
+};
+template <> struct Segments<Lum64f> {
+  static constexpr int64_t base = 0x3FC0000000000000;  // two segments a power of 2
+  static constexpr int64_t span = 0x0078000000000000;  // the last row begins at 24
+  static constexpr int shift = 51;
+  static constexpr int64_t last_kept = 0x7FE7FFFFFFFFFFFF;
+};
+
+// 1 with the sign of x, or the NaN quieted: for the top of the largest power of 2, infinities and NaN.
+template <class T> struct HyperbolicTangent : Kernel<T> {
+  static void LaneRoutine(T x, T& result) { result = x != x ? x + x : x < 0 ? T(-1) : T(1); }
+};
+
+// Columns of rows_of<T> entries: the centre, the coefficients from the constant one up, what the constant one lacks.
+template <class T> inline constexpr int rows_of = 2 * lanes_of<T>;
+template <int column, class T> LUM_INLINE Vec<T> Lookup(const T* columns, Vec<SignedOf<T>> row) {
+  constexpr int first = column * rows_of<T>;
+  return permute2(load(columns + first), load(columns + first + lanes_of<T>), row);
+}
+
+// The polynomial, or without its constant term and divided by d: the coefficients of d^last down to d^first.
+template <int first, int last, class T> LUM_INLINE Vec<T> Polynomial(const T* columns, Vec<SignedOf<T>> row, Vec<T> d) {
+  if constexpr (first == last) return Lookup<last + 1>(columns, row);
+  else return fma(Polynomial<first + 1, last>(columns, row, d), d, Lookup<first + 1>(columns, row));
+}
+
+// v >= 0 with the sign of x, for a = |x|.
+template <class T> LUM_INLINE Vec<T> WithSignOf(Vec<T> x, Vec<T> a, Vec<T> v) {
+  return as_float(ternary<0xF6>(bits(v), bits(a), bits(x)));
+}
+
+template <bool in_two_parts, int degree, class T> LUM_INLINE Lanes<T> BySegments(const T* columns, Vec<T> x) {
+  using S = Segments<T>;
+  const auto a = as_float(shift_right<1>(shift_left<1>(bits(x))));  // |x|, and below its sign, without a constant
+  const auto b = as_signed(bits(a));
+  const auto row = shift_right<S::shift>(min(max(b - all(S::base), all(SignedOf<T>{0})), all(S::span)));
+  const auto d = a - Lookup<0>(columns, row);
+  const auto refused = mask_cast<T>(lt(all(S::last_kept), b));
+  if constexpr (in_two_parts) {
+    const auto q = fma(Polynomial<1, degree>(columns, row, d), d, Lookup<degree + 2>(columns, row));
+    return {WithSignOf(x, a, Lookup<1>(columns, row) + q), refused};
+  } else {
+    return {WithSignOf(x, a, Polynomial<0, degree>(columns, row, d)), refused};
+  }
+}
+
+constexpr int float_degree = 6, short_degree = 10, long_degree = 16;
+constexpr auto float_columns = by_columns<float_degree + 3>(table32({
+#include "tables/generated/tanh_float_6.inc"
+}));
+constexpr auto short_columns = by_columns<short_degree + 3>(table64({
+#include "tables/generated/tanh_double_10.inc"
+}));
+constexpr auto long_columns = by_columns<long_degree + 3>(table64({
+#include "tables/generated/tanh_double_16.inc"
+}));
+
+struct A11_32f : Kernel<Lum32f> {
+  static constexpr Variant variant = pure_vector_variant;
+  static LUM_INLINE Vec<Lum32f> VectorPath(Vec<Lum32f> x) {
+    const auto a = as_float(and_not(all(sign_bit<Lum32f>), bits(x)));
+    const auto u = a * a;
+    const auto q = horner(u, 1.0f, f32(0x3EDEF102, 0.435432493686676), f32(0x3C520A84, 0.012819889932870865));
+    const auto p = horner(u, f32(0xB859E195, -5.19469213031698e-05), f32(0x3DD1C060, 0.1024177074432373),
+                          f32(0x3A2FC8E6, 0.0006705656414851546));
+    const auto v = rcp14(q) * fma(p, a, a);
+    const auto magnitude = select(le(all(5.0f), a), all(1.0f), v);
+    return as_float(ternary<0x96>(bits(magnitude), bits(a), bits(x)));
+  }
+};
+
+struct A21_32f : HyperbolicTangent<Lum32f> {
+  static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
+    return BySegments<false, float_degree, Lum32f>(float_columns, x);
+  }
+};
+
+struct A24_32f : HyperbolicTangent<Lum32f> {
+  static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) { return BySegments<true, float_degree, Lum32f>(float_columns, x); }
+};
+
+struct A26_64f : HyperbolicTangent<Lum64f> {
+  static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
+    return BySegments<false, short_degree, Lum64f>(short_columns, x);
+  }
+};
+
+struct A50_64f : HyperbolicTangent<Lum64f> {
+  static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) { return BySegments<false, long_degree, Lum64f>(long_columns, x); }
+};
+
+struct A53_64f : HyperbolicTangent<Lum64f> {
+  static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) { return BySegments<true, long_degree, Lum64f>(long_columns, x); }
+};
+
+}  // namespace
+
+LumStatus Tanh_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len) { return OneInput<A11_32f>(src, dst, len); }
+LumStatus Tanh_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len) { return OneInput<A21_32f>(src, dst, len); }
+LumStatus Tanh_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len) { return OneInput<A24_32f>(src, dst, len); }
+LumStatus Tanh_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A26_64f>(src, dst, len); }
+LumStatus Tanh_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A50_64f>(src, dst, len); }
+LumStatus Tanh_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A53_64f>(src, dst, len); }
+
+}  // namespace lum

@@ -1,0 +1,76 @@
+// Tanh: special values, relative accuracy next to zero, the borders of the segments, the constant last row. No tier reports.
+#include "support/accuracy.h"
+#include "support/cases.h"
+
+namespace lum::test {
+namespace {
+
+TEST(Tanh, ZeroKeepsItsSign) {
+  for (const char* name : {"Tanh_32f", "Tanh_64f"}) ExpectCases(name, {{0.0, 0.0}, {-0.0, -0.0}});
+}
+
+TEST(Tanh, InfinitiesGiveOne) {
+  for (const char* name : {"Tanh_32f", "Tanh_64f"}) ExpectCases(name, {{inf, 1}, {-inf, -1}});
+}
+
+// x + x where it is refused.
+TEST(Tanh, NanComesThroughQuieted) {
+  for (const char* name : {"Tanh_32f_A21", "Tanh_32f_A24"}) {
+    ExpectCases(name, {{FromBits(0x7FC01234), FromBits(0x7FC01234)},
+                       {FromBits(0xFFC00001), FromBits(0xFFC00001)},
+                       {FromBits(0x7F812345), FromBits(0x7FC12345)},
+                       {FromBits(0xFFBFFFFF), FromBits(0xFFFFFFFF)}});
+  }
+  ExpectCases("Tanh_64f", {{FromBits(0x7FF8000000001234), FromBits(0x7FF8000000001234)},
+                           {FromBits(0xFFF8000000000001), FromBits(0xFFF8000000000001)},
+                           {FromBits(0x7FF0000000012345), FromBits(0x7FF8000000012345)},
+                           {FromBits(0xFFF7FFFFFFFFFFFF), FromBits(0xFFFFFFFFFFFFFFFF)}});
+  ExpectCases("Tanh_32f_A11", {{nan, any_nan}, {default_nan, any_nan}, {FromBits(0x7F812345), any_nan}});
+}
+
+// The last row; from the top of the largest power of 2 on the lane is refused, with the same result.
+TEST(Tanh, LargeArgumentsGiveOne) {
+  ExpectCases("Tanh_32f",
+              {{10, 1}, {-10, -1}, {1e30, 1}, {FromBits(0x7F000000), 1}, {FromBits(0x7F000001), 1}, {max, 1}, {-max, -1}});
+  ExpectCases("Tanh_64f", {{24, 1},
+                           {-24, -1},
+                           {1e300, 1},
+                           {FromBits(0x7FE7FFFFFFFFFFFF), 1},
+                           {FromBits(0x7FE8000000000000), 1},
+                           {max, 1},
+                           {-max, -1}});
+}
+
+TEST(Tanh, RationalTierIsOneFromFiveOn) { ExpectCases("Tanh_32f_A11", {{5, 1}, {-5, -1}, {5.5, 1}, {8, 1}}); }
+
+// The rational function of the cheapest tier has a linear term other than 1.
+TEST(Tanh, TinyArgumentsStay) {
+  for (const char* name : {"Tanh_32f_A21", "Tanh_32f_A24", "Tanh_64f"}) {
+    ExpectCases(name, {{min_denormal, min_denormal},
+                       {-min_denormal, -min_denormal},
+                       {min_normal, min_normal},
+                       {-min_normal, -min_normal},
+                       {1e-40, 1e-40},
+                       {-1e-20, -1e-20}});
+  }
+}
+
+TEST(Tanh, AccuracyNextToBordersAndCentres) {
+  for (const bool is_32bit : {true, false}) {
+    Arguments1 x = Around(is_32bit ? 10 : 24, is_32bit) + Around(5, is_32bit);
+    for (double power = 0x1p-6; power < 32; power *= 2) {
+      for (int eighth = 8; eighth < 16; ++eighth) x = x + Around(power * eighth / 8, is_32bit, 10);
+    }
+    for (size_t i = 0, n = x.size(); i < n; ++i) x.push_back(-x[i]);
+    ExpectAccuracy(is_32bit ? "Tanh_32f" : "Tanh_64f", mpfr_tanh, x);
+  }
+}
+
+TEST(Tanh, Accuracy) {
+  const Arguments1 near = Between(-3, 3, 20000) + BetweenMagnitudes(0.01, 30, 20000) + BetweenMagnitudes(-0.01, -30);
+  ExpectAccuracy("Tanh_32f", mpfr_tanh, near + BetweenMagnitudes(1.5e-45, 1) + BetweenMagnitudes(-1.5e-45, -1));
+  ExpectAccuracy("Tanh_64f", mpfr_tanh, near + BetweenMagnitudes(5e-324, 1) + BetweenMagnitudes(-5e-324, -1));
+}
+
+}  // namespace
+}  // namespace lum::test
