@@ -198,6 +198,18 @@ LUM_API LumStatus lumsDiv_64f_A26(const Lum64f* src1, const Lum64f* src2, Lum64f
 LUM_API LumStatus lumsDiv_64f_A50(const Lum64f* src1, const Lum64f* src2, Lum64f* dst, int32_t len);
 LUM_API LumStatus lumsDiv_64f_A53(const Lum64f* src1, const Lum64f* src2, Lum64f* dst, int32_t len);
 
+/* Erf: The error function, 2/sqrt(pi) times the integral of exp(-t^2) over t from 0 to x.
+ * Domain: all numbers
+ * Special values: erf(+-0) = +-0; erf(+-inf) = +-1; erf(NaN) = NaN
+ * Status: always lumStsOk
+ * Relative cost: 32f A11 0.35, A21 1.2, A24 1.5; 64f A26 2.5, A50 3.1, A53 4.4 */
+LUM_API LumStatus lumsErf_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsErf_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsErf_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsErf_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsErf_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsErf_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
+
 /* Exp: e to the power of x.
  * Domain: all numbers; finite positive results for x up to 88.72 (32f), 709.78 (64f)
  * Special values: exp(+-0) = 1; exp(-inf) = +0; exp(+inf) = +inf; exp(NaN) = NaN of the same payload
