@@ -15,6 +15,19 @@ template <class T> LUM_INLINE Centre<T> NearestCentre(Vec<T> u, T shifter) {
   return {sum - all(shifter), bits(sum) - all(std::bit_cast<UnsignedOf<T>>(shifter))};
 }
 
+// d = |x| - c with w = c d and v = d^2, in which the functions' series are.
+template <class T> struct Distance {
+  Vec<T> d, w, v;
+  Vec<UnsignedOf<T>> row;
+};
+// The last centre is where arguments end, infinite ones and NaN too. A distance of 0 is raised to one that does not matter.
+template <class T> LUM_INLINE Distance<T> DistanceOf(Vec<T> x, T last_centre, T least, T shifter) {
+  const auto a = min(abs(x), all(last_centre));
+  const auto [c, row] = NearestCentre(a, shifter);
+  const auto d = max(a, all(least)) - c;
+  return {d, c * d, d * d, row};
+}
+
 template <class T> struct RowOfTwo { Vec<T> first, second; };
 LUM_INLINE RowOfTwo<Lum64f> GatherRow(const Lum64f* table, Vec<uint64_t> row) {
   const auto i = shift_left<1>(row);
