@@ -1,0 +1,42 @@
+// Rows of two words that hold a function that falls off to the right, the value in two parts, and its slope. Word 0 is the
+// value cut toward zero. The low bits of word 1 are the slope's pattern less word 0's exponent field; its top bits count units
+// of the value's relative tail.
+#pragma once
+
+#include "erf/rows.h"
+
+namespace lum {
+
+template <class T> struct PackedFormat;
+template <> struct PackedFormat<Lum32f> {
+  static constexpr int tail_shift = 26;
+  static constexpr uint32_t exponent_field = 0x7F800000, slope_field = 0x03FFFFFF;
+  static constexpr auto tail_base = f32(0x3C800000, 0.015625);  // its last place is a tail's unit
+};
+template <> struct PackedFormat<Lum64f> {
+  static constexpr int tail_shift = 55;
+  static constexpr uint64_t exponent_field = 0x7FF0000000000000, slope_field = 0x007FFFFFFFFFFFFF;
+  static constexpr auto tail_base = f64(0x3F60000000000000, 0.001953125);
+};
+
+template <class T> struct Unpacked {
+  Vec<T> value, slope;
+  Vec<T> tail;  // relative to value
+};
+template <class T> LUM_INLINE Unpacked<T> Unpack(RowOfTwo<T> row) {
+  using F = PackedFormat<T>;
+  const auto word0 = bits(row.first), word1 = bits(row.second);
+  const auto slope = as_float((word1 & all(F::slope_field)) + (word0 & all(F::exponent_field)));
+  const auto units = shift_right<F::tail_shift>(word1) | all(std::bit_cast<UnsignedOf<T>>(F::tail_base));
+  return {row.first, slope, as_float(units) - all(F::tail_base)};
+}
+
+// value (1 + tail) - slope d (1 + series) for |slope d| up to value / 2: the large parts leave no rounding error.
+template <class T> LUM_INLINE Vec<T> Fall(const Unpacked<T>& row, Vec<T> d, Vec<T> series) {
+  const auto head = fnma(row.slope, d, row.value);
+  const auto error = fnma(row.slope, d, row.value - head);
+  const auto rest = fma(row.value, row.tail, error);
+  return head + fnma(row.slope * d, series, rest);
+}
+
+}  // namespace lum
