@@ -40,6 +40,8 @@ ALLOWED = {
 >>>>>>> erf
     "Log1p_32f_A11": ("broadcast", "g++ broadcasts the pattern of 1, which it also holds as a number, from a general register"),
     "Log1p_32f_A21": ("broadcast", "as in Log1p_32f_A11"),
+    "Pow_64f_A50": ("stack access", "as in Acos_64f_A50, with eight registers of tables"),
+    "Pow_64f_A53": ("stack access", "as in Pow_64f_A50"),
     "SinCos_64f_A53": ("stack access", "as in CIS_64fc_A53"),
     "Sinh_64f_A53": ("stack access", "as in Acos_64f_A50"),
     "Tanh_32f_A24": ("stack access", "as in Tanh_64f_A26"),

@@ -19,6 +19,10 @@ struct Domain {
   std::vector<double> points;
 };
 
+// Bases at which the logarithms of the powers pass to another binade or scheme.
+const std::vector<double> power_points = {1,      2,        0.5,          0.75,      2.0 / 3,  4.0 / 3,  1.484375,
+                                          1.4375, 1.499512, 1.4133885438, 0.9921875, 1.015625, 0x1p-126, 0x1p-1022};
+
 // Thresholds of the reductions, the numbers of each type nearest to a multiple of pi/2 (J.-M. Muller: Elementary Functions),
 // and powers of 2 at which the reductions change their tables.
 const std::vector<double> circular_points = {0x1p19,
@@ -77,6 +81,8 @@ const std::map<std::string_view, Domain>& Domains() {
       {"Ln", {{0, 100}, {0, 100}, {1, 0.75, 1.5, 2, 0.5}}},
       {"Log10", {{0, 100}, {0, 100}, {1, 10, 100, 1000, 0.1, 0.75, 1.5}}},
       {"Log1p", {{-1, 100}, {-1, 100}, {1, 0x1p-24, 0x1p-53, 0.5}}},
+      {"Pow", {{-10, 20}, {-10, 20}, power_points}},
+      {"Powx", {{-10, 20}, {-10, 20}, power_points}},
       {"Pow2o3", {{-100, 100}, {-100, 100}, {1, 8, 27}}},
       {"Pow3o2", {{0, 100}, {0, 100}, {1, 2, 4, 0x1p-68, 0x1p84, 0x1p-646, 0x1p-680, 0x1p681}}},
       {"Sin", {{-100, 100}, {-100, 100}, circular_points}},

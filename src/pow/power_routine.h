@@ -1,0 +1,257 @@
+// The scalar power, which finishes the lanes that the vector paths refuse: all special values, negative bases, and results
+// next to and beyond the ends of the range, denormal ones rounded once.
+#pragma once
+
+#include <bit>
+#include <cstdint>
+#include <limits>
+#include <type_traits>
+
+#include "frame/literals.h"
+#include "frame/types.h"
+#include "tables/table.h"
+
+namespace lum {
+
+// Of the scheme of PowerMagnitude in either type. A table of a stage has rows c, hi, lo.
+template <class T> struct PowerConstants;
+template <> struct PowerConstants<Lum32f> {
+  static constexpr auto stage1 = table32({
+#include "tables/generated/power_routine_float_1.inc"
+  });
+  static constexpr auto stage2 = table32({
+#include "tables/generated/power_routine_float_2.inc"
+  });
+  static constexpr auto stage3 = table32({
+#include "tables/generated/power_routine_float_3.inc"
+  });
+  static constexpr auto exp2 = table32({
+#include "tables/generated/exp2_float_128_pairs.inc"
+  });
+  // Lowest of the significand bits that the rows of a stage stand for, with half a row, and their number.
+  static constexpr int index_shift[3] = {20, 18, 15};
+  static constexpr uint32_t index_mask[3] = {0x780000, 0x1E0000, 0x7C000};
+  static constexpr uint32_t exponent_origin = 0x3F380000;
+  static constexpr auto scale = f32(0x3FB88000, 1.44140625);
+  static constexpr auto splitter = 4097.0f;
+  static constexpr auto exp_shifter = 98304.0f;  // 1.5 * 2^16: the last place is worth 1/128
+  static constexpr int denormal_exponent = 64;
+  static constexpr int overflowing_exponents = 265, vanishing_exponents = 193;
+  static constexpr int last_denormal = -32;
+  // (log2(1 + u/scale) - u) / u.
+  static float LogPolynomial(float u) {
+    return ((f32(0xBDAB1EA1, -0.08355451375246048) * u + f32(0x3E246F69, 0.16058124601840973)) * u +
+            f32(0xBEB1C35D, -0.3471936285495758)) *
+               u +
+           f32(0x3A6A6369, 0.0008941204869188368);
+  }
+  // (2^g - 1) / g.
+  static float ExpPolynomial(float g) {
+    return (f32(0x3D635847, 0.05550410971045494) * g + f32(0x3E75FDF0, 0.24022650718688965)) * g +
+           f32(0x3F317218, 0.6931471824645996);
+  }
+};
+template <> struct PowerConstants<Lum64f> {
+  static constexpr auto stage1 = table64({
+#include "tables/generated/power_routine_double_1.inc"
+  });
+  static constexpr auto stage2 = table64({
+#include "tables/generated/power_routine_double_2.inc"
+  });
+  static constexpr auto stage3 = table64({
+#include "tables/generated/power_routine_double_3.inc"
+  });
+  static constexpr auto exp2 = table64({
+#include "tables/generated/exp2_double_128_pairs.inc"
+  });
+  static constexpr int index_shift[3] = {47, 43, 37};
+  static constexpr uint64_t index_mask[3] = {0x000FC00000000000, 0x0000FC0000000000, 0x00000FF000000000};
+  static constexpr uint64_t exponent_origin = 0x3FE7C00000000000;
+  static constexpr auto scale = f64(0x3FF7154740000000, 1.442694902420044);
+  static constexpr auto splitter = 134217729.0;
+  static constexpr auto exp_shifter = 52776558133248.0;  // 1.5 * 2^45: the last place is worth 1/128
+  static constexpr int denormal_exponent = 200;
+  static constexpr int overflowing_exponents = 2057, vanishing_exponents = 1985;
+  static constexpr int last_denormal = -61;
+  static double LogPolynomial(double u) {
+    return ((f64(0xBFB550472A9012D8, -0.08325619496470027) * u + f64(0x3FC47FD462B6DEE1, 0.16015105075870564)) * u +
+            f64(0xBFD62E4346694107, -0.3465736568077919)) *
+               u +
+           f64(0x3E79C3A6966457E8, 9.597935033233503e-08);
+  }
+  static double ExpPolynomial(double g) {
+    return (((f64(0x3F55D87FE78A6731, 0.0013333558146428443) * g + f64(0x3F83B2AB6FBA4E77, 0.009618129107628477)) * g +
+             f64(0x3FAC6B08D704A0C0, 0.05550410866482158)) *
+                g +
+            f64(0x3FCEBFBDFF82C58F, 0.24022650695910072)) *
+               g +
+           f64(0x3FE62E42FEFA39EF, 0.6931471805599453);
+  }
+};
+
+// An unevaluated sum, |lo| small against |hi|.
+template <class T> struct ScalarPair { T hi, lo; };
+
+template <class T> struct PowerFormat {
+  using Word = std::conditional_t<sizeof(T) == 4, uint32_t, uint64_t>;
+  using Signed = std::make_signed_t<Word>;
+  static constexpr int fraction_bits = std::numeric_limits<T>::digits - 1;
+  static constexpr int bias = std::numeric_limits<T>::max_exponent - 1;
+  static constexpr Word one = std::bit_cast<Word>(T(1));
+  static constexpr Word fraction_mask = (Word{1} << fraction_bits) - 1;
+
+  static Word Bits(T x) { return std::bit_cast<Word>(x); }
+  static Word Magnitude(T x) { return Bits(x) & (~Word{0} >> 1); }
+  static int BiasedExponent(T x) { return static_cast<int>(Magnitude(x) >> fraction_bits); }
+  // 2^n of a normal result.
+  static T PowerOfTwo(int n) { return std::bit_cast<T>(static_cast<Word>(n + bias) << fraction_bits); }
+  // x as two numbers of half as many bits each.
+  static ScalarPair<T> Split(T x) {
+    const T t = PowerConstants<T>::splitter * x;
+    const T head = t - (t - x);
+    return {head, x - head};
+  }
+};
+
+enum class Parity { fractional, odd, even };
+
+// A NaN and an infinity count as fractional.
+template <class T> Parity ParityOf(T y) {
+  using F = PowerFormat<T>;
+  const int exponent = F::BiasedExponent(y) - F::bias;
+  if (exponent < 0 || exponent > F::bias) return Parity::fractional;
+  if (exponent > F::fraction_bits) return Parity::even;
+  // The fraction behind the point comes to lie in the fraction field, the unit above it; for |y| below 2 that is the last bit
+  // of the exponent field, which is odd.
+  const auto shifted = F::Magnitude(y) << exponent;
+  if ((shifted & F::fraction_mask) != 0) return Parity::fractional;
+  return (shifted >> F::fraction_bits & 1) != 0 ? Parity::odd : Parity::even;
+}
+
+// log2 x of a positive finite x = 2^e m: |error| about 2^-40 in binary32, 2^-77 in binary64, and as small relative to a result
+// next to zero. Three short factors bring m to scale (1 + d), scale next to 1/ln 2, so that u = scale d is nearly the logarithm
+// of what is left. Their product is exact, and so is u as a pair.
+template <class T> ScalarPair<T> Log2Pair(T x) {
+  using F = PowerFormat<T>;
+  using C = PowerConstants<T>;
+  int exponent_correction = 0;
+  if (x < std::numeric_limits<T>::min()) {
+    x *= F::PowerOfTwo(C::denormal_exponent);
+    exponent_correction = C::denormal_exponent;
+  }
+  // The bits of the index rounded to nearest: twice as many units as rows.
+  const auto row = [](int stage, T z) {
+    const auto half = typename F::Word{1} << (C::index_shift[stage] - 1);
+    return 3 * static_cast<size_t>(((F::Bits(z) & C::index_mask[stage]) + half) >> C::index_shift[stage]);
+  };
+  const T m = std::bit_cast<T>((F::Bits(x) & F::fraction_mask) | F::one);
+  const T* row1 = C::stage1 + row(0, m);
+  const T z1 = row1[0] * m;
+  const T* row2 = C::stage2 + row(1, z1);
+  const T z2 = z1 * row2[0];
+  const T* row3 = C::stage3 + row(2, z2);
+  const T z3 = z2 * row3[0];
+  const auto e =
+      static_cast<T>(static_cast<int>(static_cast<typename F::Signed>(F::Bits(x) - C::exponent_origin) >> F::fraction_bits) -
+                     exponent_correction);
+
+  const T u0 = z3 - C::scale;  // exact
+  const auto factor = F::Split(row1[0] * row2[0] * row3[0]);
+  const auto [m_head, m_tail] = F::Split(m);
+  // What the rounded products have lost.
+  const T w = ((m_head * factor.hi - z3) + (m_head * factor.lo + m_tail * factor.hi)) + m_tail * factor.lo;
+
+  const T a = e + row1[1] + row2[1] + row3[1];  // exact; 0 or larger than u0
+  const T s0 = a + u0;
+  const T s = s0 + w;
+  const T errors = (u0 - (s0 - a)) + (w - (s - s0));
+  const T u = u0 + w;
+  return {s, u * C::LogPolynomial(u) + (errors + (row1[2] + row2[2] + row3[2]))};
+}
+
+// 2^(p.hi + p.lo) times sign, |p| up to 2^11: one rounding also of a denormal result.
+template <class T> T Exp2Signed(ScalarPair<T> p, T sign) {
+  using F = PowerFormat<T>;
+  using C = PowerConstants<T>;
+  constexpr T huge = std::numeric_limits<T>::max();
+  constexpr T tiny = std::numeric_limits<T>::min();
+  const T shifted = p.hi + C::exp_shifter;
+  const int count = static_cast<int>(static_cast<typename F::Signed>(F::Bits(shifted) - F::Bits(C::exp_shifter)));
+  const T g = (p.hi - (shifted - C::exp_shifter)) + p.lo;
+  const T* row = C::exp2 + 2 * (count & 127);
+  const int n = count >> 7;
+  const T correction = row[0] * (g * C::ExpPolynomial(g)) + row[1];
+  const T v = row[0] + correction;
+
+  const int exponent = F::BiasedExponent(v) + n;
+  if (exponent > 2 * F::bias) return sign * huge * huge;
+  if (exponent > 0) return sign * std::bit_cast<T>(F::Bits(v) + (static_cast<typename F::Word>(n) << F::fraction_bits));
+  if (exponent < C::last_denormal) return sign * tiny * tiny;
+  const T up = F::PowerOfTwo(n + C::denormal_exponent);
+  const T down = F::PowerOfTwo(-C::denormal_exponent);
+  // Few bits are left: a second rounding does no harm.
+  if (exponent < -9) return sign * (v * up) * down;
+  // The head is no longer than the result; the rest alone is rounded.
+  const T head = F::Split(v).hi;
+  const T tail = (row[0] - head) + correction;
+  return sign * ((head * up) * down + (tail * up) * down);
+}
+
+// x^y times sign, for positive finite x other than 1, and finite y.
+template <class T> T PowerMagnitude(T x, T y, T sign) {
+  using F = PowerFormat<T>;
+  using C = PowerConstants<T>;
+  const auto log = Log2Pair(x);
+  const int exponents = F::BiasedExponent(log.hi) + F::BiasedExponent(y);
+  if (exponents >= C::overflowing_exponents) {
+    const T h = (log.hi < 0) == (y < 0) ? std::numeric_limits<T>::max() : std::numeric_limits<T>::min();
+    return sign * h * h;
+  }
+  if (exponents < C::vanishing_exponents) return sign * (T(1) + std::numeric_limits<T>::min());
+
+  const T h = log.hi + log.lo;
+  const T head = F::Split(h).hi;
+  const T tail = (log.lo - (h - log.hi)) + (h - head);
+  const auto [y_head, y_tail] = F::Split(y);
+  const T a = head * y_head;  // exact
+  const T b = tail * y + head * y_tail;
+  const T p = a + b;
+  return Exp2Signed<T>({p, b - (p - a)}, sign);
+}
+
+// x^y of any arguments.
+template <class T> LumStatus PowerRoutine(T x, T y, T& result) {
+  using F = PowerFormat<T>;
+  constexpr T infinity = std::numeric_limits<T>::infinity();
+  result = 1;
+  if (x == 1 || y == 0) return lumStsOk;
+  if (x != x || y != y) {
+    result = x + y;
+    return lumStsOk;
+  }
+  const auto parity = ParityOf(y);
+  const bool is_negative = F::Bits(x) != F::Magnitude(x);
+  const T sign = is_negative && parity == Parity::odd ? T(-1) : T(1);
+  const T magnitude = std::bit_cast<T>(F::Magnitude(x));
+  const bool y_is_finite = -infinity < y && y < infinity;
+  if (x == 0) {
+    result = y > 0 ? sign * (x * x) : sign / (x * x);
+    return y > 0 ? lumStsOk : lumStsDomain;
+  }
+  if (x == -1 && (!y_is_finite || parity != Parity::fractional)) {
+    result = sign;
+  } else if (y_is_finite && magnitude < infinity) {
+    if (is_negative && parity == Parity::fractional) {
+      result = -std::numeric_limits<T>::quiet_NaN();
+      return lumStsDomain;
+    }
+    result = PowerMagnitude(magnitude, y, sign);
+  } else if (magnitude >= 1) {
+    result = y < 0 ? sign * 0 : x * x * y * sign;
+  } else {
+    result = y < 0 ? infinity : 0;
+  }
+  return lumStsOk;
+}
+
+}  // namespace lum
