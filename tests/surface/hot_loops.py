@@ -26,9 +26,7 @@ ALLOWED = {
     "Atan2_32f_A24": ("broadcast", "a pattern that is also held as a number, as in Log1p_32f_A11"),
     "Atan2_64f_A50": ("stack access", "as in Acos_64f_A50"),
     "Atan2_64f_A53": ("stack access", "as in Acos_64f_A50"),
-<<<<<<< HEAD
     "CIS_64fc_A53": ("stack access", "has more constants than there are registers"),
-=======
     "CdfNorm_32f_A24": ("broadcast", "as in Log1p_32f_A11"),
     "CdfNorm_64f_A50": ("stack access", "as in Acos_64f_A50"),
     "CdfNorm_64f_A53": ("stack access", "as in Acos_64f_A50"),
@@ -37,7 +35,6 @@ ALLOWED = {
     "Erfc_32f_A24": ("broadcast", "as in Log1p_32f_A11"),
     "Erfc_64f_A50": ("stack access", "as in Acos_64f_A50"),
     "Erfc_64f_A53": ("stack access", "as in Acos_64f_A50"),
->>>>>>> erf
     "Log1p_32f_A11": ("broadcast", "g++ broadcasts the pattern of 1, which it also holds as a number, from a general register"),
     "Log1p_32f_A21": ("broadcast", "as in Log1p_32f_A11"),
     "Pow_64f_A50": ("stack access", "as in Acos_64f_A50, with eight registers of tables"),

@@ -25,8 +25,5 @@ def generate(directory):
         write(f"{name}_tail", SCRIPT, f"The relative residue of entry j of {name}_head.",
               [residue(j, n, width) for j in range(n)], width, directory)
     write("exp2_1024_sixth", SCRIPT, "2^(j/1024) / 6, rounded.", [power(j, 1024) / 6 for j in range(1024)], 64, directory)
-    heads = [head(j, 128, 32) for j in range(128)]
-    write("exp2_float_128_pairs", SCRIPT, "2^(j/128), rounded, and what it lacks.",
-          [[h, power(j, 128) - h] for j, h in enumerate(heads)], 32, directory)
     write("exp2_64_pairs", SCRIPT, "2^(j/64), rounded, and its relative residue.",
           [[head(j, 64, 64), residue(j, 64, 64)] for j in range(64)], 64, directory)
