@@ -1,7 +1,6 @@
 // The principal logarithm: ln |z| + i arctan2(y, x). The angle is that of the arctangent of two arguments at the same tag. The
-// other part is half the logarithm of s = x^2 + y^2, formed from the larger part scaled to [1, 2). Near the unit circle, where
-// ln s is as small as t = s - 1, t is formed as (a - 1)(a + 1) + b^2, a being the larger part, and ln(1 + t) taken. Nothing is
-// reported, not even of a zero.
+// other part is half the logarithm of s = x^2 + y^2, formed with the errors of both squares. Near the unit circle, where ln s
+// is as small as t = s - 1, ln(1 + t) is taken of the exact difference. Nothing is reported, not even of a zero.
 #include "complex/refused.h"
 #include "explog/ln_terms.h"
 #include "frame/kernels.h"
@@ -28,18 +27,34 @@ template <> struct Segments<4> {
   }));
 };
 
-// In binary32, where s itself is too coarse near 1.
-template <int segment_degree> LUM_INLINE Vec<Lum32f> LogOfModulus(Vec<Lum32f> x, Vec<Lum32f> y) {
+// s = x^2 + y^2 as a pair, of the larger part scaled to [1, 2) and the other with it.
+template <class T> struct Square { Vec<T> head, tail, exponent; };  // 4^exponent (head + tail)
+template <class T> LUM_INLINE Square<T> SquareOfModulus(Vec<T> x, Vec<T> y) {
   const auto ax = abs(x), ay = abs(y);
   const auto large = max(ax, ay), small = min(ax, ay);
   const auto exponent = getexp(large);
   const auto a = getmant<0>(large), b = scalef(small, negate(exponent));
-  const auto s = fma(a, a, b * b);
-  const auto t = fma(large - all(1.0f), large + all(1.0f), small * small);
+  const auto a2 = a * a, b2 = b * b;
+  const auto sum = fast_two_sum(a2, b2);
+  return {sum.sum, sum.error + (fms(a, a, a2) + fms(b, b, b2)), exponent};
+}
+
+// s - 1 as a pair where s is near 1: the difference of the heads is exact.
+template <class T> struct HeadTail { Vec<T> head, tail; };
+template <class T> LUM_INLINE HeadTail<T> LessOne(const Square<T>& s) {
+  const auto twice = s.exponent + s.exponent;
+  const auto sum = two_sum(scalef(s.head, twice) - all(T(1)), scalef(s.tail, twice));
+  return {sum.sum, sum.error};
+}
+
+// In binary32.
+template <int segment_degree> LUM_INLINE Vec<Lum32f> LogOfModulus(Vec<Lum32f> x, Vec<Lum32f> y) {
+  const auto s = SquareOfModulus(x, y);
+  const auto t = LessOne(s).head;
   const auto is_near = le(all(-0.25f), t) & lt(t, all(0.5f));
-  const auto m = select(is_near, all(1.0f) + t, getmant<0xB>(s));
+  const auto m = select(is_near, all(1.0f) + t, getmant<0xB>(s.head));
   const auto r = select(is_near, t, m - all(1.0f));
-  const auto k = zero_unless(~is_near, (getexp(s) - getexp(m)) + (exponent + exponent));
+  const auto k = zero_unless(~is_near, (getexp(s.head) - getexp(m)) + (s.exponent + s.exponent));
   const auto log = fma(r, SegmentPolynomial<segment_degree>(m, r, Segments<segment_degree>::columns),
                        k * all(f32(0x3F317218, 0.6931471824645996)));
   return all(0.5f) * log;
@@ -53,71 +68,53 @@ template <int segment_degree, class Angle> struct Single : LnKernel<Lum32fc> {
   }
 };
 
-// In binary64 the sum of two squares of binary32 numbers is in range, and near 1 it is within a rounding of binary64.
-LUM_INLINE Vec<Lum64f> HalfLogOfSquares(Vec<Lum64f> x, Vec<Lum64f> y) {
-  return all(0.5) * LnTerms_A26::Sum(LnTerms_A26::Terms(ReduceByReciprocal<4>(fma(x, x, y * y))));
+// In binary64 the squares of binary32 numbers are exact, and x^2 - 1 is where s is near 1.
+LUM_INLINE Vec<Lum64f> HalfLogOfSquares(Vec<Lum64f> large, Vec<Lum64f> small) {
+  auto terms = LnTerms_A26::Terms(ReduceByReciprocal<4>(fma(large, large, small * small)));
+  const auto t = fma(large, large, all(-1.0)) + small * small;
+  const auto is_near = lt(abs(t), all(0.0625));
+  terms.base = zero_unless(~is_near, terms.base);
+  terms.r = select(is_near, t, terms.r);
+  return all(0.5) * LnTerms_A26::Sum(terms);
 }
 
 struct A24_32fc : LnKernel<Lum32fc> {
   static LUM_INLINE Lanes<Lum32fc> VectorPath(Interleaved<Lum32f> packed) {
     const auto z = split(packed);
     const auto angle = arctan2::A24_32f::VectorPath(z.im, z.re);
-    const auto low = HalfLogOfSquares(widen_low(z.re), widen_low(z.im));
-    const auto high = HalfLogOfSquares(widen_high(z.re), widen_high(z.im));
+    const auto x = abs(z.re), y = abs(z.im);
+    const auto large = max(x, y), small = min(x, y);
+    const auto low = HalfLogOfSquares(widen_low(large), widen_low(small));
+    const auto high = HalfLogOfSquares(widen_high(large), widen_high(small));
     return {join(ComplexVec<Lum32f>{narrow(low, high), angle.value}), angle.refused};
   }
 };
 
-// An unevaluated sum.
-struct HeadTail {
-  Vec<Lum64f> head, tail;
-};
-
-// a^2 + b^2, 0 <= b <= a in [1, 2).
-template <bool with_tail> LUM_INLINE HeadTail SumOfSquares(Vec<Lum64f> a, Vec<Lum64f> b) {
-  const auto a2 = a * a;
-  if constexpr (!with_tail) return {fma(b, b, a2), all(0.0)};
-  const auto b2 = b * b;
-  const auto sum = fast_two_sum(a2, b2);
-  return {sum.sum, sum.error + (fms(a, a, a2) + fms(b, b, b2))};
-}
-
-// a^2 + b^2 - 1 of an a near 1, 0 <= b <= a. What the product b^2 loses is small beside b, the angle.
-LUM_INLINE HeadTail AboveCircle(Vec<Lum64f> a, Vec<Lum64f> b) {
-  const auto d = a - all(1.0);  // exact
-  const auto sum = two_sum(d + d, fma(d, d, b * b));
-  return {sum.sum, sum.error};
-}
-
-template <class Ln, bool with_tail> LUM_INLINE Vec<Lum64f> LogOfModulus(Vec<Lum64f> x, Vec<Lum64f> y) {
-  const auto ax = abs(x), ay = abs(y);
-  const auto large = max(ax, ay), small = min(ax, ay);
-  const auto exponent = getexp(large);
-  const auto s = SumOfSquares<with_tail>(getmant<0>(large), scalef(small, negate(exponent)));
+template <class Ln> LUM_INLINE Vec<Lum64f> LogOfModulus(Vec<Lum64f> x, Vec<Lum64f> y) {
+  const auto s = SquareOfModulus(x, y);
   auto reduction = ReduceByReciprocal<4>(s.head);
-  reduction.e = reduction.e + (exponent + exponent);
+  reduction.e = reduction.e + (s.exponent + s.exponent);
   auto terms = Ln::Terms(reduction);
 
-  const auto t = AboveCircle(large, small);
+  const auto t = LessOne(s);
   const auto is_near = lt(abs(t.head), all(0.0625));
   terms = {zero_unless(~is_near, terms.base), zero_unless(~is_near, terms.base_tail), select(is_near, t.head, terms.r)};
-  if constexpr (with_tail) terms = Ln::Corrected(terms, select(is_near, t.tail, s.tail * rcp14(s.head)));
-  return all(0.5) * Ln::Sum(terms);
+  return all(0.5) * Ln::Sum(Ln::Corrected(terms, select(is_near, t.tail, s.tail * rcp14(s.head))));
 }
 
-template <class Ln, bool with_tail, class Angle> struct Double : LnKernel<Lum64fc> {
+template <class Ln, class Angle> struct Double : LnKernel<Lum64fc> {
   static LUM_INLINE Lanes<Lum64fc> VectorPath(Interleaved<Lum64f> packed) {
     const auto z = split(packed);
     const auto angle = Angle::VectorPath(z.im, z.re);
-    return {join(ComplexVec<Lum64f>{LogOfModulus<Ln, with_tail>(z.re, z.im), angle.value}), angle.refused};
+    return {join(ComplexVec<Lum64f>{LogOfModulus<Ln>(z.re, z.im), angle.value}), angle.refused};
   }
 };
 
 using A11_32fc = Single<3, arctan2::Low<Lum32f>>;
 using A21_32fc = Single<4, arctan2::A21_32f>;
-using A26_64fc = Double<LnTerms_A26, false, arctan2::Low<Lum64f>>;
-using A50_64fc = Double<LnTerms_A50, true, arctan2::A50_64f>;
-using A53_64fc = Double<LnTerms_A53, true, arctan2::A53_64f>;
+using A26_64fc = Double<LnTerms_A26, arctan2::Low<Lum64f>>;
+using A50_64fc = Double<LnTerms_A50, arctan2::A50_64f>;
+using A53_64fc = Double<LnTerms_A53, arctan2::A53_64f>;
 
 }  // namespace
 

@@ -26,6 +26,7 @@ template <TwoInputsCore core, class E> LumStatus ProductCoreOnLane(const E& z, c
   ComplexDouble value;
   core(value, Widened(z), Widened(w));
   result = Narrowed<E>(value);
+  if (core == CoreDiv && IsZero(w.re) && IsZero(w.im)) return lumStsOk;
   const bool are_finite = IsFinite(z.re) && IsFinite(z.im) && IsFinite(w.re) && IsFinite(w.im);
   return are_finite && HasInfinitePart(result) ? lumStsOverflow : lumStsOk;
 }
