@@ -113,6 +113,19 @@ LUM_API LumStatus lumsAcos_64fc_A26(const Lum64fc* src, Lum64fc* dst, int32_t le
 LUM_API LumStatus lumsAcos_64fc_A50(const Lum64fc* src, Lum64fc* dst, int32_t len);
 LUM_API LumStatus lumsAcos_64fc_A53(const Lum64fc* src, Lum64fc* dst, int32_t len);
 
+/* Acosh: The number that is not negative and whose hyperbolic cosine is x.
+ * Domain: x >= 1
+ * Special values: acosh(1) = +0; acosh(+inf) = +inf; acosh(x < 1) = NaN: with the sign set in 32f, positive in 64f;
+ *   acosh(NaN) = NaN
+ * Status: lumStsDomain: x < 1, -inf included
+ * Relative cost: 32f A11 0.7, A21 1, A24 1.1; 64f A26 2, A50 3, A53 3.3 */
+LUM_API LumStatus lumsAcosh_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsAcosh_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsAcosh_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsAcosh_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsAcosh_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsAcosh_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
+
 /* Acosh (complex): The principal inverse hyperbolic cosine of z, its real part not negative. All tags are one
  *   function, right in each part nearly always to the last bit.
  * Domain: all numbers; branch cut along the real axis below 1, where the sign of a zero imaginary part chooses the
@@ -179,6 +192,18 @@ LUM_API LumStatus lumsAsin_64fc_A26(const Lum64fc* src, Lum64fc* dst, int32_t le
 LUM_API LumStatus lumsAsin_64fc_A50(const Lum64fc* src, Lum64fc* dst, int32_t len);
 LUM_API LumStatus lumsAsin_64fc_A53(const Lum64fc* src, Lum64fc* dst, int32_t len);
 
+/* Asinh: The number whose hyperbolic sine is x.
+ * Domain: all numbers
+ * Special values: asinh(+-0) = +-0; asinh(+-inf) = +-inf; asinh(NaN) = NaN
+ * Status: always lumStsOk
+ * Relative cost: 32f A11 0.7, A21 1, A24 1.1; 64f A26 2, A50 3, A53 3.3 */
+LUM_API LumStatus lumsAsinh_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsAsinh_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsAsinh_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsAsinh_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsAsinh_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsAsinh_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
+
 /* Asinh (complex): The principal inverse hyperbolic sine of z, its imaginary part in [-pi/2, pi/2]. All tags are
  *   one function, right in each part nearly always to the last bit.
  * Domain: all numbers; branch cuts along the imaginary axis beyond -i and i, where the sign of a zero real part
@@ -235,6 +260,19 @@ LUM_API LumStatus lumsAtan_32fc_A24(const Lum32fc* src, Lum32fc* dst, int32_t le
 LUM_API LumStatus lumsAtan_64fc_A26(const Lum64fc* src, Lum64fc* dst, int32_t len);
 LUM_API LumStatus lumsAtan_64fc_A50(const Lum64fc* src, Lum64fc* dst, int32_t len);
 LUM_API LumStatus lumsAtan_64fc_A53(const Lum64fc* src, Lum64fc* dst, int32_t len);
+
+/* Atanh: The number whose hyperbolic tangent is x.
+ * Domain: -1 < x < 1
+ * Special values: atanh(+-0) = +-0; atanh(+-1) = +-inf; atanh(|x| > 1) = NaN, infinities included: with the sign
+ *   set in 32f, positive in 64f; atanh(NaN) = NaN
+ * Status: lumStsSingularity: x = +-1; lumStsDomain: |x| > 1, infinities included
+ * Relative cost: 32f A11 0.7, A21 0.9, A24 1.1; 64f A26 1.9, A50 2.6, A53 3.1 */
+LUM_API LumStatus lumsAtanh_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsAtanh_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsAtanh_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsAtanh_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsAtanh_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsAtanh_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
 
 /* Atanh (complex): The principal inverse hyperbolic tangent of z, its imaginary part in [-pi/2, pi/2]. All tags are
  *   one function, right in each part nearly always to the last bit.

@@ -1,8 +1,9 @@
-"""Halves of powers of 2 of both signs, 2^(i/n)/2 and 2^(-i/n)/2, for the hyperbolic functions and their lane routines."""
+"""Tables of the hyperbolic functions and their inverses: halves of powers of 2 of both signs, 2^(i/n)/2 and 2^(-i/n)/2, and
+logarithms of short significands."""
 
-from mpmath import mpf
+from mpmath import log, mpf
 
-from binary import exact, to_binary, write
+from binary import exact, to_binary, to_multiple, write
 
 SCRIPT = "hyperbolic.py"
 
@@ -17,7 +18,17 @@ def halves(i, n, width):
     return [split(mpf(2) ** (sign * mpf(i) / n) / 2, width) for sign in (1, -1)]
 
 
+def logarithms(directory):
+    for name, n, width, grid in (("ln_above_one_float", 32, 32, -13), ("ln_above_one", 16, 64, -40)):
+        values = [log(1 + mpf(i) / n) for i in range(n)]
+        his = [to_multiple(v, grid) for v in values]
+        write(f"{name}_{n}", SCRIPT, f"ln(1 + i/{n}), rounded.", values, width, directory)
+        write(f"{name}_{n}_pairs", SCRIPT, f"ln(1 + i/{n}): hi, a multiple of 2^{grid}, and lo.",
+              [[hi, exact(v) - hi] for v, hi in zip(values, his)], width, directory)
+
+
 def generate(directory):
+    logarithms(directory)
     for name, n, width in (("half_exp2_float_32", 32, 32), ("half_exp2_16", 16, 64)):
         rows = [halves(i, n, width) for i in range(n)]
         write(name, SCRIPT, f"2^(i/{n})/2 and 2^(-i/{n})/2, rounded, then what each of the two lacks.",

@@ -1,6 +1,6 @@
-"""The segment tables of tanh: a polynomial in d = |x| - centre for each segment, the first of them from zero on, the others equal
-parts of each power of 2. The values and slopes at the centres follow from the rule, the higher coefficients come from tanh.sollya;
-the first row of binary32 is pinned but for its cubic coefficient, the last row is the constant 1.
+"""The segment tables of tanh: a polynomial in d = |x| - centre for each segment. The first segment begins at zero, the others
+are equal parts of each power of 2. The values and slopes at the centres follow from the rule, the higher coefficients come from
+tanh.sollya; the first row of binary32 is pinned but for its cubic coefficient, the last row is the constant 1.
 """
 
 import shutil
@@ -91,7 +91,8 @@ def generate(directory):
         rows, error = table(name, width, higher)
         pinned = "; row 0 is pinned" if name == "float" else ""
         comment = "\n// ".join([
-            f"tanh on segments: the centre, the coefficients of 1, d, ... d^{degree} for d = |x| - centre, what the first of them lacks.",
-            f"Interval: the row's segment. Weight: d^2 on the coefficients from d^2 up, with those below given{pinned}.",
+            f"tanh on segments: the centre, the coefficients of 1, d, ... d^{degree} for d = |x| - centre, "
+            "what the first of them lacks.",
+            f"Interval: the row's segment. Weight: 1/d^2, with value and slope given{pinned}.",
             f"Largest relative error, with what the value lacks added: {float(error):.2e}. The last row is 1."])
         write(f"tanh_{name}_{degree}", SCRIPT, comment, rows, width, directory)
