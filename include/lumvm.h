@@ -156,6 +156,19 @@ LUM_API LumStatus lumsCbrt_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len);
 LUM_API LumStatus lumsCbrt_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len);
 LUM_API LumStatus lumsCbrt_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
 
+/* CdfNormInv: The quantile of the standard normal distribution: the x with cdfnorm(x) = p.
+ * Domain: 0 < p < 1
+ * Special values: cdfnorminv(0.5) = +0; cdfnorminv(+-0) = -inf; cdfnorminv(1) = +inf; cdfnorminv(p < 0 or p > 1) =
+ *   the positive NaN; cdfnorminv(NaN) = NaN
+ * Status: lumStsSingularity: p = +-0 or 1; lumStsDomain: p < 0 or p > 1, infinities included
+ * Relative cost: 32f A11 0.9, A21 1.3, A24 1.6; 64f A26 2.9, A50 3.9, A53 4.4 */
+LUM_API LumStatus lumsCdfNormInv_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsCdfNormInv_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsCdfNormInv_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsCdfNormInv_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsCdfNormInv_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsCdfNormInv_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
+
 /* CdfNorm: The distribution function of the standard normal distribution, erfc(-x/sqrt(2))/2.
  * Domain: all numbers; positive results from x = -14.17 (32f), -38.48 (64f) on
  * Special values: cdfnorm(+-0) = 0.5; cdfnorm(-inf) = +0; cdfnorm(+inf) = 1; cdfnorm(NaN) = NaN
