@@ -223,6 +223,18 @@ LUM_API LumStatus lumsDiv_64f_A26(const Lum64f* src1, const Lum64f* src2, Lum64f
 LUM_API LumStatus lumsDiv_64f_A50(const Lum64f* src1, const Lum64f* src2, Lum64f* dst, int32_t len);
 LUM_API LumStatus lumsDiv_64f_A53(const Lum64f* src1, const Lum64f* src2, Lum64f* dst, int32_t len);
 
+/* ErfInv: The inverse of the error function: the y with erf(y) = x.
+ * Domain: -1 < x < 1
+ * Special values: erfinv(+-0) = +-0; erfinv(+-1) = +-inf; erfinv(|x| > 1) = the positive NaN; erfinv(NaN) = NaN
+ * Status: lumStsSingularity: x = +-1; lumStsDomain: |x| > 1, infinities included
+ * Relative cost: 32f A11 0.9, A21 1.3, A24 1.6; 64f A26 2.9, A50 3.9, A53 4.4 */
+LUM_API LumStatus lumsErfInv_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsErfInv_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsErfInv_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsErfInv_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsErfInv_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsErfInv_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
+
 /* Erf: The error function, 2/sqrt(pi) times the integral of exp(-t^2) over t from 0 to x.
  * Domain: all numbers
  * Special values: erf(+-0) = +-0; erf(+-inf) = +-1; erf(NaN) = NaN
