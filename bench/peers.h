@@ -17,6 +17,9 @@ struct Peer {
 // The peers that have the function and type. None on a processor without AVX-512.
 std::vector<Peer> FindPeers(const support::Export& entry);
 
+// Functions that no peer has, composed of a peer's functions: composed_sleef_u10 and the like.
+std::vector<Peer> FindComposedPeers(const support::Export& entry);
+
 // A line for each peer library that is not there.
 std::vector<std::string> AbsentPeers();
 

@@ -315,6 +315,19 @@ LUM_API LumStatus lumsCbrt_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len);
 LUM_API LumStatus lumsCbrt_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len);
 LUM_API LumStatus lumsCbrt_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
 
+/* CdfNormInv: The quantile of the standard normal distribution: the x with cdfnorm(x) = p.
+ * Domain: 0 < p < 1
+ * Special values: cdfnorminv(0.5) = +0; cdfnorminv(+-0) = -inf; cdfnorminv(1) = +inf; cdfnorminv(p < 0 or p > 1) =
+ *   the positive NaN; cdfnorminv(NaN) = NaN
+ * Status: lumStsSingularity: p = +-0 or 1; lumStsDomain: p < 0 or p > 1, infinities included
+ * Relative cost: 32f A11 0.9, A21 1.3, A24 1.6; 64f A26 2.9, A50 3.9, A53 4.4 */
+LUM_API LumStatus lumsCdfNormInv_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsCdfNormInv_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsCdfNormInv_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsCdfNormInv_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsCdfNormInv_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsCdfNormInv_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
+
 /* CdfNorm: The distribution function of the standard normal distribution, erfc(-x/sqrt(2))/2.
  * Domain: all numbers; positive results from x = -14.17 (32f), -38.48 (64f) on
  * Special values: cdfnorm(+-0) = 0.5; cdfnorm(-inf) = +0; cdfnorm(+inf) = 1; cdfnorm(NaN) = NaN
@@ -423,6 +436,18 @@ LUM_API LumStatus lumsDiv_64fc_A26(const Lum64fc* src1, const Lum64fc* src2, Lum
 LUM_API LumStatus lumsDiv_64fc_A50(const Lum64fc* src1, const Lum64fc* src2, Lum64fc* dst, int32_t len);
 LUM_API LumStatus lumsDiv_64fc_A53(const Lum64fc* src1, const Lum64fc* src2, Lum64fc* dst, int32_t len);
 
+/* ErfInv: The inverse of the error function: the y with erf(y) = x.
+ * Domain: -1 < x < 1
+ * Special values: erfinv(+-0) = +-0; erfinv(+-1) = +-inf; erfinv(|x| > 1) = the positive NaN; erfinv(NaN) = NaN
+ * Status: lumStsSingularity: x = +-1; lumStsDomain: |x| > 1, infinities included
+ * Relative cost: 32f A11 0.9, A21 1.3, A24 1.6; 64f A26 2.9, A50 3.9, A53 4.4 */
+LUM_API LumStatus lumsErfInv_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsErfInv_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsErfInv_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsErfInv_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsErfInv_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsErfInv_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
+
 /* Erf: The error function, 2/sqrt(pi) times the integral of exp(-t^2) over t from 0 to x.
  * Domain: all numbers
  * Special values: erf(+-0) = +-0; erf(+-inf) = +-1; erf(NaN) = NaN
@@ -434,6 +459,19 @@ LUM_API LumStatus lumsErf_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len);
 LUM_API LumStatus lumsErf_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len);
 LUM_API LumStatus lumsErf_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len);
 LUM_API LumStatus lumsErf_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
+
+/* ErfcInv: The inverse of the complementary error function: the y with erfc(y) = x.
+ * Domain: 0 < x < 2
+ * Special values: erfcinv(1) = +0; erfcinv(+-0) = +inf; erfcinv(2) = -inf; erfcinv(x < 0 or x > 2) = the positive
+ *   NaN; erfcinv(NaN) = NaN
+ * Status: lumStsSingularity: x = +-0 or 2; lumStsDomain: x < 0 or x > 2, infinities included
+ * Relative cost: 32f A11 0.9, A21 1.3, A24 1.6; 64f A26 2.9, A50 3.9, A53 4.4 */
+LUM_API LumStatus lumsErfcInv_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsErfcInv_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsErfcInv_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsErfcInv_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsErfcInv_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsErfcInv_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
 
 /* Erfc: The complementary error function, 1 - erf(x), accurate also where it is tiny.
  * Domain: all numbers; positive results for x up to 10.05 (32f), 27.22 (64f)

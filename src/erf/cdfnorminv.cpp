@@ -1,0 +1,109 @@
+// The quantile of the normal distribution, cdfnorminv p = -sqrt 2 erfcinv(2 p), for the smaller of p and 1 - p, whose quantile
+// is negative; p > 1/2 turns the sign. In binary64 a large table of expansion points and a series; in binary32 a polynomial on
+// each binade of the smaller. Arguments too close to 0 or 1, and 1/2 itself, go to a lane routine.
+#include "erf/inverse_polynomials.h"
+#include "erf/inverse_routine.h"
+#include "erf/inverse_rows.h"
+#include "frame/kernel_frame.h"
+#include "frame/kernels.h"
+
+namespace lum {
+namespace {
+
+constexpr auto minus_root2 = f64(0xBFF6A09E667F3BCC, -1.414213562373095);  // cut toward zero
+constexpr auto minus_root2_rest = f64(0xBCA21165F626CDD5, -1.2537167179050217e-16);
+
+// Of any argument; the refused lanes hold 1/2, numbers next to 0 and 1, and those outside of the domain.
+template <class T> LumStatus FinishRefused(T x, T& result) {
+  if (x != x) {
+    result = x * x;
+  } else if (x == 0 || x == 1) {
+    return Pole(x == 1, result);
+  } else if (x < 0 || x > 1) {
+    return OutsideDomain(result);
+  } else if (x == T(0.5)) {
+    result = 0;
+  } else {
+    const double p = x;
+    const DoubleWord y = ErfcInvOfTail(2 * (p < 0.5 ? p : 1 - p));
+    const double head = y.hi * minus_root2;
+    const double rest = scalar_fma(y.hi, minus_root2, -head) + (y.hi * minus_root2_rest + y.lo * minus_root2);
+    result = static_cast<T>(p < 0.5 ? head + rest : -(head + rest));
+  }
+  return lumStsOk;
+}
+
+template <int degree> struct FloatTable;
+template <> struct FloatTable<3> {
+  static constexpr auto table = table32({
+#include "tables/generated/cdfnorminv_float_3.inc"
+  });
+};
+template <> struct FloatTable<7> {
+  static constexpr auto table = table32({
+#include "tables/generated/cdfnorminv_float_7.inc"
+  });
+};
+template <> struct FloatTable<9> {
+  static constexpr auto table = table32({
+#include "tables/generated/cdfnorminv_float_9.inc"
+  });
+  static constexpr auto centre_rest = f32(0xAF9D8FA7, -2.866020476499642e-10);  // sqrt(2 pi) less its binary32 number
+};
+
+template <int degree> struct Float : Kernel<Lum32f> {
+  static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
+    const auto p = min(all(1.0f) - x, x);  // a NaN stays one
+    const auto s = all(0.5f) - p;
+    const auto magnitude = EvaluatePolynomial<FloatTable<degree>, degree>(p, s, nlt(p, all(0.25f)));
+    return {xor_sign(x - all(0.5f), magnitude), nle(all(0x1p-24f), p)};
+  }
+  static LumStatus LaneRoutine(Lum32f x, Lum32f& result) { return FinishRefused(x, result); }
+};
+using A11_32f = Float<3>;
+using A21_32f = Float<7>;
+using A24_32f = Float<9>;
+
+struct NormalSeries {
+  static constexpr auto c10 = f64(0x40040D931FF62706, 2.5066282746310007), c20 = f64(0xC011C5831ADD62E4, -4.442882938158366);
+  static constexpr auto c30 = f64(0x4004FFDDEAA22DC8, 2.6249349909537365), c31 = f64(0x4024FFDDEAA22DC8, 10.499739963814946);
+  static constexpr auto c40 = f64(0xC03048B54D983D64, -16.284016465824052), c41 = f64(0xC03BEA5B6072B262, -27.915456798555518);
+  static constexpr auto c50 = f64(0x40171713082D9A2B, 5.772533538611735), c51 = f64(0x4052F7867D932C5A, 75.86758365032566),
+                        c52 = f64(0x4053CAA2994BA8B7, 79.16617424381808);
+  static constexpr auto c60 = f64(0xC04EF0318F35C4E3, -61.876512433294714), c61 = f64(0xC073DAA4D7DEFA51, -317.66524493313506),
+                        c62 = f64(0xC06D3BA5C1C5F47E, -233.86398399985404);
+  static constexpr auto c70 = f64(0x402F55D0D78FA712, 15.66760896328518), c71 = f64(0x407AD513154F2AC8, 429.3171589939561),
+                        c72 = f64(0x4093B5378186F266, 1261.3042050443123), c73 = f64(0x408634C058418482, 710.5939183348239);
+};
+
+template <int terms, bool has_tail> struct Double : Kernel<Lum64f> {
+  static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
+    const auto [p, refused] =
+        ClampTo(f64(0x3DC0000000000000, 2.9103830456733704e-11), 0x1.fffffffffffffp-2, min(all(1.0) - x, x));
+    const auto e = Expand<false>(min(all(0.5) - p, p), nlt(p, all(0.25)), 0x1p-54);
+    const auto series = SeriesOf<NormalSeries, terms>(e.y, e.d);
+    const auto head = e.y * all(minus_root2);
+    auto result = fma(series, e.d, head);
+    if constexpr (has_tail) {
+      const auto rounding = fms(e.y, all(minus_root2), head);
+      const auto rest = fma(head, e.tail, fma(e.y, all(minus_root2_rest), rounding));
+      result = head + fma(series, e.d, rest);
+    }
+    return {xor_sign(all(0.5) - x, result), refused};
+  }
+  static LumStatus LaneRoutine(Lum64f x, Lum64f& result) { return FinishRefused(x, result); }
+};
+using A26_64f = Double<3, false>;
+using A50_64f = Double<6, false>;
+using A53_64f = Double<7, true>;
+
+}  // namespace
+
+LumStatus CdfNormInv_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len) { return OneInput<A11_32f>(src, dst, len); }
+LumStatus CdfNormInv_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len) { return OneInput<A21_32f>(src, dst, len); }
+LumStatus CdfNormInv_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len) { return OneInput<A24_32f>(src, dst, len); }
+LumStatus CdfNormInv_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A26_64f>(src, dst, len); }
+LumStatus CdfNormInv_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A50_64f>(src, dst, len); }
+LumStatus CdfNormInv_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A53_64f>(src, dst, len); }
+
+}  // namespace lum

@@ -1,0 +1,65 @@
+// The inverse of erfc, of the smaller q of x and 2 - x; x > 1 turns the sign. In binary64 a large table of expansion points and
+// a series; in binary32 a polynomial on each binade of q. Arguments too close to 0 or 2, and in binary64 also 1, go to a lane
+// routine.
+#include "erf/inverse_polynomials.h"
+#include "erf/inverse_routine.h"
+#include "erf/inverse_rows.h"
+#include "frame/kernel_frame.h"
+#include "frame/kernels.h"
+
+namespace lum {
+namespace {
+
+// Of any argument; the refused lanes hold 1, numbers next to 0 and 2, and those outside of the domain.
+template <class T> LumStatus FinishRefused(T x, T& result) {
+  if (x != x) {
+    result = x * x;
+  } else if (x == 0 || x == 2) {
+    return Pole(x == 0, result);
+  } else if (x < 0 || x > 2) {
+    return OutsideDomain(result);
+  } else if (x == 1) {
+    result = 0;
+  } else {
+    const double q = x;
+    result = static_cast<T>(q < 1 ? ErfcInvOfTail(q).hi : -ErfcInvOfTail(2 - q).hi);
+  }
+  return lumStsOk;
+}
+
+template <int degree> struct Float : Kernel<Lum32f> {
+  static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
+    const auto q = min(all(2.0f) - x, x);  // a NaN stays one
+    const auto s = all(1.0f) - q;
+    const auto magnitude = EvaluatePolynomial<ErrorPolynomials<degree>, degree>(q, s, nlt(q, all(0.5f)));
+    return {xor_sign(all(1.0f) - x, magnitude), nle(all(0x1p-24f), q)};
+  }
+  static LumStatus LaneRoutine(Lum32f x, Lum32f& result) { return FinishRefused(x, result); }
+};
+using A11_32f = Float<3>;
+using A21_32f = Float<7>;
+using A24_32f = Float<9>;
+
+template <int terms, bool has_tail> struct Double : Kernel<Lum64f> {
+  static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
+    const auto [q, refused] =
+        ClampTo(f64(0x3DC0000000000000, 2.9103830456733704e-11), 0x1.fffffffffffffp-1, min(all(2.0) - x, x));
+    const auto e = Expand<false>(min(all(1.0) - q, q), nlt(q, all(0.5)), 0x1p-53);
+    return {xor_sign(all(1.0) - x, SumOf<terms, has_tail>(e.y, e.tail, negate(e.d))), refused};
+  }
+  static LumStatus LaneRoutine(Lum64f x, Lum64f& result) { return FinishRefused(x, result); }
+};
+using A26_64f = Double<3, false>;
+using A50_64f = Double<6, false>;
+using A53_64f = Double<7, true>;
+
+}  // namespace
+
+LumStatus ErfcInv_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len) { return OneInput<A11_32f>(src, dst, len); }
+LumStatus ErfcInv_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len) { return OneInput<A21_32f>(src, dst, len); }
+LumStatus ErfcInv_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len) { return OneInput<A24_32f>(src, dst, len); }
+LumStatus ErfcInv_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A26_64f>(src, dst, len); }
+LumStatus ErfcInv_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A50_64f>(src, dst, len); }
+LumStatus ErfcInv_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A53_64f>(src, dst, len); }
+
+}  // namespace lum

@@ -1,0 +1,65 @@
+// The inverse of erf, erfinv x = erfcinv(1 - |x|) with the sign of x. In binary64 a large table of expansion points and a
+// series, the distance from the nearer end of the interval from 0 to 1 being |x| itself or 1 - |x|, which is exact; in binary32
+// a polynomial on each binade of 1 - |x|. In binary64 arguments next to 0 go to a lane routine.
+#include "erf/inverse_polynomials.h"
+#include "erf/inverse_routine.h"
+#include "erf/inverse_rows.h"
+#include "frame/kernel_frame.h"
+#include "frame/kernels.h"
+
+namespace lum {
+namespace {
+
+// Of any argument; the refused lanes hold numbers next to 0, the ends of the domain, and those outside of it.
+template <class T> LumStatus FinishRefused(T x, T& result) {
+  if (x != x) {
+    result = x * x;
+  } else if (x == 1 || x == -1) {
+    return Pole(x > 0, result);
+  } else if (x < -1 || x > 1) {
+    return OutsideDomain(result);
+  } else if (x == 0) {
+    result = x;
+  } else {  // the next term of the series is far below the last place
+    const double a = x;
+    result = static_cast<T>(
+        scalar_fma(a, f64(0x3FEC5BF891B4EF6B, 0.886226925452758), a * f64(0xBC8618F13EB7CA89, -3.8332932499128993e-17)));
+  }
+  return lumStsOk;
+}
+
+template <int degree> struct Float : Kernel<Lum32f> {
+  static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
+    const auto a = abs(x);
+    const auto q = all(1.0f) - a;
+    const auto magnitude = EvaluatePolynomial<ErrorPolynomials<degree>, degree>(q, a, nlt(q, all(0.5f)));
+    return {or_sign(x, magnitude), nle(all(0x1p-24f), q)};
+  }
+  static LumStatus LaneRoutine(Lum32f x, Lum32f& result) { return FinishRefused(x, result); }
+};
+using A11_32f = Float<3>;
+using A21_32f = Float<7>;
+using A24_32f = Float<9>;
+
+template <int terms, bool has_tail> struct Double : Kernel<Lum64f> {
+  static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
+    const auto [a, refused] = ClampTo(f64(0x3DC0000000000000, 2.9103830456733704e-11), 0x1.fffffffffffffp-1, abs(x));
+    const auto e = Expand<true>(min(all(1.0) - a, a), lt(a, all(0.5)), 0x1p-53);
+    return {or_sign(x, SumOf<terms, has_tail>(e.y, e.tail, e.d)), refused};
+  }
+  static LumStatus LaneRoutine(Lum64f x, Lum64f& result) { return FinishRefused(x, result); }
+};
+using A26_64f = Double<3, false>;
+using A50_64f = Double<6, false>;
+using A53_64f = Double<7, true>;
+
+}  // namespace
+
+LumStatus ErfInv_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len) { return OneInput<A11_32f>(src, dst, len); }
+LumStatus ErfInv_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len) { return OneInput<A21_32f>(src, dst, len); }
+LumStatus ErfInv_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len) { return OneInput<A24_32f>(src, dst, len); }
+LumStatus ErfInv_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A26_64f>(src, dst, len); }
+LumStatus ErfInv_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A50_64f>(src, dst, len); }
+LumStatus ErfInv_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A53_64f>(src, dst, len); }
+
+}  // namespace lum

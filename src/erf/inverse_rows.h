@@ -1,0 +1,90 @@
+// The inverse of erfc around the nodes of a large table, for the inverses in binary64. The grid has 128 nodes a binade of the
+// distance from either end of the interval from 0 to 1: the distance is cut to 7 fraction bits. At a node q0, with
+// y0 = erfcinv q0 and d = |q - q0| exp(y0^2),
+//   erfcinv q = y0 -+ (sqrt(pi)/2) d + (pi/4) y0 d^2 -+ ...,
+// a series whose coefficients are polynomials in y0^2, with y0 as a factor of the even ones.
+#pragma once
+
+#include "frame/kernel_frame.h"
+#include "tables/table.h"
+
+namespace lum {
+
+// Word 0 of a row: erfcinv q0 cut toward zero, its pattern less a constant, in the low 58 bits; above them the count of units
+// of its relative tail, 2^-58. Word 1: the slope exp(y0^2).
+inline constexpr auto inverse_table = table64({
+#include "tables/generated/erfcinv_rows.inc"
+});
+
+struct Expansion {
+  Vec<Lum64f> y, tail, d;  // y0 = y (1 + tail); d >= 0
+};
+
+// s is the distance from 0, or from 1 in the lanes of from_one, where its node is above it or, in the others, below it; with
+// reversed the other way round. least is the distance that has the first row.
+template <bool reversed> LUM_INLINE Expansion Expand(Vec<Lum64f> s, Mask<Lum64f> from_one, double least) {
+  constexpr uint64_t step = uint64_t{1} << 45;
+  constexpr uint64_t last_entry = inverse_table.size - 2;
+  const auto above = reversed ? ~from_one : from_one;
+  const auto pattern = bits(s);
+  const auto lifted = select(mask_cast<uint64_t>(above), pattern + all(step - 1), pattern);
+  const auto node = lifted & all(~(step - 1));
+  // Two entries a row: the even number of entries in front of it.
+  const auto i = shift_right<44>(node - all(std::bit_cast<uint64_t>(least)));
+  const auto entry = select(mask_cast<uint64_t>(from_one), all(last_entry) - i, i);
+  const auto word = bits(gather<Lum64f>(inverse_table, entry));
+  const auto slope = gather<Lum64f>(inverse_table + 1, entry);
+  const auto units = shift_right<58>(word) | all(std::bit_cast<uint64_t>(0x1p-6));  // whose last place is 2^-58
+  const auto y = (word & all(uint64_t{0x03FFFFFFFFFFFFFF})) + all(uint64_t{0x3C8C000000000000});
+  return {as_float(y), as_float(units) - all(0x1p-6), abs(s - as_float(node)) * slope};
+}
+
+// A value brought into the range of the table, the first of its bounds for a NaN; refused is where that changed it.
+struct Clamped {
+  Vec<Lum64f> value;
+  Mask<Lum64f> refused;
+};
+LUM_INLINE Clamped ClampTo(double low, double high, Vec<Lum64f> t) {
+  const auto value = min(max(t, all(low)), all(high));
+  return {value, ne(value, t)};
+}
+
+// The sum of the first terms of the series, over d. The constants of S are c<k><j>, of d^k y0^(2 j).
+template <class S, int terms> LUM_INLINE Vec<Lum64f> SeriesOf(Vec<Lum64f> y, Vec<Lum64f> d) {
+  static_assert(terms == 3 || terms == 6 || terms == 7);
+  const auto z = y * y;
+  const auto k2 = all(S::c20) * y;
+  const auto k3 = horner(z, S::c30, S::c31);
+  if constexpr (terms == 3) {
+    return fma(fma(k3, d, k2), d, all(S::c10));
+  } else {
+    const auto k4 = horner(z, S::c40, S::c41) * y;
+    const auto k5 = horner(z, S::c50, S::c51, S::c52);
+    const auto k6 = horner(z, S::c60, S::c61, S::c62) * y;
+    auto s = k6;
+    if constexpr (terms == 7) s = fma(horner(z, S::c70, S::c71, S::c72, S::c73), d, k6);
+    return fma(fma(fma(fma(fma(s, d, k5), d, k4), d, k3), d, k2), d, all(S::c10));
+  }
+}
+
+// That of erfinv x, and with d negative of erfcinv q.
+struct ErrorSeries {
+  static constexpr auto c10 = f64(0x3FEC5BF891B4EF6B, 0.886226925452758), c20 = f64(0x3FE921FB54442D18, 0.7853981633974483);
+  static constexpr auto c30 = f64(0x3FCDB29FB2FEE5E4, 0.2320136665346545), c31 = f64(0x3FEDB29FB2FEE5E4, 0.928054666138618);
+  static constexpr auto c40 = f64(0x3FE707719608A6D9, 0.7196586542460991), c41 = f64(0x3FF3BD3CC9BE45DE, 1.2337005501361697);
+  static constexpr auto c50 = f64(0x3FC053C2C0AB91C5, 0.12755617530559796), c51 = f64(0x3FFAD2BFF36301C4, 1.676452589730716),
+                        c52 = f64(0x3FFBFD4DDC93D552, 1.7493418327624863);
+  static constexpr auto c60 = f64(0x3FE5E06C2F4E585C, 0.683645336527444), c61 = f64(0x400C13F1A78CDE41, 3.509738263117271),
+                        c62 = f64(0x4004ABBCE625BE53, 2.583856390024985);
+  static constexpr auto c70 = f64(0x3FB62847C47DDA48, 0.08655212924154754), c71 = f64(0x4002F92B50110F12, 2.371664643784137),
+                        c72 = f64(0x401BDF0398ECEBC4, 6.967787160358913), c73 = f64(0x400F6773D3F8ECCE, 3.925513893159951);
+};
+
+// y (1 + tail) and the series.
+template <int terms, bool has_tail> LUM_INLINE Vec<Lum64f> SumOf(Vec<Lum64f> y, Vec<Lum64f> tail, Vec<Lum64f> d) {
+  const auto series = SeriesOf<ErrorSeries, terms>(y, d);
+  if constexpr (has_tail) return y + fma(series, d, y * tail);
+  else return fma(series, d, y);
+}
+
+}  // namespace lum

@@ -1,0 +1,13 @@
+// a b + c with one rounding for lane routines, with the same bits in both layers.
+#pragma once
+
+#ifdef LUM_AVX512
+namespace lum {
+inline double scalar_fma(double a, double b, double c) { return __builtin_fma(a, b, c); }
+}  // namespace lum
+#else
+#include "frame/lane_arithmetic.h"
+namespace lum {
+inline double scalar_fma(double a, double b, double c) { return lane::careful_fma<rn, false, false>(a, b, c); }
+}  // namespace lum
+#endif
