@@ -5,6 +5,7 @@
 #include <array>
 #include <string_view>
 
+#include "support/environment.h"
 #include "support/library.h"
 
 namespace lum::test {
@@ -25,5 +26,27 @@ inline bool FollowsCallersRounding(const support::Export& entry) { return HasSca
 
 // Computes with plain operations, which raise the precision flag also on ordinary arguments.
 inline bool RaisesPrecision(const support::Export& entry) { return HasScalarCore(entry); }
+
+// Rounding to nearest and no flushing.
+inline bool IsRoundingAndFlushingDefault(const Environment& environment) { return (environment.mxcsr & 0xE040) == 0; }
+
+// Whether the kernel finds MXCSR as it needs it, and then neither saves nor restores it.
+inline bool IsAsNeeded(const support::Export& entry, uint32_t mxcsr) {
+  return (mxcsr & (IsMaskOnly(entry) ? 0x1F80u : 0xFFC0u)) == 0x1F80u;
+}
+
+// Whether a call left behind what it must: the caller's environment, with the x87 unit's flags cleared. In an MXCSR that was
+// not saved, all flags but precision are lost, on purpose, and lane routines may have raised that one. Gives the difference in
+// words, or nothing.
+inline std::string EnvironmentComplaint(const support::Export& entry, const Environment& entered, Environment left) {
+  constexpr uint32_t precision_flag = 0x20, other_flags = 0x1F;
+  Environment expected = entered;
+  expected.x87_flags = false;
+  if (IsAsNeeded(entry, entered.mxcsr)) {
+    expected.mxcsr &= ~other_flags;
+    left.mxcsr &= ~precision_flag | (expected.mxcsr & precision_flag);
+  }
+  return left == expected ? "" : "left behind " + Describe(left) + ", expected " + Describe(expected);
+}
 
 }  // namespace lum::test

@@ -3,7 +3,7 @@
 #include <dlfcn.h>
 
 #include <algorithm>
-#include <array>
+#include <iterator>
 
 #include "frame/catalogue_names.h"
 
@@ -50,7 +50,7 @@ constexpr Export Make(std::string_view name, std::string_view function, std::str
 #define LUM_EXPORT(name, function, type, shape, tag, slot) \
   Make(#name, #function, #type, #tag, Shape::shape, Slot::slot, LUM_COSTS_OF(function, type)),
 #define LUM_ROW(function, type, shape, exported, ...) LUM_EXPORTS_##exported(LUM_EXPORT, function, type, shape)
-constexpr std::array exports = {
+constexpr Export exports[] = {
 #include "frame/catalogue.def"
 };
 
@@ -83,7 +83,7 @@ std::span<const Export> Exports() { return exports; }
 
 const Export* FindExport(std::string_view name) {
   const auto found = std::ranges::find(exports, name, &Export::name);
-  return found == exports.end() ? nullptr : &*found;
+  return found == std::end(exports) ? nullptr : found;
 }
 
 size_t SizeOf(Element element) {
