@@ -110,6 +110,7 @@ void RegisterAll(const Options& options) {
       if (!is_new_group) continue;
       for (const auto& peer : lum::bench::FindPeers(entry)) Register(prefix + peer.name, data, len, peer.loop);
       for (const auto& peer : lum::bench::FindComposedPeers(entry)) Register(prefix + peer.name, data, len, peer.loop);
+      for (const auto& peer : lum::bench::FindPlainPeers(entry)) Register(prefix + peer.name, data, len, peer.loop);
       if (const auto scalar = FindScalarLoop(entry); scalar != nullptr) Register(prefix + "scalar", data, len, scalar);
     }
   }

@@ -20,6 +20,9 @@ std::vector<Peer> FindPeers(const support::Export& entry);
 // Functions that no peer has, composed of a peer's functions: composed_sleef_u10 and the like.
 std::vector<Peer> FindComposedPeers(const support::Export& entry);
 
+// Complex products by the plain formulas, vectorised by the compiler.
+std::vector<Peer> FindPlainPeers(const support::Export& entry);
+
 // A line for each peer library that is not there.
 std::vector<std::string> AbsentPeers();
 

@@ -765,6 +765,24 @@ LUM_API LumStatus lumsPow_64fc_A26(const Lum64fc* src1, const Lum64fc* src2, Lum
 LUM_API LumStatus lumsPow_64fc_A50(const Lum64fc* src1, const Lum64fc* src2, Lum64fc* dst, int32_t len);
 LUM_API LumStatus lumsPow_64fc_A53(const Lum64fc* src1, const Lum64fc* src2, Lum64fc* dst, int32_t len);
 
+/* Powx: Each element to the power `value`, which is the same for all. Exponents that have a function of their own
+ *   (-1, 0.5, -0.5, 1.5; at A11 and A26 also 1/3, -1/3, 2/3), small integers, 0 and 1 take that function, products,
+ *   a fill or a copy.
+ * Domain: x >= 0 with any value; x < 0 with an integer value; denormal x and results included
+ * Special values: as pow(x, value) has them, but for the exponents above; value = +-0: 1; value = 1: a copy; value
+ *   = 2 (at all tags) and 3 to 9 (but at A24 and A53): products; value = 0.5, -0.5, 1.5, -1, 1/3, -1/3, 2/3:
+ *   special values and statuses of sqrt, invsqrt, pow3o2, inv, cbrt, invcbrt, pow2o3; value = -2, -3, -4 (but at
+ *   A24 and A53): 1 over the product, with the special values and statuses of inv; zero where the product overflows
+ * Status: lumStsDomain: x = +-0 and value < 0; finite x < 0 and finite value not an integer; that of the function,
+ *   where the exponent has one
+ * Relative cost: 32f A11 0.66, A21 1.75, A24 2.3; 64f A26 2.3, A50 3.2, A53 3.4 */
+LUM_API LumStatus lumsPowx_32f_A11(const Lum32f* src, Lum32f value, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsPowx_32f_A21(const Lum32f* src, Lum32f value, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsPowx_32f_A24(const Lum32f* src, Lum32f value, Lum32f* dst, int32_t len);
+LUM_API LumStatus lumsPowx_64f_A26(const Lum64f* src, Lum64f value, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsPowx_64f_A50(const Lum64f* src, Lum64f value, Lum64f* dst, int32_t len);
+LUM_API LumStatus lumsPowx_64f_A53(const Lum64f* src, Lum64f value, Lum64f* dst, int32_t len);
+
 /* Powx (complex): Each element to the power `value`, as exp(value ln(z)) with the principal logarithm. All tags are
  *   one function; the error of the rounded product grows with its size and takes digits from large and small
  *   results.

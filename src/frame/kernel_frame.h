@@ -78,11 +78,17 @@ concept HasLargePath = requires(const K kernel, const Inputs<K, n> x) {
   kernel.LargePath(x[0], kernel.VectorPath(x[0]));
 };
 
-// The same with the second path, where a kernel has one.
+// The same with the second path, where a kernel has one. It has no need for the first path's values where that refuses all.
 template <class K, int n> LUM_INLINE auto ComputeRefused(const K& kernel, const Inputs<K, n>& x) {
   auto r = Compute<K, n>(kernel, x);
   if constexpr (HasLargePath<K, n>) {
-    if (any(r.refused)) r = kernel.LargePath(x[0], r);
+    if (none(~r.refused)) {
+      decltype(r) no_values{};
+      no_values.refused = r.refused;
+      r = kernel.LargePath(x[0], no_values);
+    } else if (any(r.refused)) {
+      r = kernel.LargePath(x[0], r);
+    }
   }
   return r;
 }
@@ -196,7 +202,7 @@ namespace frame {
 
 // A full block with refused lanes whose kernel has a second vector path, which most often finishes all of them.
 template <class K, int n, int m>
-__attribute__((noinline)) void LargeBlock(const K& kernel, const Arrays<K, n, m>& arrays, int64_t first, Call& call) {
+LUM_INLINE void LargeBlock(const K& kernel, const Arrays<K, n, m>& arrays, int64_t first, Call& call) {
   Outputs<K, m> values[K::vectors];
   bool all_finished = true;
   for (int v = 0; v < K::vectors; ++v) {
@@ -213,18 +219,42 @@ __attribute__((noinline)) void LargeBlock(const K& kernel, const Arrays<K, n, m>
   }
 }
 
-// One full block: v runs over its vectors, whose streams the processor overlaps.
+// Does the first path refuse all lanes of a block? Nothing of it but the mask is computed.
+template <class K, int n, int m> LUM_INLINE bool RefusesAll(const K& kernel, const Arrays<K, n, m>& arrays, int64_t first) {
+  bool all_refused = true;
+  for (int v = 0; v < K::vectors; ++v) {
+    const auto r = Compute<K, n>(kernel, LoadStep<K, n, m>(arrays, first + v * step_of<K>));
+    all_refused = all_refused && none(~r.refused);
+  }
+  return all_refused;
+}
+
+// Such a block, and those behind it all of whose lanes are refused too: large arguments come in whole arrays. Returns the index
+// behind the last of them.
+template <class K, int n, int m>
+__attribute__((noinline)) int64_t LargeBlocks(const K& kernel, const Arrays<K, n, m>& arrays, int64_t first, int64_t len,
+                                              Call& call) {
+  do {
+    LargeBlock<K, n, m>(kernel, arrays, first, call);
+    first += block_of<K>;
+  } while (first + block_of<K> <= len && RefusesAll<K, n, m>(kernel, arrays, first));
+  return first;
+}
+
+// The block at index i, in which v runs over its vectors, whose streams the processor overlaps. Returns the index of the next.
 template <class K, int n, int m, size_t... v>
-LUM_INLINE void Block(const K& kernel, const Arrays<K, n, m>& arrays, int64_t i, Call& call, std::index_sequence<v...>) {
+LUM_INLINE int64_t Block(const K& kernel, const Arrays<K, n, m>& arrays, int64_t i, int64_t len, Call& call,
+                         std::index_sequence<v...>) {
   const std::array results{Compute<K, n>(kernel, LoadStep<K, n, m>(arrays, i + static_cast<int64_t>(v) * step_of<K>))...};
   if constexpr (requires { results[0].refused; }) {
     if (any((results[v].refused | ...))) [[unlikely]] {
-      if constexpr (HasLargePath<K, n>) LargeBlock<K, n, m>(kernel, arrays, i, call);
+      if constexpr (HasLargePath<K, n>) return LargeBlocks<K, n, m>(kernel, arrays, i, len, call);
       else FinishLanes(kernel, arrays, i, block_of<K>, call);
-      return;
+      return i + block_of<K>;
     }
   }
   (StoreStep<K, n, m>(arrays, i + static_cast<int64_t>(v) * step_of<K>, results[v]), ...);
+  return i + block_of<K>;
 }
 
 // A vector of fewer elements, the rest of its lanes holding the fill.
@@ -245,9 +275,7 @@ LUM_INLINE void TailStep(const K& kernel, const Arrays<K, n, m>& arrays, int64_t
 template <class K, int n, int m> LUM_INLINE LumStatus RunChecked(const K& kernel, const Arrays<K, n, m>& arrays, int64_t len) {
   Call call{Enter<K::variant>()};
   int64_t i = 0;
-  for (; i + block_of<K> <= len; i += block_of<K>) {
-    Block<K, n, m>(kernel, arrays, i, call, std::make_index_sequence<K::vectors>());
-  }
+  while (i + block_of<K> <= len) i = Block<K, n, m>(kernel, arrays, i, len, call, std::make_index_sequence<K::vectors>());
   for (; i < len; i += step_of<K>) {
     TailStep<K, n, m>(kernel, arrays, i, static_cast<int>(std::min<int64_t>(step_of<K>, len - i)), call);
   }

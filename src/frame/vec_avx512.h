@@ -595,16 +595,8 @@ template <Integer32 T, Integer I>
 requires(sizeof(T) == sizeof(I)) LUM_INLINE Vec<T> permute2_words(Vec<T> low, Vec<T> high, Vec<I> index) {
   return {_mm512_permutex2var_epi16(low.v, index.v, high.v)};
 }
-// base[index] per lane, the index signed and of the lane's width.
-template <Lane T, Integer I>
-requires(sizeof(T) == sizeof(I)) LUM_INLINE Vec<T> gather(const T* base, Vec<I> index) {
-  constexpr int scale = sizeof(T);
-  if constexpr (std::same_as<T, float>) return {_mm512_i32gather_ps(index.v, base, scale)};
-  else if constexpr (std::same_as<T, double>) return {_mm512_i64gather_pd(index.v, base, scale)};
-  else if constexpr (is32<T>) return {_mm512_i32gather_epi32(index.v, base, scale)};
-  else return {_mm512_i64gather_epi64(index.v, base, scale)};
-}
-// The same in the lanes of the mask, which alone are read; the others from old.
+// base[index] per lane, the index signed and of the lane's width, in the lanes of the mask, which alone are read; the others
+// from old.
 template <Lane T, Integer I>
 requires(sizeof(T) == sizeof(I)) LUM_INLINE Vec<T> gather(Mask<T> mask, const T* base, Vec<I> index, Vec<T> old) {
   constexpr int scale = sizeof(T);
@@ -612,6 +604,14 @@ requires(sizeof(T) == sizeof(I)) LUM_INLINE Vec<T> gather(Mask<T> mask, const T*
   else if constexpr (std::same_as<T, double>) return {_mm512_mask_i64gather_pd(old.v, mask.k, index.v, base, scale)};
   else if constexpr (is32<T>) return {_mm512_mask_i32gather_epi32(old.v, mask.k, index.v, base, scale)};
   else return {_mm512_mask_i64gather_epi64(old.v, mask.k, index.v, base, scale)};
+}
+// The same in all lanes. The instruction merges into its target, and g++ leaves there whatever it was when it sees a full
+// mask: behind a mask that it does not see, zeros keep a gather from waiting for the one before.
+template <Lane T, Integer I>
+requires(sizeof(T) == sizeof(I)) LUM_INLINE Vec<T> gather(const T* base, Vec<I> index) {
+  Mask<T> full = mask_of<T>(~0u);
+  asm("" : "+k"(full.k));
+  return gather(full, base, index, all(T(0)));
 }
 
 // The four entries from base[index] on, of each lane: entry i of all lanes in column i.

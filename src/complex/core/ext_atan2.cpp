@@ -1,4 +1,6 @@
 // The angle of the point (x, y): that of the smaller part over the larger, added to or taken from the end of the dominant axis.
+#include <algorithm>
+
 #include "complex/core/ext_angle_table.h"
 
 namespace lum {
@@ -9,15 +11,17 @@ struct Octant {
   Extended smaller, larger;
   bool y_dominates, x_is_negative;
 
-  // Row of the axis from which the angle of the smaller over the larger part is counted, and whether it adds to that.
-  int axis() const { return y_dominates ? quarter_turn : x_is_negative ? half_turn : 0; }
-  bool adds() const { return y_dominates == x_is_negative; }
+  // Row of the axis from which the angle of the smaller over the larger part is counted, and in which direction.
+  int axis() const {
+    constexpr int axes[2][2] = {{0, half_turn}, {quarter_turn, quarter_turn}};
+    return axes[y_dominates ? 1 : 0][x_is_negative ? 1 : 0];
+  }
+  bool subtracts() const { return y_dominates != x_is_negative; }
 };
 
 Octant OctantOf(const Extended& y, const Extended& x) {
   const Extended width = magnitude(x), height = magnitude(y);
-  const bool y_dominates = height > width;
-  return {y_dominates ? width : height, y_dominates ? height : width, y_dominates, sign_bit(x)};
+  return {std::min(width, height), std::max(width, height), height > width, sign_bit(x)};
 }
 
 // The upper angle of operands of which one is zero, infinite or NaN: a multiple of pi/4.
@@ -33,7 +37,7 @@ Extended ExactAngle(const Extended& y, const Extended& x) {
 // A point whose larger part has an exponent more than 12 above the smaller.
 Extended AngleNearAxis(const Octant& o, int difference) {
   const ExtendedPair axis = Angle(o.axis());
-  const Extended sign = o.adds() ? 1 : -1;
+  const Extended sign = sign_factor(o.subtracts());
   if (difference > 75) return axis.head + (axis.tail + sign * (o.smaller / o.larger));
   const ExtendedPair u = divide({o.smaller, 0}, {o.larger, 0});
   return AddArctangent(axis, scale(u, sign));
@@ -41,7 +45,8 @@ Extended AngleNearAxis(const Octant& o, int difference) {
 
 Extended AngleByTable(const Octant& o) {
   const TableAngle angle = ArctangentByTable(o.smaller, o.larger);
-  return o.adds() ? AddArctangent(Angle(o.axis() + angle.k), angle.u) : AddArctangent(Angle(o.axis() - angle.k), -angle.u);
+  const int row = o.axis() + (o.subtracts() ? -angle.k : angle.k);
+  return AddArctangent(Angle(row), scale(angle.u, sign_factor(o.subtracts())));
 }
 
 Extended UpperAngle(const Extended& y, const Extended& x) {

@@ -69,12 +69,13 @@ constexpr ExtendedPair multiply(ExtendedPair a, ExtendedPair b) {
 // Times a power of two, exactly.
 constexpr ExtendedPair scale(ExtendedPair a, Extended power) { return {a.head * power, a.tail * power}; }
 
-// a / b: the rounded quotient and, from its exact remainder, the rest. Error a few units of 2^(-2 digits).
+// a / b: a quotient right to two units and, from its exact remainder, the rest. Error a few units of 2^(-2 digits).
 constexpr ExtendedPair divide(ExtendedPair a, ExtendedPair b) {
-  const Extended quotient = a.head / b.head;
+  const Extended reciprocal = 1 / b.head;
+  const Extended quotient = a.head * reciprocal;
   const ExtendedPair back = two_product(quotient, b.head);
   const Extended remainder = (((a.head - back.head) - back.tail) + a.tail) - quotient * b.tail;
-  return fast_two_sum(quotient, remainder / b.head);
+  return fast_two_sum(quotient, remainder * reciprocal);
 }
 
 consteval ExtendedPair ratio(Extended numerator, Extended denominator) { return divide({numerator, 0}, {denominator, 0}); }

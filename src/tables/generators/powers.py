@@ -107,8 +107,8 @@ def gathered_tables(directory):
     rows = []
     for i in range(65):
         c = to_multiple(Fraction(64, 64 + i), -8)
-        rows.append(split(-ln_of(c), -13) + [c, 0])
-    write("powx_ln_64", SCRIPT, "c = 1/(1 + i/64) on the grid 2^-8. -ln c: hi, a multiple of 2^-13, and lo; c; a filler.", rows, 32,
+        rows.append(split(-ln_of(c), -13) + [c])
+    write("powx_ln_64", SCRIPT, "c = 1/(1 + i/64) on the grid 2^-8. -ln c: hi, a multiple of 2^-13, and lo; c.", rows, 32,
           directory)
     write("powx_ln_512", SCRIPT, "ln(512/c), c from 512 to 724, ln(1024/c) from there to 1024; rounded.",
           [ln_of(Fraction(512 if c <= 724 else 1024, c)) for c in range(512, 1025)], 64, directory)

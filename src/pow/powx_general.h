@@ -1,0 +1,274 @@
+// x^y for one y: the general paths of Powx, a kernel a tier. Those of binary32 and A26 go by natural logarithm and exponential,
+// A50 and A53 by base 2 with large tables and the exponent split in two short parts. All of them refuse x that is not a
+// positive normal number, products next to the ends of the range, and every x where y is infinite or NaN; refused lanes have
+// the lane routine of Pow, in binary64 for both types.
+#pragma once
+
+#include <cstdint>
+
+#include "frame/kernel_frame.h"
+#include "pow/power_routine.h"
+#include "tables/table.h"
+
+namespace lum {
+
+template <class T> struct PowxGeneral : Kernel<T> {
+  T value;
+
+  LumStatus LaneRoutine(T x, T& result) const {
+    double wide = 0;
+    const LumStatus status = PowerRoutine<double>(static_cast<double>(x), static_cast<double>(value), wide);
+    result = static_cast<T>(wide);
+    return status;
+  }
+  // All lanes or none.
+  LUM_INLINE Mask<T> ValueIsNotFinite() const { return fpclass<0x99>(all(value)); }
+};
+
+// ---- binary32, A11 and A21
+
+// All but the positive normal numbers; the largest of these is among the refused.
+LUM_INLINE Mask<Lum32f> IsRefused(Vec<Lum32f> x) {
+  return fpclass<0xFF>(x) | le(all(f32(0x7F7FFFFF, 3.4028234663852886e+38)), x);
+}
+
+// |a| is above the number of the pattern, or NaN.
+template <uint32_t limit> LUM_INLINE Mask<Lum32f> PatternAbove(Vec<Lum32f> a) {
+  return mask_cast<Lum32f>(lt(all(limit << 1), shift_left<1>(bits(a))));
+}
+
+// 2^n times value, where z = n + 1.5 * 2^23.
+LUM_INLINE Vec<Lum32f> AddToExponent(Vec<Lum32f> value, Vec<Lum32f> z) {
+  return as_float(bits(value) + shift_left<23>(bits(z)));
+}
+
+constexpr auto integer_shifter_32f = f32(0x4B400000, 12582912.0);  // 1.5 * 2^23
+
+// ln x = k ln 2 + ln m, m in [2/3, 4/3), by a polynomial in m - 1.
+struct PowxA11_32f : PowxGeneral<Lum32f> {
+  LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) const {
+    const auto two_thirds = all(0x3F2AAAABu);
+    const auto u = bits(x) - two_thirds;
+    const auto k = to_float(shift_right_arithmetic<23>(as_signed(u)));
+    const auto r = as_float((u & all(0x7FFFFFu)) + two_thirds) - all(1.0f);
+    const auto q = horner(r, -0.5f, f32(0x3EAAAD03, 0.3333512246608734), f32(0xBE7F0F0F, -0.24908088147640228),
+                          f32(0x3E4B62C0, 0.19861888885498047), f32(0xBE424B46, -0.18974027037620544),
+                          f32(0x3E2B350C, 0.16719454526901245));
+    const auto p = fma(q * r, r, r);
+    const auto t =
+        all(value) * fma(k, all(f32(0x3F317200, 0.693145751953125)), fma(k, all(f32(0x35BFBE8E, 1.428606765330187e-06)), p));
+    const auto z = fma(t, all(f32(0x3FB8AA3B, 1.4426950216293335)), all(integer_shifter_32f));
+    const auto g = fnma(z - all(integer_shifter_32f), all(f32(0x3F317218, 0.6931471824645996)), t);
+    const auto power = horner(g, 1.0f, f32(0x3F8003DE, 1.0001180171966553), f32(0x3F00F2D6, 0.5037053823471069),
+                              f32(0x3E2963AC, 0.16541928052902222));
+    const auto out_of_range = PatternAbove<0x42AE9A00>(t);  // 87.30078125
+    return {AddToExponent(power, z), IsRefused(x) | out_of_range | ValueIsNotFinite()};
+  }
+};
+
+// x = 2^e m and c a short reciprocal of m from a table, so that c (head of m) - 1 is exact; the logarithm is a pair, which the
+// split exponent multiplies.
+struct PowxA21_32f : PowxGeneral<Lum32f> {
+  static constexpr auto table = by_columns<3>(table32({
+#include "tables/generated/powx_ln_64.inc"
+  }));
+  static constexpr int rows = 65;
+  struct Parts {
+    Vec<Lum32f> large, small;
+  };
+  // The leading half of the bits.
+  static LUM_INLINE Vec<Lum32f> HeadOf(Vec<Lum32f> a) {
+    const auto t = a * all(f32(0x45800800, 4097.0));
+    return (a + t) - t;
+  }
+
+  // Their sum is ln x.
+  static LUM_INLINE Parts Logarithm(Vec<Lum32f> x) {
+    const auto u = bits(x);
+    const auto row = shift_right<17>((u & all(0x7F0000u)) + all(0x10000u));
+    const auto ln_hi = gather<Lum32f>(table, row);
+    const auto ln_lo = gather<Lum32f>(table + rows, row);
+    const auto c = gather<Lum32f>(table + 2 * rows, row);
+    const auto m = getmant<0x0>(x);
+    const auto m_head = m & all(0x7FFFC000u);
+    const auto v = fms(m_head, c, all(1.0f));  // exact
+    const auto w = (m - m_head) * c;
+    const auto r = v + w;
+    const auto q = horner(r, -0.5f, f32(0x3EAAAAAB, 0.3333333432674408), -0.25f) * (r * r);
+    const auto hi = fma(getexp(x), all(f32(0x3F317000, 0.693115234375)), v + ln_hi);
+    const auto lo = fma(getexp(x), all(f32(0x3805FDF4, 3.194618329871446e-05)), ln_lo) + q;
+    // For x in (0.9921875, 1.015625), w is no small part.
+    const auto near_one = mask_cast<Lum32f>(lt(all(0x7FFC0000), as_signed(u + all(0x407E0000u))));
+    return {add(near_one, hi, w), add(~near_one, lo, w)};
+  }
+
+  LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) const {
+    const auto [hi, lo] = Logarithm(x);
+    const auto head = HeadOf(hi + lo);
+    const auto tail = lo + (hi - head);
+    const auto y = all(value);
+    const auto y_head = HeadOf(y);
+    const auto y_tail = y - y_head;
+    const auto a = head * y_head;  // exact
+    const auto b = fma(tail, y_head, fma(head, y_tail, tail * y_tail));
+    const auto z = fma(a + b, all(f32(0x3FB8AA3B, 1.4426950216293335)), all(integer_shifter_32f));
+    const auto n = z - all(integer_shifter_32f);
+    const auto g =
+        fnma(n, all(f32(0x35BFBE8E, 1.428606765330187e-06)), fnma(n, all(f32(0x3F317200, 0.693145751953125)), a)) + b;
+    const auto power = horner(g, 1.0f, f32(0x3F7FFFFE, 0.9999998807907104), f32(0x3EFFFF34, 0.4999939203262329),
+                              f32(0x3E2AACAC, 0.16667431592941284), f32(0x3D2B8392, 0.041873522102832794),
+                              f32(0x3C07D9FE, 0.008291719481348991));
+    const auto out_of_range = PatternAbove<0x42819F00>(a);  // 64.810546875
+    return {AddToExponent(power, z), IsRefused(x) | out_of_range | ValueIsNotFinite()};
+  }
+};
+
+// ---- Natural logarithm and exponential in binary64: A24 of binary32 and A26
+
+constexpr auto integer_shifter_64f = f64(0x4338000000000000, 6755399441055744.0);  // 1.5 * 2^52
+
+// ln x = e ln 2 + T + ln(1 + r), r = c m - 1 with c the integer next to 1024/m, m in [1, 2).
+template <class... Coefficients> LUM_INLINE Vec<Lum64f> GatheredLn(Vec<Lum64f> x, Coefficients... coefficients) {
+  static constexpr auto table = table64({
+#include "tables/generated/powx_ln_512.inc"
+  });
+  const auto m = as_float((bits(x) & all(uint64_t{0x000FFFFFFFFFFFFF})) | all(uint64_t{0x3F50000000000000}));  // times 2^-10
+  const auto c = rndscale<0x8>(rcp14(m));  // from 512 to 1024
+  const auto r = fms(c, m, all(1.0));
+  const auto row = shift_right<43>(bits(c)) & all(uint64_t{0x3FF});
+  const auto e = add(le(c, all(724.0)), getexp(x), all(1.0));
+  const auto p = fma(horner(r, coefficients...), r * r, r);
+  return fma(e, all(f64(0x3FE62E42FEFA39EF, 0.6931471805599453)), gather<Lum64f>(table, row)) + p;
+}
+
+// e^t = 2^N 2^(i/2048) (1 + g), the table scaled so that the error of the last factor is balanced.
+LUM_INLINE Vec<Lum64f> GatheredExp(Vec<Lum64f> t) {
+  static constexpr auto table = table64({
+#include "tables/generated/powx_exp2_2048.inc"
+  });
+  const auto w = t * all(f64(0x40A71547652B82FE, 2954.639443740597));
+  const auto z = (w - all(0.5)) + all(integer_shifter_64f);  // floor(w), but for ties
+  const auto g = (w - (z - all(integer_shifter_64f))) * all(f64(0x3F362F3904051FA1, 0.00033850805268231294));
+  const auto entry = gather<Lum64f>(table, bits(z) & all(uint64_t{0x7FF}));
+  const auto exponent = shift_left<52>(shift_right<11>(bits(z)));
+  return as_float(bits(fma(entry, g, entry)) + exponent);
+}
+
+// The high word of |a| is above the limit.
+template <uint32_t limit> LUM_INLINE Mask<Lum64f> HighWordAbove(Vec<Lum64f> a) {
+  return mask_cast<Lum64f>(lt(all((uint64_t{limit} << 32 | 0xFFFFFFFF) << 1), shift_left<1>(bits(a))));
+}
+
+struct PowxA24_32f : PowxGeneral<Lum32f> {
+  LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) const {
+    const auto y = widen_low(all(value));
+    const auto exponent = [&](Vec<Lum64f> half) __attribute__((always_inline)) {
+      return y * GatheredLn(half, f64(0xBFDFFFFFFFFFF81F, -0.49999999999988803), f64(0x3FD55555555543C5, 0.33333333333308374));
+    };
+    const auto low = exponent(widen_low(x)), high = exponent(widen_high(x));
+    // Results beyond the range of binary32 come out of the conversion.
+    constexpr uint32_t limit = 0x4059FE36;  // 150 ln 2
+    const auto out_of_range = join(HighWordAbove<limit>(low), HighWordAbove<limit>(high));
+    return {narrow(GatheredExp(low), GatheredExp(high)), IsRefused(x) | out_of_range | ValueIsNotFinite()};
+  }
+};
+
+struct PowxA26_64f : PowxGeneral<Lum64f> {
+  LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) const {
+    const auto t =
+        all(value) * GatheredLn(x, f64(0xBFDFFFFFFFFFF81F, -0.49999999999988803), f64(0x3FD55555555543C5, 0.33333333333308374),
+                                f64(0xBFD0000148058EE1, -0.2500003054940248));
+    constexpr uint32_t limit = 0x4086232A;  // 1022 ln 2
+    return {GatheredExp(t), fpclass<0xFF>(x) | HighWordAbove<limit>(t) | ValueIsNotFinite()};
+  }
+};
+
+// ---- Base 2 in binary64: A50 and A53
+
+// H + low = log2 x, H short, low its rest.
+struct ShortLog2 {
+  Vec<Lum64f> head, tail;
+};
+
+LUM_INLINE Vec<Lum64f> HighHalf(Vec<Lum64f> a) { return a & all(uint64_t{0xFFFFFFFFF8000000}); }
+
+// With a short c, scale over m nearly, so that u = c m - scale is nearly log2 of what is left: scale is next to 1/ln 2.
+LUM_INLINE ShortLog2 GatheredLog2(Vec<Lum64f> x) {
+  static constexpr auto reciprocals = table64({
+#include "tables/generated/powx_reciprocals_1024.inc"
+  });
+  static constexpr auto logarithms = by_columns<2>(table64({
+#include "tables/generated/powx_log2_1024_pairs.inc"
+  }));
+  const auto word = bits(x);
+  const auto row = shift_right<42>((word & all(uint64_t{0x000FFE0000000000})) + all(uint64_t{0x0000020000000000}));
+  const auto c = gather<Lum64f>(reciprocals, row);
+  const auto log_hi = gather<Lum64f>(logarithms, row);
+  const auto log_lo = gather<Lum64f>(logarithms + 1025, row);
+  const auto e = add(mask_cast<Lum64f>(le(all(uint64_t{512}), row)), getexp(x), all(1.0));
+
+  const auto m = getmant<0x0>(x);
+  const auto m_head = HighHalf(m);
+  const auto p = m * c;
+  const auto w = fma(m - m_head, c, fms(m_head, c, p));
+  const auto u0 = p - all(f64(0x3FF7154740000000, 1.442694902420044));  // exact
+  const auto u = u0 + w;
+  const auto [s0, s0_error] = fast_two_sum(e + log_hi, u0);  // the first is 0 or the larger one
+  const auto [s, s_error] = fast_two_sum(s0, w);
+  const auto q = fma(horner(u, f64(0x3E79C3A6966457EE, 9.597935033233511e-08), f64(0xBFD62E4346694107, -0.3465736568077919),
+                            f64(0x3FC47FD462B3B816, 0.16015105075297303), f64(0xBFB550472A8BB463, -0.08325619496072671),
+                            f64(0x3FA7A334DDFC9F86, 0.04616704187202374), f64(0xBF9B4EA0E9419F52, -0.026667131649815552)),
+                     u, (s0_error + s_error) + log_lo);
+  const auto h = s + q;
+  const auto head = HighHalf(h);
+  return {head, (q - (h - s)) + (h - head)};
+}
+
+// (head + tail) y = n + g, n a multiple of 1/128.
+struct Exponent128 {
+  Vec<Lum64f> n, g;
+  Vec<uint64_t> i;  // the index of the fraction of n
+  Mask<Lum64f> out_of_range;
+};
+LUM_INLINE Exponent128 MultiplyShort(const ShortLog2& log, Vec<Lum64f> y) {
+  const auto shifter = all(f64(0x42C8000000000000, 52776558133248.0));  // 1.5 * 2^45: the last place is worth 1/128
+  const auto y_head = HighHalf(y);
+  const auto a = log.head * y_head;  // exact
+  const auto z = a + shifter;
+  const auto n = z - shifter;
+  const auto b = fma(log.tail, y, log.head * (y - y_head));
+  return {n, (a - n) + b, bits(z) & all(uint64_t{127}), HighWordAbove<0x408FEFFE>(a)};  // about 1022
+}
+
+constexpr auto powx_exp2 = by_columns<2>(table64({
+#include "tables/generated/exp2_double_128_pairs.inc"
+}));
+constexpr int powx_exp2_rows = 128;
+
+struct PowxA50_64f : PowxGeneral<Lum64f> {
+  LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) const {
+    const auto a = MultiplyShort(GatheredLog2(x), all(value));
+    const auto scaled = scalef(gather<Lum64f>(powx_exp2, a.i), a.n);
+    const auto q = horner(a.g, f64(0x3FE62E42FEFA39EF, 0.6931471805599453), f64(0x3FCEBFBDFF82C58E, 0.2402265069591007),
+                          f64(0x3FAC6B08D704A0BF, 0.055504108664821576), f64(0x3F83B2AB6FBA4E77, 0.009618129107628477),
+                          f64(0x3F55D87FE78A6731, 0.0013333558146428443));
+    return {fma(a.g * scaled, q, scaled), fpclass<0xFF>(x) | a.out_of_range | ValueIsNotFinite()};
+  }
+};
+
+struct PowxA53_64f : PowxGeneral<Lum64f> {
+  LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) const {
+    const auto a = MultiplyShort(GatheredLog2(x), all(value));
+    const auto head = gather<Lum64f>(powx_exp2, a.i);
+    const auto tail = gather<Lum64f>(powx_exp2 + powx_exp2_rows, a.i);
+    const auto g2 = a.g * a.g;
+    const auto even = horner(g2, f64(0x3FCEBFBDFF82C58E, 0.2402265069591007), f64(0x3F83B2AB6FBA4E77, 0.009618129107628477));
+    const auto odd = horner(g2, f64(0x3FAC6B08D704A0BF, 0.055504108664821576), f64(0x3F55D87FE78A6731, 0.0013333558146428443));
+    const auto higher = fma(odd, a.g, even) * g2;
+    // The leading product joins after the small terms, so that it is not rounded into the sum by itself.
+    const auto rest = fma(head * a.g, all(f64(0x3FE62E42FEFA39EF, 0.6931471805599453)), fma(head, higher, tail));
+    return {scalef(rest + head, a.n), fpclass<0xFF>(x) | a.out_of_range | ValueIsNotFinite()};
+  }
+};
+
+}  // namespace lum
