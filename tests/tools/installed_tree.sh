@@ -1,17 +1,26 @@
 #!/usr/bin/env bash
-# Installs a build into a scratch folder and builds and runs a small project against it: installed_tree.sh BUILD
+# Installs a build into a scratch folder and builds and runs small programs against it, by CMake and by pkg-config, in C and in
+# C++: installed_tree.sh BUILD
 set -euo pipefail
-project=$(dirname "$0")/outside_project
+tests=$(dirname "$0")
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
 
 cmake --install "$1" --prefix "$scratch/prefix" >/dev/null
-cmake -S "$project" -B "$scratch/build" -DCMAKE_PREFIX_PATH="$scratch/prefix" >/dev/null
+cmake -S "$tests/outside_project" -B "$scratch/build" -DCMAKE_PREFIX_PATH="$scratch/prefix" >/dev/null
 cmake --build "$scratch/build" >/dev/null
 "$scratch/build/outside"
+"$scratch/build/outside_cpp"
 
-if [ -e "$1/liblumvmk0.so" ]; then
-  pc=$(dirname "$(find "$scratch/prefix" -name lumvm.pc)")
-  flags=$(PKG_CONFIG_PATH=$pc pkg-config --define-variable=prefix="$scratch/prefix" --cflags --libs lumvm)
-  cc "$project/main.c" $flags -o "$scratch/by_pkg_config"
-fi
+export PKG_CONFIG_PATH=$(dirname "$(find "$scratch/prefix" -name lumvm.pc)")
+export LD_LIBRARY_PATH=$(dirname "$(find "$scratch/prefix" -name 'liblumvmp0.so')")
+for package in lumvm lumvmk0 lumvmp0; do
+  [ -e "$PKG_CONFIG_PATH/$package.pc" ] || continue
+  flags=$(pkg-config --define-variable=prefix="$scratch/prefix" --cflags --libs $package)
+  for program in "$tests/outside_project/main.c" "$tests/../../examples/damped_oscillation.c"; do
+    cc -std=c99 -pedantic -Wall -Wextra -Werror "$program" $flags -lm -o "$scratch/by_pkg_config"
+    if [ $package != lumvmp0 ] && [ -e "$1/liblumvmk0.so" ] && ! grep -qsw avx512vl /proc/cpuinfo; then continue; fi
+    "$scratch/by_pkg_config" >"$scratch/output" || { cat "$scratch/output"; echo "$program with $package failed"; exit 1; }
+  done
+done
+echo "programs against the installed tree: ok"
