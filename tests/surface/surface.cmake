@@ -15,6 +15,8 @@ foreach(language c cpp)
 endforeach()
 
 add_test(NAME surface.header_is_current COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/tools/make_header.py --check)
+add_test(NAME surface.reference_is_current
+         COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/tools/make_reference.py --check)
 add_test(NAME surface.tables_are_current
          COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/src/tables/generators/generate.py --check)
 set_tests_properties(surface.tables_are_current PROPERTIES
