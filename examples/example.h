@@ -9,6 +9,7 @@
 #include <charconv>
 #include <chrono>
 #include <cmath>
+#include <csignal>
 #include <cstdio>
 #include <cstring>
 #include <fstream>
@@ -70,10 +71,13 @@ inline bool Check(const std::string& what, double figure, double limit) {
 
 // Draws a picture: gnuplot with the script behind its output settings, and the data that the script reads as $data.
 inline void Draw(const std::string& path, const std::string& data, const std::string& script) {
-  FILE* gnuplot = popen("gnuplot", "w");
+  std::signal(SIGPIPE, SIG_IGN);  // without gnuplot, writing to it fails
+  FILE* gnuplot = popen("gnuplot 2>/dev/null", "w");
   if (gnuplot == nullptr) throw InputError("gnuplot cannot be started");
   const std::string part = path + ".part";
-  fmt::print(gnuplot, "$data << EOD\n{}EOD\nset terminal svg size 720,420\nset output '{}'\n{}\n", data, part, script);
+  const std::string text =
+      fmt::format("$data << EOD\n{}EOD\nset terminal svg size 720,420\nset output '{}'\n{}\n", data, part, script);
+  std::fputs(text.c_str(), gnuplot);
   const bool drawn = pclose(gnuplot) == 0 && std::rename(part.c_str(), path.c_str()) == 0;
   if (!drawn) throw InputError(fmt::format("{}: the picture cannot be drawn (is gnuplot installed?)", path));
   fmt::print("picture: {}\n", path);
