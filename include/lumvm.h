@@ -440,17 +440,10 @@ LUM_API LumStatus lumsDiv_64fc_A53(const Lum64fc* src1, const Lum64fc* src2, Lum
  * Domain: -1 < x < 1
  * Special values: erfinv(+-0) = +-0; erfinv(+-1) = +-inf; erfinv(|x| > 1) = the positive NaN; erfinv(NaN) = NaN
  * Status: lumStsSingularity: x = +-1; lumStsDomain: |x| > 1, infinities included
- * Relative cost: 32f A11 0.9, A21 1.3, A24 1.6; 32f A11 0.48, A21 0.66, A24 0.93; 64f A26 2.9, A50 3.9, A53 4.4;
- *   64f A26 1.95, A50 2.5, A53 3.5 */
+ * Relative cost: 32f A11 0.9, A21 1.3, A24 1.6; 64f A26 2.9, A50 3.9, A53 4.4 */
 LUM_API LumStatus lumsErfInv_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len);
 LUM_API LumStatus lumsErfInv_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len);
 LUM_API LumStatus lumsErfInv_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len);
-LUM_API LumStatus lumsErfInv_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len);
-LUM_API LumStatus lumsErfInv_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len);
-LUM_API LumStatus lumsErfInv_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len);
-LUM_API LumStatus lumsErfInv_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len);
-LUM_API LumStatus lumsErfInv_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len);
-LUM_API LumStatus lumsErfInv_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
 LUM_API LumStatus lumsErfInv_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len);
 LUM_API LumStatus lumsErfInv_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len);
 LUM_API LumStatus lumsErfInv_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
@@ -459,17 +452,10 @@ LUM_API LumStatus lumsErfInv_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len
  * Domain: all numbers
  * Special values: erf(+-0) = +-0; erf(+-inf) = +-1; erf(NaN) = NaN
  * Status: always lumStsOk
- * Relative cost: 32f A11 0.35, A21 1.2, A24 1.5; 32f A11 0.26, A21 1.18, A24 1.51; 64f A26 1.73, A50 1.97, A53
- *   2.51; 64f A26 2.5, A50 3.1, A53 4.4 */
+ * Relative cost: 32f A11 0.35, A21 1.2, A24 1.5; 64f A26 1.73, A50 1.97, A53 2.51 */
 LUM_API LumStatus lumsErf_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len);
 LUM_API LumStatus lumsErf_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len);
 LUM_API LumStatus lumsErf_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len);
-LUM_API LumStatus lumsErf_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len);
-LUM_API LumStatus lumsErf_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len);
-LUM_API LumStatus lumsErf_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len);
-LUM_API LumStatus lumsErf_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len);
-LUM_API LumStatus lumsErf_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len);
-LUM_API LumStatus lumsErf_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
 LUM_API LumStatus lumsErf_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len);
 LUM_API LumStatus lumsErf_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len);
 LUM_API LumStatus lumsErf_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
@@ -479,17 +465,10 @@ LUM_API LumStatus lumsErf_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
  * Special values: erfcinv(1) = +0; erfcinv(+-0) = +inf; erfcinv(2) = -inf; erfcinv(x < 0 or x > 2) = the positive
  *   NaN; erfcinv(NaN) = NaN
  * Status: lumStsSingularity: x = +-0 or 2; lumStsDomain: x < 0 or x > 2, infinities included
- * Relative cost: 32f A11 0.47, A21 0.74, A24 0.94; 32f A11 0.9, A21 1.3, A24 1.6; 64f A26 2.9, A50 3.9, A53 4.4;
- *   64f A26 2.1, A50 2.8, A53 3.6 */
+ * Relative cost: 32f A11 0.47, A21 0.74, A24 0.94; 64f A26 2.9, A50 3.9, A53 4.4 */
 LUM_API LumStatus lumsErfcInv_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len);
 LUM_API LumStatus lumsErfcInv_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len);
 LUM_API LumStatus lumsErfcInv_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len);
-LUM_API LumStatus lumsErfcInv_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len);
-LUM_API LumStatus lumsErfcInv_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len);
-LUM_API LumStatus lumsErfcInv_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len);
-LUM_API LumStatus lumsErfcInv_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len);
-LUM_API LumStatus lumsErfcInv_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len);
-LUM_API LumStatus lumsErfcInv_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
 LUM_API LumStatus lumsErfcInv_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len);
 LUM_API LumStatus lumsErfcInv_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len);
 LUM_API LumStatus lumsErfcInv_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
@@ -498,17 +477,10 @@ LUM_API LumStatus lumsErfcInv_64f_A53(const Lum64f* src, Lum64f* dst, int32_t le
  * Domain: all numbers; positive results for x up to 10.05 (32f), 27.22 (64f)
  * Special values: erfc(+-0) = 1; erfc(-inf) = 2; erfc(+inf) = +0; erfc(NaN) = NaN
  * Status: lumStsUnderflow: finite x so large that the result is +0; denormal results do not report
- * Relative cost: 32f A11 1.3, A21 1.3, A24 1.7; 32f A11 0.84, A21 0.84, A24 1.26; 64f A26 1.75, A50 2.4, A53 3.2;
- *   64f A26 2.9, A50 3.6, A53 4.6 */
+ * Relative cost: 32f A11 1.3, A21 1.3, A24 1.7; 64f A26 1.75, A50 2.4, A53 3.2 */
 LUM_API LumStatus lumsErfc_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len);
 LUM_API LumStatus lumsErfc_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len);
 LUM_API LumStatus lumsErfc_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len);
-LUM_API LumStatus lumsErfc_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len);
-LUM_API LumStatus lumsErfc_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len);
-LUM_API LumStatus lumsErfc_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len);
-LUM_API LumStatus lumsErfc_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len);
-LUM_API LumStatus lumsErfc_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len);
-LUM_API LumStatus lumsErfc_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
 LUM_API LumStatus lumsErfc_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len);
 LUM_API LumStatus lumsErfc_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len);
 LUM_API LumStatus lumsErfc_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
