@@ -320,7 +320,7 @@ LUM_API LumStatus lumsCbrt_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
  * Special values: cdfnorminv(0.5) = +0; cdfnorminv(+-0) = -inf; cdfnorminv(1) = +inf; cdfnorminv(p < 0 or p > 1) =
  *   the positive NaN; cdfnorminv(NaN) = NaN
  * Status: lumStsSingularity: p = +-0 or 1; lumStsDomain: p < 0 or p > 1, infinities included
- * Relative cost: 32f A11 0.9, A21 1.3, A24 1.6; 64f A26 2.9, A50 3.9, A53 4.4 */
+ * Relative cost: 32f A11 0.53, A21 0.85, A24 0.93; 64f A26 2.1, A50 2.9, A53 4 */
 LUM_API LumStatus lumsCdfNormInv_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len);
 LUM_API LumStatus lumsCdfNormInv_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len);
 LUM_API LumStatus lumsCdfNormInv_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len);
@@ -332,7 +332,7 @@ LUM_API LumStatus lumsCdfNormInv_64f_A53(const Lum64f* src, Lum64f* dst, int32_t
  * Domain: all numbers; positive results from x = -14.17 (32f), -38.48 (64f) on
  * Special values: cdfnorm(+-0) = 0.5; cdfnorm(-inf) = +0; cdfnorm(+inf) = 1; cdfnorm(NaN) = NaN
  * Status: lumStsUnderflow: finite x so far left that the result is +0; denormal results do not report
- * Relative cost: 32f A11 1.2, A21 1.3, A24 1.7; 64f A26 2.9, A50 3.6, A53 4.6 */
+ * Relative cost: 32f A11 0.75, A21 0.9, A24 1.2; 64f A26 1.85, A50 2.5, A53 3.5 */
 LUM_API LumStatus lumsCdfNorm_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len);
 LUM_API LumStatus lumsCdfNorm_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len);
 LUM_API LumStatus lumsCdfNorm_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len);
@@ -452,7 +452,7 @@ LUM_API LumStatus lumsErfInv_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len
  * Domain: all numbers
  * Special values: erf(+-0) = +-0; erf(+-inf) = +-1; erf(NaN) = NaN
  * Status: always lumStsOk
- * Relative cost: 32f A11 0.35, A21 1.2, A24 1.5; 64f A26 2.5, A50 3.1, A53 4.4 */
+ * Relative cost: 32f A11 0.35, A21 1.2, A24 1.5; 64f A26 1.73, A50 1.97, A53 2.51 */
 LUM_API LumStatus lumsErf_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len);
 LUM_API LumStatus lumsErf_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len);
 LUM_API LumStatus lumsErf_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len);
@@ -465,7 +465,7 @@ LUM_API LumStatus lumsErf_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
  * Special values: erfcinv(1) = +0; erfcinv(+-0) = +inf; erfcinv(2) = -inf; erfcinv(x < 0 or x > 2) = the positive
  *   NaN; erfcinv(NaN) = NaN
  * Status: lumStsSingularity: x = +-0 or 2; lumStsDomain: x < 0 or x > 2, infinities included
- * Relative cost: 32f A11 0.9, A21 1.3, A24 1.6; 64f A26 2.9, A50 3.9, A53 4.4 */
+ * Relative cost: 32f A11 0.47, A21 0.74, A24 0.94; 64f A26 2.9, A50 3.9, A53 4.4 */
 LUM_API LumStatus lumsErfcInv_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len);
 LUM_API LumStatus lumsErfcInv_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len);
 LUM_API LumStatus lumsErfcInv_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len);
@@ -477,7 +477,7 @@ LUM_API LumStatus lumsErfcInv_64f_A53(const Lum64f* src, Lum64f* dst, int32_t le
  * Domain: all numbers; positive results for x up to 10.05 (32f), 27.22 (64f)
  * Special values: erfc(+-0) = 1; erfc(-inf) = 2; erfc(+inf) = +0; erfc(NaN) = NaN
  * Status: lumStsUnderflow: finite x so large that the result is +0; denormal results do not report
- * Relative cost: 32f A11 1.3, A21 1.3, A24 1.7; 64f A26 2.9, A50 3.6, A53 4.6 */
+ * Relative cost: 32f A11 1.3, A21 1.3, A24 1.7; 64f A26 1.75, A50 2.4, A53 3.2 */
 LUM_API LumStatus lumsErfc_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len);
 LUM_API LumStatus lumsErfc_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len);
 LUM_API LumStatus lumsErfc_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len);

@@ -32,19 +32,14 @@ template <class E, bool by_conjugate> struct Low : Product<E, by_conjugate> {
   // A difference below this part of its terms has lost more digits than the tag can spare.
   static constexpr T cancelled = sizeof(T) == 4 ? T(0x1p-10) : T(0x1p-20);
 
-  struct Half {
-    Vec<T> value;
-    Mask<T> refused;
-  };
-  static LUM_INLINE Half HalfOf(Vec<T> z, Vec<T> w) {
-    const auto f = FactorsOf(z, w);
-    const auto products = f.z_swapped * f.w_im;
-    const auto r = Joined<by_conjugate>(f, products);
-    return {r, nlt(abs(products) * all(cancelled), abs(r)) | fpclass<0x99>(r)};
+  static LUM_INLINE Mask<T> HasCancelled(Vec<T> products, Vec<T> r) {
+    return nlt(abs(products) * all(cancelled), abs(r)) | fpclass<0x99>(r);
   }
   static LUM_INLINE Lanes<E, ComponentMask<T>> VectorPath(Interleaved<T> z, Interleaved<T> w) {
-    const auto low = HalfOf(z.low, w.low), high = HalfOf(z.high, w.high);
-    return {{low.value, high.value}, {low.refused, high.refused}};
+    const auto low = FactorsOf(z.low, w.low), high = FactorsOf(z.high, w.high);
+    const auto low_products = low.z_swapped * low.w_im, high_products = high.z_swapped * high.w_im;
+    const Interleaved<T> r{Joined<by_conjugate>(low, low_products), Joined<by_conjugate>(high, high_products)};
+    return {r, {HasCancelled(low_products, r.low), HasCancelled(high_products, r.high)}};
   }
 };
 

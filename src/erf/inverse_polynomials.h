@@ -4,8 +4,6 @@
 //   c0 b + b v (c1 + v (c2 + ...)),  v = u and b = 1 in the tails, v = s^2 and b = s in the centre.
 #pragma once
 
-#include <utility>
-
 #include "frame/kernel_frame.h"
 #include "tables/table.h"
 

@@ -3,6 +3,7 @@
 
 #include <cmath>
 
+#include "accuracy/measure.h"
 #include "support/accuracy.h"
 #include "support/cases.h"
 
@@ -94,7 +95,7 @@ void ExpectRoundTrip(const std::string& function, const std::string& inverse, co
       const double a = format.number(arguments.src1[i].re), y = format.number(inverses.dst1[i].re);
       const double b = format.number(back.dst1[i].re);
       const double allowed =
-          AllowedUlp(inner) * std::fabs(y) * unit * slope(y) + AllowedUlp(outer) * std::fabs(a) * unit + smallest;
+          accuracy::Bound(inner) * std::fabs(y) * unit * slope(y) + accuracy::Bound(outer) * std::fabs(a) * unit + smallest;
       // The slope may change over the inverse's error.
       ASSERT_LE(std::fabs(b - a), allowed * 1.001) << library << ' ' << inverse << ' ' << arguments.Show(i) << " back: " << b;
     }

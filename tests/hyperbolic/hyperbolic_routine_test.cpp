@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "accuracy/measure.h"
 #include "support/accuracy.h"
 
 namespace lum::test {
@@ -21,7 +22,6 @@ template <class T> Arguments1 AllMagnitudes() {
 }
 
 template <class T> double LargestError(LumStatus (*routine)(T, T&), MpfrFunction* function) {
-  const Format format = FormatOf(sizeof(T) == 4 ? Element::f32 : Element::f64);
   double largest = 0;
   mpfr_t exact, argument;
   mpfr_inits2(200, exact, argument, nullptr);
@@ -30,7 +30,7 @@ template <class T> double LargestError(LumStatus (*routine)(T, T&), MpfrFunction
     EXPECT_EQ(routine(static_cast<T>(a), result), lumStsOk) << a;
     mpfr_set_d(argument, static_cast<T>(a), MPFR_RNDN);
     function(exact, argument, MPFR_RNDN);
-    largest = std::max(largest, ErrorInUlp(format, format.pattern(result), exact));
+    largest = std::max(largest, accuracy::UlpError(result, exact, sizeof(T) == 4));
   }
   mpfr_clears(exact, argument, nullptr);
   return largest;

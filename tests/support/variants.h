@@ -24,8 +24,14 @@ inline bool IsMaskOnly(const support::Export& entry) { return entry.function == 
 // The caller's rounding and flushing take part in the result, in the narrowing to 32-bit components and in sums of doubles.
 inline bool FollowsCallersRounding(const support::Export& entry) { return HasScalarCore(entry); }
 
-// Computes with plain operations, which raise the precision flag also on ordinary arguments.
-inline bool RaisesPrecision(const support::Export& entry) { return HasScalarCore(entry); }
+// Refuses a lane whose difference of products cancels, which ordinary arguments may.
+inline bool RefusesCancellation(const support::Export& entry) {
+  const bool is_product = entry.is_complex() && (entry.function == "Mul" || entry.function == "MulByConj");
+  return is_product && entry.tier == support::Tier::low;
+}
+
+// Computes ordinary arguments with plain operations, which raise the precision flag.
+inline bool RaisesPrecision(const support::Export& entry) { return HasScalarCore(entry) || RefusesCancellation(entry); }
 
 // Rounding to nearest and no flushing.
 inline bool IsRoundingAndFlushingDefault(const Environment& environment) { return (environment.mxcsr & 0xE040) == 0; }

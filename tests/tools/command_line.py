@@ -34,7 +34,7 @@ class CommandLine(unittest.TestCase):
     def test_list_names_types_and_tags(self):
         code, out, _ = run("list")
         self.assertEqual(code, 0)
-        self.assertRegex(out.decode(), r"(?m)^Exp +32f A11 A21 A24 64f A26 A50 A53$")
+        self.assertRegex(out.decode(), r"(?m)^Exp +32f A11 A21 A24 32fc A11 A21 A24 64f A26 A50 A53 64fc A26 A50 A53$")
 
     def test_info_describes(self):
         code, out, _ = run("info", "Exp")

@@ -45,10 +45,10 @@ std::string Row(const Export& entry, const std::string& inputs, const Accuracy& 
   };
   const auto bits = [&](double x) { return Pattern(x, entry.is_32bit()); };
   const bool is_complex = lum::support::IsComplex(entry.output);
-  return fmt::format("{},{},{},{:.4g},{:.1f},{},{},{:.4f},{},{},{:g}", entry.name, inputs, a.count, a.worst.ulp, a.Bits(entry),
+  return fmt::format("{},{},{},{:.7g},{:.1f},{},{},{:.4f},{},{},{:g}", entry.name, inputs, a.count, a.worst.ulp, a.Bits(entry),
                      Components(entry, at, decimal), Components(entry, at, bits),
                      100.0 * static_cast<double>(a.correctly_rounded) / static_cast<double>(a.count), a.wrong_class,
-                     is_complex ? fmt::format("{:.4g}", a.worst_norm.ulp) : "", Bound(entry));
+                     is_complex ? fmt::format("{:.7g}", a.worst_norm.ulp) : "", Bound(entry));
 }
 
 std::string KeyOf(const std::string& row) { return row.substr(0, row.find(',', row.find(',') + 1)); }

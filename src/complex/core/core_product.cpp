@@ -23,6 +23,12 @@ Lum64f RoundedSum(Lum64f a, Lum64f c, Lum64f b, Lum64f d) {
   return sum.head == 0 ? a * c + b * d : static_cast<Lum64f>(rounded(sum));
 }
 
+// Of two NaNs the first, however the compiler orders the operands of a sum.
+Lum64f NonFiniteSum(Lum64f a, Lum64f b) {
+  if (IsNan(a)) return a;
+  return IsNan(b) ? b : a + b;
+}
+
 // 1 or 0 for an infinity or a finite number, with the sign.
 Lum64f Boxed(Lum64f x) { return WithSignOf(x, IsInfinite(x) ? 1.0 : 0.0); }
 
@@ -35,7 +41,7 @@ void DirectedQuotient(ComplexDouble& result, Lum64f size, const ComplexDouble& z
 
 void CoreMul(ComplexDouble& result, const ComplexDouble& z, const ComplexDouble& w) {
   if (!BothFinite(z) || !BothFinite(w)) {
-    result = {z.re * w.re - z.im * w.im, z.re * w.im + z.im * w.re};
+    result = {NonFiniteSum(z.re * w.re, Negated(z.im * w.im)), NonFiniteSum(z.re * w.im, z.im * w.re)};
     return;
   }
   Finish(result, RoundedSum(z.re, w.re, Negated(z.im), w.im), RoundedSum(z.re, w.im, z.im, w.re));

@@ -1,0 +1,54 @@
+#!/usr/bin/env python3
+"""Writes measured cost figures into the catalogue: set_costs.py
+
+The figures of the reference rows are fixed and give the unit: the others are the measured ticks an element at 4096 elements
+(docs/data/performance.csv), times the median ratio of fixed figure to measured ticks of the reference rows. A kernel that serves
+several levels has one figure."""
+
+import csv
+import re
+import statistics
+import sys
+
+import catalogue
+
+PATH = catalogue.ROOT / "src/frame/catalogue.def"
+REFERENCE = {"Abs_32f", "Sqr_32f", "Exp_32f", "Exp_64f", "Sin_64f", "Add_32fc", "Inv_64f", "Sqrt_64fc", "Exp_32fc", "Exp_64fc", "Ln_32fc",
+             "Ln_64fc", "Acos_32fc", "Powx_64fc"}
+# Those of them whose figures were measured on the same kind of kernel as ours.
+UNIT = ("Abs_32f", "Exp_32f", "Exp_64f", "Sin_64f", "Inv_64f")
+
+
+def main():
+    with (catalogue.ROOT / "docs/data/performance.csv").open() as file:
+        ticks = {(r["function"], r["who"]): float(r["ticks"]) for r in csv.DictReader(file) if r["length"] == "4096"}
+    rows = catalogue.rows()
+    ratios = [row.costs[tag] / ticks[name, tag] for row in rows if (name := f"{row.function}_{row.type}") in UNIT
+              for _, tag in row.exports() if (name, tag) in ticks]
+    unit = statistics.median(ratios)
+
+    text = PATH.read_text()
+    for row in rows:
+        name = f"{row.function}_{row.type}"
+        if name in REFERENCE:
+            continue
+        tags = catalogue.TAGS[row.type[:3]]  # low, mid, high
+        measured = {kernel: ticks[name, tag or "lumvm"] for (_, tag), kernel in
+                    zip(row.exports(), row.kernels if row.exported == "Tagged" else row.kernels[2:])
+                    if (name, tag or "lumvm") in ticks}
+        if not measured:
+            sys.exit(f"{name} has not been measured")
+        # A kernel that no exported name reaches keeps the figure that it has.
+        figures = [f"{measured[kernel] * unit:.3g}" if kernel in measured else f"{row.costs[tag]:g}"
+                   for kernel, tag in zip(row.kernels, tags)]
+        low, mid, high = (f + ".0f" if re.fullmatch(r"\d+", f) else f + "f" for f in figures)
+        pattern = rf"(?m)^(LUM_ROW\({row.function}, {row.type}, .*), [\d.]+f, [\d.]+f, [\d.]+f\)$"
+        text, count = re.subn(pattern, rf"\1, {mid}, {high}, {low})", text)
+        if count != 1:
+            sys.exit(f"no single row of {name} in {PATH.name}")
+    PATH.write_text(text)
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
