@@ -11,8 +11,9 @@
  *   - A positive status is a warning: every element has been written, and the status is that of the last element that had
  *     something to report. Every function can return lumStsOk, lumStsSizeErr and lumStsNullPtrErr; others are listed with it.
  *   - An element's result depends on nothing but its argument: neither on its position, nor on the caller's rounding mode,
- *     flush-to-zero setting or exception masks, which are as before after the call. No exception flag is raised; of the
- *     caller's sticky flags all but the inexact one may be found cleared.
+ *     flush-to-zero setting or exception masks, which are as before after the call. The exception: complex functions whose
+ *     tags are one function, and Sqrt 64fc A53, round their last steps in the caller's mode. No exception flag but inexact is
+ *     raised; of the caller's sticky flags all but that one may be found cleared.
  *   - All functions are reentrant and thread-safe, allocate nothing and keep no state.
  * Relative cost figures rank the functions and tags; they are of the same kind for all functions. */
 #ifndef LUMVM_H
