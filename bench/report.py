@@ -166,6 +166,7 @@ def main():
     parser.add_argument("build", type=Path)
     parser.add_argument("functions", nargs="*")
     parser.add_argument("--compare", type=Path, metavar="BASE")
+    parser.add_argument("--lengths", help="lengths of the arrays, separated by commas")
     arguments = parser.parse_args()
     if arguments.compare:
         base = arguments.compare / "liblumvmk0.so" if arguments.compare.is_dir() else arguments.compare
@@ -178,7 +179,7 @@ def main():
     # A function at a time: all candidates of one interleave, and the arrays of all would not fit into memory.
     rows = []
     for function in arguments.functions or dict.fromkeys(row.function for row in catalogue.rows()):
-        rows += run_benchmarks(arguments.build, [function], [])
+        rows += run_benchmarks(arguments.build, [function], ["--lengths", arguments.lengths] if arguments.lengths else [])
     output_bytes = {}
     for row in catalogue.rows():
         parts = 2 if row.shape in ("TwoOutputs", "ToComplex") or (row.type.endswith("c") and row.shape != "ToReal") else 1

@@ -84,11 +84,11 @@ template <TwoInputsCore core, class E> struct TwoInputsLoop {
 template <TwoInputsCore core, class E> struct ParameterLoop {
   static LumStatus Run(const E* src, const E& parameter, E* dst, int32_t len) {
     if (const auto bad = CheckArguments(len, src, dst); bad != lumStsOk) return bad;
-    const ComplexDouble w = Widened(parameter);
     const bool parameter_can_overflow = CanOverflow(parameter);
     return OverflowLoop<ParameterLoop>(src, src, dst, len, [&](int32_t i, ComplexDouble& result) {
       const E z = src[i];
-      core(result, Widened(z), w);
+      // Widened here, in the loop's environment: a denormal number or a signalling NaN raises a flag.
+      core(result, Widened(z), Widened(parameter));
       return parameter_can_overflow && CanOverflow(z);
     });
   }

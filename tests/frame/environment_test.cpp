@@ -112,6 +112,19 @@ TEST_P(Environments, NoFlagEscapes) {
   EXPECT_FALSE(left.x87_flags);
 }
 
+// Parameters of all classes, where every exception would trap.
+TEST_P(Environments, SpecialParametersTrapNowhere) {
+  if (!entry().has_parameter()) GTEST_SKIP() << "has no parameter";
+  for (const Bits& value : SpecialElements(entry().input)) {
+    Batch batch = Sample(entry(), 3);
+    batch.value = Array(entry().input, {value});
+    Environment trapping, left;
+    trapping.mxcsr = 0;
+    RunIn(trapping, batch, left);
+    EXPECT_EQ(left.mxcsr, 0u);
+  }
+}
+
 INSTANTIATE_TEST_SUITE_P(Exports, Environments, testing::ValuesIn(AllSubjects()), NameOf);
 
 }  // namespace
