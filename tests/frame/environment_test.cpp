@@ -1,6 +1,10 @@
 // The caller's floating-point environment neither influences a result nor is disturbed by a call.
 #include "support/environment.h"
 
+#if defined(__x86_64__)
+#include <cpuid.h>
+#endif
+
 #include <algorithm>
 #include <vector>
 
@@ -111,6 +115,32 @@ TEST_P(Environments, NoFlagEscapes) {
   EXPECT_EQ(left.mxcsr & ~precision_flag, default_mxcsr);
   EXPECT_FALSE(left.x87_flags);
 }
+
+#if defined(__x86_64__)
+// The components of the extended state that are not in their initial state, and whether the processor tells.
+bool TellsStateInUse() {
+  unsigned eax = 0, ebx = 0, ecx = 0, edx = 0;
+  return __get_cpuid_count(0xD, 1, &eax, &ebx, &ecx, &edx) != 0 && (eax & 4) != 0;
+}
+uint32_t StateInUse() {
+  uint32_t low, high;
+  asm volatile("xgetbv" : "=a"(low), "=d"(high) : "c"(1));
+  return low;
+}
+
+// Upper halves that are not cleared make SSE code after the call several times slower.
+TEST_P(Environments, UpperHalvesOfVectorRegistersAreCleared) {
+  if (!TellsStateInUse()) GTEST_SKIP() << "the processor does not tell which state is in use";
+  constexpr uint32_t upper_halves = 0x44;  // of the first sixteen registers: bits 128 to 255, and 256 to 511
+  for (const size_t size : {1u, 150u}) {
+    const Batch batch = Sample(entry(), size);
+    Output output(entry(), size);
+    const auto arguments = Callee::ArgumentsOf(batch, output, 0, size);
+    callee().Call(arguments);
+    EXPECT_EQ(StateInUse() & upper_halves, 0u) << size;
+  }
+}
+#endif
 
 // Parameters of all classes, where every exception would trap.
 TEST_P(Environments, SpecialParametersTrapNowhere) {
