@@ -19,9 +19,11 @@ constexpr std::array<Extended, 3> cosine_series = {1.0L / 24, -1.0L / 720, 1.0L 
 // Exponent fields: the last ones below which the series needs no correction, one, two and four of them.
 constexpr int no_term = 0x3fb3, one_term = 0x3feb, two_terms = 0x3ff3, four_terms = 0x3ff9;
 
-Extended SineOfRemainder(ExtendedPair r) { return rounded(odd_sum(r, ratio(-1, 6), polynomial(sine_terms, r.head * r.head))); }
+inline Extended SineOfRemainder(const ExtendedPair& r) {
+  return rounded(odd_sum(r, ratio(-1, 6), polynomial(sine_terms, r.head * r.head)));
+}
 
-Extended CosineOfRemainder(ExtendedPair r) {
+inline Extended CosineOfRemainder(const ExtendedPair& r) {
   const ExtendedPair square = multiply(r, r);
   const ExtendedPair sum = fast_two_sum(1, square.head * -0.5L);
   const Extended rest = square.head * square.head * polynomial(cosine_terms, square.head);
@@ -43,10 +45,13 @@ Extended SmallCosine(const Extended& x, int exponent) {
   return 1 - square * (0.5L - square * polynomial(cosine_series, square));
 }
 
+// -1 in the third and fourth quarter turn.
+Extended QuadrantSign(int64_t quadrant) { return sign_factor((quadrant & 2) != 0); }
+
 // The sine of an argument with that remainder and that many quarter turns.
-Extended SineInQuadrant(ExtendedPair remainder, int64_t quadrant) {
+Extended SineInQuadrant(const ExtendedPair& remainder, int64_t quadrant) {
   const Extended value = (quadrant & 1) != 0 ? CosineOfRemainder(remainder) : SineOfRemainder(remainder);
-  return (quadrant & 2) != 0 ? -value : value;
+  return value * QuadrantSign(quadrant);
 }
 
 Extended SineOf(const Extended& x, int exponent) {
@@ -87,8 +92,10 @@ void ExtSinCos(const Extended& x, Extended& sine, Extended& cosine) {
   } else {
     ExtendedPair remainder;
     const int64_t quadrant = ExtReducePi4(remainder, x) >> 1;
-    sine = SineInQuadrant(remainder, quadrant);
-    cosine = SineInQuadrant(remainder, quadrant + 1);
+    // Both of the remainder, to be exchanged: no branch on the quadrant could be foreseen.
+    const Extended values[2] = {SineOfRemainder(remainder), CosineOfRemainder(remainder)};
+    sine = values[quadrant & 1] * QuadrantSign(quadrant);
+    cosine = values[(quadrant & 1) ^ 1] * QuadrantSign(quadrant + 1);
   }
 }
 

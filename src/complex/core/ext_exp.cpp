@@ -24,7 +24,7 @@ Extended SmallExp(const Extended& x, int exponent) {
 
 // 2^e (head + tail) below twice the least normal number: the part of head that is a multiple of the least denormal number stays
 // exact, the rest is rounded by the last product. Given head near 1.
-Extended ScaledBelowNormal(ExtendedPair value, int e) {
+Extended ScaledBelowNormal(const ExtendedPair& value, int e) {
   constexpr int least = ExtendedLimits::min_exponent - extended_digits;  // exponent of the least denormal number
   constexpr int first_step = least / 2;
   const Extended shifter = 3 * power_of_two(least - e + extended_digits - 2);
@@ -34,7 +34,7 @@ Extended ScaledBelowNormal(ExtendedPair value, int e) {
   return whole * first * second + rest * first * second;
 }
 
-Extended Scaled(ExtendedPair value, int e) {
+Extended Scaled(const ExtendedPair& value, int e) {
   constexpr Extended large = ExtendedLimits::max(), tiny = ExtendedLimits::min();
   if (e > ExtendedLimits::max_exponent) return large * large;
   if (e < ExtendedLimits::min_exponent - extended_digits - 2) return tiny * tiny;

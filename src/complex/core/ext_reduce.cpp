@@ -115,8 +115,9 @@ int64_t ExtReducePi4(ExtendedPair& remainder, const Extended& x) {
   }
   const bool is_direct = parts_suffice && exponent <= direct_limit;
   const OctantRemainder r = is_direct ? ReduceDirectly(positive, exponent) : ReduceHuge(positive, exponent);
-  remainder = sign_bit(x) ? -r.remainder : r.remainder;
-  return sign_bit(x) ? -r.count : r.count;
+  const bool is_negative = sign_bit(x);
+  remainder = scale(r.remainder, sign_factor(is_negative));
+  return is_negative ? -r.count : r.count;
 }
 
 }  // namespace lum

@@ -19,16 +19,16 @@ constexpr auto tangents = table64({
 #include "tables/generated/extended_tangents.inc"
 });
 
-ExtendedPair ShortTangent(ExtendedPair x) { return odd_sum(x, ratio(1, 3), polynomial(terms, x.head * x.head)); }
+ExtendedPair ShortTangent(const ExtendedPair& x) { return odd_sum(x, ratio(1, 3), polynomial(terms, x.head * x.head)); }
 
 // r - k pi/64. The first product is exact, and so is its difference from r, which lies between its neighbours.
-ExtendedPair SubtractAngle(ExtendedPair r, int k) {
+ExtendedPair SubtractAngle(const ExtendedPair& r, int k) {
   const Extended rest = r.head - k * f64(0x3FA921FB54400000, 0.049087385210441425);
   const ExtendedPair sum = two_sum(rest, -(k * f64(0x3D80B4611A626331, 1.899093908283185e-12)));
   return {sum.head, sum.tail + r.tail};
 }
 
-Extended TangentOfSum(int k, ExtendedPair p, bool is_reciprocal) {
+Extended TangentOfSum(int k, const ExtendedPair& p, bool is_reciprocal) {
   const int row = 3 * (k + 17);
   const ExtendedPair tangent = pair_at(tangents, row), cotangent = pair_at(tangents, row + 1),
                      both = pair_at(tangents, row + 2);
