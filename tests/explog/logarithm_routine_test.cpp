@@ -1,10 +1,7 @@
 // The scalar logarithms over their whole domain, of which the array functions reach little.
 #include "explog/logarithm_routine.h"
 
-#include <algorithm>
-
-#include "accuracy/measure.h"
-#include "support/accuracy.h"
+#include "support/routine_accuracy.h"
 
 namespace lum::test {
 namespace {
@@ -18,26 +15,11 @@ template <class T> Arguments1 Positive() {
   return x;
 }
 
-template <class T> double LargestError(LumStatus (*routine)(T, T&), MpfrFunction* function) {
-  double largest = 0;
-  mpfr_t exact, argument;
-  mpfr_inits2(200, exact, argument, nullptr);
-  for (double a : Positive<T>()) {
-    T result = 0;
-    EXPECT_EQ(routine(static_cast<T>(a), result), lumStsOk) << a;
-    mpfr_set_d(argument, static_cast<T>(a), MPFR_RNDN);
-    function(exact, argument, MPFR_RNDN);
-    largest = std::max(largest, accuracy::UlpError(result, exact, sizeof(T) == 4));
-  }
-  mpfr_clears(exact, argument, nullptr);
-  return largest;
-}
-
 TEST(LogarithmRoutine, Accuracy) {
-  EXPECT_LT(LargestError<Lum32f>(LnRoutine<Lum32f>, mpfr_log), 0.51);
-  EXPECT_LT(LargestError<Lum64f>(LnRoutine<Lum64f>, mpfr_log), 1);
-  EXPECT_LT(LargestError<Lum32f>(Log10Routine<Lum32f>, mpfr_log10), 1);
-  EXPECT_LT(LargestError<Lum64f>(Log10Routine<Lum64f>, mpfr_log10), 1);
+  EXPECT_LT(LargestErrorOf<Lum32f>(LnRoutine<Lum32f>, mpfr_log, Positive<Lum32f>()), 0.51);
+  EXPECT_LT(LargestErrorOf<Lum64f>(LnRoutine<Lum64f>, mpfr_log, Positive<Lum64f>()), 1);
+  EXPECT_LT(LargestErrorOf<Lum32f>(Log10Routine<Lum32f>, mpfr_log10, Positive<Lum32f>()), 1);
+  EXPECT_LT(LargestErrorOf<Lum64f>(Log10Routine<Lum64f>, mpfr_log10, Positive<Lum64f>()), 1);
 }
 
 }  // namespace

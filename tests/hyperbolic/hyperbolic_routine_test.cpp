@@ -1,10 +1,7 @@
 // The scalar hyperbolic functions over their whole domain, of which the array functions reach little.
 #include "hyperbolic/hyperbolic_routine.h"
 
-#include <algorithm>
-
-#include "accuracy/measure.h"
-#include "support/accuracy.h"
+#include "support/routine_accuracy.h"
 
 namespace lum::test {
 namespace {
@@ -21,26 +18,11 @@ template <class T> Arguments1 AllMagnitudes() {
   return x;
 }
 
-template <class T> double LargestError(LumStatus (*routine)(T, T&), MpfrFunction* function) {
-  double largest = 0;
-  mpfr_t exact, argument;
-  mpfr_inits2(200, exact, argument, nullptr);
-  for (double a : AllMagnitudes<T>()) {
-    T result = 0;
-    EXPECT_EQ(routine(static_cast<T>(a), result), lumStsOk) << a;
-    mpfr_set_d(argument, static_cast<T>(a), MPFR_RNDN);
-    function(exact, argument, MPFR_RNDN);
-    largest = std::max(largest, accuracy::UlpError(result, exact, sizeof(T) == 4));
-  }
-  mpfr_clears(exact, argument, nullptr);
-  return largest;
-}
-
 TEST(HyperbolicRoutine, Accuracy) {
-  EXPECT_LT(LargestError<Lum32f>(SinhRoutine<Lum32f>, mpfr_sinh), 0.51);
-  EXPECT_LT(LargestError<Lum32f>(CoshRoutine<Lum32f>, mpfr_cosh), 0.51);
-  EXPECT_LT(LargestError<Lum64f>(SinhRoutine<Lum64f>, mpfr_sinh), 1);
-  EXPECT_LT(LargestError<Lum64f>(CoshRoutine<Lum64f>, mpfr_cosh), 1);
+  EXPECT_LT(LargestErrorOf<Lum32f>(SinhRoutine<Lum32f>, mpfr_sinh, AllMagnitudes<Lum32f>()), 0.51);
+  EXPECT_LT(LargestErrorOf<Lum32f>(CoshRoutine<Lum32f>, mpfr_cosh, AllMagnitudes<Lum32f>()), 0.51);
+  EXPECT_LT(LargestErrorOf<Lum64f>(SinhRoutine<Lum64f>, mpfr_sinh, AllMagnitudes<Lum64f>()), 1);
+  EXPECT_LT(LargestErrorOf<Lum64f>(CoshRoutine<Lum64f>, mpfr_cosh, AllMagnitudes<Lum64f>()), 1);
 }
 
 }  // namespace
