@@ -116,6 +116,9 @@ void RegisterAll(const Options& options) {
       if (const auto scalar = FindScalarLoop(entry); scalar != nullptr) Register(prefix + "scalar", data, len, scalar);
     }
   }
+}
+
+void CheckFunctions(const Options& options) {
   for (const std::string& function : options.functions) {
     const auto exists = [&](const Export& entry) { return entry.function == function; };
     if (std::ranges::none_of(Exports(), exists)) throw std::runtime_error(fmt::format("no function '{}'", function));
@@ -140,6 +143,7 @@ int main(int argc, char** argv) {
     for (int i = 1; i < argc; ++i) (std::string_view(argv[i]).starts_with("--benchmark_") ? theirs : ours).push_back(argv[i]);
     app.parse(static_cast<int>(ours.size()), ours.data());
     if (!app.remaining().empty()) throw std::runtime_error(fmt::format("unknown option '{}'", app.remaining().front()));
+    CheckFunctions(options);
     for (const std::string& line : lum::bench::AbsentPeers()) fmt::print(stderr, "bench: {}\n", line);
     RegisterAll(options);
     int count = static_cast<int>(theirs.size());

@@ -2,6 +2,7 @@
 # Installs a build into a scratch folder and builds and runs small programs against it, by CMake and by pkg-config, in C and in
 # C++: installed_tree.sh BUILD
 set -euo pipefail
+export CMAKE_GENERATOR=Ninja  # the one that this project itself needs
 tests=$(dirname "$0")
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
