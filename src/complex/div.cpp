@@ -1,6 +1,7 @@
 // z / w = z conj(w) / |w|^2. The high tag of 32fc takes numerator and denominator in binary64 and one quotient; that of 64fc
 // scales both arguments to significands of the larger part and keeps the errors of all products and of the quotient. The low
 // tags multiply by an estimate of the reciprocal. Lanes whose products leave the range are refused.
+#include "complex/pairs/pair.h"
 #include "complex/refused.h"
 #include "frame/kernels.h"
 
@@ -59,11 +60,6 @@ struct A24_32fc : Quotient<Lum32fc> {
 };
 
 struct A53_64fc : Quotient<Lum64fc> {
-  // An unevaluated sum.
-  struct HeadTail {
-    Vec<Lum64f> head, tail;
-  };
-
   // a c + b d.
   static LUM_INLINE HeadTail SumOfProducts(Vec<Lum64f> a, Vec<Lum64f> c, Vec<Lum64f> b, Vec<Lum64f> d) {
     const auto first = a * c, second = b * d;

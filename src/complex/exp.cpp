@@ -3,6 +3,7 @@
 // once. Far arguments and those whose exponential leaves the range go to the scalar core.
 #include "circular/half_turns.h"
 #include "circular/sixteenths.h"
+#include "complex/pairs/pair.h"
 #include "complex/refused.h"
 #include "frame/kernels.h"
 #include "tables/table.h"
@@ -135,11 +136,6 @@ LUM_INLINE Vec<Lum64f> A26_64fc::ExponentialOf(Vec<Lum64f> x) {
   const auto head = Entry16(heads, bits(t));
   return scalef(fma(p, head, head), n);
 }
-
-// An unevaluated sum.
-struct HeadTail {
-  Vec<Lum64f> head, tail;
-};
 
 // Steps of 1/64 in the exponent of 2 and 1/32 of a half turn; the exponential of the remainder, and what the table and the
 // circular functions lack, are joined to the heads before the one rounding of each product.

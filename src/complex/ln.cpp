@@ -40,17 +40,15 @@ template <class T> LUM_INLINE Square<T> SquareOfModulus(Vec<T> x, Vec<T> y) {
 }
 
 // s - 1 as a pair where s is near 1: the difference of the heads is exact.
-template <class T> struct HeadTail { Vec<T> head, tail; };
-template <class T> LUM_INLINE HeadTail<T> LessOne(const Square<T>& s) {
+template <class T> LUM_INLINE Sum<T> LessOne(const Square<T>& s) {
   const auto twice = s.exponent + s.exponent;
-  const auto sum = two_sum(scalef(s.head, twice) - all(T(1)), scalef(s.tail, twice));
-  return {sum.sum, sum.error};
+  return two_sum(scalef(s.head, twice) - all(T(1)), scalef(s.tail, twice));
 }
 
 // In binary32.
 template <int segment_degree> LUM_INLINE Vec<Lum32f> LogOfModulus(Vec<Lum32f> x, Vec<Lum32f> y) {
   const auto s = SquareOfModulus(x, y);
-  const auto t = LessOne(s).head;
+  const auto t = LessOne(s).sum;
   const auto is_near = le(all(-0.25f), t) & lt(t, all(0.5f));
   const auto m = select(is_near, all(1.0f) + t, getmant<0xB>(s.head));
   const auto r = select(is_near, t, m - all(1.0f));
@@ -97,9 +95,9 @@ template <class Ln> LUM_INLINE Vec<Lum64f> LogOfModulus(Vec<Lum64f> x, Vec<Lum64
   auto terms = Ln::Terms(reduction);
 
   const auto t = LessOne(s);
-  const auto is_near = lt(abs(t.head), all(0.0625));
-  terms = {zero_unless(~is_near, terms.base), zero_unless(~is_near, terms.base_tail), select(is_near, t.head, terms.r)};
-  return all(0.5) * Ln::Sum(Ln::Corrected(terms, select(is_near, t.tail, s.tail * rcp14(s.head))));
+  const auto is_near = lt(abs(t.sum), all(0.0625));
+  terms = {zero_unless(~is_near, terms.base), zero_unless(~is_near, terms.base_tail), select(is_near, t.sum, terms.r)};
+  return all(0.5) * Ln::Sum(Ln::Corrected(terms, select(is_near, t.error, s.tail * rcp14(s.head))));
 }
 
 template <class Ln, class Angle> struct Double : LnKernel<Lum64fc> {

@@ -20,6 +20,14 @@ template <OneInputCore core, class E> LumStatus ReportingCoreOnLane(const E& z, 
   return can_overflow && HasInfinitePart(result) ? lumStsOverflow : lumStsOk;
 }
 
+template <TwoInputsCore core, class E> LumStatus ReportingCoreOnLane(const E& z, const E& w, E& result) {
+  const ExtendedPrecision precision;
+  ComplexDouble value;
+  core(value, Widened(z), Widened(w));
+  result = Narrowed<E>(value);
+  return CanOverflow(z) && CanOverflow(w) && HasInfinitePart(result) ? lumStsOverflow : lumStsOk;
+}
+
 // For products and quotients, which report every infinite part that finite arguments give; dividing by zero is not an overflow.
 template <TwoInputsCore core, class E> LumStatus ProductCoreOnLane(const E& z, const E& w, E& result) {
   const ExtendedPrecision precision;

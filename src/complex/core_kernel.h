@@ -1,0 +1,123 @@
+// Vector kernels that give the bits of a scalar core. A path computes both parts as pairs with some 70 bits, and how far the
+// core's value before its one rounding can be from the true one. Where everything within that distance rounds to the same
+// number, that number is the core's result; the other lanes, some in a hundred, and arguments outside the path's domain go
+// to the core itself.
+#pragma once
+
+#include "complex/pairs/pair.h"
+#include "complex/refused.h"
+
+namespace lum {
+
+// The parts of a result, their distances from the core's values in units of 2^-64, and the lanes outside the domain.
+struct PathValue {
+  HeadTail re, im;
+  Vec<Lum64f> re_error, im_error;
+  Mask<Lum64f> refused;
+};
+
+// Relative errors of both parts.
+LUM_INLINE PathValue ValueWithin(HeadTail re, HeadTail im, double units, Mask<Lum64f> refused) {
+  return {re, im, abs(re.head) * all(units), abs(im.head) * all(units), refused};
+}
+
+// Lanes with a magnitude outside [low, high]: also zeros and NaN.
+LUM_INLINE Mask<Lum64f> IsOutside(Vec<Lum64f> magnitude, double low, double high) {
+  return nle(all(low), magnitude) | nle(magnitude, all(high));
+}
+// What squares and their products stand without loss.
+inline constexpr double small_part = 0x1p-200, large_part = 0x1p240;
+
+// A part rounded to binary64, to nearest whatever the caller's rounding.
+struct RoundedPart {
+  Vec<Lum64f> value;
+  Mask<Lum64f> refused;
+};
+LUM_INLINE RoundedPart RoundedAsCore(HeadTail part, Vec<Lum64f> error) {
+  const auto [head, tail] = Normalised(part);
+  const auto distance = error * all(0x1p-64);
+  const auto above = head + (tail + distance), below = head + (tail - distance);
+  return {above, ne(above, below)};
+}
+
+template <class Path, class... Inputs> LUM_INLINE Lanes<Lum64fc> RoundedPath(const Inputs&... packed) {
+  const auto value = Path::Of(split(packed)...);
+  const auto re = RoundedAsCore(value.re, value.re_error), im = RoundedAsCore(value.im, value.im_error);
+  return {join(ComplexVec<Lum64f>{re.value, im.value}), value.refused | re.refused | im.refused};
+}
+
+// To binary32 the core's value is rounded twice. Both roundings together give the same for all numbers some units around.
+struct NarrowedPart {
+  Vec<Lum32f> value;
+  Mask<Lum32f> refused;
+};
+LUM_INLINE NarrowedPart NarrowedAsCore(Vec<Lum64f> low, Vec<Lum64f> high) {
+  const auto distance = all(0x1p-49);
+  const auto above = narrow(fma(low, distance, low), fma(high, distance, high));
+  const auto below = narrow(fnma(low, distance, low), fnma(high, distance, high));
+  const auto a = abs(above);
+  return {above, ne(above, below) | nle(all(0x1p-125f), a) | nle(a, all(0x1p127f))};
+}
+
+LUM_INLINE ComplexVec<Lum64f> WidenLow(ComplexVec<Lum32f> z) { return {widen_low(z.re), widen_low(z.im)}; }
+LUM_INLINE ComplexVec<Lum64f> WidenHigh(ComplexVec<Lum32f> z) { return {widen_high(z.re), widen_high(z.im)}; }
+
+template <class Path, class... Inputs> LUM_INLINE Lanes<Lum32fc> NarrowedPath(const Inputs&... packed) {
+  const auto low = Path::Of(WidenLow(split(packed))...), high = Path::Of(WidenHigh(split(packed))...);
+  const auto re = NarrowedAsCore(low.re.head, high.re.head), im = NarrowedAsCore(low.im.head, high.im.head);
+  return {join(ComplexVec<Lum32f>{re.value, im.value}), join(low.refused, high.refused) | re.refused | im.refused};
+}
+
+// Of one or two arguments.
+template <class Path, class E, class... Inputs> LUM_INLINE Lanes<E> PathOfElements(const Inputs&... packed) {
+  if constexpr (std::is_same_v<E, Lum64fc>) return RoundedPath<Path>(packed...);
+  else return NarrowedPath<Path>(packed...);
+}
+
+// Whether a call goes through the vector path: not for a few elements, nor where what a core does in the caller's rounding (to
+// narrow, and the products of a power) is not to nearest. The portable vectors are slower than the core.
+#ifdef LUM_AVX512
+inline constexpr bool has_fast_vectors = true;
+inline bool TakesVectorPath(int32_t len) {
+  constexpr int32_t shortest = 3;
+  constexpr uint32_t rounding_field = 0x6000;
+  return len >= shortest && (ReadMxcsr() & rounding_field) == 0;
+}
+#else
+inline constexpr bool has_fast_vectors = false;
+inline bool TakesVectorPath(int32_t) { return false; }
+#endif
+
+template <class Path, OneInputCore core, class E> struct SilentKernel : Kernel<E> {
+  static constexpr Variant variant = scalar_core_variant;
+  static constexpr int vectors = 1;
+  static LUM_INLINE Lanes<E> VectorPath(Interleaved<Real<E>> z) { return PathOfElements<Path, E>(z); }
+  static void LaneRoutine(const E& z, E& result) { CoreOnLane<core>(z, result); }
+};
+template <class Path, OneInputCore core, class E> struct OverflowKernel : SilentKernel<Path, core, E> {
+  static LumStatus LaneRoutine(const E& z, E& result) { return ReportingCoreOnLane<core>(z, result); }
+};
+
+// The array function of a core and its path.
+template <class Path, OneInputCore core, class E> LumStatus RunSilent(const E* src, E* dst, int32_t len) {
+  if constexpr (has_fast_vectors) {
+    if (TakesVectorPath(len)) return OneInput<SilentKernel<Path, core, E>>(src, dst, len);
+  }
+  return SilentLoop<core>(src, dst, len);
+}
+template <class Path, OneInputCore core, class E> LumStatus RunReporting(const E* src, E* dst, int32_t len) {
+  if constexpr (has_fast_vectors) {
+    if (TakesVectorPath(len)) return OneInput<OverflowKernel<Path, core, E>>(src, dst, len);
+  }
+  return OneInputLoop<core, E>::Run(src, dst, len);
+}
+
+#define LUM_CORE_FUNCTION(run, function, type)                                     \
+  LumStatus function##_##type(const Lum##type* src, Lum##type* dst, int32_t len) { \
+    return run<function##Path, Core##function>(src, dst, len);                     \
+  }
+#define LUM_CORE_FUNCTIONS(run, function) \
+  LUM_CORE_FUNCTION(run, function, 32fc)  \
+  LUM_CORE_FUNCTION(run, function, 64fc)
+
+}  // namespace lum

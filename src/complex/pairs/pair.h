@@ -1,0 +1,87 @@
+// Vectors of unevaluated sums head + tail of two binary64 numbers, with twice the bits of one. Products are exact by a fused
+// step. |tail| is at most a few units in the last place of head. Numbers near the ends of the exponent range are no matter of
+// these functions.
+#pragma once
+
+#include "frame/types.h"
+#include "frame/vec.h"
+
+namespace lum {
+
+struct HeadTail {
+  Vec<Lum64f> head, tail;
+};
+
+LUM_INLINE HeadTail operator-(HeadTail a) { return {negate(a.head), negate(a.tail)}; }
+
+LUM_INLINE HeadTail ExactSum(Vec<Lum64f> a, Vec<Lum64f> b) {
+  const auto s = two_sum(a, b);
+  return {s.sum, s.error};
+}
+LUM_INLINE HeadTail ExactProduct(Vec<Lum64f> a, Vec<Lum64f> b) {
+  const auto product = a * b;
+  return {product, fms(a, b, product)};
+}
+
+// Given |a| >= |b| or a = 0: the same sum with the smallest tail.
+LUM_INLINE HeadTail Normalised(Vec<Lum64f> a, Vec<Lum64f> b) {
+  const auto s = fast_two_sum(a, b);
+  return {s.sum, s.error};
+}
+LUM_INLINE HeadTail Normalised(HeadTail a) { return Normalised(a.head, a.tail); }
+
+// Relative error a few units of 2^-105, of the larger operand's where the heads cancel.
+LUM_INLINE HeadTail Add(HeadTail a, HeadTail b) {
+  const auto s = two_sum(a.head, b.head);
+  return Normalised(s.sum, s.error + (a.tail + b.tail));
+}
+LUM_INLINE HeadTail Add(HeadTail a, Vec<Lum64f> b) {
+  const auto s = two_sum(a.head, b);
+  return Normalised(s.sum, s.error + a.tail);
+}
+
+LUM_INLINE HeadTail Product(HeadTail a, HeadTail b) {
+  const auto head = a.head * b.head;
+  return {head, fma(a.tail, b.head, fma(a.head, b.tail, fms(a.head, b.head, head)))};
+}
+LUM_INLINE HeadTail Square(HeadTail a) {
+  const auto head = a.head * a.head;
+  return {head, fma(a.head + a.head, a.tail, fms(a.head, a.head, head))};
+}
+
+// Times a power of two.
+LUM_INLINE HeadTail Scaled(HeadTail a, Lum64f power) { return {a.head * all(power), a.tail * all(power)}; }
+
+LUM_INLINE HeadTail Select(Mask<Lum64f> m, HeadTail a, HeadTail b) {
+  return {select(m, a.head, b.head), select(m, a.tail, b.tail)};
+}
+LUM_INLINE HeadTail Magnitude(HeadTail a) { return {abs(a.head), xor_sign(a.head, a.tail)}; }
+
+// Two Newton steps from the estimate: right to a few units.
+LUM_INLINE Vec<Lum64f> FullReciprocal(Vec<Lum64f> a) {
+  const auto estimate = rcp14(a);
+  const auto r = fma(estimate, fnma(a, estimate, all(1.0)), estimate);
+  return fma(r, fnma(a, r, all(1.0)), r);
+}
+
+// A quotient of the heads and, from its exact remainder, the rest.
+LUM_INLINE HeadTail Quotient(HeadTail a, HeadTail b) {
+  const auto reciprocal = FullReciprocal(b.head);
+  const auto quotient = a.head * reciprocal;
+  const auto remainder = fnma(quotient, b.tail, fnma(quotient, b.head, a.head) + a.tail);
+  return {quotient, remainder * reciprocal};
+}
+
+// Of a positive number: the root g and half its reciprocal h refined together, then the rest from the exact residue a - g^2.
+LUM_INLINE HeadTail SquareRoot(HeadTail a) {
+  const auto estimate = rsqrt14(a.head);
+  auto g = a.head * estimate, h = estimate * all(0.5);
+  for (int step = 0; step < 2; ++step) {
+    const auto e = fnma(g, h, all(0.5));
+    g = fma(g, e, g);
+    h = fma(h, e, h);
+  }
+  return {g, (fnma(g, g, a.head) + a.tail) * h};
+}
+
+}  // namespace lum
