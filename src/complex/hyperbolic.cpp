@@ -21,7 +21,7 @@ LUM_INLINE Factors FactorsOf(Vec<Lum64f> exponent, Vec<Lum64f> angle, double lar
 }
 
 // A product of two factors that are right to 0.56 units in the last place of Extended, rounded.
-constexpr double product_error = 4.5;
+constexpr double product_error = 5;
 
 struct CoshPath {
   static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z) {
@@ -59,7 +59,7 @@ LUM_INLINE Tangent TangentOf(Vec<Lum64f> exponent, Vec<Lum64f> angle) {
   const auto reciprocal = Quotient({all(1.0), all(0.0)}, Add(c2, s2));
   return {Product(Product(f.sinh, f.cosh), reciprocal), Product(Product(f.sine, f.cosine), reciprocal), f.refused};
 }
-constexpr double tangent_error = 11;
+constexpr double tangent_error = 12;
 
 struct TanhPath {
   static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z) {

@@ -23,10 +23,10 @@ LUM_INLINE LogarithmValue LogarithmParts(ComplexVec<Lum64f> z) {
   // Off the circle the core's square is rounded; near it, its difference from 1 is nearly exact.
   const auto magnitude = abs(modulus.head);
   const auto is_off = nle(abs(square.head - all(1.0)), all(0.0299));
-  const auto error = select(is_off, fma(magnitude, all(1.5), all(1.25)), magnitude * all(6.0));
+  const auto error = select(is_off, fma(magnitude, all(2.0), all(1.25)), magnitude * all(6.0));
   const auto refused = IsOutside(ax, small_part, large_part) | IsOutside(ay, small_part, large_part) |
                        nle(all(0x1p-36), magnitude);  // cancelled: the square was right to 2^-105
-  return {modulus, {xor_sign(z.im, angle.head), xor_sign(z.im, angle.tail)}, error, angle.head * all(1.5), refused};
+  return {modulus, {xor_sign(z.im, angle.head), xor_sign(z.im, angle.tail)}, error, angle.head * all(2.0), refused};
 }
 
 struct Log10Path {
@@ -36,7 +36,7 @@ struct Log10Path {
     const auto value = LogarithmParts(z);
     const auto re = Product(value.modulus, log10_e), im = Product(value.angle, log10_e);
     // The constant and the product are rounded too.
-    return {re, im, fma(abs(re.head), all(2.0), value.modulus_error * log10_e.head), abs(im.head) * all(3.5), value.refused};
+    return {re, im, fma(abs(re.head), all(2.5), value.modulus_error * log10_e.head), abs(im.head) * all(4.5), value.refused};
   }
 };
 
@@ -65,7 +65,7 @@ LUM_INLINE PathValue PowerOf(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w) {
   const auto refused = logarithm.refused | re.refused | im.refused | circular.refused |
                        IsOutside(abs(exponent), small_part, largest_exponent) |
                        IsOutside(abs(angle), small_part, largest_angle);
-  constexpr double product_error = 4.5;
+  constexpr double product_error = 5;
   return ValueWithin(Product(e, circular.cosine), Product(e, circular.sine), product_error, refused);
 }
 
