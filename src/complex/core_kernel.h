@@ -25,7 +25,7 @@ LUM_INLINE PathValue ValueWithin(HeadTail re, HeadTail im, double units, Mask<Lu
 LUM_INLINE Mask<Lum64f> IsOutside(Vec<Lum64f> magnitude, double low, double high) {
   return nle(all(low), magnitude) | nle(magnitude, all(high));
 }
-// What squares and their products stand without loss.
+// Squares of magnitudes between these, and products of two squares, lose nothing to the ends of the range.
 inline constexpr double small_part = 0x1p-200, large_part = 0x1p240;
 
 // A part rounded to binary64, to nearest whatever the caller's rounding.

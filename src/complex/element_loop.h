@@ -1,6 +1,6 @@
-// The loops of complex functions that have no vector path: each element through a scalar core, in the x87 unit's extended
-// precision. All tags of such a function share one loop, and the loops of both types share the core. Elements of 32 bits are
-// widened to binary64 and their results narrowed in the caller's rounding mode.
+// Loops over scalar cores: each element by itself, in the x87 unit's extended precision. All tags of such a function share one
+// loop, and the loops of both types share the core. Elements of 32 bits are widened to binary64 and their results narrowed in
+// the caller's rounding mode.
 #pragma once
 
 #include "complex/core/parts.h"
