@@ -3,26 +3,26 @@
 
 report.py BUILD [FUNCTION...]                 measure, all functions when none is named
 report.py BUILD --compare BASE [FUNCTION...]  measure this build and another one side by side, and write nothing
+report.py BUILD --refused [FUNCTION...]       measure arrays with refused lanes, and write docs/refused-lanes.md and its data
 
 BUILD is a build folder; BASE a build folder or a library file."""
 
 import argparse
-import csv
-import json
 import shutil
 import subprocess
 import sys
-import tempfile
 from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "tools"))
 import catalogue
 import port_bound
+import refused_lanes
+from runs import machine, merged, run_benchmarks
 
 DATA = catalogue.ROOT / "docs/data/performance.csv"
 PAGE = catalogue.ROOT / "docs/performance.md"
 IMAGES = catalogue.ROOT / "docs/images/performance"
-FIELDS = ["function", "length", "who", "ns", "ticks"]
+PARTS = ["function", "length", "who"]
 # Peers whose results are as exact as the high tags' (1 ulp, or exact); the others allow up to 4 ulp, as the mid tags do.
 EXACT_PEERS = {"sleef", "sleef_u05", "sleef_u10", "sleef_u15"}
 MAIN_LENGTH = 4096
@@ -41,33 +41,6 @@ Measured on {machine}. To repeat: `./run bench` (or `./run bench Exp`); `./run b
 """
 
 
-def machine():
-    for line in Path("/proc/cpuinfo").read_text().splitlines():
-        if line.startswith("model name"):
-            return line.split(":", 1)[1].strip()
-    return "an unknown processor"
-
-
-def run_benchmarks(build, functions, extra):
-    """Rows of FIELDS from one interleaved run; medians of the repetitions."""
-    with tempfile.NamedTemporaryFile(suffix=".json") as out:
-        command = [build / "bench/bench", *functions, *extra, "--benchmark_enable_random_interleaving=true",
-                   "--benchmark_repetitions=3", "--benchmark_min_time=0.01", f"--benchmark_out={out.name}",
-                   "--benchmark_out_format=json", "--benchmark_display_aggregates_only=true"]
-        code = subprocess.run(command, stdout=subprocess.DEVNULL).returncode
-        if code != 0:
-            sys.exit(code)
-        measured = json.load(open(out.name))["benchmarks"]
-    rows = []
-    for entry in measured:
-        if entry.get("aggregate_name") != "median":
-            continue
-        function, length, who = entry["run_name"].split("/")[:3]
-        rows.append({"function": function, "length": int(length), "who": who,
-                     "ns": f"{entry['real_time'] / int(length):.4g}", "ticks": f"{entry['ticks']:.4g}"})
-    return rows
-
-
 def print_comparison(rows):
     base = {(r["function"], r["length"], r["who"][5:]): float(r["ns"]) for r in rows if r["who"].startswith("base:")}
     print(f"{'function':<16} {'tag':<6} {'length':>9} {'ns here':>10} {'ns base':>10} {'base/here':>10}")
@@ -76,22 +49,6 @@ def print_comparison(rows):
         if key in base:
             here = float(r["ns"])
             print(f"{key[0]:<16} {key[2]:<6} {key[1]:>9} {here:>10.4g} {base[key]:>10.4g} {base[key] / here:>10.2f}")
-
-
-def merged(rows):
-    stored = {}
-    if DATA.exists():
-        with DATA.open() as file:
-            stored = {(r["function"], int(r["length"]), r["who"]): r for r in csv.DictReader(file)}
-    replaced = {r["function"] for r in rows}
-    stored = {key: r for key, r in stored.items() if key[0] not in replaced}
-    stored.update({(r["function"], r["length"], r["who"]): r for r in rows})
-    DATA.parent.mkdir(parents=True, exist_ok=True)
-    with DATA.open("w", newline="") as file:
-        writer = csv.DictWriter(file, FIELDS, lineterminator="\n")
-        writer.writeheader()
-        writer.writerows(stored[key] for key in sorted(stored))
-    return stored
 
 
 def best_peer(figures, is_high):
@@ -165,21 +122,26 @@ def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("build", type=Path)
     parser.add_argument("functions", nargs="*")
-    parser.add_argument("--compare", type=Path, metavar="BASE")
-    parser.add_argument("--lengths", help="lengths of the arrays, separated by commas")
+    mode = parser.add_mutually_exclusive_group()
+    mode.add_argument("--compare", type=Path, metavar="BASE")
+    mode.add_argument("--refused", action="store_true")
+    mode.add_argument("--lengths", help="lengths of the arrays, separated by commas")
     arguments = parser.parse_args()
+    if arguments.refused:
+        refused_lanes.report(arguments.build, arguments.functions)
+        return 0
     if arguments.compare:
         base = arguments.compare / "liblumvmk0.so" if arguments.compare.is_dir() else arguments.compare
         if not base.exists():
             print(f"bench: {base}: no such library", file=sys.stderr)
             return 2
         extra = ["--base", str(base.resolve()), "--lengths", f"1,{MAIN_LENGTH}"]
-        print_comparison(run_benchmarks(arguments.build, arguments.functions, extra))
+        print_comparison(run_benchmarks(arguments.build, arguments.functions, extra, PARTS))
         return 0
     # A function at a time: all candidates of one interleave, and the arrays of all would not fit into memory.
     rows = []
     for function in arguments.functions or dict.fromkeys(row.function for row in catalogue.rows()):
-        rows += run_benchmarks(arguments.build, [function], ["--lengths", arguments.lengths] if arguments.lengths else [])
+        rows += run_benchmarks(arguments.build, [function], ["--lengths", arguments.lengths] if arguments.lengths else [], PARTS)
     output_bytes = {}
     for row in catalogue.rows():
         parts = 2 if row.shape in ("TwoOutputs", "ToComplex") or (row.type.endswith("c") and row.shape != "ToReal") else 1
@@ -190,7 +152,7 @@ def main():
         floors = port_bound.bounds(str(arguments.build / "liblumvmk0.so"), output_bytes)
     else:
         print("bench: llvm-mca is not installed: the floors are left out", file=sys.stderr)
-    write_page(merged(rows), floors, {r["function"] for r in rows})
+    write_page(merged(rows, DATA, PARTS), floors, {r["function"] for r in rows})
     return 0
 
 

@@ -1,5 +1,6 @@
 """The catalogue of functions and their descriptions, as Python sees them."""
 
+import argparse
 import re
 import tomllib
 from dataclasses import dataclass
@@ -52,3 +53,15 @@ def title_of(row, entries):
     """The title of the description of a row."""
     special = f"{row.function} (complex)"
     return special if row.type.endswith("c") and special in entries else row.function
+
+
+def write_or_check(path, text, tool, description):
+    """The main function of a tool that writes one checked-in file, or with --check compares it: the exit status."""
+    parser = argparse.ArgumentParser(description=description)
+    parser.add_argument("--check", action="store_true")
+    if parser.parse_args().check:
+        same = path.exists() and path.read_text() == text()
+        print(f"{path.name}: {'up to date' if same else f'differs from what tools/{tool} writes'}")
+        return 0 if same else 1
+    path.write_text(text())
+    return 0

@@ -1,7 +1,6 @@
 #!/usr/bin/env python3
 """Writes include/lumvm.h from the catalogue and the descriptions of the functions. With --check, compares instead."""
 
-import argparse
 import sys
 import textwrap
 
@@ -58,17 +57,5 @@ def text():
     return PREAMBLE.read_text().replace("@FUNCTIONS@\n", "\n".join(lines))
 
 
-def main():
-    parser = argparse.ArgumentParser(description=__doc__)
-    parser.add_argument("--check", action="store_true")
-    arguments = parser.parse_args()
-    if arguments.check:
-        same = HEADER.read_text() == text()
-        print(f"{HEADER.name}: {'up to date' if same else 'differs from what tools/make_header.py writes'}")
-        return 0 if same else 1
-    HEADER.write_text(text())
-    return 0
-
-
 if __name__ == "__main__":
-    sys.exit(main())
+    sys.exit(catalogue.write_or_check(HEADER, text, "make_header.py", __doc__))

@@ -1,7 +1,6 @@
 #!/usr/bin/env python3
 """Writes docs/reference.md from the catalogue and the descriptions of the functions. With --check, compares instead."""
 
-import argparse
 import sys
 
 import catalogue
@@ -96,16 +95,5 @@ def text():
     return "\n".join([INTRODUCTION, *contents, *body]).rstrip() + "\n"
 
 
-def main():
-    parser = argparse.ArgumentParser(description=__doc__)
-    parser.add_argument("--check", action="store_true")
-    if parser.parse_args().check:
-        same = PAGE.exists() and PAGE.read_text() == text()
-        print(f"{PAGE.name}: {'up to date' if same else 'differs from what tools/make_reference.py writes'}")
-        return 0 if same else 1
-    PAGE.write_text(text())
-    return 0
-
-
 if __name__ == "__main__":
-    sys.exit(main())
+    sys.exit(catalogue.write_or_check(PAGE, text, "make_reference.py", __doc__))

@@ -4,6 +4,7 @@
 // Arguments beyond the threshold go to a lane routine, which knows overflow, denormal results and underflow.
 #include <cstdint>
 
+#include "explog/exp_reduction.h"
 #include "explog/exp_routine.h"
 #include "frame/kernel_frame.h"
 #include "frame/kernels.h"
@@ -13,11 +14,8 @@ namespace lum {
 namespace {
 
 template <class T> struct ExpConstants;
-template <> struct ExpConstants<Lum32f> {
-  static constexpr auto log2e = f32(0x3FB8AA3B, 1.4426950216293335);
+template <> struct ExpConstants<Lum32f> : ExpReduction<Lum32f> {
   static constexpr auto shifter = f32(0x49400000, 786432.0);  // 1.5 * 2^19: the last bit is worth 1/16
-  static constexpr auto ln2_hi = f32(0x3F317218, 0.6931471824645996);
-  static constexpr auto ln2_lo = f32(0xB102E308, -1.9046542121259336e-09);
   static constexpr auto threshold = f32(0x42AEAC4F, 87.33654022216797);
   static constexpr auto head = table32({
 #include "tables/generated/exp2_16_head.inc"
@@ -26,12 +24,9 @@ template <> struct ExpConstants<Lum32f> {
 #include "tables/generated/exp2_16_tail.inc"
   });
 };
-template <> struct ExpConstants<Lum64f> {
-  static constexpr auto log2e = f64(0x3FF71547652B82FE, 1.4426950408889634);
+template <> struct ExpConstants<Lum64f> : ExpReduction<Lum64f> {
   // 1.5 * 2^49, the last bit worth 1/8. The low bits leave the index bits at zero and are subtracted out again.
   static constexpr auto shifter = f64(0x4308000000003FF0, 844424930134014.0);
-  static constexpr auto ln2_hi = f64(0x3FE62E42FEFA39EF, 0.6931471805599453);
-  static constexpr auto ln2_lo = f64(0x3C7ABC9E3B39803F, 2.3190468138462996e-17);
   static constexpr auto threshold = f64(0x40861DA04CBAFE44, 707.7032713517042);
   static constexpr auto head = table64({
 #include "tables/generated/exp2_8_head.inc"

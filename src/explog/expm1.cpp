@@ -5,6 +5,7 @@
 // that -0 gives -0. In 32f A11 and A21 and in 64f A26 a NaN passes through.
 #include <cstdint>
 
+#include "explog/exp_reduction.h"
 #include "explog/exp_routine.h"
 #include "frame/kernel_frame.h"
 #include "frame/kernels.h"
@@ -45,18 +46,12 @@ template <> struct Grid<Lum64f, 16> {
 };
 
 template <class T> struct Expm1Constants;
-template <> struct Expm1Constants<Lum32f> {
-  static constexpr auto log2e = f32(0x3FB8AA3B, 1.4426950216293335);
-  static constexpr auto ln2_hi = f32(0x3F317218, 0.6931471824645996);
-  static constexpr auto ln2_lo = f32(0xB102E308, -1.9046542121259336e-09);
+template <> struct Expm1Constants<Lum32f> : ExpReduction<Lum32f> {
   static constexpr uint32_t clamp = 0xBFFFFFFF;
   static constexpr auto threshold = f32(0x42AD496B, 86.64339447021484);
   static constexpr auto lowest_n = f32(0xC2800000, -64.0);
 };
-template <> struct Expm1Constants<Lum64f> {
-  static constexpr auto log2e = f64(0x3FF71547652B82FE, 1.4426950408889634);
-  static constexpr auto ln2_hi = f64(0x3FE62E42FEFA39EF, 0.6931471805599453);
-  static constexpr auto ln2_lo = f64(0x3C7ABC9E3B39803F, 2.3190468138462996e-17);
+template <> struct Expm1Constants<Lum64f> : ExpReduction<Lum64f> {
   static constexpr uint64_t clamp = 0xBFFFFFFFFFFFFFFF;
   static constexpr auto threshold = f64(0x40861DA04CBAFE44, 707.7032713517042);
   static constexpr auto lowest_n = f64(0xC060000000000000, -128.0);

@@ -45,8 +45,12 @@ inline double LnTail(double t) {
           0.5);
 }
 
-// ln x of a positive finite x. With x = 2^e m and a short reciprocal c of m to six bits:  ln x = e ln 2 - ln c + ln(c m).
-inline double LnPositive(double x) {
+// ln x = hi + lo + ln(1 + v + w) of a positive finite x, w small against v and the first sum exact. With x = 2^e m and a short
+// reciprocal c of m to six bits:  hi + lo = e ln 2 - ln c,  v + w = c m - 1, below 2^-6.6.
+struct LnParts {
+  double hi, lo, v, w;
+};
+inline LnParts SplitLn(double x) {
   static constexpr auto table = table64({
 #include "tables/generated/ln_routine.inc"
   });
@@ -55,9 +59,6 @@ inline double LnPositive(double x) {
     x *= f64(0x43B0000000000000, 0x1p60);
     e = -60;
   }
-  const double near_one = x - 1;
-  if (-0.009765625 <= near_one && near_one <= 0.009765625) return near_one + near_one * near_one * LnTail(near_one);
-
   const auto word = std::bit_cast<uint64_t>(x);
   e += static_cast<double>(static_cast<int64_t>(word >> 52) - 1023);
   const auto m = std::bit_cast<double>((word & 0x000FFFFFFFFFFFFF) | 0x3FF0000000000000);
@@ -67,10 +68,15 @@ inline double LnPositive(double x) {
   const double ln2_hi = table[3 * 64 + 1], ln2_lo = table[3 * 64 + 2];
 
   const double head = (m + 2097152.0) - 2097152.0;  // 31 fraction bits: c head is exact
-  const double v = c * head - 1;
-  const double w = c * (m - head);
+  return {e * ln2_hi + hi, e * ln2_lo + lo, c * head - 1, c * (m - head)};
+}
+
+inline double LnPositive(double x) {
+  const double near_one = x - 1;
+  if (-0.009765625 <= near_one && near_one <= 0.009765625) return near_one + near_one * near_one * LnTail(near_one);
+  const auto [hi, lo, v, w] = SplitLn(x);
   const double t = v + w;
-  return ((e * ln2_hi + hi) + v) + (((e * ln2_lo + lo) + w) + t * t * LnTail(t));
+  return (hi + v) + ((lo + w) + t * t * LnTail(t));
 }
 
 // ln x in binary64 arithmetic, rounded to T at the end.
@@ -124,7 +130,7 @@ template <> struct Log10Constants<Lum64f> {
   }
 };
 
-// log10 x of a positive finite x, by the same split as LnPositive, in the arithmetic of T.
+// log10 x of a positive finite x, by the same split as SplitLn, in the arithmetic of T.
 template <class T> T Log10Positive(T x) {
   using C = Log10Constants<T>;
   using Word = std::conditional_t<sizeof(T) == 4, uint32_t, uint64_t>;

@@ -2,16 +2,15 @@
 // lanes that a vector path refuses.
 //
 // A kernel is described by a struct K derived from Kernel<Input, Output>:
-//   VectorPath(x...)     a pure function of packed inputs. Returns Packed<Output>, or Lanes<Output> with the mask of refused
-//   lanes;
-//                        with two outputs TwoValues<Output> or TwoLanes<Output>.
-//   LaneRoutine(x..., r...)  finishes one refused element: scalars in, results by reference (they hold the vector path's
-//   values).
-//                        Returns the element's LumStatus; a silent kernel's returns void, and the kernel's status is then
-//                        always 0.
-//   LargePath(x, lanes)  optional, one input: a second, slower vector path over a vector with refused lanes. Given what
-//                        VectorPath returned, it returns the same with values in the lanes that it finishes and the mask of
-//                        those that remain for the lane routine.
+//   VectorPath(x...)
+//     A pure function of packed inputs. Returns Packed<Output>, or Lanes<Output> with the mask of refused lanes; with two
+//     outputs TwoValues<Output> or TwoLanes<Output>.
+//   LaneRoutine(x..., r...)
+//     Finishes one refused element: scalars in, results by reference, which hold the vector path's values. Returns the
+//     element's LumStatus; a silent kernel's returns void, and the kernel's status is then always 0.
+//   LargePath(x, lanes)
+//     Optional, one input: a second, slower vector path over a vector with refused lanes. Given what VectorPath returned, it
+//     returns the same with values in the lanes that it finishes and the mask of those that remain for the lane routine.
 // Constants that a kernel may override: variant, vectors (in a block), fill (of inactive lanes: never to be refused).
 // A kernel with a parameter has it as a data member; all others are empty.
 #pragma once

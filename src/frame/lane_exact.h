@@ -14,8 +14,7 @@ struct Unpacked {
   int exponent;
 };
 // For x finite and not zero; the significand has its leading bit at the place of the hidden bit.
-template <Floating T>
-inline Unpacked unpack(T x) {
+template <Floating T> inline Unpacked unpack(T x) {
   using F = Format<T>;
   const uint64_t b = to_bits(magnitude(x));
   if (b >= F::hidden)
@@ -30,8 +29,7 @@ inline int leading_bit(Wide z) {
 }
 
 // Whether a magnitude goes up when the part cut off is `rest`, against half a unit of the part kept, which is odd or even.
-template <int R>
-inline bool rounds_up(bool negative, bool odd, Wide rest, Wide half) {
+template <int R> inline bool rounds_up(bool negative, bool odd, Wide rest, Wide half) {
   if (rest == 0) return false;
   if constexpr (R == rn) return rest > half || (rest == half && odd);
   else if constexpr (R == rd) return negative;
@@ -41,8 +39,7 @@ inline bool rounds_up(bool negative, bool odd, Wide rest, Wide half) {
 
 // +-z 2^exponent rounded once. z is not zero and below 2^127; its lowest bit may stand for a part below it when 64 or more bits
 // are above.
-template <int R, Floating T>
-inline T round_pack(bool negative, Wide z, int exponent) {
+template <int R, Floating T> inline T round_pack(bool negative, Wide z, int exponent) {
   using F = Format<T>;
   using Bits = typename F::Bits;
   constexpr int lowest = 1 - F::bias - F::fraction_bits;  // the exponent of the smallest denormal
@@ -80,8 +77,7 @@ inline Wide shift_right_keeping_a_trace(Wide x, int n) {
 }
 
 // The sum of two signed magnitudes with their leading bits both at place 125 and at least 20 zero bits at the low end.
-template <int R>
-inline double round_sum(bool negative_a, Wide a, int exponent_a, bool negative_b, Wide b, int exponent_b) {
+template <int R> inline double round_sum(bool negative_a, Wide a, int exponent_a, bool negative_b, Wide b, int exponent_b) {
   if (exponent_a < exponent_b || (exponent_a == exponent_b && a < b))
     return round_sum<R>(negative_b, b, exponent_b, negative_a, a, exponent_a);
   // When bits of b are lost, b is so much smaller that the leading bit of the result stays above place 123.
@@ -91,21 +87,16 @@ inline double round_sum(bool negative_a, Wide a, int exponent_a, bool negative_b
   return round_pack<R, double>(negative_a, a - moved, exponent_a);
 }
 
-template <Floating T>
-inline bool is_negative(T x) {
-  return (to_bits(x) & Format<T>::sign) != 0;
-}
+template <Floating T> inline bool is_negative(T x) { return (to_bits(x) & Format<T>::sign) != 0; }
 // The sum of two numbers at least one of which is zero.
-template <int R>
-inline double sum_with_zero(double a, double b) {
+template <int R> inline double sum_with_zero(double a, double b) {
   if (a != 0) return a;
   if (b != 0 || is_negative(a) == is_negative(b)) return b;
   return R == rd ? -0.0 : 0.0;
 }
 
 // a b + c with one rounding.
-template <int R>
-[[gnu::noinline]] double exact_fma(double a, double b, double c) {
+template <int R> [[gnu::noinline]] double exact_fma(double a, double b, double c) {
   if (is_nan(a) || is_nan(b) || is_nan(c)) return nan_of(a, b, c);
   const bool negative = is_negative(a) != is_negative(b);
   if (is_infinite(a) || is_infinite(b)) {
@@ -125,14 +116,12 @@ template <int R>
   return round_sum<R>(negative, product << up, exponent, is_negative(c), Wide{significand_c} << 73, exponent_c - 73);
 }
 
-template <int R>
-[[gnu::noinline]] double exact_mul(double a, double b) {
+template <int R> [[gnu::noinline]] double exact_mul(double a, double b) {
   if (is_nan(a) || is_nan(b)) return nan_of(a, b);
   return exact_fma<R>(a, b, is_negative(a) != is_negative(b) ? -0.0 : 0.0);
 }
 
-template <int R>
-[[gnu::noinline]] double exact_div(double a, double b) {
+template <int R> [[gnu::noinline]] double exact_div(double a, double b) {
   if (is_nan(a) || is_nan(b) || a == 0 || b == 0 || is_infinite(a) || is_infinite(b)) return with_nan(a / b, a, b);
   const auto [significand_a, exponent_a] = unpack(a);
   const auto [significand_b, exponent_b] = unpack(b);
@@ -143,8 +132,7 @@ template <int R>
 }
 
 // a 2^floor(b), with the special values of the instruction.
-template <int R, Floating T>
-[[gnu::noinline]] T exact_scalef(T a, T b) {
+template <int R, Floating T> [[gnu::noinline]] T exact_scalef(T a, T b) {
   if (is_nan(a)) {
     const bool was_quiet = (to_bits(a) & Format<T>::quiet) != 0;
     if (was_quiet && is_infinite(b)) return b > 0 ? b : T{0};  // a factor of infinity or zero prevails over a quiet NaN

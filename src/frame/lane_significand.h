@@ -6,13 +6,11 @@
 namespace lum::lane {
 
 // |x| = 1.fraction * 2^exponent for x finite and not zero, denormals included.
-template <Floating T>
-struct Normalized {
+template <Floating T> struct Normalized {
   UnsignedOf<T> fraction;
   int exponent;
 };
-template <Floating T>
-LUM_INLINE Normalized<T> normalized(T x) {
+template <Floating T> LUM_INLINE Normalized<T> normalized(T x) {
   using F = Format<T>;
   const auto b = to_bits(magnitude(x));
   const bool denormal = b < F::hidden;
@@ -23,8 +21,7 @@ LUM_INLINE Normalized<T> normalized(T x) {
 }
 
 // floor(log2 |x|); -infinity for a zero, +infinity for an infinity.
-template <Floating T>
-LUM_INLINE T getexp(T x) {
+template <Floating T> LUM_INLINE T getexp(T x) {
   using F = Format<T>;
   const auto b = to_bits(magnitude(x));
   const T exponent = static_cast<T>(normalized(x).exponent);
@@ -35,8 +32,7 @@ LUM_INLINE T getexp(T x) {
 
 // The significand in the interval of imm bits 0-1, with the sign of bits 2-3. Zeros and infinities count as 1.0; -0 counts as
 // negative for its sign, but gives no NaN.
-template <int imm, Floating T>
-LUM_INLINE T getmant(T x) {
+template <int imm, Floating T> LUM_INLINE T getmant(T x) {
   using F = Format<T>;
   using Bits = typename F::Bits;
   constexpr int interval = imm & 3;
@@ -57,20 +53,17 @@ LUM_INLINE T getmant(T x) {
 }
 
 // floor(b) for use as a count of doublings, with b taken to the nearest end of [-limit, limit]; a NaN goes to the low end.
-template <int limit, Floating T>
-LUM_INLINE int limited_floor(T b) {
+template <int limit, Floating T> LUM_INLINE int limited_floor(T b) {
   const T low = b > T{-limit} ? b : T{-limit};
   const T limited = low < T{limit} ? low : T{limit};
   const int truncated = static_cast<int>(limited);
   return truncated - (static_cast<T>(truncated) > limited);
 }
 // a 2^floor(b) with one rounding. A float times 2^n, |n| <= 400, is exact in double, and beyond 400 nothing changes.
-template <int R>
-LUM_INLINE float quick_scalef(float a, float b) {
+template <int R> LUM_INLINE float quick_scalef(float a, float b) {
   return round_to_float<R>(static_cast<double>(a) * power_of_two<double>(limited_floor<400>(b)));
 }
-template <int R>
-LUM_INLINE double quick_scalef(double a, double b) {
+template <int R> LUM_INLINE double quick_scalef(double a, double b) {
   const int64_t n = limited_floor<5000>(b);
   return from_bits<double>(to_bits(a) + (a == 0 ? 0 : static_cast<uint64_t>(n) << 52));
 }
@@ -87,8 +80,7 @@ LUM_INLINE double scalef_doubt(double a, double b) {
 
 // x rounded to a multiple of 2^-M, M in imm bits 4-7. Adding the power of two whose last bit is worth 2^-M rounds a smaller
 // magnitude to nearest even; the directed modes step back when that went the wrong way. Larger magnitudes are on the grid.
-template <int imm, Floating T>
-LUM_INLINE T rndscale(T x) {
+template <int imm, Floating T> LUM_INLINE T rndscale(T x) {
   using F = Format<T>;
   using Bits = typename F::Bits;
   constexpr int M = (imm >> 4) & 15;
@@ -108,8 +100,7 @@ LUM_INLINE T rndscale(T x) {
   return blend(mask_where<T>(m < grid_is_coarser_below), from_bits<T>(to_bits(rounded) | sign), from_bits<T>(kept));
 }
 // x - rndscale<imm>(x) in the rounding of imm; an infinity of either sign leaves +0.
-template <int imm, Floating T>
-LUM_INLINE T reduce(T x) {
+template <int imm, Floating T> LUM_INLINE T reduce(T x) {
   constexpr int R = (imm & 4) ? rn : imm & 3;
   const T rest = sub<R>(x, rndscale<imm>(x));
   return from_bits<T>(to_bits(rest) & ~mask_where<T>(magnitude(x) > from_bits<T>(Format<T>::infinity - 1)));
@@ -117,8 +108,7 @@ LUM_INLINE T reduce(T x) {
 
 // Whether the class of x is in the set imm: bit 0 quiet NaN, 1 +0, 2 -0, 3 +infinity, 4 -infinity, 5 denormal, 6 negative
 // finite other than -0, 7 signalling NaN.
-template <int imm, Floating T>
-LUM_INLINE bool fpclass(T x) {
+template <int imm, Floating T> LUM_INLINE bool fpclass(T x) {
   using F = Format<T>;
   const auto b = to_bits(x);
   const auto m = to_bits(magnitude(x));

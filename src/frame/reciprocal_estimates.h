@@ -19,13 +19,11 @@ inline constexpr Line reciprocal_root_lines[64] = {
 };
 
 // |x| = 1.fraction * 2^exponent for x finite and not zero.
-template <Floating T>
-struct Parts {
+template <Floating T> struct Parts {
   UnsignedOf<T> fraction;
   int exponent;
 };
-template <Floating T>
-LUM_INLINE Parts<T> parts(T x) {
+template <Floating T> LUM_INLINE Parts<T> parts(T x) {
   using F = Format<T>;
   const auto b = to_bits(magnitude(x));
   if (b >= F::hidden) return {b & F::fraction, static_cast<int>(b >> F::fraction_bits) - F::bias};
@@ -37,8 +35,7 @@ LUM_INLINE uint32_t on_line(const Line& line, int scale_bits, uint32_t t) {
   return ((line.a << scale_bits) + 512 * line.b - line.b * (t & 1023)) >> 9;
 }
 
-template <Floating T>
-inline T rcp14(T x) {
+template <Floating T> inline T rcp14(T x) {
   using F = Format<T>;
   using Bits = typename F::Bits;
   const Bits sign = to_bits(x) & F::sign;
@@ -60,8 +57,7 @@ inline T rcp14(T x) {
   return from_bits<T>(sign | scaled >> (1 - field));  // a denormal; no bit set is lost
 }
 
-template <Floating T>
-inline T rsqrt14(T x) {
+template <Floating T> inline T rsqrt14(T x) {
   using F = Format<T>;
   using Bits = typename F::Bits;
   const Bits b = to_bits(x);

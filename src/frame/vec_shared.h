@@ -7,82 +7,44 @@
 namespace lum {
 inline namespace LUM_LAYER {
 
-template <Floating T>
-LUM_INLINE Vec<T> operator+(Vec<T> a, Vec<T> b) {
-  return add(a, b);
-}
-template <Floating T>
-LUM_INLINE Vec<T> operator-(Vec<T> a, Vec<T> b) {
-  return sub(a, b);
-}
-template <Floating T>
-LUM_INLINE Vec<T> operator*(Vec<T> a, Vec<T> b) {
-  return mul(a, b);
-}
+template <Floating T> LUM_INLINE Vec<T> operator+(Vec<T> a, Vec<T> b) { return add(a, b); }
+template <Floating T> LUM_INLINE Vec<T> operator-(Vec<T> a, Vec<T> b) { return sub(a, b); }
+template <Floating T> LUM_INLINE Vec<T> operator*(Vec<T> a, Vec<T> b) { return mul(a, b); }
 
 // Bitwise operations on the patterns of floating-point lanes.
-template <Floating T>
-LUM_INLINE Vec<T> operator&(Vec<T> a, Vec<UnsignedOf<T>> b) {
-  return as_float(bits(a) & b);
-}
-template <Floating T>
-LUM_INLINE Vec<T> operator|(Vec<T> a, Vec<UnsignedOf<T>> b) {
-  return as_float(bits(a) | b);
-}
-template <Floating T>
-LUM_INLINE Vec<T> operator^(Vec<T> a, Vec<UnsignedOf<T>> b) {
-  return as_float(bits(a) ^ b);
-}
+template <Floating T> LUM_INLINE Vec<T> operator&(Vec<T> a, Vec<UnsignedOf<T>> b) { return as_float(bits(a) & b); }
+template <Floating T> LUM_INLINE Vec<T> operator|(Vec<T> a, Vec<UnsignedOf<T>> b) { return as_float(bits(a) | b); }
+template <Floating T> LUM_INLINE Vec<T> operator^(Vec<T> a, Vec<UnsignedOf<T>> b) { return as_float(bits(a) ^ b); }
 
-template <Floating T>
-LUM_INLINE Vec<T> abs(Vec<T> a) {
-  return a & all(static_cast<UnsignedOf<T>>(~sign_bit<T>));
-}
-template <Floating T>
-LUM_INLINE Vec<T> negate(Vec<T> a) {
-  return a ^ all(sign_bit<T>);
-}
+template <Floating T> LUM_INLINE Vec<T> abs(Vec<T> a) { return a & all(static_cast<UnsignedOf<T>>(~sign_bit<T>)); }
+template <Floating T> LUM_INLINE Vec<T> negate(Vec<T> a) { return a ^ all(sign_bit<T>); }
 // The sign bit of a, the other bits zero.
-template <Floating T>
-LUM_INLINE Vec<UnsignedOf<T>> sign_of(Vec<T> a) {
-  return bits(a) & all(sign_bit<T>);
-}
+template <Floating T> LUM_INLINE Vec<UnsignedOf<T>> sign_of(Vec<T> a) { return bits(a) & all(sign_bit<T>); }
 
 // v with its sign bit set where that of x is.
-template <Floating T>
-LUM_INLINE Vec<T> or_sign(Vec<T> x, Vec<T> v) {
+template <Floating T> LUM_INLINE Vec<T> or_sign(Vec<T> x, Vec<T> v) {
   return as_float(ternary<0xF8>(bits(v), bits(x), all(sign_bit<T>)));
 }
 // v with its sign turned over where x is negative.
-template <Floating T>
-LUM_INLINE Vec<T> xor_sign(Vec<T> x, Vec<T> v) {
+template <Floating T> LUM_INLINE Vec<T> xor_sign(Vec<T> x, Vec<T> v) {
   return as_float(ternary<0x78>(bits(v), bits(x), all(sign_bit<T>)));
 }
 
 // c0 + x (c1 + x (c2 + ...)), one fused step a coefficient.
-template <Floating T>
-LUM_INLINE Vec<T> horner(Vec<T>, T c0) {
-  return all(c0);
-}
-template <Floating T, class... Rest>
-LUM_INLINE Vec<T> horner(Vec<T> x, T c0, Rest... rest) {
+template <Floating T> LUM_INLINE Vec<T> horner(Vec<T>, T c0) { return all(c0); }
+template <Floating T, class... Rest> LUM_INLINE Vec<T> horner(Vec<T> x, T c0, Rest... rest) {
   return fma(horner(x, rest...), x, all(c0));
 }
 
 // a + b = sum + error exactly, for any two finite numbers without overflow.
-template <Floating T>
-struct Sum {
-  Vec<T> sum, error;
-};
-template <Floating T>
-LUM_INLINE Sum<T> two_sum(Vec<T> a, Vec<T> b) {
+template <Floating T> struct Sum { Vec<T> sum, error; };
+template <Floating T> LUM_INLINE Sum<T> two_sum(Vec<T> a, Vec<T> b) {
   const auto s = a + b;
   const auto b_part = s - a;
   return {s, (a - (s - b_part)) + (b - b_part)};
 }
 // The same for |a| >= |b|.
-template <Floating T>
-LUM_INLINE Sum<T> fast_two_sum(Vec<T> a, Vec<T> b) {
+template <Floating T> LUM_INLINE Sum<T> fast_two_sum(Vec<T> a, Vec<T> b) {
   const auto s = a + b;
   return {s, b - (s - a)};
 }

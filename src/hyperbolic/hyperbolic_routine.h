@@ -6,33 +6,12 @@
 #include <cstdint>
 #include <limits>
 
+#include "frame/double_word.h"
 #include "frame/literals.h"
 #include "frame/types.h"
 #include "tables/table.h"
 
 namespace lum {
-
-// A number in two parts.
-struct Parts {
-  double hi, lo;
-};
-
-// hi + lo = a + b exactly.
-inline Parts ExactSum(double a, double b) {
-  const double sum = a + b;
-  const double b_part = sum - a;
-  return {sum, (a - (sum - b_part)) + (b - b_part)};
-}
-
-// hi + lo = a b exactly, by the products of half significands.
-inline Parts ExactProduct(double a, double b) {
-  constexpr auto splitter = f64(0x41A0000002000000, 134217729.0);
-  const double a_shifted = a * splitter, b_shifted = b * splitter;
-  const double a_high = a_shifted - (a_shifted - a), b_high = b_shifted - (b_shifted - b);
-  const double a_low = a - a_high, b_low = b - b_high;
-  const double product = a * b;
-  return {product, ((a_high * b_high - product) + a_high * b_low + a_low * b_high) + a_low * b_low};
-}
 
 // m = count ln(2)/64 + q for 0 <= m < 711.
 struct ScalarReduced {
@@ -71,27 +50,27 @@ inline double HalfExponential(double m) {
 
 // With m = n ln 2 + q:  2^(n-1) + 2^(-n-1), the difference of the two, and q.
 struct SumAndDifference {
-  Parts sum, difference;
+  DoubleWord sum, difference;
   double q;
 };
 inline SumAndDifference HalfPowers(double m) {
   const auto [count, q] = ReduceBySixtyFourths(m);
   const auto i = static_cast<size_t>(count & 63);
   const double up = PowerOfTwo((count >> 6) - 1), down = PowerOfTwo(-(count >> 6) - 2);
-  const Parts plus{exp2_64_split[2 * i] * up, exp2_64_split[2 * i + 1] * up};
-  const Parts minus{exp2_64_split[2 * (64 - i)] * down, exp2_64_split[2 * (64 - i) + 1] * down};
-  const Parts sum = ExactSum(plus.hi, minus.hi);
-  const Parts difference = ExactSum(plus.hi, -minus.hi);
+  const DoubleWord plus{exp2_64_split[2 * i] * up, exp2_64_split[2 * i + 1] * up};
+  const DoubleWord minus{exp2_64_split[2 * (64 - i)] * down, exp2_64_split[2 * (64 - i) + 1] * down};
+  const DoubleWord sum = ExactSum(plus.hi, minus.hi);
+  const DoubleWord difference = ExactSum(plus.hi, -minus.hi);
   return {{sum.hi, sum.lo + (plus.lo + minus.lo)}, {difference.hi, difference.lo + (plus.lo - minus.lo)}, q};
 }
 
 // base cosh q + factor sinh q for |q| up to ln(2)/128.
-inline double Turn(const Parts& base, const Parts& factor, double q) {
+inline double Turn(const DoubleWord& base, const DoubleWord& factor, double q) {
   const double q2 = q * q;
   const double sinh_rest = q * (q2 * (1.0 / 6 + q2 * (1.0 / 120)));
   const double cosh_rest = q2 * (0.5 + q2 * (1.0 / 24 + q2 * (1.0 / 720)));
-  const Parts product = ExactProduct(factor.hi, q);
-  const Parts head = ExactSum(base.hi, product.hi);
+  const DoubleWord product = ExactProduct(factor.hi, q);
+  const DoubleWord head = ExactSum(base.hi, product.hi);
   const double rest = (factor.hi * sinh_rest + base.hi * cosh_rest) + (factor.lo * q + base.lo);
   return head.hi + (head.lo + (product.lo + rest));
 }

@@ -5,27 +5,10 @@
 #include <cmath>
 #include <cstdint>
 
+#include "frame/double_word.h"
 #include "invcircular/atan2_constants.h"
 
 namespace lum {
-
-// a b = product + error exactly, by the halves of the factors; no overflow or underflow near 1.
-struct ScalarPair {
-  double head, tail;
-};
-inline ScalarPair ExactProduct(double a, double b) {
-  constexpr double splitter = 134217729.0;  // 2^27 + 1
-  const double as = a * splitter, bs = b * splitter;
-  const double ah = as - (as - a), bh = bs - (bs - b);
-  const double al = a - ah, bl = b - bh;
-  const double p = a * b;
-  return {p, ((ah * bh - p) + ah * bl + al * bh) + al * bl};
-}
-inline ScalarPair ExactSum(double a, double b) {
-  const double s = a + b;
-  const double part = s - a;
-  return {s, (a - (s - part)) + (b - part)};
-}
 
 // The significand of a positive number in [1, 2) and its exponent.
 struct ScaledNumber {
@@ -44,7 +27,7 @@ inline ScaledNumber Scale(double a) {
 }
 
 // The angle of (x, y), both positive and finite, with y / x within 2^-63 to 2^63.
-inline ScalarPair ScalarAngle(double y, double x) {
+inline DoubleWord ScalarAngle(double y, double x) {
   using C = IntervalConstants<Lum64f>;
   size_t i = 0;
   while (i < 4 && y > C::thresholds[i] * x) ++i;
@@ -54,22 +37,22 @@ inline ScalarPair ScalarAngle(double y, double x) {
     y = -old_x;
   }
   const double c = C::centres[i];
-  const ScalarPair cx = ExactProduct(c, x), cy = ExactProduct(c, y);
-  const ScalarPair n = ExactSum(y, -cx.head), d = ExactSum(x, cy.head);
-  const double t = n.head / d.head;
-  const ScalarPair td = ExactProduct(t, d.head);
-  const double rest = ((n.head - td.head) - td.tail) + (n.tail - cx.tail) - t * (d.tail + cy.tail);
+  const DoubleWord cx = ExactProduct(c, x), cy = ExactProduct(c, y);
+  const DoubleWord n = ExactSum(y, -cx.hi), d = ExactSum(x, cy.hi);
+  const double t = n.hi / d.hi;
+  const DoubleWord td = ExactProduct(t, d.hi);
+  const double rest = ((n.hi - td.hi) - td.lo) + (n.lo - cx.lo) - t * (d.lo + cy.lo);
   const double s = t * t;
   double p = 0;
   for (size_t k = C::polynomial_size; k-- > 0;) p = p * s + C::polynomial[k];
-  const ScalarPair head = ExactSum(C::heads[i], t);
-  return {head.head, head.tail + (C::tails[i] + rest / d.head + t * s * p)};
+  const DoubleWord head = ExactSum(C::heads[i], t);
+  return {head.hi, head.lo + (C::tails[i] + rest / d.hi + t * s * p)};
 }
 
 template <class T> T Atan2Magnitude(double ay, double ax, bool x_negative) {
   using C = IntervalConstants<Lum64f>;
   constexpr double infinity = __builtin_inf();
-  ScalarPair r{0, 0};
+  DoubleWord r{0, 0};
   if (ay == 0) {
     r = {0, 0};
   } else if (ax == 0) {
@@ -87,9 +70,9 @@ template <class T> T Atan2Magnitude(double ay, double ax, bool x_negative) {
       r = ScalarAngle(y.significand * scale, x.significand);
     }
   }
-  if (!x_negative) return static_cast<T>(r.head + r.tail);
-  const ScalarPair head = ExactSum(C::pi, -r.head);
-  return static_cast<T>(head.head + (head.tail + (C::pi_tail - r.tail)));
+  if (!x_negative) return static_cast<T>(r.hi + r.lo);
+  const DoubleWord head = ExactSum(C::pi, -r.hi);
+  return static_cast<T>(head.hi + (head.lo + (C::pi_tail - r.lo)));
 }
 
 template <class T> void Atan2Routine(T y, T x, T& result) {

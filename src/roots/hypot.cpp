@@ -8,36 +8,22 @@
 #include <type_traits>
 #include <utility>
 
+#include "frame/double_word.h"
 #include "frame/kernel_frame.h"
 #include "frame/kernels.h"
+#include "roots/coupled_root.h"
 
 namespace lum {
 namespace {
 
-// a + b = sum + error, and a a = sum + error, exactly.
-struct DoubleWord {
-  double sum, error;
-};
-DoubleWord Square(double a) {
-  const double w = a * 134217729.0;  // 2^27 + 1: the head keeps 26 bits
-  const double head = w - (w - a);
-  const double tail = a - head;
-  const double p = a * a;
-  return {p, ((head * head - p) + 2.0 * head * tail) + tail * tail};
-}
-DoubleWord FastSum(double a, double b) {
-  const double s = a + b;
-  return {s, b - (s - a)};
-}
-
 // The root of m^2 + n^2 for n <= m, m near 1. One step with the exact residual makes the result correct to its last bits.
 double RootOfSquares(double m, double n) {
-  const auto p = Square(m), q = Square(n);
-  const auto s = FastSum(p.sum, q.sum);
-  const double tail = s.error + (p.error + q.error);
-  const double root = std::sqrt(s.sum);
-  const auto r = Square(root);
-  return root + ((s.sum - r.sum) - r.error + tail) / (root + root);
+  const auto p = ExactProduct(m, m), q = ExactProduct(n, n);
+  const auto s = FastSum(p.hi, q.hi);
+  const double tail = s.lo + (p.lo + q.lo);
+  const double root = std::sqrt(s.hi);
+  const auto r = ExactProduct(root, root);
+  return root + ((s.hi - r.hi) - r.lo + tail) / (root + root);
 }
 
 // The exponent field of the power of 2 that takes a finite m to [4, 8), and one below 2^-998 at least to 2^-72, far from
@@ -96,17 +82,6 @@ template <class T> LUM_INLINE Squares<T> ExactSquares(Vec<T> a, Vec<T> b) {
 }
 template <class T> LUM_INLINE Vec<T> PlainSquares(Vec<T> a, Vec<T> b) { return fma(a, a, b * b); }
 
-// t near the root of s, h near half its reciprocal.
-template <class T> struct Roots { Vec<T> t, h; };
-template <class T> LUM_INLINE Roots<T> Start(Vec<T> s) {
-  const auto y = rsqrt14(s);
-  return {s * y, all(T(0.5)) * y};
-}
-template <class T> LUM_INLINE Roots<T> NewtonStep(Roots<T> a) {
-  const auto e = fnma(a.t, a.h, all(T(0.5)));
-  return {fma(a.t, e, a.t), fma(a.h, e, a.h)};
-}
-
 // Squares that are zero, denormal, infinite or NaN are refused, and nothing else is looked at.
 struct A11_32f : HypotKernel<Lum32f> {
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> a, Vec<Lum32f> b) {
@@ -116,23 +91,23 @@ struct A11_32f : HypotKernel<Lum32f> {
   }
 };
 
-template <class T, int newton_steps, bool residual_step> struct Plain : HypotKernel<T> {
+template <class T, int steps, bool residual_step> struct Plain : HypotKernel<T> {
   static LUM_INLINE Lanes<T> VectorPath(Vec<T> a, Vec<T> b) {
     const auto s = PlainSquares(a, b);
-    auto r = Start(s);
-    for (int i = 0; i < newton_steps; ++i) r = NewtonStep(r);
-    if constexpr (residual_step) return {fma(fnma(r.t, r.t, s), r.h, r.t), OutOfRange(a, b)};
-    else return {r.t, OutOfRange(a, b)};
+    auto r = Start(s, rsqrt14(s));
+    for (int i = 0; i < steps; ++i) r = CoupledStep(r);
+    if constexpr (residual_step) return {HeronStep(s, r), OutOfRange(a, b)};
+    else return {r.g, OutOfRange(a, b)};
   }
 };
 
-template <class T, int newton_steps> struct Exact : HypotKernel<T> {
+template <class T, int steps> struct Exact : HypotKernel<T> {
   static LUM_INLINE Lanes<T> VectorPath(Vec<T> a, Vec<T> b) {
     const auto s = ExactSquares(a, b);
-    auto r = Start(s.sum);
-    for (int i = 0; i < newton_steps; ++i) r = NewtonStep(r);
-    const auto d = fnma(r.t, r.t, s.sum);
-    return {fma(d + s.rest, r.h, r.t), OutOfRange(a, b)};
+    auto r = Start(s.sum, rsqrt14(s.sum));
+    for (int i = 0; i < steps; ++i) r = CoupledStep(r);
+    const auto d = fnma(r.g, r.g, s.sum);
+    return {fma(d + s.rest, r.h, r.g), OutOfRange(a, b)};
   }
 };
 

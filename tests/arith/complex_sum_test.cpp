@@ -1,4 +1,9 @@
 // Add, Sub and Conj of complex numbers.
+#include <cstring>
+#include <limits>
+#include <type_traits>
+
+#include "frame/entry_table.h"
 #include "support/cases.h"
 #include "support/recorder.h"
 
@@ -68,6 +73,32 @@ TEST(ComplexSums, OverflowBesideAZero) {
                            {{0, max}, {1, -max}, {-1, inf}}});
   ExpectCases("Add_64fc", {{{max, 0}, {max, 1}, {inf, 1}, lumStsOverflow}});
   ExpectCases("Sub_32fc", {{{max, 0}, {-max, 1}, {inf, -1}, lumStsOverflow}});
+}
+
+// The lowest slot holds a kernel that adds the parts as they stand and reports nothing; no exported name reaches it.
+template <class E> void ExpectPlainSum(const support::Library& library, Row row, E x, E y) {
+  const FunctionRecord& record = library.Symbol<const FunctionRecord*()>("lumTestEntryTable")()[row];
+  const auto kernel = [](const KernelPointer& slot) {
+    if constexpr (std::is_same_v<E, Lum32fc>) return slot.TwoInputs_32fc;
+    else return slot.TwoInputs_64fc;
+  };
+  E reported{}, plain{};
+  EXPECT_EQ(kernel(record.entryHigh)(&x, &y, &reported, 1), lumStsOverflow);
+  EXPECT_EQ(kernel(record.entryLow)(&x, &y, &plain, 1), lumStsOk);
+  EXPECT_EQ(std::memcmp(&reported, &plain, sizeof plain), 0);
+}
+TEST(ComplexSums, LowestSlotReportsNothing) {
+  constexpr float huge_32 = std::numeric_limits<float>::max();
+  constexpr double huge_64 = std::numeric_limits<double>::max();
+  for (const std::string& name : RunnableLibraries()) {
+    std::string reason;
+    const support::Library* library = TestLibrary(name, "_recording", reason);
+    ASSERT_NE(library, nullptr) << reason;
+    ExpectPlainSum<Lum32fc>(*library, Row_Add_32fc, {huge_32, 1}, {huge_32, 2});
+    ExpectPlainSum<Lum64fc>(*library, Row_Add_64fc, {huge_64, 1}, {huge_64, 2});
+    ExpectPlainSum<Lum32fc>(*library, Row_Sub_32fc, {huge_32, 1}, {-huge_32, 2});
+    ExpectPlainSum<Lum64fc>(*library, Row_Sub_64fc, {huge_64, 1}, {-huge_64, 2});
+  }
 }
 
 // A refused element that reports nothing calls no hook.

@@ -10,12 +10,6 @@
 
 namespace lum::test {
 
-inline Arguments1 WithNegatives(Arguments1 x) {
-  const size_t count = x.size();
-  for (size_t i = 0; i < count; ++i) x.push_back(-x[i]);
-  return x;
-}
-
 // The finite numbers of each type that lie nearest to a multiple of pi/2 in relation to their size, and others close to one.
 inline Arguments1 HardestFloats() {
   Arguments1 x = Around(16367173 * 0x1p72, true, 3);

@@ -8,22 +8,15 @@
 namespace lum_test {
 namespace {
 
-template <class T>
-using BitsOf = std::conditional_t<sizeof(T) == 4, uint32_t, uint64_t>;
+template <class T> using BitsOf = std::conditional_t<sizeof(T) == 4, uint32_t, uint64_t>;
 
-template <class T>
-constexpr int fraction_bits = std::numeric_limits<T>::digits - 1;
-template <class T>
-constexpr int bias = std::numeric_limits<T>::max_exponent - 1;
+template <class T> constexpr int fraction_bits = std::numeric_limits<T>::digits - 1;
+template <class T> constexpr int bias = std::numeric_limits<T>::max_exponent - 1;
 
-template <class T>
-uint64_t bits_of(T x) {
-  return std::bit_cast<BitsOf<T>>(x);
-}
+template <class T> uint64_t bits_of(T x) { return std::bit_cast<BitsOf<T>>(x); }
 
 // Zero, the ends of the range, the neighbourhoods of small numbers, halves and powers of two; infinities and NaNs.
-template <class T>
-std::vector<uint64_t> floating_specials() {
+template <class T> std::vector<uint64_t> floating_specials() {
   using Limits = std::numeric_limits<T>;
   const uint64_t hidden = uint64_t{1} << fraction_bits<T>;
   const uint64_t infinity = bits_of(Limits::infinity());
@@ -47,8 +40,7 @@ std::vector<uint64_t> floating_specials() {
 }
 
 // A few of them, for operations of three operands.
-template <class T>
-std::vector<uint64_t> floating_specials_in_brief() {
+template <class T> std::vector<uint64_t> floating_specials_in_brief() {
   const uint64_t hidden = uint64_t{1} << fraction_bits<T>;
   const uint64_t infinity = bits_of(std::numeric_limits<T>::infinity());
   std::vector<uint64_t> values = {0, 1, hidden - 1, hidden, infinity - 1, infinity, infinity + hidden / 2 + 5, infinity + 9};
@@ -142,8 +134,7 @@ uint64_t InputGenerator::integer_lane(int width) {
 
 // One lane: 0 any bits; 1 an exponent near zero; 2 few bits in the significand; 3 close to a denormal or tiny; 4 near the
 // largest; 5 on or beside a multiple of a power of two.
-template <class T>
-uint64_t InputGenerator::floating_lane(int manner) {
+template <class T> uint64_t InputGenerator::floating_lane(int manner) {
   constexpr int F = fraction_bits<T>;
   constexpr uint64_t fraction_mask = (uint64_t{1} << F) - 1;
   // Drawn one after the other, so that every compiler draws them in the same order.

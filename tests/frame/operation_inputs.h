@@ -23,10 +23,8 @@ class InputGenerator {
   uint64_t below(uint64_t n) { return random_() % n; }
   uint64_t special(Element element);
   uint64_t integer_lane(int width);
-  template <class T>
-  uint64_t floating_lane(int manner);
-  template <class T>
-  void fill_floating_lanes(int lane, const std::vector<Element>& elements, Operands& operands);
+  template <class T> uint64_t floating_lane(int manner);
+  template <class T> void fill_floating_lanes(int lane, const std::vector<Element>& elements, Operands& operands);
 
   std::mt19937_64 random_;
 };

@@ -12,24 +12,18 @@ namespace {
 
 using namespace lum;
 
-template <Lane T>
-constexpr Element element_of() {
+template <Lane T> constexpr Element element_of() {
   if constexpr (std::same_as<T, float>) return Element::f32;
   else if constexpr (std::same_as<T, double>) return Element::f64;
   else return sizeof(T) == 4 ? Element::integer32 : Element::integer64;
 }
 
 // A lane count from 0 to all, taken from the operands' mask.
-template <Lane T>
-struct Count {
-  int value;
-};
+template <Lane T> struct Count { int value; };
 
 // How an operand of each kind is read, and the element type of its vector.
-template <class Operand>
-struct Reader;
-template <Lane T>
-struct Reader<Vec<T>> {
+template <class Operand> struct Reader;
+template <Lane T> struct Reader<Vec<T>> {
   static constexpr Element element = element_of<T>();
   static Vec<T> read(const Operands& operands, std::size_t i) {
     T lanes[lanes_of<T>];
@@ -37,54 +31,41 @@ struct Reader<Vec<T>> {
     return load(lanes);
   }
 };
-template <Lane T>
-struct Reader<Mask<T>> {
+template <Lane T> struct Reader<Mask<T>> {
   static constexpr Element element = Element::none;
   static Mask<T> read(const Operands& operands, std::size_t) { return mask_of<T>(operands.mask); }
 };
-template <Lane T>
-struct Reader<Count<T>> {
+template <Lane T> struct Reader<Count<T>> {
   static constexpr Element element = Element::none;
   static Count<T> read(const Operands& operands, std::size_t) {
     return {static_cast<int>(operands.mask % (static_cast<uint32_t>(lanes_of<T>) + 1))};
   }
 };
-template <Lane T>
-struct Reader<const T*> {
+template <Lane T> struct Reader<const T*> {
   static constexpr Element element = element_of<T>();
   static const T* read(const Operands& operands, std::size_t i) { return reinterpret_cast<const T*>(operands.vector[i].bytes); }
 };
 
-template <Lane T>
-void write(RawVector& to, Vec<T> v) {
+template <Lane T> void write(RawVector& to, Vec<T> v) {
   T lanes[lanes_of<T>];
   store(lanes, v);
   std::memcpy(to.bytes, lanes, sizeof lanes);
 }
-template <Lane T>
-void put(Outcome& outcome, Vec<T> v) {
-  write(outcome.vector[0], v);
-}
-template <Lane T>
-void put(Outcome& outcome, Pair<T> pair) {
+template <Lane T> void put(Outcome& outcome, Vec<T> v) { write(outcome.vector[0], v); }
+template <Lane T> void put(Outcome& outcome, Pair<T> pair) {
   write(outcome.vector[0], pair.even);
   write(outcome.vector[1], pair.odd);
 }
-template <Floating T>
-void put(Outcome& outcome, Sum<T> sum) {
+template <Floating T> void put(Outcome& outcome, Sum<T> sum) {
   write(outcome.vector[0], sum.sum);
   write(outcome.vector[1], sum.error);
 }
 void put(Outcome& outcome, uint32_t bits) { std::memcpy(outcome.vector[0].bytes, &bits, sizeof bits); }
 void put(Outcome& outcome, bool truth) { put(outcome, static_cast<uint32_t>(truth)); }
-template <Lane T>
-void put(Outcome& outcome, Mask<T> mask) {
-  put(outcome, to_bits(mask));
-}
+template <Lane T> void put(Outcome& outcome, Mask<T> mask) { put(outcome, to_bits(mask)); }
 
 // A captureless function object as an operation on raw vectors.
-template <class F, class... Kinds>
-void run_raw(const Operands& operands, Outcome& outcome) {
+template <class F, class... Kinds> void run_raw(const Operands& operands, Outcome& outcome) {
   outcome = {};
   [&]<std::size_t... i>(std::index_sequence<i...>) { put(outcome, F{}(Reader<Kinds>::read(operands, i)...)); }
   (std::index_sequence_for<Kinds...>{});
@@ -92,20 +73,15 @@ void run_raw(const Operands& operands, Outcome& outcome) {
 
 class Builder {
  public:
-  template <class... Kinds, class F>
-  void add(const std::string& name, F, bool arithmetic = false) {
+  template <class... Kinds, class F> void add(const std::string& name, F, bool arithmetic = false) {
     const std::string vocabulary = name.substr(0, name.starts_with("operator") ? name.find(' ') : name.find_first_of("< "));
     operations.push_back({name, vocabulary, {Reader<Kinds>::element...}, arithmetic, run_raw<F, Kinds...>});
   }
-  template <class... Kinds, class F>
-  void add_arithmetic(const std::string& name, F f) {
-    add<Kinds...>(name, f, true);
-  }
+  template <class... Kinds, class F> void add_arithmetic(const std::string& name, F f) { add<Kinds...>(name, f, true); }
   std::vector<Operation> operations;
 };
 
-template <Lane T>
-std::string type_name() {
+template <Lane T> std::string type_name() {
   const std::string bits = sizeof(T) == 4 ? "32" : "64";
   return (std::same_as<T, float> || std::same_as<T, double> ? " f" : std::is_signed_v<T> ? " i" : " u") + bits;
 }
@@ -116,17 +92,14 @@ std::string hexadecimal(int n) {
 }
 
 // For each of the immediates calls f with it as a compile-time constant, and its text.
-template <int... imm, class F>
-void for_each_immediate(F f) {
+template <int... imm, class F> void for_each_immediate(F f) {
   (f(std::integral_constant<int, imm>{}, "<" + hexadecimal(imm) + ">"), ...);
 }
-template <class F, int... imm>
-void for_immediates_below(std::integer_sequence<int, imm...>, F f) {
+template <class F, int... imm> void for_immediates_below(std::integer_sequence<int, imm...>, F f) {
   for_each_immediate<imm...>(f);
 }
 
-template <Floating T, int R>
-void add_rounded(Builder& table, const std::string& rounding) {
+template <Floating T, int R> void add_rounded(Builder& table, const std::string& rounding) {
   using V = Vec<T>;
   const auto t = rounding + type_name<T>();
   table.add_arithmetic<V, V>("add" + t, [](V a, V b) { return add<R>(a, b); });
@@ -141,8 +114,7 @@ void add_rounded(Builder& table, const std::string& rounding) {
   table.add_arithmetic<V, V>("scalef" + t, [](V a, V b) { return scalef<R>(a, b); });
 }
 
-template <Floating T>
-void add_significand(Builder& table) {
+template <Floating T> void add_significand(Builder& table) {
   using V = Vec<T>;
   const auto t = type_name<T>();
   table.add<V>("getexp" + t, [](V a) { return getexp(a); });
@@ -162,8 +134,7 @@ void add_significand(Builder& table) {
       });
 }
 
-template <Floating T>
-void add_floating(Builder& table) {
+template <Floating T> void add_floating(Builder& table) {
   using V = Vec<T>;
   using U = Vec<UnsignedOf<T>>;
   const auto t = type_name<T>();
@@ -210,8 +181,7 @@ void add_floating(Builder& table) {
 }
 
 // What every lane type has.
-template <Lane T>
-void add_common(Builder& table) {
+template <Lane T> void add_common(Builder& table) {
   using V = Vec<T>;
   using M = Mask<T>;
   using Index = Vec<SignedOf<T>>;
@@ -274,8 +244,7 @@ void add_common(Builder& table) {
   });
 }
 
-template <Integer T>
-void add_shifts(Builder& table) {
+template <Integer T> void add_shifts(Builder& table) {
   using V = Vec<T>;
   const auto t = type_name<T>();
   constexpr int width = 8 * sizeof(T);
@@ -294,8 +263,7 @@ void add_shifts(Builder& table) {
                   [](V a, V n) { return shift_right_arithmetic(a, n & all(T{127})); });
 }
 
-template <Integer T>
-void add_integer(Builder& table) {
+template <Integer T> void add_integer(Builder& table) {
   using V = Vec<T>;
   const auto t = type_name<T>();
   table.add<>("iota" + t, [] { return iota<T>(); });
@@ -360,16 +328,13 @@ void add_conversions(Builder& table) {
   table.add<Mask<float>>("high_half", [](Mask<float> m) { return high_half(m); });
 }
 
-template <Floating T>
-void masked_load(uint32_t mask, const T* from, T* all_lanes) {
+template <Floating T> void masked_load(uint32_t mask, const T* from, T* all_lanes) {
   store(all_lanes, load(mask_of<T>(mask), from, load(all_lanes)));
 }
-template <Floating T>
-void masked_store(uint32_t mask, T* to, const T* all_lanes) {
+template <Floating T> void masked_store(uint32_t mask, T* to, const T* all_lanes) {
   store(mask_of<T>(mask), to, load(all_lanes));
 }
-template <Floating T>
-void masked_gather(uint32_t mask, const T* base, const SignedOf<T>* index, T* all_lanes) {
+template <Floating T> void masked_gather(uint32_t mask, const T* base, const SignedOf<T>* index, T* all_lanes) {
   store(all_lanes, gather(mask_of<T>(mask), base, load(index), load(all_lanes)));
 }
 

@@ -155,35 +155,40 @@ TEST(VecOperations, TablesHaveTheSameEntries) {
     EXPECT_EQ(native().operations[i].name, portable().operations[i].name);
 }
 
-// The names of the operations that a header defines, in its order.
-std::vector<std::string> defined_operations(const std::string& header) {
-  std::ifstream file(std::string(LUM_SOURCE_DIR) + "/src/frame/" + header);
-  EXPECT_TRUE(file) << header;
+// The names of the operations that headers define, in their order.
+std::vector<std::string> defined_operations(std::initializer_list<std::string> headers) {
   std::vector<std::string> names;
   const std::regex definition(R"((?:LUM_INLINE|\[\[gnu::noinline\]\]) [^(]*?\b(operator[^ (]+|\w+)\()");
-  for (std::string line; std::getline(file, line);) {
-    std::smatch match;
-    if (std::regex_search(line, match, definition)) names.push_back(match[1]);
+  for (const std::string& header : headers) {
+    std::ifstream file(std::string(LUM_SOURCE_DIR) + "/src/frame/" + header);
+    EXPECT_TRUE(file) << header;
+    for (std::string line; std::getline(file, line);) {
+      std::smatch match;
+      if (std::regex_search(line, match, definition)) names.push_back(match[1]);
+    }
   }
   return names;
+}
+std::vector<std::string> operations_of_layer(const std::string& layer) {
+  return defined_operations({layer + "/base.h", layer + "/arithmetic.h", layer + "/integers.h", layer + "/moves.h"});
 }
 
 TEST(VecOperations, EveryOperationOfTheVocabularyHasAnEntry) {
   std::set<std::string> tested;
   for (const Operation& operation : portable().operations) tested.insert(operation.vocabulary);
-  const auto native_names = defined_operations("vec_avx512.h");
+  const auto native_names = operations_of_layer("avx512");
   ASSERT_GT(native_names.size(), 100u);
   for (const auto& name : native_names) EXPECT_TRUE(tested.count(name)) << name << " has no entry in the table";
-  for (const auto& name : defined_operations("vec_shared.h")) EXPECT_TRUE(tested.count(name)) << name << " has no entry";
+  for (const auto& name : defined_operations({"vec_shared.h"})) EXPECT_TRUE(tested.count(name)) << name << " has no entry";
 }
 
 TEST(VecOperations, BothLayersDefineTheSameOperationsInTheSameOrder) {
   const std::set<std::string> helpers = {"each_lane",  "each_mask_lane",     "each_mask_bits", "bits_of", "each_lane_with_care",
                                          "signed_fma", "negate_every_other", "restore_nan",    "raw"};
   std::vector<std::string> names;
-  for (const auto& name : defined_operations("vec_portable.h"))
+  for (const auto& name : operations_of_layer("portable"))
     if (!helpers.count(name)) names.push_back(name);
-  EXPECT_EQ(names, defined_operations("vec_avx512.h"));
+  EXPECT_EQ(names, operations_of_layer("avx512"));
 }
 
 // The record: for each entry, checksums of the outcomes over blocks of inputs that every machine generates alike, special
@@ -291,8 +296,7 @@ class GuardedPage : public testing::Test {
   unsigned char* begin() { return pages_ + size_; }
   unsigned char* end() { return begin() + size_; }
 
-  template <class T>
-  void masks_at_both_ends(void (*load)(uint32_t, const T*, T*), void (*store)(uint32_t, T*, const T*)) {
+  template <class T> void masks_at_both_ends(void (*load)(uint32_t, const T*, T*), void (*store)(uint32_t, T*, const T*)) {
     constexpr int lanes = 64 / static_cast<int>(sizeof(T));
     for (int count = 0; count <= lanes; ++count) {
       const uint32_t low = (1u << count) - 1;
@@ -325,8 +329,7 @@ class GuardedPage : public testing::Test {
     }
     std::memcpy(begin(), before.data(), size_);
   }
-  template <class T, class Index>
-  void gather_beside_the_page(void (*gather)(uint32_t, const T*, const Index*, T*)) {
+  template <class T, class Index> void gather_beside_the_page(void (*gather)(uint32_t, const T*, const Index*, T*)) {
     constexpr int lanes = 64 / static_cast<int>(sizeof(T));
     T result[lanes];
     Index index[lanes];

@@ -2,14 +2,12 @@
 #include <cmath>
 
 #include "support/accuracy.h"
-#include "support/cases.h"
+#include "support/common_cases.h"
 
 namespace lum::test {
 namespace {
 
-TEST(Atanh, ZeroKeepsItsSign) {
-  for (const char* name : {"Atanh_32f", "Atanh_64f"}) ExpectCases(name, {{0.0, 0.0}, {-0.0, -0.0}});
-}
+TEST(Atanh, ZeroKeepsItsSign) { ExpectZeroKeepsItsSign({"Atanh_32f", "Atanh_64f"}); }
 
 TEST(Atanh, Poles) {
   for (const char* name : {"Atanh_32f", "Atanh_64f"}) {
@@ -36,23 +34,10 @@ TEST(Atanh, OutsideTheDomain) {
 }
 
 // x * x: quieted, with its sign and payload.
-TEST(Atanh, NanComesThroughQuieted) {
-  ExpectCases("Atanh_32f", {{FromBits(0x7FC01234), FromBits(0x7FC01234)}, {FromBits(0xFFBFFFFF), FromBits(0xFFFFFFFF)}});
-  ExpectCases("Atanh_64f", {{FromBits(0x7FF8000000001234), FromBits(0x7FF8000000001234)},
-                            {FromBits(0xFFF7FFFFFFFFFFFF), FromBits(0xFFFFFFFFFFFFFFFF)}});
-}
+TEST(Atanh, NanComesThroughQuieted) { ExpectNanComesThroughQuieted({"Atanh_32f", "Atanh_64f"}); }
 
 // The cheapest tier has a linear term other than 1.
-TEST(Atanh, TinyArgumentsStay) {
-  for (const char* name : {"Atanh_32f_A21", "Atanh_32f_A24", "Atanh_64f"}) {
-    ExpectCases(name, {{min_denormal, min_denormal},
-                       {-min_denormal, -min_denormal},
-                       {min_normal, min_normal},
-                       {-min_normal, -min_normal},
-                       {1e-40, 1e-40},
-                       {-1e-20, -1e-20}});
-  }
-}
+TEST(Atanh, TinyArgumentsStay) { ExpectTinyArgumentsStay({"Atanh_32f_A21", "Atanh_32f_A24", "Atanh_64f"}); }
 
 TEST(Atanh, Accuracy) {
   for (const bool is_32bit : {true, false}) {

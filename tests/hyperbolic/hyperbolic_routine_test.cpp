@@ -14,8 +14,7 @@ template <class T> Arguments1 AllMagnitudes() {
   for (double border : {0x1p-53, 0.02720470510300388, 21.487562597358306, 710.4758600739, 0.005415212348111708}) {
     if (border < end) x = x + Around(border, is_32bit);
   }
-  for (size_t i = 0, n = x.size(); i < n; ++i) x.push_back(-x[i]);
-  return x;
+  return WithNegatives(x);
 }
 
 TEST(HyperbolicRoutine, Accuracy) {

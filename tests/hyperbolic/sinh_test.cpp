@@ -1,29 +1,18 @@
 // Sinh: special values, the overflow of both types, relative accuracy next to zero, the rows of the tables, accuracy.
 #include "support/accuracy.h"
-#include "support/cases.h"
+#include "support/common_cases.h"
 
 namespace lum::test {
 namespace {
 
-TEST(Sinh, ZeroKeepsItsSign) {
-  for (const char* name : {"Sinh_32f", "Sinh_64f"}) ExpectCases(name, {{0.0, 0.0}, {-0.0, -0.0}});
-}
+TEST(Sinh, ZeroKeepsItsSign) { ExpectZeroKeepsItsSign({"Sinh_32f", "Sinh_64f"}); }
 
 TEST(Sinh, InfinitiesReportNothing) {
   for (const char* name : {"Sinh_32f", "Sinh_64f"}) ExpectCases(name, {{inf, inf}, {-inf, -inf}});
 }
 
 // x + x: quieted, with its sign and payload.
-TEST(Sinh, NanComesThroughQuieted) {
-  ExpectCases("Sinh_32f", {{FromBits(0x7FC01234), FromBits(0x7FC01234)},
-                           {FromBits(0xFFC00001), FromBits(0xFFC00001)},
-                           {FromBits(0x7F812345), FromBits(0x7FC12345)},
-                           {FromBits(0xFFBFFFFF), FromBits(0xFFFFFFFF)}});
-  ExpectCases("Sinh_64f", {{FromBits(0x7FF8000000001234), FromBits(0x7FF8000000001234)},
-                           {FromBits(0xFFF8000000000001), FromBits(0xFFF8000000000001)},
-                           {FromBits(0x7FF0000000012345), FromBits(0x7FF8000000012345)},
-                           {FromBits(0xFFF7FFFFFFFFFFFF), FromBits(0xFFFFFFFFFFFFFFFF)}});
-}
+TEST(Sinh, NanComesThroughQuieted) { ExpectNanComesThroughQuieted({"Sinh_32f", "Sinh_64f"}); }
 
 TEST(Sinh, OverflowOfFloats) {
   ExpectCases("Sinh_32f", {{FromBits(0x42B2D4FC), FromBits(0x7F7FFFEC)},  // the last with a finite result
@@ -47,16 +36,7 @@ TEST(Sinh, OverflowOfDoubles) {
 }
 
 // The cheapest tier has a linear term other than 1.
-TEST(Sinh, TinyArgumentsStay) {
-  for (const char* name : {"Sinh_32f_A21", "Sinh_32f_A24", "Sinh_64f"}) {
-    ExpectCases(name, {{min_denormal, min_denormal},
-                       {-min_denormal, -min_denormal},
-                       {min_normal, min_normal},
-                       {-min_normal, -min_normal},
-                       {1e-40, 1e-40},
-                       {-1e-20, -1e-20}});
-  }
-}
+TEST(Sinh, TinyArgumentsStay) { ExpectTinyArgumentsStay({"Sinh_32f_A21", "Sinh_32f_A24", "Sinh_64f"}); }
 
 // Borders of the first rows, on either side of the one that is held on row 0.
 TEST(Sinh, AccuracyNextToTheFirstRows) {
@@ -65,8 +45,7 @@ TEST(Sinh, AccuracyNextToTheFirstRows) {
     for (int halves = 1; halves <= 16; ++halves) {
       for (double rows : {16, 32, 128}) x = x + Around(halves * 0.34657359027997264 / rows, is_32bit, 20);
     }
-    for (size_t i = 0, n = x.size(); i < n; ++i) x.push_back(-x[i]);
-    ExpectAccuracy(is_32bit ? "Sinh_32f" : "Sinh_64f", mpfr_sinh, x);
+    ExpectAccuracy(is_32bit ? "Sinh_32f" : "Sinh_64f", mpfr_sinh, WithNegatives(x));
   }
 }
 

@@ -1,13 +1,11 @@
 // Tanh: special values, relative accuracy next to zero, the borders of the segments, the constant last row. No tier reports.
 #include "support/accuracy.h"
-#include "support/cases.h"
+#include "support/common_cases.h"
 
 namespace lum::test {
 namespace {
 
-TEST(Tanh, ZeroKeepsItsSign) {
-  for (const char* name : {"Tanh_32f", "Tanh_64f"}) ExpectCases(name, {{0.0, 0.0}, {-0.0, -0.0}});
-}
+TEST(Tanh, ZeroKeepsItsSign) { ExpectZeroKeepsItsSign({"Tanh_32f", "Tanh_64f"}); }
 
 TEST(Tanh, InfinitiesGiveOne) {
   for (const char* name : {"Tanh_32f", "Tanh_64f"}) ExpectCases(name, {{inf, 1}, {-inf, -1}});
@@ -15,16 +13,7 @@ TEST(Tanh, InfinitiesGiveOne) {
 
 // x + x where it is refused.
 TEST(Tanh, NanComesThroughQuieted) {
-  for (const char* name : {"Tanh_32f_A21", "Tanh_32f_A24"}) {
-    ExpectCases(name, {{FromBits(0x7FC01234), FromBits(0x7FC01234)},
-                       {FromBits(0xFFC00001), FromBits(0xFFC00001)},
-                       {FromBits(0x7F812345), FromBits(0x7FC12345)},
-                       {FromBits(0xFFBFFFFF), FromBits(0xFFFFFFFF)}});
-  }
-  ExpectCases("Tanh_64f", {{FromBits(0x7FF8000000001234), FromBits(0x7FF8000000001234)},
-                           {FromBits(0xFFF8000000000001), FromBits(0xFFF8000000000001)},
-                           {FromBits(0x7FF0000000012345), FromBits(0x7FF8000000012345)},
-                           {FromBits(0xFFF7FFFFFFFFFFFF), FromBits(0xFFFFFFFFFFFFFFFF)}});
+  ExpectNanComesThroughQuieted({"Tanh_32f_A21", "Tanh_32f_A24", "Tanh_64f"});
   ExpectCases("Tanh_32f_A11", {{nan, any_nan}, {default_nan, any_nan}, {FromBits(0x7F812345), any_nan}});
 }
 
@@ -44,16 +33,7 @@ TEST(Tanh, LargeArgumentsGiveOne) {
 TEST(Tanh, RationalTierIsOneFromFiveOn) { ExpectCases("Tanh_32f_A11", {{5, 1}, {-5, -1}, {5.5, 1}, {8, 1}}); }
 
 // The rational function of the cheapest tier has a linear term other than 1.
-TEST(Tanh, TinyArgumentsStay) {
-  for (const char* name : {"Tanh_32f_A21", "Tanh_32f_A24", "Tanh_64f"}) {
-    ExpectCases(name, {{min_denormal, min_denormal},
-                       {-min_denormal, -min_denormal},
-                       {min_normal, min_normal},
-                       {-min_normal, -min_normal},
-                       {1e-40, 1e-40},
-                       {-1e-20, -1e-20}});
-  }
-}
+TEST(Tanh, TinyArgumentsStay) { ExpectTinyArgumentsStay({"Tanh_32f_A21", "Tanh_32f_A24", "Tanh_64f"}); }
 
 TEST(Tanh, AccuracyNextToBordersAndCentres) {
   for (const bool is_32bit : {true, false}) {
@@ -61,8 +41,7 @@ TEST(Tanh, AccuracyNextToBordersAndCentres) {
     for (double power = 0x1p-6; power < 32; power *= 2) {
       for (int eighth = 8; eighth < 16; ++eighth) x = x + Around(power * eighth / 8, is_32bit, 10);
     }
-    for (size_t i = 0, n = x.size(); i < n; ++i) x.push_back(-x[i]);
-    ExpectAccuracy(is_32bit ? "Tanh_32f" : "Tanh_64f", mpfr_tanh, x);
+    ExpectAccuracy(is_32bit ? "Tanh_32f" : "Tanh_64f", mpfr_tanh, WithNegatives(x));
   }
 }
 

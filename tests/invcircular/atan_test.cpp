@@ -1,13 +1,11 @@
 // Atan: special values, the borders of the table's intervals and of the large branch, accuracy. No tier ever reports.
 #include "support/accuracy.h"
-#include "support/cases.h"
+#include "support/common_cases.h"
 
 namespace lum::test {
 namespace {
 
-TEST(Atan, ZeroKeepsItsSign) {
-  for (const char* name : {"Atan_32f", "Atan_64f"}) ExpectCases(name, {{0.0, 0.0}, {-0.0, -0.0}});
-}
+TEST(Atan, ZeroKeepsItsSign) { ExpectZeroKeepsItsSign({"Atan_32f", "Atan_64f"}); }
 
 // Refused at A11 and A26, led through by the clamp elsewhere.
 TEST(Atan, InfinitiesReportNothing) {
@@ -29,16 +27,7 @@ TEST(Atan, NanComesThroughSilently) {
 }
 
 // The low tiers scale them by a constant next to 1.
-TEST(Atan, TinyArgumentsStay) {
-  for (const char* name : {"Atan_32f_A21", "Atan_32f_A24", "Atan_64f_A50", "Atan_64f_A53"}) {
-    ExpectCases(name, {{min_denormal, min_denormal},
-                       {-min_denormal, -min_denormal},
-                       {min_normal, min_normal},
-                       {-min_normal, -min_normal},
-                       {1e-40, 1e-40},
-                       {-1e-20, -1e-20}});
-  }
-}
+TEST(Atan, TinyArgumentsStay) { ExpectTinyArgumentsStay({"Atan_32f_A21", "Atan_32f_A24", "Atan_64f_A50", "Atan_64f_A53"}); }
 
 TEST(Atan, AccuracyNextToThresholds) {
   for (const bool is_32bit : {true, false}) {
@@ -46,8 +35,7 @@ TEST(Atan, AccuracyNextToThresholds) {
     for (double border = 0.125; border < 9; border += 0.25) x = x + Around(border, is_32bit, 20);
     for (double point : {1.0, 7.75, 7.875, 0x1p32, 0x1p127}) x = x + Around(point, is_32bit);
     if (!is_32bit) x = x + Around(0x1p128, is_32bit) + Around(0x1p1023, is_32bit);
-    for (size_t i = 0, n = x.size(); i < n; ++i) x.push_back(-x[i]);
-    ExpectAccuracy(is_32bit ? "Atan_32f" : "Atan_64f", mpfr_atan, x);
+    ExpectAccuracy(is_32bit ? "Atan_32f" : "Atan_64f", mpfr_atan, WithNegatives(x));
   }
 }
 

@@ -109,6 +109,11 @@ Arguments1 operator+(Arguments1 a, const Arguments1& b) {
   a.insert(a.end(), b.begin(), b.end());
   return a;
 }
+Arguments1 WithNegatives(Arguments1 x) {
+  const size_t count = x.size();
+  for (size_t i = 0; i < count; ++i) x.push_back(-x[i]);
+  return x;
+}
 
 void ExpectAccuracy(std::string_view name, const Reference& reference, const Arguments1& x, int output) {
   const auto exports = ExportsNamed(name);

@@ -28,6 +28,8 @@ Arguments1 BetweenMagnitudes(double low, double high, size_t count = 4000);
 // The numbers that lie at most `steps` representable ones from x, in binary32 or binary64.
 Arguments1 Around(double x, bool is_32bit, int steps = 50);
 Arguments1 operator+(Arguments1 a, const Arguments1& b);
+// The numbers and their negatives.
+Arguments1 WithNegatives(Arguments1 x);
 
 // result = f(x), or f(x, y), rounded in the precision of result, which is far above that of the types.
 using Reference = std::function<void(mpfr_ptr result, mpfr_srcptr x)>;

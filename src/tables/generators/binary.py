@@ -4,6 +4,8 @@ A generated file holds bit patterns in hexadecimal, one row of the table a line,
 that says what the rows are and which script wrote them.
 """
 
+import shutil
+import subprocess
 from fractions import Fraction
 from pathlib import Path
 
@@ -21,7 +23,7 @@ def exact(x):
     """An mpf or number as a Fraction, exactly."""
     if isinstance(x, mpmath.mpf):
         sign, man, exp, _ = x._mpf_
-        value = Fraction(man) * (Fraction(2) ** exp)
+        value = Fraction(int(man)) * Fraction(2) ** int(exp)  # man may be of a faster integer type, which Fraction mistakes
         return -value if sign else value
     return Fraction(x)
 
@@ -104,3 +106,20 @@ def write(name, script, comment, values, width, directory=GENERATED):
     """Writes generated/<name>.inc."""
     lines = [f"// {comment}", f"// Written by src/tables/generators/{script}."] + rows_of(values, width)
     (Path(directory) / f"{name}.inc").write_text("\n".join(lines) + "\n")
+
+
+def run_sollya(module, what):
+    """The lines that the Sollya script beside a module writes; `what` it fits is for the message where Sollya is missing."""
+    if shutil.which("sollya") is None:
+        raise SystemExit(f"generate.py: {what} by sollya, which is not installed")
+    script = Path(module).with_suffix(".sollya")
+    return subprocess.run(["sollya", str(script)], check=True, capture_output=True, text=True).stdout.splitlines()
+
+
+def fitted_rows(module, what):
+    """(word, number) -> row -> coefficients, exactly, of a script whose lines are these and the coefficients."""
+    tables = {}
+    for line in run_sollya(module, what):
+        name, degree, row, *coefficients = line.split()
+        tables.setdefault((name, int(degree)), {})[int(row)] = [Fraction(c) for c in coefficients]
+    return tables

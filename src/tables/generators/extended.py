@@ -4,15 +4,12 @@ Pairs are a head with few enough bits for what is done with it, and the rest rou
 extended.sollya; each coefficient is a 64-bit number, written as a sum of two binary64 numbers.
 """
 
-import shutil
-import subprocess
 from fractions import Fraction
-from pathlib import Path
 
 import mpmath
 from mpmath import mpf
 
-from binary import exact, floor_log2, to_binary, to_multiple, to_significand, write
+from binary import exact, floor_log2, run_sollya, to_binary, to_multiple, to_significand, write
 
 SCRIPT = "extended.py"
 MEANING = {
@@ -46,12 +43,8 @@ def dyadic(text):
 
 
 def write_polynomials(directory):
-    if shutil.which("sollya") is None:
-        raise SystemExit("generate.py: the extended-precision polynomials are fitted by sollya, which is not installed")
-    script = Path(__file__).with_suffix(".sollya")
-    lines = subprocess.run(["sollya", str(script)], check=True, capture_output=True, text=True).stdout.splitlines()
     found = {}
-    for line in lines:
+    for line in run_sollya(__file__, "the extended-precision polynomials are fitted"):
         words = line.split()
         if words[0] == "polynomial":
             name, coefficients = words[1], []
@@ -62,7 +55,7 @@ def write_polynomials(directory):
     assert found.keys() == MEANING.keys()
     for name, (low, high, error, coefficients) in found.items():
         comment = f"{MEANING[name]}\n// Interval: [{low:.6g}, {high:.6g}]. Weight: 1. Error: {error:.2e}."
-        write(f"extended_{name}", script.name, comment, [pair(c, to_binary(c, 64)) for c in coefficients], 64, directory)
+        write(f"extended_{name}", "extended.sollya", comment, [pair(c, to_binary(c, 64)) for c in coefficients], 64, directory)
 
 
 def seed(i):

@@ -6,14 +6,11 @@ For x^(3/2): the value at the midpoints of 32 cells of [1, 2) and of [2, 4), and
 fixed_powers.sollya.
 """
 
-import shutil
-import subprocess
 from fractions import Fraction
-from pathlib import Path
 
 from mpmath import linspace, mpf
 
-from binary import exact, to_binary, write
+from binary import exact, run_sollya, to_binary, write
 
 SCRIPT = "fixed_powers.py"
 LANES = {32: 16, 64: 8}
@@ -34,11 +31,7 @@ def write_pair(name, comment, values, width, length, directory):
 
 def fitted():
     """The coefficients of ((1 + t)^(3/2) - 1) / t from the constant term up, exactly."""
-    if shutil.which("sollya") is None:
-        raise SystemExit("generate.py: the polynomial of x^(3/2) is fitted by sollya, which is not installed")
-    script = Path(__file__).with_suffix(".sollya")
-    output = subprocess.run(["sollya", str(script)], check=True, capture_output=True, text=True).stdout
-    return [Fraction(c) for c in output.split()]
+    return [Fraction(c) for line in run_sollya(__file__, "the polynomial of x^(3/2) is fitted") for c in line.split()]
 
 
 def generate(directory):

@@ -4,14 +4,11 @@ first, for the significands m whose top four fraction bits are i: [1 + i/16, 1 +
 Rows 0 and 15, which meet at r = 0, and the middle rows 7 and 8 are pinned; the others come from logarithm_segments.sollya.
 """
 
-import shutil
-import subprocess
 from fractions import Fraction
-from pathlib import Path
 
 from mpmath import linspace, log, log10, mpf
 
-from binary import from_bits, write
+from binary import fitted_rows, from_bits, write
 
 SCRIPT = "logarithm_segments.py and logarithm_segments.sollya"
 
@@ -29,15 +26,7 @@ PINNED = {
 
 def fitted():
     """(function, degree) -> row -> coefficients, exactly."""
-    if shutil.which("sollya") is None:
-        raise SystemExit("generate.py: the segment tables of the logarithms are fitted by sollya, which is not installed")
-    script = Path(__file__).with_suffix(".sollya")
-    output = subprocess.run(["sollya", str(script)], check=True, capture_output=True, text=True).stdout
-    tables = {}
-    for line in output.splitlines():
-        name, degree, row, *coefficients = line.split()
-        tables.setdefault((name, int(degree)), {})[int(row)] = [Fraction(c) for c in coefficients]
-    return tables
+    return fitted_rows(__file__, "the segment tables of the logarithms are fitted")
 
 
 def relative_error(function, row, coefficients):

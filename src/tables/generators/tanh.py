@@ -3,15 +3,12 @@ are equal parts of each power of 2. The values and slopes at the centres follow 
 tanh.sollya; the first row of binary32 is pinned but for its cubic coefficient, the last row is the constant 1.
 """
 
-import shutil
-import subprocess
 from fractions import Fraction
-from pathlib import Path
 
 import mpmath
 from mpmath import linspace, mpf
 
-from binary import exact, to_binary, to_multiple, write
+from binary import exact, fitted_rows, to_binary, to_multiple, write
 
 SCRIPT = "tanh.py and tanh.sollya"
 # Row 0 of binary32, from d^2 up; the cubic coefficient is the best binary32 number next to -1/3.
@@ -20,15 +17,7 @@ FIRST_FLOAT_ROW = ["-6.55696e-10", None, "-1.41763e-05", "0.133854", "-0.0086782
 
 def fitted():
     """(format, degree) -> row -> coefficients from d^2 up, exactly."""
-    if shutil.which("sollya") is None:
-        raise SystemExit("generate.py: the tables of tanh are fitted by sollya, which is not installed")
-    script = Path(__file__).with_suffix(".sollya")
-    output = subprocess.run(["sollya", str(script)], check=True, capture_output=True, text=True).stdout
-    tables = {}
-    for line in output.splitlines():
-        name, degree, row, *coefficients = line.split()
-        tables.setdefault((name, int(degree)), {})[int(row)] = [Fraction(c) for c in coefficients]
-    return tables
+    return fitted_rows(__file__, "the tables of tanh are fitted")
 
 
 def border(row, parts, first_exponent, offset):

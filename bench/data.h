@@ -1,0 +1,34 @@
+// The arrays that benchmarks run over, and the benchmark of one loop over them.
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "support/library.h"
+
+namespace lum::bench {
+
+// Arrays of one function and type, filled with arguments of everyday size.
+class Data {
+ public:
+  Data(const support::Export& entry, size_t count);
+  // Sets the arguments of an element of a real function; the second is for functions of two inputs.
+  void SetElement(size_t i, double first, double second);
+  support::Arguments arguments(int32_t len);
+
+ private:
+  void Set(std::vector<std::byte>& array, size_t i, double x) const;
+
+  bool is_32bit_;
+  std::vector<std::byte> src1_, src2_, dst1_, dst2_;
+  std::vector<std::byte> value_ = std::vector<std::byte>(16);
+};
+
+// A benchmark of calls over the first len elements, with a counter of ticks of the time stamp counter an element.
+void Register(const std::string& name, std::shared_ptr<Data> data, int32_t len,
+              std::function<void(const support::Arguments&)> call);
+
+}  // namespace lum::bench

@@ -1,0 +1,199 @@
+// Floating-point arithmetic, comparison and selection as AVX-512 instructions, a part of frame/vec_avx512.h.
+#pragma once
+
+#include "frame/avx512/base.h"
+
+namespace lum {
+inline namespace avx512 {
+
+// ---- Arithmetic
+
+template <int R> inline constexpr int suppressed = R | _MM_FROUND_NO_EXC;
+
+template <int R = rn, Floating T> LUM_INLINE Vec<T> add(Vec<T> a, Vec<T> b) {
+  if constexpr (is32<T>) return {_mm512_add_round_ps(a.v, b.v, suppressed<R>)};
+  else return {_mm512_add_round_pd(a.v, b.v, suppressed<R>)};
+}
+template <int R = rn, Floating T> LUM_INLINE Vec<T> sub(Vec<T> a, Vec<T> b) {
+  if constexpr (is32<T>) return {_mm512_sub_round_ps(a.v, b.v, suppressed<R>)};
+  else return {_mm512_sub_round_pd(a.v, b.v, suppressed<R>)};
+}
+template <int R = rn, Floating T> LUM_INLINE Vec<T> mul(Vec<T> a, Vec<T> b) {
+  if constexpr (is32<T>) return {_mm512_mul_round_ps(a.v, b.v, suppressed<R>)};
+  else return {_mm512_mul_round_pd(a.v, b.v, suppressed<R>)};
+}
+template <int R = rn, Floating T> LUM_INLINE Vec<T> div(Vec<T> a, Vec<T> b) {
+  if constexpr (is32<T>) return {_mm512_div_round_ps(a.v, b.v, suppressed<R>)};
+  else return {_mm512_div_round_pd(a.v, b.v, suppressed<R>)};
+}
+template <int R = rn, Floating T> LUM_INLINE Vec<T> sqrt(Vec<T> a) {
+  if constexpr (is32<T>) return {_mm512_sqrt_round_ps(a.v, suppressed<R>)};
+  else return {_mm512_sqrt_round_pd(a.v, suppressed<R>)};
+}
+// a b + c with one rounding.
+template <int R = rn, Floating T> LUM_INLINE Vec<T> fma(Vec<T> a, Vec<T> b, Vec<T> c) {
+  if constexpr (is32<T>) return {_mm512_fmadd_round_ps(a.v, b.v, c.v, suppressed<R>)};
+  else return {_mm512_fmadd_round_pd(a.v, b.v, c.v, suppressed<R>)};
+}
+// a b - c with one rounding.
+template <int R = rn, Floating T> LUM_INLINE Vec<T> fms(Vec<T> a, Vec<T> b, Vec<T> c) {
+  if constexpr (is32<T>) return {_mm512_fmsub_round_ps(a.v, b.v, c.v, suppressed<R>)};
+  else return {_mm512_fmsub_round_pd(a.v, b.v, c.v, suppressed<R>)};
+}
+// c - a b with one rounding.
+template <int R = rn, Floating T> LUM_INLINE Vec<T> fnma(Vec<T> a, Vec<T> b, Vec<T> c) {
+  if constexpr (is32<T>) return {_mm512_fnmadd_round_ps(a.v, b.v, c.v, suppressed<R>)};
+  else return {_mm512_fnmadd_round_pd(a.v, b.v, c.v, suppressed<R>)};
+}
+// -(a b) - c with one rounding.
+template <int R = rn, Floating T> LUM_INLINE Vec<T> fnms(Vec<T> a, Vec<T> b, Vec<T> c) {
+  if constexpr (is32<T>) return {_mm512_fnmsub_round_ps(a.v, b.v, c.v, suppressed<R>)};
+  else return {_mm512_fnmsub_round_pd(a.v, b.v, c.v, suppressed<R>)};
+}
+// a b - c in even lanes, a b + c in odd ones, with one rounding.
+template <Floating T> LUM_INLINE Vec<T> fmaddsub(Vec<T> a, Vec<T> b, Vec<T> c) {
+  if constexpr (is32<T>) return {_mm512_fmaddsub_round_ps(a.v, b.v, c.v, suppressed<rn>)};
+  else return {_mm512_fmaddsub_round_pd(a.v, b.v, c.v, suppressed<rn>)};
+}
+// a b + c in even lanes, a b - c in odd ones, with one rounding. Written out because the compilers' intrinsic is fmaddsub with
+// c negated, which changes the sign of a NaN.
+template <Floating T> LUM_INLINE Vec<T> fmsubadd(Vec<T> a, Vec<T> b, Vec<T> c) {
+  if constexpr (is32<T>) asm("vfmsubadd213ps %{rn-sae%}, %2, %1, %0" : "+v"(a.v) : "v"(b.v), "v"(c.v));
+  else asm("vfmsubadd213pd %{rn-sae%}, %2, %1, %0" : "+v"(a.v) : "v"(b.v), "v"(c.v));
+  return a;
+}
+// The smaller; b when either is a NaN or both are zeros, so the order of the operands matters.
+template <Floating T> LUM_INLINE Vec<T> min(Vec<T> a, Vec<T> b) {
+  if constexpr (is32<T>) return {_mm512_min_round_ps(a.v, b.v, _MM_FROUND_NO_EXC)};
+  else return {_mm512_min_round_pd(a.v, b.v, _MM_FROUND_NO_EXC)};
+}
+// The larger; b when either is a NaN or both are zeros, so the order of the operands matters.
+template <Floating T> LUM_INLINE Vec<T> max(Vec<T> a, Vec<T> b) {
+  if constexpr (is32<T>) return {_mm512_max_round_ps(a.v, b.v, _MM_FROUND_NO_EXC)};
+  else return {_mm512_max_round_pd(a.v, b.v, _MM_FROUND_NO_EXC)};
+}
+// 1 / a with a relative error below 2^-14; a zero gives an infinity and an infinity a zero, of its sign.
+template <Floating T> LUM_INLINE Vec<T> rcp14(Vec<T> a) {
+  if constexpr (is32<T>) return {_mm512_rcp14_ps(a.v)};
+  else return {_mm512_rcp14_pd(a.v)};
+}
+// 1 / sqrt a with a relative error below 2^-14; a zero gives an infinity of its sign, a negative number the default NaN.
+template <Floating T> LUM_INLINE Vec<T> rsqrt14(Vec<T> a) {
+  if constexpr (is32<T>) return {_mm512_rsqrt14_ps(a.v)};
+  else return {_mm512_rsqrt14_pd(a.v)};
+}
+
+// ---- Exponent, significand, rounding to a grid
+
+// floor(log2 |a|), also of denormals; -infinity for a zero, +infinity for an infinity.
+template <Floating T> LUM_INLINE Vec<T> getexp(Vec<T> a) {
+  if constexpr (is32<T>) return {_mm512_getexp_round_ps(a.v, _MM_FROUND_NO_EXC)};
+  else return {_mm512_getexp_round_pd(a.v, _MM_FROUND_NO_EXC)};
+}
+// The significand of a in the interval of imm bits 0-1: 0 [1,2), 1 [1/2,2), 2 [1/2,1), 3 [3/4,3/2); bits 2-3: 0 keeps the sign,
+// 1 clears it, 2 gives the default NaN for a negative number.
+template <int imm, Floating T> LUM_INLINE Vec<T> getmant(Vec<T> a) {
+  constexpr auto interval = static_cast<_MM_MANTISSA_NORM_ENUM>(imm & 3);
+  constexpr auto sign = static_cast<_MM_MANTISSA_SIGN_ENUM>(imm >> 2);
+  if constexpr (is32<T>) return {_mm512_getmant_round_ps(a.v, interval, sign, _MM_FROUND_NO_EXC)};
+  else return {_mm512_getmant_round_pd(a.v, interval, sign, _MM_FROUND_NO_EXC)};
+}
+// a 2^floor(b) with one rounding, gradual underflow included.
+template <int R = rn, Floating T> LUM_INLINE Vec<T> scalef(Vec<T> a, Vec<T> b) {
+  if constexpr (is32<T>) return {_mm512_scalef_round_ps(a.v, b.v, suppressed<R>)};
+  else return {_mm512_scalef_round_pd(a.v, b.v, suppressed<R>)};
+}
+// a rounded to a multiple of 2^-M, M in imm bits 4-7; bits 0-1: 0 nearest even, 1 down, 2 up, 3 toward zero; bit 2: the
+// environment's rounding, which kernels have set to nearest.
+template <int imm, Floating T> LUM_INLINE Vec<T> rndscale(Vec<T> a) {
+  if constexpr (is32<T>) return {_mm512_roundscale_round_ps(a.v, imm, _MM_FROUND_NO_EXC)};
+  else return {_mm512_roundscale_round_pd(a.v, imm, _MM_FROUND_NO_EXC)};
+}
+// a - rndscale<imm>(a), the exact remainder.
+template <int imm, Floating T> LUM_INLINE Vec<T> reduce(Vec<T> a) {
+  if constexpr (is32<T>) return {_mm512_reduce_round_ps(a.v, imm, _MM_FROUND_NO_EXC)};
+  else return {_mm512_reduce_round_pd(a.v, imm, _MM_FROUND_NO_EXC)};
+}
+
+// ---- Comparison and classification
+
+template <int predicate, Floating T> LUM_INLINE Mask<T> compare(Vec<T> a, Vec<T> b) {
+  if constexpr (is32<T>) return {_mm512_cmp_round_ps_mask(a.v, b.v, predicate, _MM_FROUND_NO_EXC)};
+  else return {_mm512_cmp_round_pd_mask(a.v, b.v, predicate, _MM_FROUND_NO_EXC)};
+}
+template <int predicate, Integer T> LUM_INLINE Mask<T> compare(Vec<T> a, Vec<T> b) {
+  if constexpr (std::same_as<T, int32_t>) return {_mm512_cmp_epi32_mask(a.v, b.v, predicate)};
+  else if constexpr (std::same_as<T, uint32_t>) return {_mm512_cmp_epu32_mask(a.v, b.v, predicate)};
+  else if constexpr (std::same_as<T, int64_t>) return {_mm512_cmp_epi64_mask(a.v, b.v, predicate)};
+  else return {_mm512_cmp_epu64_mask(a.v, b.v, predicate)};
+}
+// The predicates' codes are the same for floating-point and integer comparisons (0 eq, 1 lt, 2 le, 4 ne, 5 nlt, 6 nle).
+template <Lane T> LUM_INLINE Mask<T> eq(Vec<T> a, Vec<T> b) { return compare<0>(a, b); }
+template <Lane T> LUM_INLINE Mask<T> lt(Vec<T> a, Vec<T> b) { return compare<1>(a, b); }
+template <Lane T> LUM_INLINE Mask<T> le(Vec<T> a, Vec<T> b) { return compare<2>(a, b); }
+template <Lane T> LUM_INLINE Mask<T> ne(Vec<T> a, Vec<T> b) { return compare<4>(a, b); }
+template <Lane T> LUM_INLINE Mask<T> nlt(Vec<T> a, Vec<T> b) { return compare<5>(a, b); }
+template <Lane T> LUM_INLINE Mask<T> nle(Vec<T> a, Vec<T> b) { return compare<6>(a, b); }
+template <Floating T> LUM_INLINE Mask<T> unord(Vec<T> a, Vec<T> b) { return compare<3>(a, b); }
+template <Floating T> LUM_INLINE Mask<T> ord(Vec<T> a, Vec<T> b) { return compare<7>(a, b); }
+
+// Lanes whose class is in the set imm: bit 0 quiet NaN, 1 +0, 2 -0, 3 +infinity, 4 -infinity, 5 denormal, 6 negative finite
+// other than -0, 7 signalling NaN.
+template <int imm, Floating T> LUM_INLINE Mask<T> fpclass(Vec<T> a) {
+  if constexpr (is32<T>) return {_mm512_fpclass_ps_mask(a.v, imm)};
+  else return {_mm512_fpclass_pd_mask(a.v, imm)};
+}
+// Lanes in which a & b has a bit set.
+template <Integer T> LUM_INLINE Mask<T> test(Vec<T> a, Vec<T> b) {
+  if constexpr (is32<T>) return {_mm512_test_epi32_mask(a.v, b.v)};
+  else return {_mm512_test_epi64_mask(a.v, b.v)};
+}
+// Lanes in which a & b is zero.
+template <Integer T> LUM_INLINE Mask<T> testn(Vec<T> a, Vec<T> b) {
+  if constexpr (is32<T>) return {_mm512_testn_epi32_mask(a.v, b.v)};
+  else return {_mm512_testn_epi64_mask(a.v, b.v)};
+}
+
+// ---- Selection
+
+// Per lane m ? a : b.
+template <Lane T> LUM_INLINE Vec<T> select(Mask<T> m, Vec<T> a, Vec<T> b) {
+  if constexpr (std::same_as<T, float>) return {_mm512_mask_blend_ps(m.k, b.v, a.v)};
+  else if constexpr (std::same_as<T, double>) return {_mm512_mask_blend_pd(m.k, b.v, a.v)};
+  else if constexpr (is32<T>) return {_mm512_mask_blend_epi32(m.k, b.v, a.v)};
+  else return {_mm512_mask_blend_epi64(m.k, b.v, a.v)};
+}
+// Per lane m ? a + b : a.
+template <Floating T> LUM_INLINE Vec<T> add(Mask<T> m, Vec<T> a, Vec<T> b) {
+  if constexpr (is32<T>) return {_mm512_mask_add_round_ps(a.v, m.k, a.v, b.v, suppressed<rn>)};
+  else return {_mm512_mask_add_round_pd(a.v, m.k, a.v, b.v, suppressed<rn>)};
+}
+// Per lane m ? a - b : other.
+template <Floating T> LUM_INLINE Vec<T> sub(Mask<T> m, Vec<T> a, Vec<T> b, Vec<T> other) {
+  if constexpr (is32<T>) return {_mm512_mask_sub_round_ps(other.v, m.k, a.v, b.v, suppressed<rn>)};
+  else return {_mm512_mask_sub_round_pd(other.v, m.k, a.v, b.v, suppressed<rn>)};
+}
+// Per lane m ? a - b : +0.
+template <Floating T> LUM_INLINE Vec<T> sub_or_zero(Mask<T> m, Vec<T> a, Vec<T> b) {
+  if constexpr (is32<T>) return {_mm512_maskz_sub_round_ps(m.k, a.v, b.v, suppressed<rn>)};
+  else return {_mm512_maskz_sub_round_pd(m.k, a.v, b.v, suppressed<rn>)};
+}
+// Per lane m ? a : +0.
+template <Lane T> LUM_INLINE Vec<T> zero_unless(Mask<T> m, Vec<T> a) {
+  if constexpr (std::same_as<T, float>) return {_mm512_maskz_mov_ps(m.k, a.v)};
+  else if constexpr (std::same_as<T, double>) return {_mm512_maskz_mov_pd(m.k, a.v)};
+  else if constexpr (is32<T>) return {_mm512_maskz_mov_epi32(m.k, a.v)};
+  else return {_mm512_maskz_mov_epi64(m.k, a.v)};
+}
+// a, replaced by the special value that the 4-bit token of b's class names (quiet NaN, signalling NaN, zero, 1, -infinity,
+// +infinity, negative, positive, from the low token up).
+template <int imm> LUM_INLINE Vec<double> fixupimm(Vec<double> a, Vec<double> b, Vec<uint64_t> tokens) {
+  return {_mm512_fixupimm_round_pd(a.v, b.v, tokens.v, imm, _MM_FROUND_NO_EXC)};
+}
+// Bit i of imm is the result for the operand bits a, b, c with i = 4 a + 2 b + c.
+template <int imm, Integer T> LUM_INLINE Vec<T> ternary(Vec<T> a, Vec<T> b, Vec<T> c) {
+  return {_mm512_ternarylogic_epi64(a.v, b.v, c.v, imm)};
+}
+
+}  // namespace avx512
+}  // namespace lum

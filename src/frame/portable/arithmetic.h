@@ -1,0 +1,246 @@
+// Floating-point arithmetic, comparison and selection lane by lane, a part of frame/vec_portable.h.
+#pragma once
+
+#include "frame/lane_significand.h"
+#include "frame/portable/base.h"
+#include "frame/reciprocal_estimates.h"
+
+namespace lum {
+inline namespace portable {
+
+// ---- Arithmetic
+
+// r with careful(a, b, ...) in the lanes of which doubt has bits set.
+template <auto careful, Floating T, class... Operands>
+[[gnu::noinline, gnu::cold]] void redo_lanes(Vec<T>& r, const Mask<T>& doubt, const Operands&... operands) {
+  for (int i = 0; i < lanes_of<T>; ++i)
+    if (doubt.bits_of(i)) r.lane[i] = careful(operands.lane[i]...);
+}
+// The result that quick(i) gives in every lane, with careful(a, b, ...) instead where doubt(i, result) has bits set. The copies
+// keep the operands themselves out of memory on the usual way.
+template <auto careful, Floating T, class Quick, class Doubt, class... Operands>
+LUM_INLINE Vec<T> each_lane_with_care(Quick quick, Doubt doubt, const Vec<T>& first, const Operands&... rest) {
+  const Vec<T> r = each_lane<T>(quick);
+  Mask<T> doubts;
+  for (int i = 0; i < lanes_of<T>; ++i) doubts.lane[i] = doubt(i, r.lane[i]);
+  if (none(doubts)) [[likely]]
+    return r;
+  Vec<T> redone = r;
+  [&doubts, &redone](Vec<T> a, Operands... others) { redo_lanes<careful>(redone, doubts, a, others...); }(first, rest...);
+  return redone;
+}
+
+template <int R = rn, Floating T> LUM_INLINE Vec<T> add(const Vec<T>& a, const Vec<T>& b) {
+  return each_lane<T>([&](int i) { return lane::add<R>(a.lane[i], b.lane[i]); });
+}
+template <int R = rn, Floating T> LUM_INLINE Vec<T> sub(const Vec<T>& a, const Vec<T>& b) {
+  return each_lane<T>([&](int i) { return lane::sub<R>(a.lane[i], b.lane[i]); });
+}
+template <int R = rn, Floating T> [[gnu::noinline]] Vec<T> mul(const Vec<T>& a, const Vec<T>& b) {
+  return each_lane_with_care<lane::careful_mul<R, T>>([&](int i) { return lane::quick_mul<R>(a.lane[i], b.lane[i]); },
+                                                      [&](int i, T r) { return lane::mul_doubt<R>(a.lane[i], b.lane[i], r); },
+                                                      a, b);
+}
+template <int R = rn, Floating T> [[gnu::noinline]] Vec<T> div(const Vec<T>& a, const Vec<T>& b) {
+  return each_lane<T>([&](int i) { return lane::div<R>(a.lane[i], b.lane[i]); });
+}
+template <int R = rn, Floating T> [[gnu::noinline]] Vec<T> sqrt(const Vec<T>& a) {
+  return each_lane<T>([&](int i) { return lane::sqrt<R>(a.lane[i]); });
+}
+// +-(a b) +- c with one rounding.
+template <int R, bool negate_product, bool negate_addend, Floating T>
+[[gnu::noinline]] Vec<T> signed_fma(const Vec<T>& a, const Vec<T>& b, const Vec<T>& c) {
+  const auto quick = [&](int i) {
+    return lane::quick_fma<R>(negate_product ? -a.lane[i] : a.lane[i], b.lane[i], negate_addend ? -c.lane[i] : c.lane[i]);
+  };
+  return each_lane_with_care<lane::careful_fma<R, negate_product, negate_addend, T>>(
+      quick, [&](int i, T r) { return lane::fma_doubt<R>(a.lane[i], b.lane[i], c.lane[i], r); }, a, b, c);
+}
+// a b + c with one rounding.
+template <int R = rn, Floating T> LUM_INLINE Vec<T> fma(const Vec<T>& a, const Vec<T>& b, const Vec<T>& c) {
+  return signed_fma<R, false, false>(a, b, c);
+}
+// a b - c with one rounding.
+template <int R = rn, Floating T> LUM_INLINE Vec<T> fms(const Vec<T>& a, const Vec<T>& b, const Vec<T>& c) {
+  return signed_fma<R, false, true>(a, b, c);
+}
+// c - a b with one rounding.
+template <int R = rn, Floating T> LUM_INLINE Vec<T> fnma(const Vec<T>& a, const Vec<T>& b, const Vec<T>& c) {
+  return signed_fma<R, true, false>(a, b, c);
+}
+// -(a b) - c with one rounding.
+template <int R = rn, Floating T> LUM_INLINE Vec<T> fnms(const Vec<T>& a, const Vec<T>& b, const Vec<T>& c) {
+  return signed_fma<R, true, true>(a, b, c);
+}
+// c with the sign of the even or of the odd lanes changed.
+template <int odd, Floating T> LUM_INLINE Vec<T> negate_every_other(const Vec<T>& c) {
+  return each_lane<T>([&](int i) { return i % 2 == odd ? -c.lane[i] : c.lane[i]; });
+}
+// r, where c is a NaN and neither a nor b is one with that NaN in its own sign.
+template <Floating T> LUM_INLINE Vec<T> restore_nan(const Vec<T>& r, const Vec<T>& a, const Vec<T>& b, const Vec<T>& c) {
+  return each_lane<T>([&](int i) {
+    const bool from_c = lane::is_nan(c.lane[i]) && !lane::is_nan(a.lane[i]) && !lane::is_nan(b.lane[i]);
+    return from_c ? lane::quieted(c.lane[i]) : r.lane[i];
+  });
+}
+// a b - c in even lanes, a b + c in odd ones, with one rounding.
+template <Floating T> LUM_INLINE Vec<T> fmaddsub(const Vec<T>& a, const Vec<T>& b, const Vec<T>& c) {
+  return restore_nan(fma(a, b, negate_every_other<0>(c)), a, b, c);
+}
+// a b + c in even lanes, a b - c in odd ones, with one rounding.
+template <Floating T> LUM_INLINE Vec<T> fmsubadd(const Vec<T>& a, const Vec<T>& b, const Vec<T>& c) {
+  return restore_nan(fma(a, b, negate_every_other<1>(c)), a, b, c);
+}
+// The smaller; b when either is a NaN or both are zeros, so the order of the operands matters.
+template <Floating T> LUM_INLINE Vec<T> min(const Vec<T>& a, const Vec<T>& b) {
+  return each_lane<T>([&](int i) {
+    const T x = a.lane[i], y = b.lane[i];
+    return x < y ? x : y;
+  });
+}
+// The larger; b when either is a NaN or both are zeros, so the order of the operands matters.
+template <Floating T> LUM_INLINE Vec<T> max(const Vec<T>& a, const Vec<T>& b) {
+  return each_lane<T>([&](int i) {
+    const T x = a.lane[i], y = b.lane[i];
+    return x > y ? x : y;
+  });
+}
+// 1 / a with a relative error below 2^-14; a zero gives an infinity and an infinity a zero, of its sign.
+template <Floating T> [[gnu::noinline]] Vec<T> rcp14(const Vec<T>& a) {
+  return each_lane<T>([&](int i) { return lane::rcp14(a.lane[i]); });
+}
+// 1 / sqrt a with a relative error below 2^-14; a zero gives an infinity of its sign, a negative number the default NaN.
+template <Floating T> [[gnu::noinline]] Vec<T> rsqrt14(const Vec<T>& a) {
+  return each_lane<T>([&](int i) { return lane::rsqrt14(a.lane[i]); });
+}
+
+// ---- Exponent, significand, rounding to a grid
+
+// floor(log2 |a|), also of denormals; -infinity for a zero, +infinity for an infinity.
+template <Floating T> [[gnu::noinline]] Vec<T> getexp(const Vec<T>& a) {
+  return each_lane<T>([&](int i) { return lane::getexp(a.lane[i]); });
+}
+// The significand of a in the interval of imm bits 0-1: 0 [1,2), 1 [1/2,2), 2 [1/2,1), 3 [3/4,3/2); bits 2-3: 0 keeps the sign,
+// 1 clears it, 2 gives the default NaN for a negative number.
+template <int imm, Floating T> [[gnu::noinline]] Vec<T> getmant(const Vec<T>& a) {
+  return each_lane<T>([&](int i) { return lane::getmant<imm>(a.lane[i]); });
+}
+// a 2^floor(b) with one rounding, gradual underflow included.
+template <int R = rn, Floating T> [[gnu::noinline]] Vec<T> scalef(const Vec<T>& a, const Vec<T>& b) {
+  return each_lane_with_care<lane::exact_scalef<R, T>>([&](int i) { return lane::quick_scalef<R>(a.lane[i], b.lane[i]); },
+                                                       [&](int i, T) { return lane::scalef_doubt(a.lane[i], b.lane[i]); }, a,
+                                                       b);
+}
+// a rounded to a multiple of 2^-M, M in imm bits 4-7; bits 0-1: 0 nearest even, 1 down, 2 up, 3 toward zero; bit 2: the
+// environment's rounding, which kernels have set to nearest.
+template <int imm, Floating T> [[gnu::noinline]] Vec<T> rndscale(const Vec<T>& a) {
+  return each_lane<T>([&](int i) { return lane::rndscale<imm>(a.lane[i]); });
+}
+// a - rndscale<imm>(a), the exact remainder.
+template <int imm, Floating T> [[gnu::noinline]] Vec<T> reduce(const Vec<T>& a) {
+  return each_lane<T>([&](int i) { return lane::reduce<imm>(a.lane[i]); });
+}
+
+// ---- Comparison and classification
+
+// Predicates from 16 on are those below with the other behaviour at a quiet NaN, which raises no flag here.
+template <int predicate, Floating T> LUM_INLINE Mask<T> compare(const Vec<T>& a, const Vec<T>& b) {
+  return each_mask_lane<T>([&](int i) {
+    const T x = a.lane[i], y = b.lane[i];
+    const bool unordered = x != x || y != y;
+    constexpr int p = predicate & 15;
+    if constexpr (p == 0) return x == y;
+    else if constexpr (p == 1) return x < y;
+    else if constexpr (p == 2) return x <= y;
+    else if constexpr (p == 3) return unordered;
+    else if constexpr (p == 4) return x != y;
+    else if constexpr (p == 5) return !(x < y);
+    else if constexpr (p == 6) return !(x <= y);
+    else if constexpr (p == 7) return !unordered;
+    else if constexpr (p == 8) return unordered || x == y;
+    else if constexpr (p == 9) return !(x >= y);
+    else if constexpr (p == 10) return !(x > y);
+    else if constexpr (p == 11) return false;
+    else if constexpr (p == 12) return !unordered && x != y;
+    else if constexpr (p == 13) return x >= y;
+    else if constexpr (p == 14) return x > y;
+    else return true;
+  });
+}
+template <int predicate, Integer T> LUM_INLINE Mask<T> compare(const Vec<T>& a, const Vec<T>& b) {
+  return each_mask_lane<T>([&](int i) {
+    const T x = a.lane[i], y = b.lane[i];
+    if constexpr (predicate == 0) return x == y;
+    else if constexpr (predicate == 1) return x < y;
+    else if constexpr (predicate == 2) return x <= y;
+    else if constexpr (predicate == 3) return false;
+    else if constexpr (predicate == 4) return x != y;
+    else if constexpr (predicate == 5) return x >= y;
+    else if constexpr (predicate == 6) return x > y;
+    else return true;
+  });
+}
+// The predicates' codes are the same for floating-point and integer comparisons (0 eq, 1 lt, 2 le, 4 ne, 5 nlt, 6 nle).
+template <Lane T> LUM_INLINE Mask<T> eq(const Vec<T>& a, const Vec<T>& b) { return compare<0>(a, b); }
+template <Lane T> LUM_INLINE Mask<T> lt(const Vec<T>& a, const Vec<T>& b) { return compare<1>(a, b); }
+template <Lane T> LUM_INLINE Mask<T> le(const Vec<T>& a, const Vec<T>& b) { return compare<2>(a, b); }
+template <Lane T> LUM_INLINE Mask<T> ne(const Vec<T>& a, const Vec<T>& b) { return compare<4>(a, b); }
+template <Lane T> LUM_INLINE Mask<T> nlt(const Vec<T>& a, const Vec<T>& b) { return compare<5>(a, b); }
+template <Lane T> LUM_INLINE Mask<T> nle(const Vec<T>& a, const Vec<T>& b) { return compare<6>(a, b); }
+template <Floating T> LUM_INLINE Mask<T> unord(const Vec<T>& a, const Vec<T>& b) { return compare<3>(a, b); }
+template <Floating T> LUM_INLINE Mask<T> ord(const Vec<T>& a, const Vec<T>& b) { return compare<7>(a, b); }
+
+// Lanes whose class is in the set imm: bit 0 quiet NaN, 1 +0, 2 -0, 3 +infinity, 4 -infinity, 5 denormal, 6 negative finite
+// other than -0, 7 signalling NaN.
+template <int imm, Floating T> [[gnu::noinline]] Mask<T> fpclass(const Vec<T>& a) {
+  return each_mask_lane<T>([&](int i) { return lane::fpclass<imm>(a.lane[i]); });
+}
+// Lanes in which a & b has a bit set.
+template <Integer T> LUM_INLINE Mask<T> test(const Vec<T>& a, const Vec<T>& b) {
+  return each_mask_lane<T>([&](int i) { return (a.lane[i] & b.lane[i]) != 0; });
+}
+// Lanes in which a & b is zero.
+template <Integer T> LUM_INLINE Mask<T> testn(const Vec<T>& a, const Vec<T>& b) {
+  return each_mask_lane<T>([&](int i) { return (a.lane[i] & b.lane[i]) == 0; });
+}
+
+// ---- Selection
+
+// Per lane m ? a : b.
+template <Lane T> LUM_INLINE Vec<T> select(const Mask<T>& m, const Vec<T>& a, const Vec<T>& b) {
+  return each_lane<T>([&](int i) {
+    using U = UnsignedOf<T>;
+    return std::bit_cast<T>((std::bit_cast<U>(a.lane[i]) & m.bits_of(i)) | (std::bit_cast<U>(b.lane[i]) & ~m.bits_of(i)));
+  });
+}
+// Per lane m ? a + b : a.
+template <Floating T> LUM_INLINE Vec<T> add(Mask<T> m, Vec<T> a, Vec<T> b) { return select(m, a + b, a); }
+// Per lane m ? a - b : other.
+template <Floating T> LUM_INLINE Vec<T> sub(Mask<T> m, Vec<T> a, Vec<T> b, Vec<T> other) { return select(m, sub(a, b), other); }
+// Per lane m ? a - b : +0.
+template <Floating T> LUM_INLINE Vec<T> sub_or_zero(Mask<T> m, Vec<T> a, Vec<T> b) { return zero_unless(m, sub(a, b)); }
+// Per lane m ? a : +0.
+template <Lane T> LUM_INLINE Vec<T> zero_unless(const Mask<T>& m, const Vec<T>& a) {
+  return each_lane<T>([&](int i) { return std::bit_cast<T>(std::bit_cast<UnsignedOf<T>>(a.lane[i]) & m.bits_of(i)); });
+}
+// a, replaced by the special value that the 4-bit token of b's class names (quiet NaN, signalling NaN, zero, 1, -infinity,
+// +infinity, negative, positive, from the low token up).
+template <int imm>
+[[gnu::noinline]] Vec<double> fixupimm(const Vec<double>& a, const Vec<double>& b, const Vec<uint64_t>& tokens) {
+  static_assert(imm >= 0, "says only which exceptions are raised, and none is");
+  return each_lane<double>([&](int i) { return lane::fixupimm(a.lane[i], b.lane[i], tokens.lane[i]); });
+}
+// Bit i of imm is the result for the operand bits a, b, c with i = 4 a + 2 b + c.
+template <int imm, Integer T> LUM_INLINE Vec<T> ternary(const Vec<T>& a, const Vec<T>& b, const Vec<T>& c) {
+  return each_lane<T>([&](int i) {
+    using U = UnsignedOf<T>;
+    const U x = static_cast<U>(a.lane[i]), y = static_cast<U>(b.lane[i]), z = static_cast<U>(c.lane[i]);
+    U r = 0;
+    for (int row = 0; row < 8; ++row)
+      if (imm >> row & 1) r |= (row & 4 ? x : ~x) & (row & 2 ? y : ~y) & (row & 1 ? z : ~z);
+    return static_cast<T>(r);
+  });
+}
+
+}  // namespace portable
+}  // namespace lum

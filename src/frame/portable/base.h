@@ -1,0 +1,142 @@
+// Vectors and masks as arrays of lanes, loads and stores, a part of frame/vec_portable.h.
+#pragma once
+
+#include <cstring>
+
+#include "frame/vec_types.h"
+
+namespace lum {
+inline namespace portable {
+
+// ---- Types
+
+template <Lane T> struct alignas(16) Vec { T lane[lanes_of<T>]; };
+
+// All bits set in the lanes of the mask, none in the others. The lanes are of type T, since some compilers do not vectorise a
+// comparison of doubles that gives integers.
+template <Lane T> struct alignas(16) Mask {
+  T lane[lanes_of<T>];
+  LUM_INLINE UnsignedOf<T> bits_of(int i) const { return std::bit_cast<UnsignedOf<T>>(lane[i]); }
+};
+
+template <class T> inline constexpr bool is32 = sizeof(T) == 4;
+
+// The vector of value(i) in lane i.
+template <Lane T, class F> LUM_INLINE Vec<T> each_lane(F value) {
+  Vec<T> r;
+  for (int i = 0; i < lanes_of<T>; ++i) r.lane[i] = value(i);
+  return r;
+}
+// The mask of the lanes in which condition(i) holds.
+template <Lane T, class F> LUM_INLINE Mask<T> each_mask_lane(F condition) {
+  Mask<T> r;
+  constexpr T set = std::bit_cast<T>(static_cast<UnsignedOf<T>>(~UnsignedOf<T>{0}));
+  for (int i = 0; i < lanes_of<T>; ++i) r.lane[i] = condition(i) ? set : T{0};
+  return r;
+}
+// The mask whose lanes have the bits that value(i) gives.
+template <Lane T, class F> LUM_INLINE Mask<T> each_mask_bits(F value) {
+  Mask<T> r;
+  for (int i = 0; i < lanes_of<T>; ++i) r.lane[i] = std::bit_cast<T>(static_cast<UnsignedOf<T>>(value(i)));
+  return r;
+}
+
+// ---- Make, load, store
+
+// x in every lane.
+template <Lane T> LUM_INLINE Vec<T> all(T x) {
+  return each_lane<T>([&](int) { return x; });
+}
+
+// The lane numbers 0, 1, 2, ...
+template <Integer T> LUM_INLINE Vec<T> iota() {
+  return each_lane<T>([&](int i) { return static_cast<T>(i); });
+}
+
+// A whole vector from memory of any alignment.
+template <Lane T> LUM_INLINE Vec<T> load(const T* p) {
+  Vec<T> r;
+  std::memcpy(&r, p, sizeof r);
+  return r;
+}
+
+// The lanes of the mask from memory, which alone is read; the others from fill.
+template <Lane T> LUM_INLINE Vec<T> load(const Mask<T>& mask, const T* p, Vec<T> fill) {
+  for (int i = 0; i < lanes_of<T>; ++i)
+    if (mask.bits_of(i)) std::memcpy(&fill.lane[i], p + i, sizeof(T));
+  return fill;
+}
+
+template <Lane T> LUM_INLINE void store(T* p, const Vec<T>& a) { std::memcpy(p, &a, sizeof a); }
+
+// Writes the lanes of the mask and touches no other memory.
+template <Lane T> LUM_INLINE void store(const Mask<T>& mask, T* p, const Vec<T>& a) {
+  for (int i = 0; i < lanes_of<T>; ++i)
+    if (mask.bits_of(i)) std::memcpy(p + i, &a.lane[i], sizeof(T));
+}
+
+// ---- Reinterpretation
+
+template <Floating T> LUM_INLINE Vec<UnsignedOf<T>> bits(const Vec<T>& a) { return std::bit_cast<Vec<UnsignedOf<T>>>(a); }
+template <Integer32 T> LUM_INLINE Vec<float> as_float(const Vec<T>& a) { return std::bit_cast<Vec<float>>(a); }
+template <Integer64 T> LUM_INLINE Vec<double> as_float(const Vec<T>& a) { return std::bit_cast<Vec<double>>(a); }
+template <Integer T> LUM_INLINE Vec<SignedOf<T>> as_signed(const Vec<T>& a) { return std::bit_cast<Vec<SignedOf<T>>>(a); }
+template <Integer T> LUM_INLINE Vec<UnsignedOf<T>> as_unsigned(const Vec<T>& a) { return std::bit_cast<Vec<UnsignedOf<T>>>(a); }
+// The lanes of one width seen as lanes of the other, the low half first.
+template <Integer32 T> LUM_INLINE Vec<uint64_t> as_lanes64(const Vec<T>& a) {
+  return each_lane<uint64_t>(
+      [&](int i) { return static_cast<uint32_t>(a.lane[2 * i]) | uint64_t{static_cast<uint32_t>(a.lane[2 * i + 1])} << 32; });
+}
+template <Integer64 T> LUM_INLINE Vec<uint32_t> as_lanes32(const Vec<T>& a) {
+  return each_lane<uint32_t>(
+      [&](int i) { return static_cast<uint32_t>(static_cast<uint64_t>(a.lane[i / 2]) >> (i % 2 ? 32 : 0)); });
+}
+
+// ---- Masks
+
+// The low `count` lanes, 0 <= count <= lanes.
+template <Lane T> LUM_INLINE Mask<T> first_lanes(int count) {
+  return each_mask_lane<T>([&](int i) { return i < count; });
+}
+template <Lane T> LUM_INLINE Mask<T> mask_of(uint32_t lane_bits) {
+  return each_mask_lane<T>([&](int i) { return (lane_bits & (1u << i)) != 0; });
+}
+template <Lane T> LUM_INLINE uint32_t to_bits(const Mask<T>& m) {
+  uint32_t lane_bits = 0;
+  for (int i = 0; i < lanes_of<T>; ++i) lane_bits |= static_cast<uint32_t>(m.bits_of(i)) & (1u << i);
+  return lane_bits;
+}
+// The mask of lanes of one type as that of another type with as many lanes.
+template <Lane To, Lane From>
+requires(sizeof(To) == sizeof(From)) LUM_INLINE Mask<To> mask_cast(const Mask<From>& m) { return std::bit_cast<Mask<To>>(m); }
+template <Lane T> LUM_INLINE Mask<T> operator&(const Mask<T>& a, const Mask<T>& b) {
+  return each_mask_bits<T>([&](int i) { return a.bits_of(i) & b.bits_of(i); });
+}
+template <Lane T> LUM_INLINE Mask<T> operator|(const Mask<T>& a, const Mask<T>& b) {
+  return each_mask_bits<T>([&](int i) { return a.bits_of(i) | b.bits_of(i); });
+}
+template <Lane T> LUM_INLINE Mask<T> operator^(const Mask<T>& a, const Mask<T>& b) {
+  return each_mask_bits<T>([&](int i) { return a.bits_of(i) ^ b.bits_of(i); });
+}
+template <Lane T> LUM_INLINE Mask<T> operator~(const Mask<T>& a) {
+  return each_mask_bits<T>([&](int i) { return ~a.bits_of(i); });
+}
+template <Lane T> LUM_INLINE bool any(const Mask<T>& a) {
+  UnsignedOf<T> united = 0;
+  for (int i = 0; i < lanes_of<T>; ++i) united |= a.bits_of(i);
+  return united != 0;
+}
+template <Lane T> LUM_INLINE bool none(const Mask<T>& a) { return !any(a); }
+// The masks of two vectors of doubles as that of one vector of floats, and its halves.
+LUM_INLINE Mask<float> join(const Mask<double>& low, const Mask<double>& high) {
+  return each_mask_lane<float>([&](int i) { return (i < 8 ? low.bits_of(i) : high.bits_of(i - 8)) != 0; });
+}
+LUM_INLINE Mask<double> low_half(const Mask<float>& m) {
+  return each_mask_lane<double>([&](int i) { return m.bits_of(i) != 0; });
+}
+LUM_INLINE Mask<double> high_half(const Mask<float>& m) {
+  return each_mask_lane<double>([&](int i) { return m.bits_of(i + 8) != 0; });
+}
+
+}  // namespace portable
+}  // namespace lum

@@ -1,0 +1,94 @@
+// Lookup and moves across lanes, a part of frame/vec_portable.h.
+#pragma once
+
+#include "frame/portable/integers.h"
+
+namespace lum {
+inline namespace portable {
+
+// ---- Lookup and moves
+
+// Entry index mod lanes of the table.
+template <Lane T, Integer I>
+requires(sizeof(T) == sizeof(I)) LUM_INLINE Vec<T> permute(const Vec<T>& table, const Vec<I>& index) {
+  return each_lane<T>([&](int i) { return table.lane[raw(index.lane[i]) & (lanes_of<T> - 1)]; });
+}
+// Entry index mod 2 lanes of the table whose first half is low and second half is high.
+template <Lane T, Integer I>
+requires(sizeof(T) == sizeof(I)) LUM_INLINE Vec<T> permute2(const Vec<T>& low, const Vec<T>& high, const Vec<I>& index) {
+  return each_lane<T>([&](int i) {
+    const auto entry = raw(index.lane[i]) & (2 * lanes_of<T> - 1);
+    return entry < lanes_of<T> ? low.lane[entry] : high.lane[entry - lanes_of<T>];
+  });
+}
+// The same on 16-bit words: 64 entries, each lane of the index holding two.
+template <Integer32 T, Integer I>
+requires(sizeof(T) == sizeof(I)) LUM_INLINE Vec<T> permute2_words(const Vec<T>& low, const Vec<T>& high, const Vec<I>& index) {
+  const auto word = [&](uint32_t entry) {
+    const T pair = entry & 32 ? high.lane[(entry & 31) / 2] : low.lane[(entry & 31) / 2];
+    return (raw(pair) >> (entry % 2 ? 16 : 0)) & 0xFFFF;
+  };
+  return each_lane<T>([&](int i) {
+    const uint32_t pair = raw(index.lane[i]);
+    return static_cast<T>(word(pair & 63) | word((pair >> 16) & 63) << 16);
+  });
+}
+// base[index] per lane, the index signed and of the lane's width.
+template <Lane T, Integer I>
+requires(sizeof(T) == sizeof(I)) LUM_INLINE Vec<T> gather(const T* base, const Vec<I>& index) {
+  return each_lane<T>([&](int i) { return base[static_cast<SignedOf<I>>(index.lane[i])]; });
+}
+// The same in the lanes of the mask, which alone are read; the others from old.
+template <Lane T, Integer I>
+requires(sizeof(T) == sizeof(I)) LUM_INLINE Vec<T> gather(const Mask<T>& mask, const T* base, const Vec<I>& index, Vec<T> old) {
+  for (int i = 0; i < lanes_of<T>; ++i)
+    if (mask.bits_of(i)) old.lane[i] = base[static_cast<SignedOf<I>>(index.lane[i])];
+  return old;
+}
+
+// The four entries from base[index] on, of each lane: entry i of all lanes in column i.
+template <Lane T> struct Columns { Vec<T> column0, column1, column2, column3; };
+template <Lane T, Integer I>
+requires(sizeof(T) == sizeof(I)) LUM_INLINE Columns<T> gather_rows(const T* base, const Vec<I>& index) {
+  return {gather(base, index), gather(base + 1, index), gather(base + 2, index), gather(base + 3, index)};
+}
+
+template <Lane T> struct Pair { Vec<T> even, odd; };
+// The even and the odd lanes of the sequence a, b.
+template <Floating T> LUM_INLINE Pair<T> deinterleave(const Vec<T>& a, const Vec<T>& b) {
+  constexpr int half = lanes_of<T> / 2;
+  Pair<T> r;
+  for (int i = 0; i < half; ++i) {
+    r.even.lane[i] = a.lane[2 * i];
+    r.odd.lane[i] = a.lane[2 * i + 1];
+    r.even.lane[half + i] = b.lane[2 * i];
+    r.odd.lane[half + i] = b.lane[2 * i + 1];
+  }
+  return r;
+}
+// The sequence (first, second) whose even and odd lanes are those given: the inverse of deinterleave.
+template <Floating T> LUM_INLINE Pair<T> interleave(const Vec<T>& even, const Vec<T>& odd) {
+  constexpr int half = lanes_of<T> / 2;
+  Pair<T> r;
+  for (int i = 0; i < half; ++i) {
+    r.even.lane[2 * i] = even.lane[i];
+    r.even.lane[2 * i + 1] = odd.lane[i];
+    r.odd.lane[2 * i] = even.lane[half + i];
+    r.odd.lane[2 * i + 1] = odd.lane[half + i];
+  }
+  return r;
+}
+// Lanes 2i and 2i+1 exchanged.
+template <Floating T> LUM_INLINE Vec<T> swap_pairs(const Vec<T>& a) {
+  return each_lane<T>([&](int i) { return a.lane[i ^ 1]; });
+}
+// Lane 2i, or 2i+1, in both of its pair.
+template <Floating T> LUM_INLINE Vec<T> duplicate_even(const Vec<T>& a) {
+  return each_lane<T>([&](int i) { return a.lane[i & ~1]; });
+}
+template <Floating T> LUM_INLINE Vec<T> duplicate_odd(const Vec<T>& a) {
+  return each_lane<T>([&](int i) { return a.lane[i | 1]; });
+}
+
+}  // namespace portable
+}  // namespace lum
