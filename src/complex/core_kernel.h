@@ -21,14 +21,22 @@ LUM_INLINE PathValue ValueWithin(HeadTail re, HeadTail im, double units, Mask<Lu
   return {re, im, abs(re.head) * all(units), abs(im.head) * all(units), refused};
 }
 
-// Lanes with a magnitude outside [low, high]: also zeros and NaN.
-LUM_INLINE Mask<Lum64f> IsOutside(Vec<Lum64f> magnitude, double low, double high) {
-  return nle(all(low), magnitude) | nle(magnitude, all(high));
-}
-// Squares of magnitudes between these, and products of two squares, lose nothing to the ends of the range.
-inline constexpr double small_part = 0x1p-200, large_part = 0x1p240;
+// Zeros, by their bits: the caller may have denormal numbers taken for zero.
+LUM_INLINE Mask<Lum64f> IsZero(Vec<Lum64f> x) { return mask_cast<Lum64f>(eq(bits(abs(x)), all(uint64_t{0}))); }
 
-// A part rounded to binary64, to nearest whatever the caller's rounding.
+// Lanes with a magnitude above the largest, or so small that squares and products of squares lose bits to the end of the range;
+// zeros are not among them, NaN is.
+LUM_INLINE Mask<Lum64f> IsFar(Vec<Lum64f> x, double largest) {
+  const auto magnitude = abs(x);
+  return (nle(all(0x1p-200), magnitude) & ~IsZero(x)) | nle(magnitude, all(largest));
+}
+// The same at both ends.
+LUM_INLINE Mask<Lum64f> HasFarPart(ComplexVec<Lum64f> z) {
+  constexpr double largest = 0x1p240;
+  return IsFar(z.re, largest) | IsFar(z.im, largest);
+}
+
+// A part rounded to binary64, to nearest whatever the caller's rounding. A zero has the sign of the head.
 struct RoundedPart {
   Vec<Lum64f> value;
   Mask<Lum64f> refused;
@@ -37,7 +45,7 @@ LUM_INLINE RoundedPart RoundedAsCore(HeadTail part, Vec<Lum64f> error) {
   const auto [head, tail] = Normalised(part);
   const auto distance = error * all(0x1p-64);
   const auto above = head + (tail + distance), below = head + (tail - distance);
-  return {above, ne(above, below)};
+  return {or_sign(part.head, above), ne(above, below)};
 }
 
 template <class Path, class... Inputs> LUM_INLINE Lanes<Lum64fc> RoundedPath(const Inputs&... packed) {
@@ -55,8 +63,9 @@ LUM_INLINE NarrowedPart NarrowedAsCore(Vec<Lum64f> low, Vec<Lum64f> high) {
   const auto distance = all(0x1p-49);
   const auto above = narrow(fma(low, distance, low), fma(high, distance, high));
   const auto below = narrow(fnma(low, distance, low), fnma(high, distance, high));
-  const auto a = abs(above);
-  return {above, ne(above, below) | nle(all(0x1p-125f), a) | nle(a, all(0x1p127f))};
+  const auto magnitude = abs(above);
+  const auto is_small = nle(all(0x1p-125f), magnitude) & ~join(IsZero(low), IsZero(high));
+  return {above, ne(above, below) | is_small | nle(magnitude, all(0x1p127f))};
 }
 
 LUM_INLINE ComplexVec<Lum64f> WidenLow(ComplexVec<Lum32f> z) { return {widen_low(z.re), widen_low(z.im)}; }

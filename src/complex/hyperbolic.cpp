@@ -15,8 +15,7 @@ struct Factors {
 LUM_INLINE Factors FactorsOf(Vec<Lum64f> exponent, Vec<Lum64f> angle, double largest) {
   const auto circular = SineCosineOf(angle);
   const auto hyperbolic = HyperbolicPair(exponent);
-  const auto refused =
-      circular.refused | IsOutside(abs(exponent), small_part, largest) | IsOutside(abs(angle), small_part, largest_angle);
+  const auto refused = circular.refused | IsFar(exponent, largest) | IsFar(angle, largest_angle);
   return {circular.sine, circular.cosine, hyperbolic.sinh, hyperbolic.cosh, refused};
 }
 

@@ -37,8 +37,6 @@ template <Arc arc> LUM_INLINE AngleAndLogarithm InverseParts(Vec<Lum64f> u, Vec<
 // The core's steps add up to this.
 constexpr double inverse_error = 16;
 
-LUM_INLINE HeadTail WithSign(Vec<Lum64f> sign, HeadTail a) { return {xor_sign(sign, a.head), xor_sign(sign, a.tail)}; }
-
 // The parts of arccos z for |im z|, and of arcsinh z.
 LUM_INLINE AngleAndLogarithm ArccosineParts(ComplexVec<Lum64f> z) {
   const auto parts = InverseParts<Arc::cosine>(abs(z.re), abs(z.im));
@@ -47,34 +45,33 @@ LUM_INLINE AngleAndLogarithm ArccosineParts(ComplexVec<Lum64f> z) {
 }
 LUM_INLINE AngleAndLogarithm ArcsineParts(Vec<Lum64f> angle_side, Vec<Lum64f> other) {
   const auto parts = InverseParts<Arc::sine>(abs(angle_side), abs(other));
-  return {WithSign(angle_side, parts.angle), WithSign(other, parts.logarithm)};
+  return {XorSign(angle_side, parts.angle), XorSign(other, parts.logarithm)};
 }
-LUM_INLINE Mask<Lum64f> IsFar(ComplexVec<Lum64f> z) {
-  return IsOutside(abs(z.re), small_part, large_part) | IsOutside(abs(z.im), small_part, large_part);
-}
+// On the axes one of the differences is zero.
+LUM_INLINE Mask<Lum64f> IsRefused(ComplexVec<Lum64f> z) { return HasFarPart(z) | IsZero(z.re) | IsZero(z.im); }
 
 struct AcosPath {
   static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z) {
     const auto parts = ArccosineParts(z);
-    return ValueWithin(parts.angle, -WithSign(z.im, parts.logarithm), inverse_error, IsFar(z));
+    return ValueWithin(parts.angle, -XorSign(z.im, parts.logarithm), inverse_error, IsRefused(z));
   }
 };
 struct AcoshPath {
   static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z) {
     const auto parts = ArccosineParts(z);
-    return ValueWithin(parts.logarithm, WithSign(z.im, parts.angle), inverse_error, IsFar(z));
+    return ValueWithin(parts.logarithm, XorSign(z.im, parts.angle), inverse_error, IsRefused(z));
   }
 };
 struct AsinPath {
   static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z) {
     const auto parts = ArcsineParts(z.re, z.im);
-    return ValueWithin(parts.angle, parts.logarithm, inverse_error, IsFar(z));
+    return ValueWithin(parts.angle, parts.logarithm, inverse_error, IsRefused(z));
   }
 };
 struct AsinhPath {
   static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z) {
     const auto parts = ArcsineParts(z.im, z.re);
-    return ValueWithin(parts.logarithm, parts.angle, inverse_error, IsFar(z));
+    return ValueWithin(parts.logarithm, parts.angle, inverse_error, IsRefused(z));
   }
 };
 
@@ -100,19 +97,19 @@ LUM_INLINE Artanh ArtanhParts(Vec<Lum64f> x, Vec<Lum64f> y) {
       select(lt(all(0.0299), ratio.head), fma(logarithm.head, all(3.0), all(2.5)), logarithm.head * all(6.0));
   const auto cancelled = fma(ax, ax, one) + y2.head;
   const auto growth = cancelled * rcp14(max(abs(t.head), ay + ay));
-  return {WithSign(x, logarithm), WithSign(y, angle), logarithm_error, angle.head * fma(growth, all(4.1), all(8.0))};
+  return {XorSign(x, logarithm), XorSign(y, angle), logarithm_error, angle.head * fma(growth, all(4.1), all(8.0))};
 }
 
 struct AtanhPath {
   static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z) {
     const auto a = ArtanhParts(z.re, z.im);
-    return {a.logarithm, a.angle, a.logarithm_error, a.angle_error, IsFar(z)};
+    return {a.logarithm, a.angle, a.logarithm_error, a.angle_error, HasFarPart(z)};
   }
 };
 struct AtanPath {
   static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z) {
     const auto a = ArtanhParts(z.im, z.re);
-    return {a.angle, a.logarithm, a.angle_error, a.logarithm_error, IsFar(z)};
+    return {a.angle, a.logarithm, a.angle_error, a.logarithm_error, HasFarPart(z)};
   }
 };
 

@@ -24,9 +24,9 @@ LUM_INLINE LogarithmValue LogarithmParts(ComplexVec<Lum64f> z) {
   const auto magnitude = abs(modulus.head);
   const auto is_off = nle(abs(square.head - all(1.0)), all(0.0299));
   const auto error = select(is_off, fma(magnitude, all(2.0), all(1.25)), magnitude * all(6.0));
-  const auto refused = IsOutside(ax, small_part, large_part) | IsOutside(ay, small_part, large_part) |
-                       nle(all(0x1p-36), magnitude);  // cancelled: the square was right to 2^-105
-  return {modulus, {xor_sign(z.im, angle.head), xor_sign(z.im, angle.tail)}, error, angle.head * all(2.0), refused};
+  // Where it is as small as here it has lost bits: the square was right to 2^-105.
+  const auto refused = HasFarPart(z) | nle(all(0x1p-36), magnitude);
+  return {modulus, XorSign(z.im, angle), error, angle.head * all(2.0), refused};
 }
 
 struct Log10Path {
@@ -49,8 +49,7 @@ struct SqrtPath {
     const auto is_left = lt(z.re, all(0.0));
     const auto im = Select(is_left, large, small);
     constexpr double root_error = 5;
-    return ValueWithin(Select(is_left, small, large), {xor_sign(z.im, im.head), xor_sign(z.im, im.tail)}, root_error,
-                       IsOutside(ax, small_part, large_part) | IsOutside(ay, small_part, large_part));
+    return ValueWithin(Select(is_left, small, large), XorSign(z.im, im), root_error, HasFarPart(z));
   }
 };
 
@@ -62,9 +61,8 @@ LUM_INLINE PathValue PowerOf(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w) {
   const auto exponent = w.re * re.value - w.im * im.value, angle = w.re * im.value + w.im * re.value;
   const auto e = Exponential(exponent);
   const auto circular = SineCosineOf(angle);
-  const auto refused = logarithm.refused | re.refused | im.refused | circular.refused |
-                       IsOutside(abs(exponent), small_part, largest_exponent) |
-                       IsOutside(abs(angle), small_part, largest_angle);
+  const auto refused = logarithm.refused | re.refused | im.refused | circular.refused | IsFar(exponent, largest_exponent) |
+                       IsFar(angle, largest_angle);
   constexpr double product_error = 5;
   return ValueWithin(Product(e, circular.cosine), Product(e, circular.sine), product_error, refused);
 }

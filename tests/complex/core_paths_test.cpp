@@ -31,6 +31,11 @@ class Points {
   Point NearOneOf(std::initializer_list<double> numbers) { return {NextTo(numbers), NextTo(numbers)}; }
   // Sums of eighths: many results are exact.
   Point OnGrid() { return {std::round(Uniform(-32, 32)) / 8, std::round(Uniform(-32, 32)) / 8}; }
+  // On an axis, with both signs of zero.
+  Point OnAxis(int smallest, int largest) {
+    const double x = OfMagnitude(smallest, largest), zero = std::copysign(0.0, Uniform(-1, 1));
+    return Integer(0, 1) == 0 ? Point{x, zero} : Point{zero, x};
+  }
   // Parts next to multiples of pi/128.
   Point NearAngles() { return {NextToAngle(), NextToAngle()}; }
 
@@ -64,6 +69,7 @@ Batch PointsOf(const Export& entry) {
     list.push_back(points.NearOneOf({1, 1, 0x1p-20, 0.5}));
     list.push_back(points.NearOneOf({600, 300, 10000, 88, 1, 0x1p-200, 0x1p240, 0x1p-125, 0x1p126}));
     list.push_back(points.OnGrid());
+    list.push_back(points.OnAxis(-12, 10));
     list.push_back(points.NearAngles());
   }
   Batch batch(entry);

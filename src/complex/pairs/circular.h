@@ -15,15 +15,17 @@ struct CircularPair {
   Mask<Lum64f> refused;  // so near to a multiple of pi/128 that r has lost bits
 };
 
+// The sine of a zero is that zero.
 LUM_INLINE CircularPair SineCosineOf(Vec<Lum64f> y) {
   static constexpr auto table = table64({
 #include "tables/generated/pairs_angles_256.inc"
   });
   constexpr auto shifter = f64(0x4338000000000000, 0x1.8p52);
-  const auto t = fma(y, all(f64(0x40445F306DC9C883, 40.74366543152521)), all(shifter));
+  const auto magnitude = abs(y);
+  const auto t = fma(magnitude, all(f64(0x40445F306DC9C883, 40.74366543152521)), all(shifter));
   const auto k = t - all(shifter);
   const auto second = all(f64(0xBD6E973DCB380000, -8.694424493829222e-13));
-  const auto r1 = fnma(k, all(f64(0x3F9921FB54480000, 0.024543692607039702)), y);  // exact, as is the second product
+  const auto r1 = fnma(k, all(f64(0x3F9921FB54480000, 0.024543692607039702)), magnitude);  // exact, as is the second product
   const auto r = fnma(k, second, r1);
   const auto r_tail = fnma(k, all(f64(0xBB39CCEBA3F91F19, -2.134164906595704e-23)), fnma(k, second, r1 - r));
   const auto q = r * r;
@@ -42,7 +44,7 @@ LUM_INLINE CircularPair SineCosineOf(Vec<Lum64f> y) {
   const auto sine = Normalised(s.head, for_sine.head), cosine = Normalised(c.head, negate(for_cosine.head));
   const auto sine_tail = fma(c.tail, r, s.tail + (sine.tail + for_sine.tail));
   const auto cosine_tail = fnma(s.tail, r, c.tail + (cosine.tail - for_cosine.tail));
-  return {Normalised(sine.head, fma(s.head, cosine_rest, fma(c.head, sine_rest, sine_tail))),
+  return {XorSign(y, Normalised(sine.head, fma(s.head, cosine_rest, fma(c.head, sine_rest, sine_tail)))),
           Normalised(cosine.head, fma(c.head, cosine_rest, fnma(s.head, sine_rest, cosine_tail))),
           lt(abs(r), all(0x1p-19)) & ne(k, all(0.0))};
 }

@@ -47,9 +47,9 @@ struct SinhCosh {
   HeadTail sinh, cosh;
 };
 
-// By the addition theorems; the hyperbolic sine of the table's point is exact where it is small.
+// By the addition theorems; the hyperbolic sine of the table's point is exact where it is small. That of a zero is that zero.
 LUM_INLINE SinhCosh HyperbolicPair(Vec<Lum64f> x) {
-  const auto [rising, falling, r] = ReduceExponent(x);
+  const auto [rising, falling, r] = ReduceExponent(abs(x));
   const auto half_rising = Scaled(rising, 0.5), half_falling = Scaled(falling, 0.5);
   const auto s = Add(half_rising, -half_falling), c = Add(half_rising, half_falling);
   const auto q = r.head * r.head;
@@ -65,7 +65,7 @@ LUM_INLINE SinhCosh HyperbolicPair(Vec<Lum64f> x) {
   const auto sinh = Normalised(s.head, for_sinh.head), cosh = Normalised(c.head, for_cosh.head);
   const auto sinh_tail = fma(c.tail, r.head, s.tail + (sinh.tail + for_sinh.tail));
   const auto cosh_tail = fma(s.tail, r.head, c.tail + (cosh.tail + for_cosh.tail));
-  return {Normalised(sinh.head, fma(s.head, cosh_rest, fma(c.head, sinh_rest, sinh_tail))),
+  return {XorSign(x, Normalised(sinh.head, fma(s.head, cosh_rest, fma(c.head, sinh_rest, sinh_tail)))),
           Normalised(cosh.head, fma(c.head, cosh_rest, fma(s.head, sinh_rest, cosh_tail)))};
 }
 

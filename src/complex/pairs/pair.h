@@ -13,6 +13,8 @@ struct HeadTail {
 };
 
 LUM_INLINE HeadTail operator-(HeadTail a) { return {negate(a.head), negate(a.tail)}; }
+// a turned over where x is negative.
+LUM_INLINE HeadTail XorSign(Vec<Lum64f> x, HeadTail a) { return {xor_sign(x, a.head), xor_sign(x, a.tail)}; }
 
 LUM_INLINE HeadTail ExactSum(Vec<Lum64f> a, Vec<Lum64f> b) {
   const auto s = two_sum(a, b);
@@ -55,7 +57,7 @@ LUM_INLINE HeadTail Scaled(HeadTail a, Lum64f power) { return {a.head * all(powe
 LUM_INLINE HeadTail Select(Mask<Lum64f> m, HeadTail a, HeadTail b) {
   return {select(m, a.head, b.head), select(m, a.tail, b.tail)};
 }
-LUM_INLINE HeadTail Magnitude(HeadTail a) { return {abs(a.head), xor_sign(a.head, a.tail)}; }
+LUM_INLINE HeadTail Magnitude(HeadTail a) { return XorSign(a.head, a); }
 
 // Two Newton steps from the estimate: right to a few units.
 LUM_INLINE Vec<Lum64f> FullReciprocal(Vec<Lum64f> a) {
