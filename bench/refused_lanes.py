@@ -21,8 +21,9 @@ everyday size in which no element, one of 1000, one of 32 or each one is replace
 arguments that a function refuses, the tables have those that a user may well have.
 
 The figures are ticks of the time stamp counter an element, the least of nine repetitions, and in parentheses the time of a loop
-over the standard library's function on the same array in the same run, over ours: below 1 the loop is the faster one. There is no such function for
-CdfNormInv, ErfInv and ErfcInv; that of CdfNorm is composed of erfc. [data/refused.csv](data/refused.csv) holds all figures.
+over the standard library's function on the same array in the same run, over ours: below 1 the loop is the faster one. There is
+no such function for CdfNormInv, ErfInv and ErfcInv; that of CdfNorm is composed of erfc. [data/refused.csv](data/refused.csv)
+holds all figures.
 
 These real functions refuse nothing and have no line: {nothing_refused}.
 

@@ -37,6 +37,8 @@ function or formula on a peer's logarithm or erfc, and *plain* the formula of a 
 ours. *floor* is what the loop must take by the processor's execution ports alone (llvm-mca, Ice Lake server model, in core cycles;
 the time stamp counter runs at another frequency). All candidates of a function run interleaved in one process.
 
+Arguments that the vector paths refuse have [a page of their own](refused-lanes.md).
+
 Measured on {machine}. To repeat: `./run bench` (or `./run bench Exp`); `./run bench --compare BUILD Exp` sets two builds side by side.
 """
 

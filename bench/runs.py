@@ -51,9 +51,10 @@ def merged(rows, path, parts):
     replaced = {row["function"] for row in rows}
     stored = {k: row for k, row in stored.items() if row["function"] not in replaced}
     stored.update({key(row): row for row in rows})
+    stored = dict(sorted(stored.items()))
     path.parent.mkdir(parents=True, exist_ok=True)
     with path.open("w", newline="") as file:
         writer = csv.DictWriter(file, [*parts, "ns", "ticks"], lineterminator="\n")
         writer.writeheader()
-        writer.writerows(stored[k] for k in sorted(stored))
+        writer.writerows(stored.values())
     return stored
