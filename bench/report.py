@@ -37,6 +37,8 @@ function or formula on a peer's logarithm or erfc, and *plain* the formula of a 
 ours. *floor* is what the loop must take by the processor's execution ports alone (llvm-mca, Ice Lake server model, in core cycles;
 the time stamp counter runs at another frequency). All candidates of a function run interleaved in one process.
 
+Arguments that the vector paths refuse have [a page of their own](refused-lanes.md).
+
 Measured on {machine}. To repeat: `./run bench` (or `./run bench Exp`); `./run bench --compare BUILD Exp` sets two builds side by side.
 """
 
@@ -44,7 +46,7 @@ Measured on {machine}. To repeat: `./run bench` (or `./run bench Exp`); `./run b
 def print_comparison(rows):
     base = {(r["function"], r["length"], r["who"][5:]): float(r["ns"]) for r in rows if r["who"].startswith("base:")}
     print(f"{'function':<16} {'tag':<6} {'length':>9} {'ns here':>10} {'ns base':>10} {'base/here':>10}")
-    for r in rows:
+    for r in sorted(rows, key=lambda row: (row["function"], row["who"], row["length"])):
         key = (r["function"], r["length"], r["who"])
         if key in base:
             here = float(r["ns"])
@@ -126,7 +128,7 @@ def main():
     mode.add_argument("--compare", type=Path, metavar="BASE")
     mode.add_argument("--refused", action="store_true")
     mode.add_argument("--lengths", help="lengths of the arrays, separated by commas")
-    arguments = parser.parse_args()
+    arguments = parser.parse_intermixed_args()  # functions may stand behind options
     if arguments.refused:
         refused_lanes.report(arguments.build, arguments.functions)
         return 0

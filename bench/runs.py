@@ -2,6 +2,7 @@
 
 import csv
 import json
+import statistics
 import subprocess
 import sys
 import tempfile
@@ -15,25 +16,26 @@ def machine():
     return "an unknown processor"
 
 
-def run_benchmarks(build, functions, extra, parts):
-    """Rows from one interleaved run: the parts of the benchmarks' names, ns and ticks an element; medians of the repetitions.
-    The second part of a name is the length."""
+def run_benchmarks(build, functions, extra, parts, repetitions=3, of_all=statistics.median):
+    """Rows from one interleaved run: the parts of the benchmarks' names, ns and ticks an element, of all repetitions the median
+    or what else is given. The second part of a name is the length."""
     with tempfile.NamedTemporaryFile(suffix=".json") as out:
         command = [build / "bench/bench", *functions, *extra, "--benchmark_enable_random_interleaving=true",
-                   "--benchmark_repetitions=3", "--benchmark_min_time=0.01", f"--benchmark_out={out.name}",
+                   f"--benchmark_repetitions={repetitions}", "--benchmark_min_time=0.01", f"--benchmark_out={out.name}",
                    "--benchmark_out_format=json", "--benchmark_display_aggregates_only=true"]
         code = subprocess.run(command, stdout=subprocess.DEVNULL).returncode
         if code != 0:
             sys.exit(code)
         measured = json.load(open(out.name))["benchmarks"]
-    rows = []
+    figures = {}
     for entry in measured:
-        if entry.get("aggregate_name") != "median":
-            continue
-        name = entry["run_name"].split("/")[:len(parts)]
+        if entry["run_type"] == "iteration":
+            figures.setdefault(tuple(entry["run_name"].split("/")[:len(parts)]), []).append((entry["real_time"], entry["ticks"]))
+    rows = []
+    for name, times in figures.items():
         length = int(name[1])
-        rows.append(dict(zip(parts, name)) | {"length": length, "ns": f"{entry['real_time'] / length:.4g}",
-                                              "ticks": f"{entry['ticks']:.4g}"})
+        ns, ticks = (of_all(column) for column in zip(*times))
+        rows.append(dict(zip(parts, name)) | {"length": length, "ns": f"{ns / length:.4g}", "ticks": f"{ticks:.4g}"})
     return rows
 
 
@@ -49,9 +51,10 @@ def merged(rows, path, parts):
     replaced = {row["function"] for row in rows}
     stored = {k: row for k, row in stored.items() if row["function"] not in replaced}
     stored.update({key(row): row for row in rows})
+    stored = dict(sorted(stored.items()))
     path.parent.mkdir(parents=True, exist_ok=True)
     with path.open("w", newline="") as file:
         writer = csv.DictWriter(file, [*parts, "ns", "ticks"], lineterminator="\n")
         writer.writeheader()
-        writer.writerows(stored[k] for k in sorted(stored))
+        writer.writerows(stored.values())
     return stored

@@ -52,47 +52,26 @@ template <class T> struct Arccosine : Kernel<T> {
   static LumStatus LaneRoutine(T x, T& result) { return OutsideUnitInterval(x, result); }
 };
 
-struct A11_32f : Arccosine<Lum32f> {
-  static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
+// The root in one part to the given terms of its series, or in two parts.
+template <class T, int root_terms, bool is_long> struct OnePart : Arccosine<T> {
+  static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) {
     const auto r = Reduce(x);
-    return Join(x, r, PlainRoot<1>(r.y), ShortCorrection(r.q));
+    return Join(x, r, PlainRoot<root_terms>(r.y), Correction<is_long>(r.q));
   }
 };
-
-struct A21_32f : Arccosine<Lum32f> {
-  static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
-    const auto r = Reduce(x);
-    return Join(x, r, PlainRoot<2>(r.y), LongCorrection(r.q));
-  }
-};
-
-struct A24_32f : Arccosine<Lum32f> {
-  static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
+template <class T> struct TwoParts : Arccosine<T> {
+  static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) {
     const auto r = Reduce(x);
     return JoinSplit(x, r, SplitRootOf(r.y), LongCorrection(r.q));
   }
 };
 
-struct A26_64f : Arccosine<Lum64f> {
-  static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
-    const auto r = Reduce(x);
-    return Join(x, r, PlainRoot<2>(r.y), ShortCorrection(r.q));
-  }
-};
-
-struct A50_64f : Arccosine<Lum64f> {
-  static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
-    const auto r = Reduce(x);
-    return Join(x, r, PlainRoot<4>(r.y), LongCorrection(r.q));
-  }
-};
-
-struct A53_64f : Arccosine<Lum64f> {
-  static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
-    const auto r = Reduce(x);
-    return JoinSplit(x, r, SplitRootOf(r.y), LongCorrection(r.q));
-  }
-};
+using A11_32f = OnePart<Lum32f, 1, false>;
+using A21_32f = OnePart<Lum32f, 2, true>;
+using A24_32f = TwoParts<Lum32f>;
+using A26_64f = OnePart<Lum64f, 2, false>;
+using A50_64f = OnePart<Lum64f, 4, true>;
+using A53_64f = TwoParts<Lum64f>;
 
 }  // namespace
 

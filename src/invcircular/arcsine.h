@@ -44,6 +44,12 @@ LUM_INLINE Vec<Lum64f> LongCorrection(Vec<Lum64f> q) {
          fma(fma(p, q, all(f64(0x3FB333333337E0DE, 0.07500000000425497))), q, all(f64(0x3FC555555555529C, 0.1666666666666473)));
 }
 
+// The one or the other.
+template <bool is_long, class T> LUM_INLINE Vec<T> Correction(Vec<T> q) {
+  if constexpr (is_long) return LongCorrection(q);
+  else return ShortCorrection(q);
+}
+
 // (1 - (1 + e/2)^(-1/2)) / e for the relative error e/2 of a squared estimate, |e| below 2^-13: the first terms of its series.
 template <int terms> LUM_INLINE Vec<Lum32f> RootSeries(Vec<Lum32f> e) {
   static_assert(terms == 1 || terms == 2);

@@ -48,10 +48,17 @@ template <class T> struct Arcsine : Kernel<T> {
   static LumStatus LaneRoutine(T x, T& result) { return OutsideUnitInterval(x, result); }
 };
 
-struct A11_32f : Arcsine<Lum32f> {
-  static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
+// The root in one part to the given terms of its series, or in two parts.
+template <class T, int root_terms, bool is_long> struct OnePart : Arcsine<T> {
+  static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) {
     const auto r = Reduce(x);
-    return Join(x, r, MinusRoot<1>(r.y), ShortCorrection(r.q));
+    return Join(x, r, MinusRoot<root_terms>(r.y), Correction<is_long>(r.q));
+  }
+};
+template <class T> struct TwoParts : Arcsine<T> {
+  static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) {
+    const auto r = Reduce(x);
+    return JoinSplit(x, r, SplitRootOf(r.y), LongCorrection(r.q));
   }
 };
 
@@ -61,34 +68,11 @@ struct A21_32f : Arcsine<Lum32f> {
     return Join(x, r, sqrt(r.y) * all(-2.0f), LongCorrection(r.q));
   }
 };
-
-struct A24_32f : Arcsine<Lum32f> {
-  static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
-    const auto r = Reduce(x);
-    return JoinSplit(x, r, SplitRootOf(r.y), LongCorrection(r.q));
-  }
-};
-
-struct A26_64f : Arcsine<Lum64f> {
-  static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
-    const auto r = Reduce(x);
-    return Join(x, r, MinusRoot<2>(r.y), ShortCorrection(r.q));
-  }
-};
-
-struct A50_64f : Arcsine<Lum64f> {
-  static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
-    const auto r = Reduce(x);
-    return Join(x, r, MinusRoot<4>(r.y), LongCorrection(r.q));
-  }
-};
-
-struct A53_64f : Arcsine<Lum64f> {
-  static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
-    const auto r = Reduce(x);
-    return JoinSplit(x, r, SplitRootOf(r.y), LongCorrection(r.q));
-  }
-};
+using A11_32f = OnePart<Lum32f, 1, false>;
+using A24_32f = TwoParts<Lum32f>;
+using A26_64f = OnePart<Lum64f, 2, false>;
+using A50_64f = OnePart<Lum64f, 4, true>;
+using A53_64f = TwoParts<Lum64f>;
 
 }  // namespace
 

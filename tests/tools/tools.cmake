@@ -7,5 +7,9 @@ foreach(program accuracy bench)
                                                                     "^${program}: no function 'Nope'\n$")
 endforeach()
 
+add_test(NAME tools.bench_report_arguments
+         COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/bench/report.py ${PROJECT_BINARY_DIR} --compare nowhere Exp)
+set_tests_properties(tools.bench_report_arguments PROPERTIES PASS_REGULAR_EXPRESSION "^bench: nowhere: no such library\n$")
+
 # The installed tree, as a project outside uses it.
 add_test(NAME tools.installed_tree COMMAND bash ${CMAKE_CURRENT_SOURCE_DIR}/tools/installed_tree.sh ${PROJECT_BINARY_DIR})
