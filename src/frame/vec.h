@@ -7,7 +7,7 @@
 //   c)
 //                 min(a, b)  max(a, b)  abs(a)  negate(a)  rcp14(a)  rsqrt14(a)
 //   significand   getexp(a)  getmant<imm>(a)  scalef<R>(a, b)  rndscale<imm>(a)  reduce<imm>(a)
-//   masks         eq ne lt le nlt nle unord ord(a, b)  fpclass<imm>(a)  test testn(a, b)  & | ^ ~  any(m)  none(m)  to_bits(m)
+//   masks         eq ne lt le nlt nle unord ord(a, b)  fpclass<imm>(a)  test_any test_none(a, b)  & | ^ ~  any none to_bits(m)
 //   selection     select(m, a, b)  zero_unless(m, a)  add(m, a, b)  sub(m, a, b, other)  sub_or_zero(m, a, b)
 //                 fixupimm<imm>(a, b, tokens)  ternary<imm>(a, b, c)
 //   bits          & | ^  and_not(a, b)  bits(v)  as_float(v)  as_signed(v)  as_unsigned(v)

@@ -425,12 +425,12 @@ template <int imm, Floating T>
 }
 // Lanes in which a & b has a bit set.
 template <Integer T>
-LUM_INLINE Mask<T> test(const Vec<T>& a, const Vec<T>& b) {
+LUM_INLINE Mask<T> test_any(const Vec<T>& a, const Vec<T>& b) {
   return each_mask_lane<T>([&](int i) { return (a.lane[i] & b.lane[i]) != 0; });
 }
 // Lanes in which a & b is zero.
 template <Integer T>
-LUM_INLINE Mask<T> testn(const Vec<T>& a, const Vec<T>& b) {
+LUM_INLINE Mask<T> test_none(const Vec<T>& a, const Vec<T>& b) {
   return each_mask_lane<T>([&](int i) { return (a.lane[i] & b.lane[i]) == 0; });
 }
 
