@@ -20,6 +20,16 @@ LUM_INLINE Vec<T> operator*(Vec<T> a, Vec<T> b) {
   return mul(a, b);
 }
 
+// A number as its bits are. Clang would see a changed sign through the pattern and take it into the fused operation behind,
+// which gives a NaN the other sign; the empty statement hides it.
+template <Floating T>
+LUM_INLINE Vec<T> sealed(Vec<T> a) {
+#if defined(__clang__) && defined(LUM_AVX512)
+  asm("" : "+v"(a.v));
+#endif
+  return a;
+}
+
 // Bitwise operations on the patterns of floating-point lanes.
 template <Floating T>
 LUM_INLINE Vec<T> operator&(Vec<T> a, Vec<UnsignedOf<T>> b) {
@@ -27,11 +37,11 @@ LUM_INLINE Vec<T> operator&(Vec<T> a, Vec<UnsignedOf<T>> b) {
 }
 template <Floating T>
 LUM_INLINE Vec<T> operator|(Vec<T> a, Vec<UnsignedOf<T>> b) {
-  return as_float(bits(a) | b);
+  return sealed(as_float(bits(a) | b));
 }
 template <Floating T>
 LUM_INLINE Vec<T> operator^(Vec<T> a, Vec<UnsignedOf<T>> b) {
-  return as_float(bits(a) ^ b);
+  return sealed(as_float(bits(a) ^ b));
 }
 
 template <Floating T>
