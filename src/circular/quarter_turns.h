@@ -51,7 +51,7 @@ LUM_INLINE Vec<uint32_t> LowHalves(Vec<uint64_t> low, Vec<uint64_t> high) {
 // The values of x from those of r: exchanged for odd n, with the signs of the quarter and, in the sine, of x.
 LUM_INLINE SineAndCosineValues<Lum32f> SelectQuarter(Vec<Lum32f> x, Vec<uint32_t> n, Vec<Lum32f> sine, Vec<Lum32f> cosine,
                                                      Mask<Lum32f> refused) {
-  const auto odd = mask_cast<Lum32f>(test(n, all(1u)));
+  const auto odd = mask_cast<Lum32f>(test_any(n, all(1u)));
   const auto sign = all(sign_bit<Lum32f>);
   const auto second_bit = shift_left<30>(n);
   return {select(odd, cosine, sine) ^ ternary<0x28>(second_bit, bits(x), sign),  // (a ^ b) & c

@@ -6,7 +6,7 @@
 //   arithmetic   + - *  add<R> sub<R> mul<R> div<R>(a, b)  sqrt<R>(a)  fma fms fnma fnms<R>(a, b, c)
 //                fmaddsub fmsubadd(a, b, c)  min(a, b)  max(a, b)  abs(a)  negate(a)  rcp14(a)  rsqrt14(a)
 //   significand  getexp(a)  getmant<imm>(a)  scalef<R>(a, b)  rndscale<imm>(a)  reduce<imm>(a)
-//   masks        eq ne lt le nlt nle unord ord(a, b)  fpclass<imm>(a)  test testn(a, b)  & | ^ ~  any(m)  none(m)
+//   masks        eq ne lt le nlt nle unord ord(a, b)  fpclass<imm>(a)  test_any test_none(a, b)  & | ^ ~  any none(m)
 //                to_bits(m)  spread(m)  sign_mask(v)
 //   selection    select(m, a, b)  zero_unless(m, a)  add(m, a, b)  sub(m, a, b, other)  sub_or_zero(m, a, b)
 //                fixupimm<imm>(a, b, tokens)  ternary<imm>(a, b, c)

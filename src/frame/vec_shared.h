@@ -11,10 +11,19 @@ template <Floating T> LUM_INLINE Vec<T> operator+(Vec<T> a, Vec<T> b) { return a
 template <Floating T> LUM_INLINE Vec<T> operator-(Vec<T> a, Vec<T> b) { return sub(a, b); }
 template <Floating T> LUM_INLINE Vec<T> operator*(Vec<T> a, Vec<T> b) { return mul(a, b); }
 
+// A number as its bits are. Clang would see a changed sign through the pattern and take it into the fused operation behind,
+// which gives a NaN the other sign; the empty statement hides it.
+template <Floating T> LUM_INLINE Vec<T> sealed(Vec<T> a) {
+#if defined(__clang__) && defined(LUM_AVX512)
+  asm("" : "+v"(a.v));
+#endif
+  return a;
+}
+
 // Bitwise operations on the patterns of floating-point lanes.
 template <Floating T> LUM_INLINE Vec<T> operator&(Vec<T> a, Vec<UnsignedOf<T>> b) { return as_float(bits(a) & b); }
-template <Floating T> LUM_INLINE Vec<T> operator|(Vec<T> a, Vec<UnsignedOf<T>> b) { return as_float(bits(a) | b); }
-template <Floating T> LUM_INLINE Vec<T> operator^(Vec<T> a, Vec<UnsignedOf<T>> b) { return as_float(bits(a) ^ b); }
+template <Floating T> LUM_INLINE Vec<T> operator|(Vec<T> a, Vec<UnsignedOf<T>> b) { return sealed(as_float(bits(a) | b)); }
+template <Floating T> LUM_INLINE Vec<T> operator^(Vec<T> a, Vec<UnsignedOf<T>> b) { return sealed(as_float(bits(a) ^ b)); }
 
 template <Floating T> LUM_INLINE Vec<T> abs(Vec<T> a) { return a & all(static_cast<UnsignedOf<T>>(~sign_bit<T>)); }
 template <Floating T> LUM_INLINE Vec<T> negate(Vec<T> a) { return a ^ all(sign_bit<T>); }

@@ -28,8 +28,9 @@ template <class T> LUM_INLINE Vec<T> Base(const Arguments<T>& r, Mask<T> negativ
 
 template <class T> LUM_INLINE Lanes<T> Join(Vec<T> x, const Arguments<T>& r, Vec<T> s, Vec<T> w) {
   const auto negative = lt(x, r.q);  // in the big branch; q is never negative
-  const auto v = xor_sign(x, select(r.big, s, r.a));
-  return {Base(r, negative, Angles<T>::half_pi, Angles<T>::pi) + fma(v, w, v), IsRefused(r.a)};
+  const auto h = select(r.big, s, r.a);
+  // Turned over at the end: the operands of the sum are then NaNs of one sign, of which any may be the result.
+  return {Base(r, negative, Angles<T>::half_pi, Angles<T>::pi) + xor_sign(x, fma(h, w, h)), IsRefused(r.a)};
 }
 
 // All but the base is formed for the sign of a negative x, the tails first, and turned over at the end.

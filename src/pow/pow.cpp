@@ -83,7 +83,7 @@ LUM_INLINE LogRow<Lum32f> PairOf(Vec<Lum32f> c) {
 LUM_INLINE LogRow<Lum64f> PairOf(Vec<Lum64f> c) {
   const Lum64f* pairs = PowConstants<Lum64f>::pairs_32;
   const auto j = RowOf<5>(c);
-  const auto first_half = mask_cast<Lum64f>(testn(bits(c), all(uint64_t{0x0008000000000000})));
+  const auto first_half = mask_cast<Lum64f>(test_none(bits(c), all(uint64_t{0x0008000000000000})));
   const auto entry = [&](const Lum64f* table) __attribute__((always_inline)) {
     return select(first_half, permute2(load(table), load(table + 8), j), permute2(load(table + 16), load(table + 24), j));
   };

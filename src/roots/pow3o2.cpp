@@ -72,7 +72,7 @@ template <class T> struct Pow3o2Kernel : Kernel<T> {
   static LumStatus LaneRoutine(T x, T& result) {
     const auto magnitude = std::bit_cast<UnsignedOf<T>>(x);
     if (x != x) {
-      result = x + T(0);
+      result = x + x;
     } else if (x == 0) {
       result = T(0);
     } else if (x < 0) {

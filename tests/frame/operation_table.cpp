@@ -270,8 +270,8 @@ template <Integer T> void add_integer(Builder& table) {
   table.add<V>("as_float" + t, [](V a) { return as_float(a); });
   table.add<V>("as_signed" + t, [](V a) { return as_signed(a); });
   table.add<V>("as_unsigned" + t, [](V a) { return as_unsigned(a); });
-  table.add<V, V>("test" + t, [](V a, V b) { return test(a, b); });
-  table.add<V, V>("testn" + t, [](V a, V b) { return testn(a, b); });
+  table.add<V, V>("test_any" + t, [](V a, V b) { return test_any(a, b); });
+  table.add<V, V>("test_none" + t, [](V a, V b) { return test_none(a, b); });
   table.add<V, V>("operator&" + t, [](V a, V b) { return a & b; });
   table.add<V, V>("operator|" + t, [](V a, V b) { return a | b; });
   table.add<V, V>("operator^" + t, [](V a, V b) { return a ^ b; });

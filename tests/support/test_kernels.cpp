@@ -127,7 +127,7 @@ template <Variant probed> struct Probe : Kernel<Lum32f> {
     discarded = huge * huge;
     // The x87 unit's exceptions are not masked for this variant, which has no lane routines.
     if constexpr (probed.x87 != X87Form::untouched) {
-      volatile long double extended = 0;
+      volatile long double extended = zero;  // a constant might be loaded before the exceptions are masked
       extended = extended / extended;
     }
     return StatusOf(x);

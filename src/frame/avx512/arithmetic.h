@@ -144,12 +144,12 @@ template <int imm, Floating T> LUM_INLINE Mask<T> fpclass(Vec<T> a) {
   else return {_mm512_fpclass_pd_mask(a.v, imm)};
 }
 // Lanes in which a & b has a bit set.
-template <Integer T> LUM_INLINE Mask<T> test(Vec<T> a, Vec<T> b) {
+template <Integer T> LUM_INLINE Mask<T> test_any(Vec<T> a, Vec<T> b) {
   if constexpr (is32<T>) return {_mm512_test_epi32_mask(a.v, b.v)};
   else return {_mm512_test_epi64_mask(a.v, b.v)};
 }
 // Lanes in which a & b is zero.
-template <Integer T> LUM_INLINE Mask<T> testn(Vec<T> a, Vec<T> b) {
+template <Integer T> LUM_INLINE Mask<T> test_none(Vec<T> a, Vec<T> b) {
   if constexpr (is32<T>) return {_mm512_testn_epi32_mask(a.v, b.v)};
   else return {_mm512_testn_epi64_mask(a.v, b.v)};
 }

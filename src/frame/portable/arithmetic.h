@@ -196,11 +196,11 @@ template <int imm, Floating T> [[gnu::noinline]] Mask<T> fpclass(const Vec<T>& a
   return each_mask_lane<T>([&](int i) { return lane::fpclass<imm>(a.lane[i]); });
 }
 // Lanes in which a & b has a bit set.
-template <Integer T> LUM_INLINE Mask<T> test(const Vec<T>& a, const Vec<T>& b) {
+template <Integer T> LUM_INLINE Mask<T> test_any(const Vec<T>& a, const Vec<T>& b) {
   return each_mask_lane<T>([&](int i) { return (a.lane[i] & b.lane[i]) != 0; });
 }
 // Lanes in which a & b is zero.
-template <Integer T> LUM_INLINE Mask<T> testn(const Vec<T>& a, const Vec<T>& b) {
+template <Integer T> LUM_INLINE Mask<T> test_none(const Vec<T>& a, const Vec<T>& b) {
   return each_mask_lane<T>([&](int i) { return (a.lane[i] & b.lane[i]) == 0; });
 }
 
