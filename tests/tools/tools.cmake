@@ -6,6 +6,9 @@ foreach(program accuracy bench)
   set_tests_properties(tools.${program}_unknown_function PROPERTIES PASS_REGULAR_EXPRESSION
                                                                     "^${program}: no function 'Nope'\n$")
 endforeach()
+add_test(NAME tools.accuracy_exhaustive_two_inputs COMMAND accuracy --exhaustive Add)
+set_tests_properties(tools.accuracy_exhaustive_two_inputs PROPERTIES PASS_REGULAR_EXPRESSION
+                                                                     "^accuracy: no function 'Add' of one 32f input\n$")
 
 # The installed tree, as a project outside uses it.
 add_test(NAME tools.installed_tree COMMAND bash ${CMAKE_CURRENT_SOURCE_DIR}/tools/installed_tree.sh ${PROJECT_BINARY_DIR})

@@ -103,8 +103,8 @@ std::vector<const Export*> Chosen(const Options& options) {
 
 void PrintRow(const Export& entry, const Accuracy& a) {
   const double share = 100.0 * static_cast<double>(a.correctly_rounded) / static_cast<double>(a.count);
-  fmt::print("{:<24} {:>10.4g} ulp {:>6.1f} bits {:>9.4f} % rounded", entry.name, a.worst.ulp, a.Bits(entry), share);
-  if (lum::support::IsComplex(entry.output)) fmt::print(" {:>10.4g} ulp norm-wise", a.worst_norm.ulp);
+  fmt::print("{:<24} {:>10.7g} ulp {:>6.1f} bits {:>9.4f} % rounded", entry.name, a.worst.ulp, a.Bits(entry), share);
+  if (lum::support::IsComplex(entry.output)) fmt::print(" {:>10.7g} ulp norm-wise", a.worst_norm.ulp);
   if (a.wrong_class != 0) {
     fmt::print("  {} of the wrong class, as at {}", a.wrong_class,
                Components(entry, a.wrong_at, [](double x) { return fmt::format("{}", x); }));
