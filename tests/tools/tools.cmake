@@ -6,6 +6,9 @@ foreach(program accuracy bench)
   set_tests_properties(tools.${program}_unknown_function PROPERTIES PASS_REGULAR_EXPRESSION
                                                                     "^${program}: no function 'Nope'\n$")
 endforeach()
+add_test(NAME tools.accuracy_exhaustive_two_inputs COMMAND accuracy --exhaustive Add)
+set_tests_properties(tools.accuracy_exhaustive_two_inputs PROPERTIES PASS_REGULAR_EXPRESSION
+                                                                     "^accuracy: no function 'Add' of one 32f input\n$")
 
 add_test(NAME tools.bench_report_arguments
          COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/bench/report.py ${PROJECT_BINARY_DIR} --compare nowhere Exp)

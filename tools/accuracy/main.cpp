@@ -7,9 +7,8 @@
 #include <filesystem>
 #include <fstream>
 #include <map>
-#include <memory>
-#include <set>
 
+#include "accuracy/cheap_reference.h"
 #include "accuracy/exhaustive.h"
 #include "accuracy/inputs.h"
 #include "accuracy/measure.h"
@@ -85,30 +84,71 @@ struct Options {
   std::string target;
 };
 
-// The named functions' exports, or all. A name is a function (Exp) or an export (lumsExp_32f_A24).
+// The named functions' exports, or all; of one 32f input if all arguments are to be taken. A name is a function (Exp) or an
+// export (lumsExp_32f_A24).
 std::vector<const Export*> Chosen(const Options& options) {
   std::vector<const Export*> chosen;
   for (const Export& entry : lum::support::Exports()) {
     const auto named = [&](const std::string& name) { return name == entry.function || name == entry.name; };
+    if (options.exhaustive && FindCheapReference(entry) == nullptr) continue;
     if (options.functions.empty() || std::ranges::any_of(options.functions, named)) chosen.push_back(&entry);
   }
   for (const std::string& name : options.functions) {
     const auto is_named = [&](const Export* entry) { return name == entry->function || name == entry->name; };
-    if (std::ranges::none_of(chosen, is_named)) throw std::runtime_error(fmt::format("no function '{}'", name));
+    if (std::ranges::any_of(chosen, is_named)) continue;
+    throw std::runtime_error(fmt::format("no function '{}'{}", name, options.exhaustive ? " of one 32f input" : ""));
   }
   return chosen;
 }
 
 void PrintRow(const Export& entry, const Accuracy& a) {
   const double share = 100.0 * static_cast<double>(a.correctly_rounded) / static_cast<double>(a.count);
-  fmt::print("{:<24} {:>10.4g} ulp {:>6.1f} bits {:>9.4f} % rounded", entry.name, a.worst.ulp, a.Bits(entry), share);
-  if (lum::support::IsComplex(entry.output)) fmt::print(" {:>10.4g} ulp norm-wise", a.worst_norm.ulp);
+  fmt::print("{:<24} {:>10.7g} ulp {:>6.1f} bits {:>9.4f} % rounded", entry.name, a.worst.ulp, a.Bits(entry), share);
+  if (lum::support::IsComplex(entry.output)) fmt::print(" {:>10.7g} ulp norm-wise", a.worst_norm.ulp);
   if (a.wrong_class != 0) {
     fmt::print("  {} of the wrong class, as at {}", a.wrong_class,
                Components(entry, a.wrong_at, [](double x) { return fmt::format("{}", x); }));
   }
   fmt::print("\n");
   std::fflush(stdout);
+}
+
+void Report(const Options& options, const Export& entry, const Accuracy& accuracy) {
+  PrintRow(entry, accuracy);
+  if (!options.csv.empty()) Record(options.csv, Row(entry, options.exhaustive ? "all" : "sample", accuracy));
+}
+
+// The chosen exports by function and type, those of all tags together.
+using Group = std::vector<const Export*>;
+std::vector<Group> Grouped(const Group& chosen) {
+  std::vector<Group> groups;
+  for (const Export* entry : chosen) {
+    const bool is_new =
+        groups.empty() || groups.back()[0]->function != entry->function || groups.back()[0]->type != entry->type;
+    if (is_new) groups.emplace_back();
+    groups.back().push_back(entry);
+  }
+  return groups;
+}
+
+void RunOverSamples(const Options& options, const Library& library, const Group& group) {
+  const Reference reference = FindReference(*group[0]);
+  if (reference == nullptr) {
+    fmt::print(stderr, "accuracy: {} {} is skipped: no reference\n", group[0]->function, group[0]->type);
+    return;
+  }
+  const std::vector<Point> points = SamplePoints(*group[0], options.count);
+  const ExactValues exact(reference, points);
+  for (const Export* entry : group) {
+    const Accuracy accuracy = Measure(library, *entry, points, exact);
+    if (!options.curves.empty()) WriteCurve(options.curves, *entry, accuracy);
+    Report(options, *entry, accuracy);
+  }
+}
+
+void RunOverAll(const Options& options, const Library& library, const Group& group) {
+  const std::vector<Accuracy> accuracies = MeasureAll(library, group);
+  for (size_t i = 0; i < group.size(); ++i) Report(options, *group[i], accuracies[i]);
 }
 
 void Run(const Options& options) {
@@ -118,35 +158,9 @@ void Run(const Options& options) {
   std::string error;
   const auto library = Library::LoadBuilt(target, error);
   if (!library) throw std::runtime_error(error);
-  const auto chosen = Chosen(options);
-
-  std::vector<Point> points;
-  std::unique_ptr<ExactValues> exact;
-  const Export* exact_of = nullptr;
-  for (const Export* entry : chosen) {
-    Accuracy accuracy;
-    if (options.exhaustive) {
-      if (FindCheapReference(*entry) == nullptr) {
-        fmt::print(stderr, "accuracy: {} is skipped: not a function of one 32f input\n", entry->name);
-        continue;
-      }
-      accuracy = MeasureAll(*library, *entry);
-    } else {
-      const Reference reference = FindReference(*entry);
-      if (reference == nullptr) {
-        fmt::print(stderr, "accuracy: {} is skipped: no reference\n", entry->name);
-        continue;
-      }
-      if (exact_of == nullptr || exact_of->function != entry->function || exact_of->type != entry->type) {
-        points = SamplePoints(*entry, options.count);
-        exact = std::make_unique<ExactValues>(reference, points);
-        exact_of = entry;
-      }
-      accuracy = Measure(*library, *entry, points, *exact);
-      if (!options.curves.empty()) WriteCurve(options.curves, *entry, accuracy);
-    }
-    PrintRow(*entry, accuracy);
-    if (!options.csv.empty()) Record(options.csv, Row(*entry, options.exhaustive ? "all" : "sample", accuracy));
+  for (const Group& group : Grouped(Chosen(options))) {
+    if (options.exhaustive) RunOverAll(options, *library, group);
+    else RunOverSamples(options, *library, group);
   }
 }
 
@@ -156,14 +170,13 @@ int main(int argc, char** argv) {
   CLI::App app("Measures the error of functions against MPFR and MPC", "accuracy");
   Options options;
   app.add_option("functions", options.functions, "functions (Exp) or exports (lumsExp_32f_A24); all when none is given");
-  app.add_flag("--exhaustive", options.exhaustive, "all 2^32 arguments of the one-input 32f functions");
+  app.add_flag("--exhaustive", options.exhaustive, "all 2^32 arguments of the functions of one 32f input");
   app.add_option("--count", options.count, "points a function and type");
   app.add_option("--csv", options.csv, "results file to update");
   app.add_option("--curves", options.curves, "folder for the error over the argument");
   app.add_option("--target", options.target, "k0 or p0; k0 where the processor can");
   try {
     app.parse(argc, argv);
-    if (options.exhaustive && options.functions.empty()) throw std::runtime_error("--exhaustive needs a function");
     Run(options);
   } catch (const CLI::Success& request) { return app.exit(request); } catch (const std::exception& problem) {
     fmt::print(stderr, "accuracy: {}\n", problem.what());

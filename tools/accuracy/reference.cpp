@@ -144,7 +144,8 @@ void ErfInv(mpfr_ptr r, mpfr_srcptr x) {
   mpfr_ui_sub(q, 1, x, MPFR_RNDN);
   if (mpfr_zero_p(x)) {
     mpfr_set(r, x, nearest);
-  } else if (mpfr_get_exp(x) < -60) {  // sqrt(pi)/2 x (1 + pi/12 x^2), far beyond the precision compared
+  } else if (mpfr_regular_p(x) != 0 &&
+             mpfr_get_exp(x) < -60) {  // sqrt(pi)/2 x (1 + pi/12 x^2), far beyond the precision compared
     mpfr_const_pi(r, nearest);
     mpfr_sqrt(r, r, nearest);
     mpfr_mul(r, r, x, nearest);

@@ -66,7 +66,8 @@ inline uint32_t leading_word(const Extended& x) {
 // 2^n. Given -16382 <= n <= 16383. By way of binary64 where that has it: a load of ten bytes waits for the two stores that
 // make them.
 inline Extended power_of_two(int n) {
-  if (-1022 <= n && n <= 1023) [[likely]] return std::bit_cast<double>(static_cast<uint64_t>(n + 1023) << 52);
+  if (-1022 <= n && n <= 1023) [[likely]]
+    return std::bit_cast<double>(static_cast<uint64_t>(n + 1023) << 52);
   return from_fields({static_cast<uint32_t>(n + extended_bias), uint64_t{1} << 63});
 }
 
