@@ -8,4 +8,8 @@ foreach(program accuracy bench)
 endforeach()
 
 # The installed tree, as a project outside uses it.
-add_test(NAME tools.installed_tree COMMAND bash ${CMAKE_CURRENT_SOURCE_DIR}/tools/installed_tree.sh ${PROJECT_BINARY_DIR})
+if(LUM_SANITIZE)
+  add_skipped_test(tools.installed_tree ${LUM_NOT_SANITIZED})
+else()
+  add_test(NAME tools.installed_tree COMMAND bash ${CMAKE_CURRENT_SOURCE_DIR}/tools/installed_tree.sh ${PROJECT_BINARY_DIR})
+endif()
