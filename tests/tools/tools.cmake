@@ -15,4 +15,8 @@ add_test(NAME tools.bench_report_arguments
 set_tests_properties(tools.bench_report_arguments PROPERTIES PASS_REGULAR_EXPRESSION "^bench: nowhere: no such library\n$")
 
 # The installed tree, as a project outside uses it.
-add_test(NAME tools.installed_tree COMMAND bash ${CMAKE_CURRENT_SOURCE_DIR}/tools/installed_tree.sh ${PROJECT_BINARY_DIR})
+if(LUM_SANITIZE)
+  add_skipped_test(tools.installed_tree ${LUM_NOT_SANITIZED})
+else()
+  add_test(NAME tools.installed_tree COMMAND bash ${CMAKE_CURRENT_SOURCE_DIR}/tools/installed_tree.sh ${PROJECT_BINARY_DIR})
+endif()
