@@ -60,7 +60,7 @@ void CoreDiv(ComplexDouble& result, const ComplexDouble& z, const ComplexDouble&
   } else if (AnyInfinite(z) && BothFinite(w)) {
     DirectedQuotient(result, infinity, {Boxed(z.re), Boxed(z.im)}, w);
   } else if (!BothFinite(z) || !BothFinite(w)) {
-    const Lum64f not_a_number = (z.re * w.re + z.im * w.im) * 0.0;
+    const Lum64f not_a_number = NonFiniteSum(z.re * w.re, z.im * w.im) * 0.0;
     result = {not_a_number - not_a_number, not_a_number - not_a_number};
   } else {
     const ExtendedPair square = SumOfProducts(w.re, w.re, w.im, w.im);
