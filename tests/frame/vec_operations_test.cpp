@@ -53,6 +53,7 @@ std::vector<uint64_t> lane_nans(const Operation& operation, const Operands& oper
   std::vector<uint64_t> nans;
   for (std::size_t i = 0; i < operation.operands.size(); ++i) {
     const Element element = operation.operands[i];
+    if (LaneBytes(element) != LaneBytes(operation.operands[0])) continue;  // has other lanes
     const uint64_t bits = GetLane(operands.vector[i], element, lane);
     if (is_nan(element, bits)) nans.push_back(quieted(element, bits));
   }
