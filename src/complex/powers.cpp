@@ -54,28 +54,27 @@ struct SqrtPath {
 };
 
 // z^w = e^(w ln z). The core rounds the logarithm to binary64, and the product with the exponent in plain operations.
-LUM_INLINE PathValue PowerOf(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w) {
-  const auto logarithm = LogarithmParts(z);
-  const auto re = RoundedAsCore(logarithm.modulus, logarithm.modulus_error);
-  const auto im = RoundedAsCore(logarithm.angle, logarithm.angle_error);
-  const auto exponent = w.re * re.value - w.im * im.value, angle = w.re * im.value + w.im * re.value;
-  const auto e = Exponential(exponent);
-  const auto circular = SineCosineOf(angle);
-  const auto refused = logarithm.refused | re.refused | im.refused | circular.refused | IsFar(exponent, largest_exponent) |
-                       IsFar(angle, largest_angle);
-  constexpr double product_error = 5;
-  return ValueWithin(Product(e, circular.cosine), Product(e, circular.sine), product_error, refused);
-}
+struct PowPath {
+  static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w) {
+    const auto logarithm = LogarithmParts(z);
+    const auto re = RoundedAsCore(logarithm.modulus, logarithm.modulus_error);
+    const auto im = RoundedAsCore(logarithm.angle, logarithm.angle_error);
+    const auto exponent = w.re * re.value - w.im * im.value, angle = w.re * im.value + w.im * re.value;
+    const auto e = Exponential(exponent);
+    const auto circular = SineCosineOf(angle);
+    const auto refused = logarithm.refused | re.refused | im.refused | circular.refused | IsFar(exponent, largest_exponent) |
+                         IsFar(angle, largest_angle);
+    constexpr double product_error = 5;
+    return ValueWithin(Product(e, circular.cosine), Product(e, circular.sine), product_error, refused);
+  }
+};
 
 template <class E> struct PowKernel : Kernel<E> {
   static constexpr Variant variant = scalar_core_variant;
   static constexpr int vectors = 1;
 
-  struct Path {
-    static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w) { return PowerOf(z, w); }
-  };
   static LUM_INLINE Lanes<E> VectorPath(Interleaved<Real<E>> z, Interleaved<Real<E>> w) {
-    return PathOfElements<Path, E>(z, w);
+    return PathOfElements<PowPath, E>(z, w);
   }
   static LumStatus LaneRoutine(const E& z, const E& w, E& result) { return ReportingCoreOnLane<CorePow>(z, w, result); }
 };
