@@ -5,10 +5,10 @@
 #if defined(__x86_64__)
 #include <fmt/format.h>
 
-#include <map>
 #include <string_view>
 
 #include "avx512.h"
+#include "support/declarations.h"
 
 namespace lum::bench {
 namespace {
@@ -77,18 +77,6 @@ template <class T> std::function<void(const Arguments&)> Wrap(void* address, con
   };
 }
 
-// The C names of functions as the peers spell them.
-const std::map<std::string_view, std::string_view>& CNames() {
-  static const std::map<std::string_view, std::string_view> names = {
-      {"Abs", "fabs"},    {"Acos", "acos"},   {"Acosh", "acosh"}, {"Asin", "asin"},     {"Asinh", "asinh"}, {"Atan", "atan"},
-      {"Atan2", "atan2"}, {"Atanh", "atanh"}, {"Cbrt", "cbrt"},   {"Ceil", "ceil"},     {"Cos", "cos"},     {"Cosh", "cosh"},
-      {"Erf", "erf"},     {"Erfc", "erfc"},   {"Exp", "exp"},     {"Expm1", "expm1"},   {"Floor", "floor"}, {"Hypot", "hypot"},
-      {"Ln", "log"},      {"Log10", "log10"}, {"Log1p", "log1p"}, {"Modf", "modf"},     {"Pow", "pow"},     {"Powx", "pow"},
-      {"Rint", "rint"},   {"Round", "round"}, {"Sin", "sin"},     {"SinCos", "sincos"}, {"Sinh", "sinh"},   {"Sqrt", "sqrt"},
-      {"Tan", "tan"},     {"Tanh", "tanh"},   {"Trunc", "trunc"}};
-  return names;
-}
-
 void* Sleef() {
   static void* handle = dlopen("libsleef.so.3", RTLD_NOW);
   return handle;
@@ -102,8 +90,8 @@ void* Libmvec() {
 
 std::vector<Peer> FindPeers(const Export& entry) {
   std::vector<Peer> peers;
-  const auto name = CNames().find(entry.function);
-  if (name == CNames().end() || entry.is_complex() || !support::ProcessorHasAvx512()) return peers;
+  const std::string_view name = support::DeclarationOf(entry).c_name;
+  if (name.empty() || entry.is_complex() || !support::ProcessorHasAvx512()) return peers;
   const bool is_32bit = entry.is_32bit();
   const auto add = [&](void* library, const std::string& symbol, const std::string& peer) {
     void* address = library == nullptr ? nullptr : dlsym(library, symbol.c_str());
@@ -111,11 +99,11 @@ std::vector<Peer> FindPeers(const Export& entry) {
   };
   const char* lanes = is_32bit ? "f16" : "d8";
   for (const char* class_ : {"u05", "u10", "u15", "u35"}) {
-    add(Sleef(), fmt::format("Sleef_{}{}_{}avx512f", name->second, lanes, class_), fmt::format("sleef_{}", class_));
+    add(Sleef(), fmt::format("Sleef_{}{}_{}avx512f", name, lanes, class_), fmt::format("sleef_{}", class_));
   }
-  add(Sleef(), fmt::format("Sleef_{}{}_avx512f", name->second, lanes), "sleef");
+  add(Sleef(), fmt::format("Sleef_{}{}_avx512f", name, lanes), "sleef");
   const char* parameters = entry.inputs() == 2 || entry.has_parameter() ? "vv" : "v";
-  add(Libmvec(), fmt::format("_ZGVeN{}{}_{}{}", is_32bit ? 16 : 8, parameters, name->second, is_32bit ? "f" : ""), "libmvec");
+  add(Libmvec(), fmt::format("_ZGVeN{}{}_{}{}", is_32bit ? 16 : 8, parameters, name, is_32bit ? "f" : ""), "libmvec");
   return peers;
 }
 

@@ -12,7 +12,8 @@ PAGE = catalogue.ROOT / "docs/refused-lanes.md"
 PARTS = ["function", "length", "who", "refused", "share"]
 SHARES = ["none", "1 of 1000", "1 of 32", "all"]
 
-INTRODUCTION = """# The cost of refused lanes
+INTRODUCTION = """<!-- Written by `./run bench --refused` (bench/refused_lanes.py) from docs/data/refused.csv; do not edit. -->
+# The cost of refused lanes
 
 A vector path refuses the lanes that it cannot finish: poles, infinities, arguments outside the domain or beyond its reduction,
 results next to the ends of the range. A block with such a lane (8 to 64 elements) is computed once more and spilled, and a
@@ -42,23 +43,7 @@ vectors gain.
 With all elements refused, these lines of the high tags and of functions without tags are slower than the loop (the loop's time
 over ours): {slower}.
 
-The reasons:
-
-- **Denormal numbers.** The processor stops for some hundred ticks wherever an operation meets or makes one. Exp, Pow and Powx
-  meet them in the vector path, which computes refused lanes along with the others and does so twice, and again in their
-  routines; CdfNorm and Erfc where they scale a result that vanishes; Atan2 as reciprocals of huge arguments. The standard
-  library's functions of binary32 compute in binary64, where the same numbers are normal ones, and the loop pays nothing.
-- **Functions that are one or two instructions.** The loops for Div, Inv, Sqrt, InvSqrt and Pow3o2 are divisions and roots of
-  the processor, the divisions even vectorised, which know every argument; to leave the vector path for one lane is dearer than
-  the whole function.
-- **Routines with more care.** Those of Atan2, Hypot and Pow, which Powx takes, too, carry numbers in two words and serve all
-  tiers and all arguments, where the standard library has a function made for its precision.
-- **Special values.** For zeros, infinities and arguments outside of the domain the routine is a few comparisons, and so is the
-  standard library's function: what is left is the way through memory. The circular functions try their second vector path on an
-  infinity before they give it to the routine.
-
-The huge arguments of Cos, Sin, SinCos and Tan go to a second vector path, which stays faster than the loop even when all are huge,
-in binary64 several times; Sin and SinCos 64f A26 alone have a scalar routine there, which is about as fast as the loop.
+[The reasons](notes/speed.md#special-arguments).
 """
 
 

@@ -28,7 +28,8 @@ EXACT_PEERS = {"sleef", "sleef_u05", "sleef_u10", "sleef_u15"}
 EXACT_TAGS = ("A24", "A53", "")
 MAIN_LENGTH = 4096
 
-INTRODUCTION = """# Performance
+INTRODUCTION = """<!-- Written by `./run bench` (bench/report.py) from docs/data/performance.csv; do not edit. -->
+# Performance
 
 Nanoseconds and ticks of the time stamp counter an element, at arguments of everyday size, one thread. *ratio* is the time of the
 fastest peer of the same accuracy class over ours: at A24 and A53 SLEEF's functions of 1 ulp, at the other tags the faster of those,
@@ -51,12 +52,7 @@ The highest tags at length {length}: ns an element and, in parentheses, the time
 
 {table}
 
-Names of which a peer is the faster one: {behind}.
-
-Where the ticks of a name stand next to its floor, the loop runs as fast as the ports let it, and only fewer operations would make
-it faster: so do most of the names whose ratio at the highest tag is below 2 (Sin, SinCos, Asin, Atan, Atan2). Plain formulas of
-complex products win where they leave out what ours do: errors of products, special values, scaling. CdfNorm 64f A53 is compared with
-a composed formula of some 25 ulp.
+Names of which a peer is the faster one: {behind}. [What the figures mean](notes/speed.md).
 """
 
 

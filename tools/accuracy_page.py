@@ -14,7 +14,8 @@ DATA = catalogue.ROOT / "docs/data/accuracy.csv"
 PAGE = catalogue.ROOT / "docs/accuracy.md"
 IMAGES = catalogue.ROOT / "docs/images/accuracy"
 
-INTRODUCTION = """# Accuracy
+INTRODUCTION = """<!-- Written by `./run accuracy` (tools/accuracy_page.py) from docs/data/accuracy.csv; do not edit. -->
+# Accuracy
 
 Largest errors measured against MPFR (real functions) and MPC (complex ones), in units in the last place (ulp) of the exact
 value. *Bits* is what the largest error means as a number of correct bits of the significand. *Rounded* is the share of results

@@ -1,13 +1,31 @@
 #!/usr/bin/env python3
-"""Writes include/lumvm.h from the catalogue and the descriptions of the functions. With --check, compares instead."""
+"""Writes include/lumvm_functions.h from the functions' declarations. With --check, compares instead."""
 
 import sys
 import textwrap
 
 import catalogue
 
-HEADER = catalogue.ROOT / "include/lumvm.h"
-PREAMBLE = catalogue.ROOT / "tools/header_preamble.h"
+HEADER = catalogue.ROOT / "include/lumvm_functions.h"
+
+OPENING = """/* Written by tools/make_header.py from src/<family>/functions.toml; do not edit, write it again by `./run generate`.
+ * The array functions. Include lumvm.h, which says what holds for all of them. */
+#ifndef LUMVM_FUNCTIONS_H
+#define LUMVM_FUNCTIONS_H
+
+#include "lumvm_types.h"
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+"""
+
+CLOSING = """#ifdef __cplusplus
+}
+#endif
+
+#endif
+"""
 
 PARAMETERS = {
     "OneInput": "const {T}* src, {T}* dst, int32_t len",
@@ -27,11 +45,11 @@ def comment(name, entry, rows):
     lines = textwrap.wrap(entry["summary"], 116, initial_indent=f"/* {name}: ", subsequent_indent=" *   ")
     lines += comment_lines("Domain", entry["domain"])
     lines += comment_lines("Special values", "; ".join(entry["special"]))
-    lines += comment_lines("Status", "; ".join(entry.get("statuses", ["always lumStsOk"])))
+    lines += comment_lines("Status", "; ".join(catalogue.status_lines(entry) or ["always lumStsOk"]))
     costs = []
     for row in rows:
         tags = [tag for _, tag in row.exports()]
-        figures = [f"{tag} {row.costs[tag]:g}" if tag else f"{row.costs[catalogue.TAGS[row.type[:3]][2]]:g}" for tag in tags]
+        figures = [f"{tag} {row.costs[tag]:g}" if tag else f"{row.costs[catalogue.tags_of(row.type)[2]]:g}" for tag in tags]
         costs.append(f"{row.type} {', '.join(figures)}")
     lines += comment_lines("Relative cost", "; ".join(costs))
     return lines[:-1] + [lines[-1] + " */"]
@@ -46,15 +64,15 @@ def declarations(row):
 def text():
     entries = catalogue.descriptions()
     by_title = {}
-    for row in catalogue.rows():
+    for row in catalogue.rows(entries):
         by_title.setdefault(catalogue.title_of(row, entries), []).append(row)
-    lines = []
+    lines = [OPENING]
     for title, rows in by_title.items():
         lines += comment(title, entries[title], rows)
         for row in rows:
             lines += declarations(row)
         lines.append("")
-    return PREAMBLE.read_text().replace("@FUNCTIONS@\n", "\n".join(lines))
+    return "\n".join(lines) + CLOSING
 
 
 if __name__ == "__main__":

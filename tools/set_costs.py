@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Writes measured cost figures into the catalogue: set_costs.py
+"""Writes measured cost figures into src/frame/costs.def: set_costs.py [FUNCTION...], all functions when none is named.
 
 The figures of the reference rows are fixed and give the unit: the others are the measured ticks an element at 4096 elements
 (docs/data/performance.csv), times the median ratio of fixed figure to measured ticks of the reference rows. A kernel that serves
@@ -7,13 +7,11 @@ several levels has one figure. Complex functions with one kernel for all levels 
 through the scalar core."""
 
 import csv
-import re
 import statistics
 import sys
 
 import catalogue
 
-PATH = catalogue.ROOT / "src/frame/catalogue.def"
 REFERENCE = {"Abs_32f", "Sqr_32f", "Exp_32f", "Exp_64f", "Sin_64f", "Add_32fc", "Inv_64f", "Sqrt_64fc", "Exp_32fc", "Exp_64fc", "Ln_32fc",
              "Ln_64fc", "Acos_32fc", "Powx_64fc"}
 # Those of them whose figures were measured on the same kind of kernel as ours.
@@ -21,34 +19,32 @@ UNIT = ("Abs_32f", "Exp_32f", "Exp_64f", "Sin_64f", "Inv_64f")
 
 
 def main():
+    functions = sys.argv[1:]
     with (catalogue.ROOT / "docs/data/performance.csv").open() as file:
         ticks = {(r["function"], r["who"]): float(r["ticks"]) for r in csv.DictReader(file) if r["length"] == "4096"}
     rows = catalogue.rows()
+    for function in set(functions) - {row.function for row in rows}:
+        catalogue.fail(f"no function '{function}'")
     ratios = [row.costs[tag] / ticks[name, tag] for row in rows if (name := f"{row.function}_{row.type}") in UNIT
               for _, tag in row.exports() if (name, tag) in ticks]
     unit = statistics.median(ratios)
 
-    text = PATH.read_text()
+    costs = catalogue.read_costs()
     for row in rows:
         name = f"{row.function}_{row.type}"
         is_core = row.type.endswith("c") and row.exported == "Tagged" and len(set(row.kernels)) == 1
-        if name in REFERENCE or is_core:
+        if name in REFERENCE or is_core or (functions and row.function not in functions):
             continue
-        tags = catalogue.TAGS[row.type[:3]]  # low, mid, high
         measured = {kernel: ticks[name, tag or "lumvm"] for (_, tag), kernel in
                     zip(row.exports(), row.kernels if row.exported == "Tagged" else row.kernels[2:])
                     if (name, tag or "lumvm") in ticks}
         if not measured:
-            sys.exit(f"{name} has not been measured")
+            catalogue.fail(f"{name} has not been measured: ./run bench {row.function}")
         # A kernel that no exported name reaches keeps the figure that it has.
-        figures = [f"{measured[kernel] * unit:.3g}" if kernel in measured else f"{row.costs[tag]:g}"
-                   for kernel, tag in zip(row.kernels, tags)]
-        low, mid, high = (f + ".0f" if re.fullmatch(r"\d+", f) else f + "f" for f in figures)
-        pattern = rf"(?m)^(LUM_ROW\({row.function}, {row.type}, .*), [\d.]+f, [\d.]+f, [\d.]+f\)$"
-        text, count = re.subn(pattern, rf"\1, {mid}, {high}, {low})", text)
-        if count != 1:
-            sys.exit(f"no single row of {name} in {PATH.name}")
-    PATH.write_text(text)
+        costs[row.function, row.type] = tuple(
+            float(f"{measured[kernel] * unit:.3g}") if kernel in measured else row.costs[tag]
+            for kernel, tag in zip(row.kernels, catalogue.tags_of(row.type)))
+    catalogue.write_if_changed(catalogue.COSTS, catalogue.costs_text(costs))
     return 0
 
 

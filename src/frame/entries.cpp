@@ -2,6 +2,7 @@
 // for a parameter too large for a register.
 #include "frame/catalogue_names.h"
 #include "frame/entry_table.h"
+#include "lumvm_functions.h"
 
 using lum::entryTable;
 

@@ -4,8 +4,22 @@
 
 namespace lum {
 
-#define LUM_ROW(function, type, shape, exported, mid, high, low, cost_mid, cost_high, cost_low) \
-  {{.shape##_##type = mid}, {.shape##_##type = high}, {.shape##_##type = low}, cost_mid, cost_high, cost_low, {}},
+namespace {
+struct Costs {
+  Lum32f low, mid, high;
+};
+#define LUM_COSTS(function, type, low, mid, high) constexpr Costs costs_##function##_##type{low, mid, high};
+#include "frame/costs.def"
+}  // namespace
+
+#define LUM_ROW(function, type, shape, exported, kernel_low, kernel_mid, kernel_high) \
+  {{.shape##_##type = kernel_mid},                                                    \
+   {.shape##_##type = kernel_high},                                                   \
+   {.shape##_##type = kernel_low},                                                    \
+   costs_##function##_##type.mid,                                                     \
+   costs_##function##_##type.high,                                                    \
+   costs_##function##_##type.low,                                                     \
+   {}},
 
 constinit EntryTable entryTable = {
 #include "frame/catalogue.def"

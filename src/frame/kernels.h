@@ -5,7 +5,7 @@
 
 namespace lum {
 
-#define LUM_ROW(function, type, shape, exported, mid, high, low, ...) signature::shape<Lum##type> mid, high, low;
+#define LUM_ROW(function, type, shape, exported, low, mid, high) signature::shape<Lum##type> low, mid, high;
 #include "frame/catalogue.def"
 #undef LUM_ROW
 

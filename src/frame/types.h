@@ -3,7 +3,7 @@
 
 #include <type_traits>
 
-#include "lumvm.h"
+#include "lumvm_types.h"
 
 namespace lum {
 

@@ -5,13 +5,15 @@ if(NOT LUM_CLANGXX)
   message(STATUS "fuzz tests left out: no clang++")
   return()
 endif()
-set(fuzz_sources ${CMAKE_CURRENT_SOURCE_DIR}/fuzz/calls.cpp ${PROJECT_SOURCE_DIR}/tools/support/library.cpp)
+set(fuzz_sources ${CMAKE_CURRENT_SOURCE_DIR}/fuzz/calls.cpp ${PROJECT_SOURCE_DIR}/tools/support/declarations.cpp
+                 ${PROJECT_SOURCE_DIR}/tools/support/library.cpp)
 foreach(name elements environment subjects values)
   list(APPEND fuzz_sources ${CMAKE_CURRENT_SOURCE_DIR}/support/${name}.cpp)
 endforeach()
 set(fuzz_flags -std=c++20 -O2 -g1 -fsanitize=fuzzer -Wall -Wextra -Wconversion -Wno-sign-conversion -Wshadow -Werror
                -DLUM_TEST_LIBRARIES=\"${LUM_TEST_LIBRARIES}\" -DLUM_BUILT_LIBRARY_DIR=\"${PROJECT_BINARY_DIR}\")
-foreach(folder ${CMAKE_CURRENT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/tools ${PROJECT_SOURCE_DIR}/src ${PROJECT_SOURCE_DIR}/include)
+foreach(folder ${CMAKE_CURRENT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/tools ${PROJECT_SOURCE_DIR}/src ${PROJECT_SOURCE_DIR}/include
+               ${LUM_DECLARATION_DIR})
   list(APPEND fuzz_flags -I${folder})
 endforeach()
 set(fuzz_objects "")
@@ -19,7 +21,7 @@ foreach(source IN LISTS fuzz_sources)
   get_filename_component(name ${source} NAME_WE)
   set(object ${CMAKE_CURRENT_BINARY_DIR}/fuzz.${name}.o)
   list(APPEND fuzz_objects ${object})
-  add_custom_command(OUTPUT ${object} DEPENDS ${source} DEPFILE ${object}.d VERBATIM
+  add_custom_command(OUTPUT ${object} DEPENDS ${source} ${LUM_DECLARATION_DIR}/declarations.inc DEPFILE ${object}.d VERBATIM
                      COMMAND ${LUM_CLANGXX} ${fuzz_flags} -MD -MF ${object}.d -MT ${object} -c ${source} -o ${object})
 endforeach()
 set(fuzz_calls ${CMAKE_CURRENT_BINARY_DIR}/fuzz.calls)

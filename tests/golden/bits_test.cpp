@@ -50,6 +50,8 @@ std::string DigestOf(const support::Library& library, const Export& entry) {
 std::map<std::string, std::string> StoredDigests() {
   std::map<std::string, std::string> digests;
   std::ifstream file(golden_file);
+  std::string heading;
+  std::getline(file, heading);
   for (std::string name, digest; file >> name >> digest;) digests[name] = digest;
   return digests;
 }
@@ -80,6 +82,7 @@ TEST(GoldenFile, HasExactlyTheExports) {
     const support::Library* library = TestLibrary("p0", "_recording", reason);
     ASSERT_NE(library, nullptr) << reason;
     std::ofstream file(golden_file);
+    file << "# Written by `LUM_WRITE_GOLDEN=1 build/dev/tests/test.golden.bits`: digests of all results, a line an export.\n";
     for (const Export& entry : support::Exports()) file << entry.name << ' ' << DigestOf(*library, entry) << '\n';
   }
   const auto stored = StoredDigests();

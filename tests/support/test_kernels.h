@@ -6,7 +6,7 @@
 
 #include <cstdint>
 
-#include "lumvm.h"
+#include "lumvm_types.h"
 
 namespace lum {
 

@@ -1,22 +1,16 @@
 // Where functions differ on purpose in what they do with the floating-point environment.
 #pragma once
 
-#include <algorithm>
-#include <array>
+#include <string>
 #include <string_view>
 
+#include "support/declarations.h"
 #include "support/environment.h"
-#include "support/library.h"
 
 namespace lum::test {
 
 // Computed element by element through a scalar core, in the x87 unit's extended precision.
-inline bool HasScalarCore(const support::Export& entry) {
-  constexpr std::array<std::string_view, 15> functions = {"Acos",  "Acosh", "Asin", "Asinh", "Atan", "Atanh", "Cos", "Cosh",
-                                                          "Log10", "Pow",   "Powx", "Sin",   "Sinh", "Tan",   "Tanh"};
-  if (!entry.is_complex()) return false;
-  return std::ranges::find(functions, entry.function) != functions.end() || entry.name == "lumsSqrt_64fc_A53";
-}
+using support::HasScalarCore;
 
 // Masks the exceptions and leaves the caller's rounding and flushing alone.
 inline bool IsMaskOnly(const support::Export& entry) { return entry.function == "Conj" || HasScalarCore(entry); }

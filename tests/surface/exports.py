@@ -11,7 +11,8 @@ import catalogue
 
 def exported(library):
     lines = subprocess.run(["nm", "-D", "--defined-only", library], check=True, capture_output=True, text=True).stdout.splitlines()
-    return [line.split()[-1].split("@")[0] for line in lines]
+    # An absolute symbol is the name of the version itself.
+    return [line.split()[-1].split("@")[0] for line in lines if " A " not in line]
 
 
 def main():

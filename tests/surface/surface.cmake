@@ -14,6 +14,8 @@ foreach(language c cpp)
   add_test(NAME surface.header_${language} COMMAND test.surface.header_${language})
 endforeach()
 
+add_test(NAME surface.catalogue_is_current
+         COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/tools/make_catalogue.py --check)
 add_test(NAME surface.header_is_current COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/tools/make_header.py --check)
 add_test(NAME surface.reference_is_current
          COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/tools/make_reference.py --check)
@@ -38,3 +40,15 @@ else()
     add_skipped_test(surface.${name} "not an optimised build for AVX-512")
   endforeach()
 endif()
+
+# The binary interface, read from the stubs with debugging information.
+add_library(lumvm_abi SHARED ${PROJECT_SOURCE_DIR}/src/frame/entries.cpp ${PROJECT_SOURCE_DIR}/src/frame/version.cpp
+                             surface/abi_table.cpp)
+target_include_directories(lumvm_abi PRIVATE ${PROJECT_SOURCE_DIR}/src ${PROJECT_SOURCE_DIR}/include)
+target_compile_options(lumvm_abi PRIVATE -g)
+target_link_options(lumvm_abi PRIVATE -Wl,--version-script=${LUM_VERSION_SCRIPT})
+set_target_properties(lumvm_abi PROPERTIES LINK_DEPENDS ${LUM_VERSION_SCRIPT} SOVERSION ${LUM_ABI})
+add_dependencies(lumvm_abi lumvm_version_script)
+add_test(NAME surface.abi COMMAND ${CMAKE_CURRENT_SOURCE_DIR}/surface/abi.sh $<TARGET_FILE:lumvm_abi>
+                                  ${CMAKE_CURRENT_SOURCE_DIR}/surface/abi.xml)
+set_tests_properties(surface.abi PROPERTIES SKIP_REGULAR_EXPRESSION "^skipped: ")

@@ -13,13 +13,14 @@ cmake --build "$scratch/build" >/dev/null
 "$scratch/build/outside"
 "$scratch/build/outside_cpp"
 
-export PKG_CONFIG_PATH=$(dirname "$(find "$scratch/prefix" -name lumvm.pc)")
-export LD_LIBRARY_PATH=$(dirname "$(find "$scratch/prefix" -name 'liblumvmp0.so')")
+PKG_CONFIG_PATH=$(dirname "$(find "$scratch/prefix" -name lumvm.pc)")
+LD_LIBRARY_PATH=$(dirname "$(find "$scratch/prefix" -name 'liblumvmp0.so')")
+export PKG_CONFIG_PATH LD_LIBRARY_PATH
 for package in lumvm lumvmk0 lumvmp0; do
   [ -e "$PKG_CONFIG_PATH/$package.pc" ] || continue
-  flags=$(pkg-config --define-variable=prefix="$scratch/prefix" --cflags --libs $package)
+  read -ra flags < <(pkg-config --define-variable=prefix="$scratch/prefix" --cflags --libs "$package")
   for program in "$tests/outside_project/main.c" "$tests/../../examples/damped_oscillation.c"; do
-    cc -std=c99 -pedantic -Wall -Wextra -Werror "$program" $flags -lm -o "$scratch/by_pkg_config"
+    cc -std=c99 -pedantic -Wall -Wextra -Werror "$program" "${flags[@]}" -lm -o "$scratch/by_pkg_config"
     if [ $package != lumvmp0 ] && [ -e "$1/liblumvmk0.so" ] && ! grep -qsw avx512vl /proc/cpuinfo; then continue; fi
     "$scratch/by_pkg_config" >"$scratch/output" || { cat "$scratch/output"; echo "$program with $package failed"; exit 1; }
   done

@@ -27,15 +27,10 @@ template <auto f> void TwoParts(std::span<const float> x, std::span<double> part
   for (size_t i = 0; i < x.size(); ++i) f(static_cast<double>(x[i]), part1[i], part2[i]);
 }
 
-// The whole part and the rest, which has the argument's sign.
-void Modf(double x, double& whole, double& fraction) { fraction = std::modf(x, &whole); }
+// The part behind the point, which has the argument's sign.
 double Frac(double x) {
   double whole;
   return std::modf(x, &whole);
-}
-void SinCos(double x, double& sine, double& cosine) {
-  sine = std::sin(x);
-  cosine = std::cos(x);
 }
 double Pow2o3(double x) {
   const double root = std::cbrt(x);
@@ -89,55 +84,10 @@ double ErfcInv(double p) {
 // The quantile 1/2 gives +0.
 double CdfNormInv(double p) { return p == 0.5 ? 0 : -std::numbers::sqrt2 * ErfcInv(2 * p); }
 
-// Outside its domain the C library takes its time to report the error.
-template <auto f> double WithinOne(double x) { return std::fabs(x) <= 1 ? f(x) : nan; }
-template <auto f> double FromZero(double x) { return x >= 0 ? f(x) : nan; }
-
-#define LUM_LIBM(name) OnePart<[](double x) { return std::name(x); }>
-
+// Outside of its domain a function is not called: the C library takes its time to report the error.
 const std::map<std::string_view, CheapReference>& CheapReferences() {
   static const std::map<std::string_view, CheapReference> references = {
-      {"Abs", LUM_LIBM(fabs)},
-      {"Acos", OnePart<WithinOne<[](double x) { return std::acos(x); }>>},
-      {"Acosh", OnePart<[](double x) { return x >= 1 ? std::acosh(x) : nan; }>},
-      {"Asin", OnePart<WithinOne<[](double x) { return std::asin(x); }>>},
-      {"Asinh", LUM_LIBM(asinh)},
-      {"Atan", LUM_LIBM(atan)},
-      {"Atanh", OnePart<WithinOne<[](double x) { return std::atanh(x); }>>},
-      {"Cbrt", LUM_LIBM(cbrt)},
-      {"CdfNorm", OnePart<CdfNorm>},
-      {"CdfNormInv", OnePart<CdfNormInv>},
-      {"Ceil", LUM_LIBM(ceil)},
-      {"Cos", LUM_LIBM(cos)},
-      {"Cosh", LUM_LIBM(cosh)},
-      {"Erf", LUM_LIBM(erf)},
-      {"ErfInv", OnePart<ErfInv>},
-      {"Erfc", LUM_LIBM(erfc)},
-      {"ErfcInv", OnePart<ErfcInv>},
-      {"Exp", LUM_LIBM(exp)},
-      {"Expm1", LUM_LIBM(expm1)},
-      {"Floor", LUM_LIBM(floor)},
-      {"Frac", OnePart<Frac>},
-      {"Inv", OnePart<[](double x) { return 1 / x; }>},
-      {"InvCbrt", OnePart<[](double x) { return 1 / std::cbrt(x); }>},
-      {"InvSqrt", OnePart<[](double x) { return 1 / std::sqrt(x); }>},
-      {"Ln", OnePart<FromZero<[](double x) { return std::log(x); }>>},
-      {"Log10", OnePart<FromZero<[](double x) { return std::log10(x); }>>},
-      {"Log1p", OnePart<[](double x) { return x >= -1 ? std::log1p(x) : nan; }>},
-      {"Modf", TwoParts<Modf>},
-      {"NearbyInt", LUM_LIBM(nearbyint)},
-      {"Pow2o3", OnePart<Pow2o3>},
-      {"Pow3o2", OnePart<[](double x) { return x * std::sqrt(x); }>},
-      {"Rint", LUM_LIBM(rint)},
-      {"Round", LUM_LIBM(round)},
-      {"Sin", LUM_LIBM(sin)},
-      {"SinCos", TwoParts<SinCos>},
-      {"Sinh", LUM_LIBM(sinh)},
-      {"Sqr", OnePart<[](double x) { return x * x; }>},
-      {"Sqrt", LUM_LIBM(sqrt)},
-      {"Tan", LUM_LIBM(tan)},
-      {"Tanh", LUM_LIBM(tanh)},
-      {"Trunc", LUM_LIBM(trunc)},
+#include "cheap_references.inc"
   };
   return references;
 }

@@ -7,6 +7,8 @@
 #include <limits>
 #include <map>
 
+#include "support/declarations.h"
+
 namespace lum::accuracy {
 namespace {
 
@@ -102,10 +104,7 @@ void AddToNorm(Worst& worst, const Point& point, double re, double im, mpfr_srcp
 
 double Bound(const Export& entry) {
   const int significand = FormatOf(entry.is_32bit()).significand;
-  static const char* exact_functions[] = {"Abs",   "Add",  "Conj", "Mul",       "Sqr",  "Sub",   "Ceil",
-                                          "Floor", "Frac", "Modf", "NearbyInt", "Rint", "Round", "Trunc"};
-  const bool is_exact = std::ranges::find(exact_functions, entry.function) != std::end(exact_functions);
-  if (is_exact && !entry.is_complex()) return 0.5;
+  if (support::DeclarationOf(entry).is_exact && !entry.is_complex()) return 0.5;
   return entry.tier == support::Tier::high ? 1 : std::ldexp(0.5, significand - entry.bits());
 }
 

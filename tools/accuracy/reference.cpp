@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <map>
+#include <string>
 #include <string_view>
 
 namespace lum::accuracy {
@@ -63,13 +64,17 @@ template <auto f> void ToReal(mpfr_ptr part1, mpfr_ptr, const Point& p) {
 
 // Shorthands that give MPFR's and MPC's functions one shape.
 #define LUM_MPFR(name) Real<[](mpfr_ptr r, mpfr_srcptr x) { name(r, x, nearest); }>
+#define LUM_MPFR2(name) Real2<[](mpfr_ptr r, mpfr_srcptr x, mpfr_srcptr y) { name(r, x, y, nearest); }>
 #define LUM_MPC(name) Complex<[](mpc_ptr r, mpc_srcptr z) { name(r, z, MPC_RNDNN); }>
+#define LUM_MPC2(name) Complex2<[](mpc_ptr r, mpc_srcptr z, mpc_srcptr w) { name(r, z, w, MPC_RNDNN); }>
+#define LUM_MPC_REAL(name) ToReal<[](mpfr_ptr r, mpc_srcptr z) { name(r, z, nearest); }>
 
 // x^(a/3) by the cube root, for a = -1 and 2.
 void InvCbrt(mpfr_ptr r, mpfr_srcptr x) {
   mpfr_cbrt(r, x, nearest);
   mpfr_ui_div(r, 1, r, nearest);
 }
+void Inv(mpfr_ptr r, mpfr_srcptr x) { mpfr_ui_div(r, 1, x, nearest); }
 // As IEEE 754 has it, the pole at -0 is negative.
 void InvSqrt(mpfr_ptr r, mpfr_srcptr x) {
   mpfr_rec_sqrt(r, x, nearest);
@@ -232,75 +237,10 @@ void SinCos(mpfr_ptr sine, mpfr_ptr cosine, const Point& p) { mpfr_sin_cos(sine,
 void Cis(mpfr_ptr re, mpfr_ptr im, const Point& p) { mpfr_sin_cos(im, re, Number(p.re1), nearest); }
 void Modf(mpfr_ptr whole, mpfr_ptr fraction, const Point& p) { mpfr_modf(whole, fraction, Number(p.re1), nearest); }
 
-struct Entry {
-  Reference real = nullptr;
-  Reference complex = nullptr;
-};
-
-const std::map<std::string_view, Entry>& AllReferences() {
-  static const std::map<std::string_view, Entry> references = {
-      {"Abs", {LUM_MPFR(mpfr_abs), ToReal<[](mpfr_ptr r, mpc_srcptr z) { mpc_abs(r, z, nearest); }>}},
-      {"Acos", {LUM_MPFR(mpfr_acos), LUM_MPC(mpc_acos)}},
-      {"Acosh", {LUM_MPFR(mpfr_acosh), LUM_MPC(mpc_acosh)}},
-      {"Add",
-       {Real2<[](mpfr_ptr r, mpfr_srcptr x, mpfr_srcptr y) { mpfr_add(r, x, y, nearest); }>,
-        Complex2<[](mpc_ptr r, mpc_srcptr x, mpc_srcptr y) { mpc_add(r, x, y, MPC_RNDNN); }>}},
-      {"Arg", {nullptr, ToReal<[](mpfr_ptr r, mpc_srcptr z) { mpc_arg(r, z, nearest); }>}},
-      {"Asin", {LUM_MPFR(mpfr_asin), LUM_MPC(mpc_asin)}},
-      {"Asinh", {LUM_MPFR(mpfr_asinh), LUM_MPC(mpc_asinh)}},
-      {"Atan", {LUM_MPFR(mpfr_atan), LUM_MPC(mpc_atan)}},
-      {"Atan2", {Real2<[](mpfr_ptr r, mpfr_srcptr x, mpfr_srcptr y) { mpfr_atan2(r, x, y, nearest); }>, nullptr}},
-      {"Atanh", {LUM_MPFR(mpfr_atanh), LUM_MPC(mpc_atanh)}},
-      {"CIS", {nullptr, Cis}},
-      {"Cbrt", {LUM_MPFR(mpfr_cbrt), nullptr}},
-      {"CdfNorm", {Real<CdfNorm>, nullptr}},
-      {"CdfNormInv", {Real<CdfNormInv>, nullptr}},
-      {"Ceil", {LUM_MPFR(mpfr_rint_ceil), nullptr}},
-      {"Conj", {nullptr, LUM_MPC(mpc_conj)}},
-      {"Cos", {LUM_MPFR(mpfr_cos), Complex<Even<Cosh>>}},
-      {"Cosh", {LUM_MPFR(mpfr_cosh), Complex<Cosh>}},
-      {"Div",
-       {Real2<[](mpfr_ptr r, mpfr_srcptr x, mpfr_srcptr y) { mpfr_div(r, x, y, nearest); }>,
-        Complex2<[](mpc_ptr r, mpc_srcptr x, mpc_srcptr y) { mpc_div(r, x, y, MPC_RNDNN); }>}},
-      {"Erf", {LUM_MPFR(mpfr_erf), nullptr}},
-      {"ErfInv", {Real<ErfInv>, nullptr}},
-      {"Erfc", {LUM_MPFR(mpfr_erfc), nullptr}},
-      {"ErfcInv", {Real<ErfcInv>, nullptr}},
-      {"Exp", {LUM_MPFR(mpfr_exp), LUM_MPC(mpc_exp)}},
-      {"Expm1", {LUM_MPFR(mpfr_expm1), nullptr}},
-      {"Floor", {LUM_MPFR(mpfr_rint_floor), nullptr}},
-      {"Frac", {LUM_MPFR(mpfr_frac), nullptr}},
-      {"Hypot", {Real2<[](mpfr_ptr r, mpfr_srcptr x, mpfr_srcptr y) { mpfr_hypot(r, x, y, nearest); }>, nullptr}},
-      {"Inv", {Real<[](mpfr_ptr r, mpfr_srcptr x) { mpfr_ui_div(r, 1, x, nearest); }>, nullptr}},
-      {"InvCbrt", {Real<InvCbrt>, nullptr}},
-      {"InvSqrt", {Real<InvSqrt>, nullptr}},
-      {"Ln", {LUM_MPFR(mpfr_log), LUM_MPC(mpc_log)}},
-      {"Log10", {LUM_MPFR(mpfr_log10), LUM_MPC(mpc_log10)}},
-      {"Log1p", {LUM_MPFR(mpfr_log1p), nullptr}},
-      {"Modf", {Modf, nullptr}},
-      {"Mul",
-       {Real2<[](mpfr_ptr r, mpfr_srcptr x, mpfr_srcptr y) { mpfr_mul(r, x, y, nearest); }>,
-        Complex2<[](mpc_ptr r, mpc_srcptr x, mpc_srcptr y) { mpc_mul(r, x, y, MPC_RNDNN); }>}},
-      {"MulByConj", {nullptr, Complex2<MulConjugate>}},
-      {"NearbyInt", {LUM_MPFR(mpfr_rint_roundeven), nullptr}},
-      {"Pow",
-       {Real2<[](mpfr_ptr r, mpfr_srcptr x, mpfr_srcptr y) { mpfr_pow(r, x, y, nearest); }>,
-        Complex2<[](mpc_ptr r, mpc_srcptr x, mpc_srcptr y) { mpc_pow(r, x, y, MPC_RNDNN); }>}},
-      {"Pow2o3", {Real<Pow2o3>, nullptr}},
-      {"Pow3o2", {Real<Pow3o2>, nullptr}},
-      {"Rint", {LUM_MPFR(mpfr_rint_roundeven), nullptr}},
-      {"Round", {LUM_MPFR(mpfr_rint_round), nullptr}},
-      {"Sin", {LUM_MPFR(mpfr_sin), Complex<Odd<Sinh>>}},
-      {"SinCos", {SinCos, nullptr}},
-      {"Sinh", {LUM_MPFR(mpfr_sinh), Complex<Sinh>}},
-      {"Sqr", {LUM_MPFR(mpfr_sqr), nullptr}},
-      {"Sqrt", {LUM_MPFR(mpfr_sqrt), LUM_MPC(mpc_sqrt)}},
-      {"Sub",
-       {Real2<[](mpfr_ptr r, mpfr_srcptr x, mpfr_srcptr y) { mpfr_sub(r, x, y, nearest); }>,
-        Complex2<[](mpc_ptr r, mpc_srcptr x, mpc_srcptr y) { mpc_sub(r, x, y, MPC_RNDNN); }>}},
-      {"Tan", {LUM_MPFR(mpfr_tan), Complex<Odd<Tanh>>}},
-      {"Tanh", {LUM_MPFR(mpfr_tanh), Complex<Tanh>}},
-      {"Trunc", {LUM_MPFR(mpfr_rint_trunc), nullptr}},
+// By the function's name; that of a complex function has a c behind it.
+const std::map<std::string_view, Reference>& AllReferences() {
+  static const std::map<std::string_view, Reference> references = {
+#include "references.inc"
   };
   return references;
 }
@@ -308,11 +248,8 @@ const std::map<std::string_view, Entry>& AllReferences() {
 }  // namespace
 
 Reference FindReference(const support::Export& entry) {
-  // A power with a constant exponent is a power.
-  const auto function = entry.function == "Powx" ? std::string_view("Pow") : entry.function;
-  const auto found = AllReferences().find(function);
-  if (found == AllReferences().end()) return nullptr;
-  return entry.is_complex() ? found->second.complex : found->second.real;
+  const auto found = AllReferences().find(std::string(entry.function) + (entry.is_complex() ? "c" : ""));
+  return found == AllReferences().end() ? nullptr : found->second;
 }
 
 }  // namespace lum::accuracy

@@ -21,7 +21,7 @@ constexpr Element RealOf(Element element) {
 }
 
 struct Costs {
-  float mid, high, low;
+  float low, mid, high;
 };
 enum class Slot { entryMid, entryHigh, entryLow };
 
@@ -41,14 +41,11 @@ constexpr Export Make(std::string_view name, std::string_view function, std::str
           cost};
 }
 
-#define LUM_COSTS_OF(function, type) costs_##function##_##type
-#define LUM_ROW(function, type, shape, exported, mid, high, low, cost_mid, cost_high, cost_low) \
-  constexpr Costs LUM_COSTS_OF(function, type){cost_mid, cost_high, cost_low};
-#include "frame/catalogue.def"
-#undef LUM_ROW
+#define LUM_COSTS(function, type, low, mid, high) constexpr Costs costs_##function##_##type{low, mid, high};
+#include "frame/costs.def"
 
 #define LUM_EXPORT(name, function, type, shape, tag, slot) \
-  Make(#name, #function, #type, #tag, Shape::shape, Slot::slot, LUM_COSTS_OF(function, type)),
+  Make(#name, #function, #type, #tag, Shape::shape, Slot::slot, costs_##function##_##type),
 #define LUM_ROW(function, type, shape, exported, ...) LUM_EXPORTS_##exported(LUM_EXPORT, function, type, shape)
 constexpr Export exports[] = {
 #include "frame/catalogue.def"

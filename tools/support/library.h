@@ -9,7 +9,7 @@
 #include <string>
 #include <string_view>
 
-#include "lumvm.h"
+#include "lumvm_types.h"
 
 namespace lum::support {
 

@@ -1,0 +1,9 @@
+// A table without kernels in the place of the libraries', so that the exported stubs alone make a library with debugging
+// information, from which the binary interface is read.
+#include "frame/entry_table.h"
+
+namespace lum {
+
+constinit EntryTable entryTable = {};
+
+}  // namespace lum

@@ -1,0 +1,152 @@
+#!/usr/bin/env python3
+"""Writes what programs take from the functions' declarations as C++ initialisers: make_declarations.py KIND FILE
+
+KIND is one of
+  descriptions      texts, a line a title, for the command line tool
+  declarations      facts, a line a function and type, for tests and programs that go over all functions
+  scalar_loops      a loop over the C++ library's function to compare with
+  references        MPFR's and MPC's functions
+  cheap_references  binary64 functions of a 32f input"""
+
+import json
+import math
+import sys
+from pathlib import Path
+
+import catalogue
+
+
+def number(value):
+    if isinstance(value, float) and math.isinf(value):
+        return "infinity" if value > 0 else "-infinity"
+    return repr(value)
+
+
+def point(row, arguments):
+    """Parts of the first input, then of the second or of the parameter, as four numbers."""
+    values = arguments if isinstance(arguments, list) else [arguments]
+    is_complex = row.type.endswith("c") and row.shape != "ToComplex"
+    parts = 2 if is_complex else 1
+    inputs = 2 if row.shape in ("TwoInputs", "ScalarParameter") else 1
+    if len(values) != parts * inputs:
+        catalogue.fail(f"{row.function} {row.type}: {values} is not {inputs} argument(s) of {parts} part(s)")
+    values = [v for i in range(inputs) for v in (values[i * parts:(i + 1) * parts] + [0.0] * (2 - parts))]
+    return "{" + ", ".join(number(v) for v in values + [0.0] * (4 - len(values))) + "}"
+
+
+def descriptions():
+    for title, entry in sorted(catalogue.descriptions().items()):
+        fields = [title, entry["summary"], entry["domain"], "; ".join(entry["special"]),
+                  "; ".join(catalogue.status_lines(entry) or ["always ok"])]
+        yield "{" + ", ".join(json.dumps(field) for field in fields) + "},"
+
+
+def facts(row):
+    entry = row.declaration
+    yield f".function = {json.dumps(row.function)}, .type = {json.dumps(row.type)}"
+    if entry.get("exact"):
+        yield ".is_exact = true"
+    if row.scalar_core_tags:
+        yield f".scalar_core_tags = {json.dumps(' '.join(row.scalar_core_tags))}"
+    ordinary = catalogue.of_type(entry.get("ordinary"), row.type)
+    if ordinary:
+        yield f".ordinary = {{{number(ordinary[0])}, {number(ordinary[1])}}}"
+    if "c" in entry:
+        yield f".c_name = {json.dumps(entry['c'])}"
+    statuses = []
+    for status in entry.get("statuses", []):
+        if row.type in status.get("types", [row.type]):
+            points = [point(row, at) for at in catalogue.of_type(status["at"], row.type)]
+            statuses.append(f"{{{status['status']}, {{{', '.join(points)}}}}}")
+    if statuses:
+        yield f".statuses = {{{', '.join(statuses)}}}"
+    special = []
+    for argument in entry.get("special_arguments", []):
+        at = catalogue.of_type(argument["at"], row.type)
+        if at is not None:
+            tags = " ".join(argument.get("tags", []))
+            special.append(f"{{{json.dumps(argument['what'])}, {point(row, at)}, {json.dumps(tags)}}}")
+    if special:
+        yield f".special_arguments = {{{', '.join(special)}}}"
+
+
+def declarations():
+    for row in catalogue.rows():
+        yield "{" + ", ".join(facts(row)) + "},"
+
+
+def scalar_expression(entry):
+    """Of x and y, or two assignments to first and second; None where the C++ library has no such function."""
+    if "scalar" in entry:
+        return entry["scalar"]
+    if "c" not in entry:
+        return None
+    two = entry.get("shape") in ("TwoInputs", "ScalarParameter")
+    return f"std::{entry['c']}({'x, y' if two else 'x'})"
+
+
+# The template that runs a function of one element over an array, and the function's parameters, by shape.
+LOOPS = {
+    "OneInput": ("OneInput", "auto x"), "ToReal": ("OneInput", "auto x"), "TwoInputs": ("TwoInputs", "auto x, auto y"),
+    "TwoOutputs": ("TwoOutputs", "auto x, auto& first, auto& second"), "ScalarParameter": ("Parameter", "auto x, auto y"),
+    "ToComplex": ("FromReal", "auto x"),
+}
+
+
+def scalar_loops():
+    for row in catalogue.rows():
+        expression = scalar_expression(row.declaration)
+        if expression:
+            loop, parameters = LOOPS[row.shape]
+            returned = "" if row.shape == "TwoOutputs" else "return "
+            yield (f'{{"{row.function}_{row.type}", '
+                   f"{loop}<[]({parameters}) {{ {returned}{expression}; }}, Lum{row.type}>}},")
+
+
+def reference(row):
+    """The C++ name of a function of tools/accuracy/reference.cpp's kind for MPFR's or MPC's."""
+    is_complex = row.type.endswith("c")
+    name = row.declaration.get("mpc" if is_complex else "mpfr")
+    if name is None:
+        return None
+    if row.shape in ("TwoOutputs", "ToComplex"):
+        return name
+    two = "2" if row.shape in ("TwoInputs", "ScalarParameter") else ""
+    if not name.startswith(("mpfr_", "mpc_")):
+        return f"{'Complex' if is_complex else 'Real'}{two}<{name}>"
+    return f"LUM_{'MPC' if is_complex else 'MPFR'}{two}{'_REAL' if row.shape == 'ToReal' else ''}({name})"
+
+
+def references():
+    for row in catalogue.rows():
+        if row.type in ("32f", "32fc") and (name := reference(row)):  # the same for both widths
+            yield f'{{"{row.function}{"c" * row.type.endswith("c")}", {name}}},'
+
+
+def cheap_references():
+    for row in catalogue.rows():
+        entry = row.declaration
+        expression = f"{entry['reference64']}(x)" if "reference64" in entry else scalar_expression(entry)
+        if row.type != "32f" or row.shape not in ("OneInput", "TwoOutputs") or not expression:
+            continue
+        if row.shape == "TwoOutputs":
+            yield f'{{"{row.function}", TwoParts<[](double x, double& first, double& second) {{ {expression}; }}>}},'
+        elif "defined" in entry:
+            low, high = (number(end) for end in entry["defined"])
+            yield f'{{"{row.function}", OnePart<[](double x) {{ return x >= {low} && x <= {high} ? {expression} : nan; }}>}},'
+        else:
+            yield f'{{"{row.function}", OnePart<[](double x) {{ return {expression}; }}>}},'
+
+
+KINDS = {kind.__name__: kind for kind in (descriptions, declarations, scalar_loops, references, cheap_references)}
+
+
+def main():
+    if len(sys.argv) != 3 or sys.argv[1] not in KINDS:
+        catalogue.fail(f"usage: make_declarations.py {'|'.join(KINDS)} FILE")
+    catalogue.write_if_changed(Path(sys.argv[2]), "".join(line + "\n" for line in KINDS[sys.argv[1]]()))
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
