@@ -6,7 +6,8 @@ KIND is one of
   declarations      facts, a line a function and type, for tests and programs that go over all functions
   scalar_loops      a loop over the C++ library's function to compare with
   references        MPFR's and MPC's functions
-  cheap_references  binary64 functions of a 32f input"""
+  cheap_references  binary64 functions of a 32f input
+  cpp_calls         a line an exported name with its function of lumvm.hpp, for a test"""
 
 import json
 import math
@@ -138,7 +139,24 @@ def cheap_references():
             yield f'{{"{row.function}", OnePart<[](double x) {{ return {expression}; }}>}},'
 
 
-KINDS = {kind.__name__: kind for kind in (descriptions, declarations, scalar_loops, references, cheap_references)}
+ELEMENTS = {"32f": "float", "64f": "double", "32fc": "std::complex<float>", "64fc": "std::complex<double>"}
+
+
+def cpp_calls():
+    entries = catalogue.descriptions()
+    for row in catalogue.rows(entries):
+        real, own = ELEMENTS[row.type.rstrip("c")], ELEMENTS[row.type]
+        compare = {"ToReal": f"(CompareOne<{own}, {real}>)", "ToComplex": f"(CompareOne<{real}, {own}>)",
+                   "OneInput": f"(CompareOne<{own}, {own}>)", "TwoInputs": f"CompareTwoInputs<{own}>",
+                   "TwoOutputs": f"CompareTwoOutputs<{own}>", "ScalarParameter": f"CompareParameter<{own}>"}[row.shape]
+        cpp = next(entry["cpp"] for title, entry in entries.items()
+                   if title.removesuffix(" (complex)") == row.function and "cpp" in entry)
+        exports = row.exports()
+        for (name, _), level in zip(exports, ("low", "mid", "high") if len(exports) == 3 else ("high",)):
+            yield f"LUM_CPP({compare}, {name}, {cpp}, {level})"
+
+
+KINDS = {kind.__name__: kind for kind in (descriptions, declarations, scalar_loops, references, cheap_references, cpp_calls)}
 
 
 def main():
