@@ -60,8 +60,8 @@ void Data::Set(std::vector<std::byte>& array, size_t i, double x) const {
   }
 }
 
-void Register(const std::string& name, std::shared_ptr<Data> data, int32_t len,
-              std::function<void(const support::Arguments&)> call) {
+void Register(const std::string& name, const std::shared_ptr<Data>& data, int32_t len,
+              const std::function<void(const support::Arguments&)>& call) {
   benchmark::RegisterBenchmark(name.c_str(), [=](benchmark::State& state) {
     const support::Arguments arguments = data->arguments(len);
     const uint64_t start = Ticks();

@@ -28,7 +28,7 @@ class Data {
 };
 
 // A benchmark of calls over the first len elements, with a counter of ticks of the time stamp counter an element.
-void Register(const std::string& name, std::shared_ptr<Data> data, int32_t len,
-              std::function<void(const support::Arguments&)> call);
+void Register(const std::string& name, const std::shared_ptr<Data>& data, int32_t len,
+              const std::function<void(const support::Arguments&)>& call);
 
 }  // namespace lum::bench

@@ -60,7 +60,8 @@ void RegisterAll(const Options& options) {
         return [address, &what](const Arguments& a) { CallAddress(address, what, a); };
       };
       Register(prefix + tag, data, len, call(library, entry));
-      if (base && base->Symbol(entry.name) != nullptr) Register(prefix + "base:" + tag, data, len, call(*base, entry));
+      if (base && base->Symbol(entry.name) != nullptr)
+        Register(fmt::format("{}base:{}", prefix, tag), data, len, call(*base, entry));
       if (!is_new_group) continue;
       for (const auto& peer : lum::bench::FindPeers(entry)) Register(prefix + peer.name, data, len, peer.loop);
       for (const auto& peer : lum::bench::FindComposedPeers(entry)) Register(prefix + peer.name, data, len, peer.loop);

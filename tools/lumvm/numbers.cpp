@@ -44,7 +44,7 @@ template <class T> std::string FormatNumber(T value, Notation notation) {
   const bool hexadecimal = notation == Notation::hexadecimal && std::isfinite(value);
   const auto end = hexadecimal ? std::to_chars(buffer, buffer + sizeof buffer, std::fabs(value), std::chars_format::hex).ptr
                                : std::to_chars(buffer, buffer + sizeof buffer, value).ptr;
-  const std::string text(buffer, end);
+  std::string text(buffer, end);
   if (!hexadecimal) return text;
   return fmt::format("{}0x{}", std::signbit(value) ? "-" : "", text);
 }

@@ -27,7 +27,7 @@ inline PowerArgument ReduceByPowers(Extended x) {
   const Extended n = round_to_multiple<0>(x * f64(0x40771547652B82FE, 369.3299304675746));
   const Extended r =
       (x - n * f64(0x3F662E42FF000000, 0.0027076061742263846)) - n * f64(0xBD4718432A1B0E26, -1.6409824502660487e-13);
-  const int whole = static_cast<int>(n), j = static_cast<int8_t>(whole & 0xff);
+  const int whole = static_cast<int>(n), j = ((whole + 128) & 0xff) - 128;
   const Extended square = r * r;
   const auto& c = exp_table_terms;
   return {(whole - j) / 256, j, square * (c[0] + square * (c[2] + square * c[4])), r + square * r * (c[1] + square * c[3])};
