@@ -1,9 +1,8 @@
 // Frequency response of a Butterworth low-pass filter, a cascade of second-order sections: H(e^(i w)) as a complex function of
 // many frequencies at once, its level in decibel and its phase. Checked against the closed form of the filter's amplitude,
 // 1 / sqrt(1 + (tan(w/2) / tan(c/2))^(2N)), and against std::complex.
-#include <lumvm.h>
-
 #include <complex>
+#include <lumvm.hpp>
 #include <numbers>
 
 #include "example.h"
@@ -38,26 +37,29 @@ struct Response {
 constexpr size_t block = 256;
 
 bool EvaluateBlock(const std::vector<Section>& sections, const double* frequencies, size_t n, Response& r, size_t first) {
-  double angle[block];
-  Lum64fc delay[block], delay2[block], numerator[block], denominator[block], h[block];
-  const auto len = static_cast<int32_t>(n);
+  double angles[block];
+  Complex delays[block], delays2[block], numerators[block], denominators[block], responses[block];
+  const std::span angle(angles, n);
+  const std::span delay(delays, n), delay2(delays2, n), numerator(numerators, n), denominator(denominators, n), h(responses, n);
+  const auto part = [&](std::vector<double>& column) { return std::span(column).subspan(first, n); };
+
   for (size_t i = 0; i < n; ++i) angle[i] = -frequencies[i];
-  int warnings = lumsCIS_64fc_A53(angle, delay, len);  // 1 / z
-  warnings |= lumsMul_64fc_A53(delay, delay, delay2, len);
+  bool quiet = !lumvm::cis(angle, delay);  // 1 / z
+  quiet &= !lumvm::mul(delay, delay, delay2);
   for (const Section& s : sections) {
     const bool is_first = &s == &sections.front();
     for (size_t i = 0; i < n; ++i) {
-      numerator[i] = {s.b0 + s.b1 * delay[i].re + s.b2 * delay2[i].re, s.b1 * delay[i].im + s.b2 * delay2[i].im};
-      denominator[i] = {1 + s.a1 * delay[i].re + s.a2 * delay2[i].re, s.a1 * delay[i].im + s.a2 * delay2[i].im};
+      numerator[i] = s.b0 + s.b1 * delay[i] + s.b2 * delay2[i];
+      denominator[i] = 1.0 + s.a1 * delay[i] + s.a2 * delay2[i];
     }
-    warnings |= lumsDiv_64fc_A53(numerator, denominator, is_first ? h : numerator, len);
-    if (!is_first) warnings |= lumsMul_64fc_A53(h, numerator, h, len);
+    quiet &= !lumvm::div(numerator, denominator, is_first ? h : numerator);
+    if (!is_first) quiet &= !lumvm::mul(h, numerator, h);
   }
-  warnings |= lumsAbs_64fc_A53(h, &r.amplitude[first], len);
-  warnings |= lumsArg_64fc_A53(h, &r.phase[first], len);
-  warnings |= lumsLog10_64f_A53(&r.amplitude[first], &r.decibel[first], len);
-  for (size_t i = 0; i < n; ++i) r.decibel[first + i] *= 20;
-  return warnings == lumStsOk;
+  quiet &= !lumvm::abs(h, part(r.amplitude));
+  quiet &= !lumvm::arg(h, part(r.phase));
+  quiet &= !lumvm::log10(part(r.amplitude), part(r.decibel));
+  for (double& level : part(r.decibel)) level *= 20;
+  return quiet;
 }
 
 bool Evaluate(const std::vector<Section>& sections, const std::vector<double>& frequencies, Response& r) {

@@ -1,7 +1,7 @@
 // Black-Scholes prices of European options. The contracts of a file, given over and over until there are as many as wanted, are
 // priced at three accuracy tags and by a loop over <cmath>, checked against exact prices and against put-call parity, and
 // timed.
-#include <lumvm.h>
+#include <lumvm.hpp>
 
 #include "example.h"
 
@@ -27,56 +27,57 @@ Options Read(const std::string& path, size_t count) {
   return {columns[0], columns[1], columns[2], columns[3], columns[4], columns[5], columns[6]};
 }
 
-using OneInput = LumStatus(const double*, double*, int32_t);
-using TwoInputs = LumStatus(const double*, const double*, double*, int32_t);
-// The functions of a tag, and its error bound relative to the result.
-struct Tag {
-  const char* name;
-  double error;
-  TwoInputs* div;
-  OneInput *ln, *exp, *sqrt, *cdf;
-};
-constexpr Tag tags[] = {
-    {"A26", 0x1p-26, lumsDiv_64f_A26, lumsLn_64f_A26, lumsExp_64f_A26, lumsSqrt_64f_A26, lumsCdfNorm_64f_A26},
-    {"A50", 0x1p-50, lumsDiv_64f_A50, lumsLn_64f_A50, lumsExp_64f_A50, lumsSqrt_64f_A50, lumsCdfNorm_64f_A50},
-    {"A53", 0x1p-52, lumsDiv_64f_A53, lumsLn_64f_A53, lumsExp_64f_A53, lumsSqrt_64f_A53, lumsCdfNorm_64f_A53}};
-
 // Whole arrays go through each function; blocks of them stay in the processor's first cache between the steps.
 constexpr size_t block = 256;
 
-bool PriceBlock(const Tag& tag, Options& o, size_t first, size_t n) {
-  double log_ratio[block], deviation[block], discounted[block], d1[block], d2[block], n1[block], n2[block];
-  const auto len = static_cast<int32_t>(n);
-  int warnings = tag.div(&o.spot[first], &o.strike[first], log_ratio, len);
-  warnings |= tag.ln(log_ratio, log_ratio, len);
-  warnings |= tag.sqrt(&o.years[first], deviation, len);
+template <lumvm::accuracy a> bool PriceBlock(Options& o, size_t first, size_t n) {
+  double log_ratios[block], deviations[block], discounts[block], d1s[block], d2s[block], n1s[block], n2s[block];
+  const auto part = [&](std::vector<double>& column) { return std::span(column).subspan(first, n); };
+  const auto spot = part(o.spot), strike = part(o.strike), rate = part(o.rate), volatility = part(o.volatility),
+             years = part(o.years), call = part(o.call), put = part(o.put);
+  const std::span log_ratio(log_ratios, n), deviation(deviations, n), discounted(discounts, n), d1(d1s, n), d2(d2s, n),
+      n1(n1s, n), n2(n2s, n);
+
+  bool quiet = !lumvm::div<a>(spot, strike, log_ratio);
+  quiet &= !lumvm::log<a>(log_ratio, log_ratio);
+  quiet &= !lumvm::sqrt<a>(years, deviation);
   for (size_t i = 0; i < n; ++i) {
-    deviation[i] *= o.volatility[first + i];
-    d1[i] = log_ratio[i] + (o.rate[first + i] + o.volatility[first + i] * o.volatility[first + i] / 2) * o.years[first + i];
-    discounted[i] = -o.rate[first + i] * o.years[first + i];
+    deviation[i] *= volatility[i];
+    d1[i] = log_ratio[i] + (rate[i] + volatility[i] * volatility[i] / 2) * years[i];
+    discounted[i] = -rate[i] * years[i];
   }
-  warnings |= tag.div(d1, deviation, d1, len);
-  warnings |= tag.exp(discounted, discounted, len);
+  quiet &= !lumvm::div<a>(d1, deviation, d1);
+  quiet &= !lumvm::exp<a>(discounted, discounted);
   for (size_t i = 0; i < n; ++i) d2[i] = d1[i] - deviation[i];
-  warnings |= tag.cdf(d1, n1, len);
-  warnings |= tag.cdf(d2, n2, len);
+  quiet &= !lumvm::cdfnorm<a>(d1, n1);
+  quiet &= !lumvm::cdfnorm<a>(d2, n2);
   for (size_t i = 0; i < n; ++i) {
-    discounted[i] *= o.strike[first + i];
-    o.call[first + i] = o.spot[first + i] * n1[i] - discounted[i] * n2[i];
+    discounted[i] *= strike[i];
+    call[i] = spot[i] * n1[i] - discounted[i] * n2[i];
     d1[i] = -d1[i];
     d2[i] = -d2[i];
   }
-  warnings |= tag.cdf(d1, n1, len);  // not 1 - n1: exact next to 0, and a check of parity that can fail
-  warnings |= tag.cdf(d2, n2, len);
-  for (size_t i = 0; i < n; ++i) o.put[first + i] = discounted[i] * n2[i] - o.spot[first + i] * n1[i];
-  return warnings == lumStsOk;
+  quiet &= !lumvm::cdfnorm<a>(d1, n1);  // not 1 - n1: exact next to 0, and a check of parity that can fail
+  quiet &= !lumvm::cdfnorm<a>(d2, n2);
+  for (size_t i = 0; i < n; ++i) put[i] = discounted[i] * n2[i] - spot[i] * n1[i];
+  return quiet;
 }
 
-bool Price(const Tag& tag, Options& o) {
-  bool ok = true;
-  for (size_t i = 0; i < o.spot.size(); i += block) ok &= PriceBlock(tag, o, i, std::min(block, o.spot.size() - i));
-  return ok;
+// Prices all contracts; false when a function had something to report.
+template <lumvm::accuracy a> bool Price(Options& o) {
+  bool quiet = true;
+  for (size_t i = 0; i < o.spot.size(); i += block) quiet &= PriceBlock<a>(o, i, std::min(block, o.spot.size() - i));
+  return quiet;
 }
+
+// A level of accuracy: its tag, its error bound relative to the result, the pricing at it.
+struct Level {
+  const char* name;
+  double error;
+  bool (*price)(Options&);
+};
+constexpr Level levels[] = {
+    {"A26", 0x1p-26, Price<lumvm::low>}, {"A50", 0x1p-50, Price<lumvm::mid>}, {"A53", 0x1p-52, Price<lumvm::high>}};
 
 void PriceByLoop(Options& o) {
   const auto normal = [](double x) { return std::erfc(-x * 0.70710678118654752) / 2; };
@@ -92,18 +93,18 @@ void PriceByLoop(Options& o) {
 
 // The largest errors of prices and of parity, call - put = spot - strike e^(-rate years), as multiples of what errors of each
 // function may add up to: eight of them on spot and strike, of which those of d1 grow with 1 / deviation.
-bool CheckPrices(const Tag& tag, const Options& exact, const Options& o) {
+bool CheckPrices(const Level& level, const Options& exact, const Options& o) {
   double price_error = 0, parity_error = 0, worst = 0;
   for (size_t i = 0; i < o.spot.size(); ++i) {
     const double money = o.spot[i] + o.strike[i];
-    const double limit = tag.error * money * (8 + 1 / (o.volatility[i] * std::sqrt(o.years[i])));
+    const double limit = level.error * money * (8 + 1 / (o.volatility[i] * std::sqrt(o.years[i])));
     const double error = std::max(std::fabs(o.call[i] - exact.call[i]), std::fabs(o.put[i] - exact.put[i]));
     const double forward = o.spot[i] - o.strike[i] * std::exp(-o.rate[i] * o.years[i]);
     worst = std::max(worst, std::isfinite(error) ? error / money : HUGE_VAL);
     price_error = std::max(price_error, std::isfinite(error) ? error / limit : HUGE_VAL);
     parity_error = std::max(parity_error, std::fabs(o.call[i] - o.put[i] - forward) / limit);
   }
-  fmt::print("{}: largest error of a price {:.2g} of spot and strike\n", tag.name, worst);
+  fmt::print("{}: largest error of a price {:.2g} of spot and strike\n", level.name, worst);
   const bool prices_hold = example::Check("  prices against 25 digits, relative to the bound", price_error, 1);
   return example::Check("  put-call parity, relative to the bound", parity_error, 1) && prices_hold;
 }
@@ -122,12 +123,12 @@ int main(int argc, char** argv) {
     Options options = exact;
     const double loop = example::Seconds([&] { PriceByLoop(options); });
     fmt::print("{} contracts, call and put each\n", exact.spot.size());
-    bool holds = CheckPrices({"<cmath>", 0x1p-52, {}, {}, {}, {}, {}}, exact, options);
+    bool holds = CheckPrices({"<cmath>", 0x1p-52, nullptr}, exact, options);
     fmt::print("  {:.1f} million contracts a second\n", millions / loop);
-    for (const Tag& tag : tags) {
+    for (const Level& level : levels) {
       bool quiet = true;
-      const double seconds = example::Seconds([&] { quiet = Price(tag, options); });
-      holds = CheckPrices(tag, exact, options) && holds && quiet;
+      const double seconds = example::Seconds([&] { quiet = level.price(options); });
+      holds = CheckPrices(level, exact, options) && holds && quiet;
       if (!quiet) fmt::print("  FAILED: a function reported a warning\n");
       fmt::print("  {:.1f} million contracts a second, {:.1f} times the loop\n", millions / seconds, loop / seconds);
     }

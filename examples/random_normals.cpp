@@ -1,7 +1,6 @@
 // Normal random numbers from uniform ones: by the Box-Muller transform (Ln, Sqrt, SinCos) and by the quantile function
 // (CdfNormInv). Moments and the Kolmogorov-Smirnov distance are checked, a histogram is drawn on demand.
-#include <lumvm.h>
-
+#include <lumvm.hpp>
 #include <numbers>
 #include <random>
 
@@ -13,8 +12,8 @@ using Numbers = std::vector<double>;
 using Generator = std::mt19937_64;
 
 // Uniform in (0, 1): odd multiples of 2^-53, so that neither 0 nor 1 occurs.
-void FillUniform(Generator& generator, double* x, size_t n) {
-  for (size_t i = 0; i < n; ++i) x[i] = (static_cast<double>(generator() >> 12) + 0.5) * 0x1p-52;
+void FillUniform(Generator& generator, std::span<double> x) {
+  for (double& value : x) value = (static_cast<double>(generator() >> 12) + 0.5) * 0x1p-52;
 }
 
 // Blocks that stay in the processor's first cache.
@@ -22,33 +21,33 @@ constexpr size_t block = 1024;
 
 // Radius sqrt(-2 ln u) and angle 2 pi v of independent u and v give a point of two independent normal coordinates.
 bool BoxMuller(Generator& generator, Numbers& x) {
-  double radius[block / 2], angle[block / 2], sine[block / 2], cosine[block / 2];
-  int warnings = 0;
+  double radii[block / 2], angles[block / 2], sines[block / 2], cosines[block / 2];
+  bool quiet = true;
   for (size_t first = 0; first < x.size(); first += block) {
     const size_t n = std::min(block, x.size() - first), pairs = (n + 1) / 2;
-    const auto len = static_cast<int32_t>(pairs);
-    FillUniform(generator, radius, pairs);
-    FillUniform(generator, angle, pairs);
-    warnings |= lumsLn_64f_A53(radius, radius, len);
+    const std::span radius(radii, pairs), angle(angles, pairs), sine(sines, pairs), cosine(cosines, pairs);
+    FillUniform(generator, radius);
+    FillUniform(generator, angle);
+    quiet &= !lumvm::log(radius, radius);
     for (size_t i = 0; i < pairs; ++i) {
       radius[i] *= -2;
       angle[i] *= 2 * std::numbers::pi;
     }
-    warnings |= lumsSqrt_64f_A53(radius, radius, len);
-    warnings |= lumsSinCos_64f_A53(angle, sine, cosine, len);
+    quiet &= !lumvm::sqrt(radius, radius);
+    quiet &= !lumvm::sincos(angle, sine, cosine);
     for (size_t i = 0; i < n; ++i) x[first + i] = radius[i / 2] * (i % 2 == 0 ? cosine[i / 2] : sine[i / 2]);
   }
-  return warnings == lumStsOk;
+  return quiet;
 }
 
 bool ByQuantile(Generator& generator, Numbers& x) {
-  int warnings = 0;
+  bool quiet = true;
   for (size_t first = 0; first < x.size(); first += block) {
-    const size_t n = std::min(block, x.size() - first);
-    FillUniform(generator, &x[first], n);
-    warnings |= lumsCdfNormInv_64f_A53(&x[first], &x[first], static_cast<int32_t>(n));
+    const auto part = std::span(x).subspan(first, std::min(block, x.size() - first));
+    FillUniform(generator, part);
+    quiet &= !lumvm::cdfnorminv(part, part);
   }
-  return warnings == lumStsOk;
+  return quiet;
 }
 
 bool ByStandardLibrary(Generator& generator, Numbers& x) {

@@ -1,7 +1,6 @@
 // Softmax of the rows of a matrix of floats, e^(x - m) / sum e^(x - m) with the row's maximum m, as the last layer of a
 // classifier computes it: at three accuracy tags, against the same in double precision, and against a loop over <cmath>.
-#include <lumvm.h>
-
+#include <lumvm.hpp>
 #include <numeric>
 #include <random>
 
@@ -26,15 +25,6 @@ Matrix RandomLogits(size_t rows, size_t columns) {
   return logits;
 }
 
-using Exp = LumStatus(const float*, float*, int32_t);
-struct Tag {
-  const char* name;
-  Exp* exp;
-  double error;  // of Exp, relative to the result
-};
-constexpr Tag tags[] = {
-    {"A11", lumsExp_32f_A11, 0x1p-11}, {"A21", lumsExp_32f_A21, 0x1p-21}, {"A24", lumsExp_32f_A24, 0x1p-23}};
-
 // The elements put together by an associative operation, 16 at a time, so that the compiler can use vector instructions.
 template <class Operation> float Reduce(const float* x, size_t n, float start, Operation operation) {
   float lanes[16];
@@ -46,7 +36,7 @@ template <class Operation> float Reduce(const float* x, size_t n, float start, O
   return std::accumulate(lanes + 1, lanes + 16, lanes[0], operation);
 }
 
-// e^(x - m) is given row by row: x - m is never positive, so nothing overflows; underflow is harmless here.
+// exp turns a row of x - m into e^(x - m) and says whether that went well.
 template <class RowExp> bool Softmax(const Matrix& logits, Matrix& result, RowExp exp) {
   bool ok = true;
   const size_t n = logits.columns;
@@ -55,18 +45,31 @@ template <class RowExp> bool Softmax(const Matrix& logits, Matrix& result, RowEx
     float* y = result.row(i);
     const float m = Reduce(x, n, x[0], [](float a, float b) { return a > b ? a : b; });
     for (size_t j = 0; j < n; ++j) y[j] = x[j] - m;
-    const LumStatus status = exp(y, y, static_cast<int32_t>(n));
-    ok &= status == lumStsOk || status == lumStsUnderflow;
+    ok &= exp(std::span(y, n));
     const float factor = 1 / Reduce(y, n, 0, std::plus<float>());
     for (size_t j = 0; j < n; ++j) y[j] *= factor;
   }
   return ok;
 }
 
-LumStatus ExpByLoop(const float* x, float* y, int32_t n) {
-  for (int32_t i = 0; i < n; ++i) y[i] = std::exp(x[i]);
-  return lumStsOk;
+// x - m is never positive, so nothing overflows; underflow is harmless here.
+template <lumvm::accuracy a> bool ExpInPlace(std::span<float> x) {
+  const lumvm::status status = lumvm::exp<a>(x, x);
+  return !status || status.code() == lumStsUnderflow;
 }
+bool ExpByLoop(std::span<float> x) {
+  for (float& value : x) value = std::exp(value);
+  return true;
+}
+
+struct Level {
+  const char* name;
+  bool (*exp)(std::span<float>);
+  double error;  // of exp, relative to the result
+};
+constexpr Level levels[] = {{"A11", ExpInPlace<lumvm::low>, 0x1p-11},
+                            {"A21", ExpInPlace<lumvm::mid>, 0x1p-21},
+                            {"A24", ExpInPlace<lumvm::high>, 0x1p-23}};
 
 // The largest error relative to what it may be: twice that of Exp (numerator and sum), the roundings of x - m, which e^ turns
 // into relative errors of |x - m| half ulps, and those of the sum, its reciprocal and the product. Where the quotient is no
@@ -115,12 +118,13 @@ int main(int argc, char** argv) {
     const double loop = example::Seconds([&] { Softmax(logits, result, ExpByLoop); });
     fmt::print("{} rows of {}\n<cmath>: {:.0f} million elements a second\n", rows, columns, millions / loop);
     bool holds = true;
-    for (const Tag& tag : tags) {
+    for (const Level& level : levels) {
       bool ok = true;
-      const double seconds = example::Seconds([&] { ok = Softmax(logits, result, tag.exp); });
-      fmt::print("{}: {:.0f} million elements a second, {:.1f} times the loop\n", tag.name, millions / seconds, loop / seconds);
+      const double seconds = example::Seconds([&] { ok = Softmax(logits, result, level.exp); });
+      fmt::print("{}: {:.0f} million elements a second, {:.1f} times the loop\n", level.name, millions / seconds,
+                 loop / seconds);
       holds &=
-          example::Check("  error against double precision, relative to the bound", WorstError(tag.error, logits, result), 1);
+          example::Check("  error against double precision, relative to the bound", WorstError(level.error, logits, result), 1);
       holds &= example::Check("  sum of a row - 1", WorstSum(result), 0x1p-24 * (static_cast<double>(columns) / 16 + 18));
       if (!ok) fmt::print("  FAILED: a function reported another warning than underflow\n");
       holds &= ok;
