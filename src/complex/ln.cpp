@@ -49,8 +49,10 @@ template <class T> LUM_INLINE Sum<T> LessOne(const Square<T>& s) {
 template <int segment_degree> LUM_INLINE Vec<Lum32f> LogOfModulus(Vec<Lum32f> x, Vec<Lum32f> y) {
   const auto s = SquareOfModulus(x, y);
   const auto t = LessOne(s).sum;
-  const auto is_near = le(all(-0.25f), t) & lt(t, all(0.5f));
-  const auto m = select(is_near, all(1.0f) + t, getmant<0xB>(s.head));
+  const auto near_one = all(1.0f) + t;
+  // The segment is that of the rounded sum, which may have reached 3/2 where t has not reached 1/2.
+  const auto is_near = le(all(-0.25f), t) & lt(near_one, all(1.5f));
+  const auto m = select(is_near, near_one, getmant<0xB>(s.head));
   const auto r = select(is_near, t, m - all(1.0f));
   const auto k = zero_unless(~is_near, (getexp(s.head) - getexp(m)) + (s.exponent + s.exponent));
   const auto log = fma(r, SegmentPolynomial<segment_degree>(m, r, Segments<segment_degree>::columns),

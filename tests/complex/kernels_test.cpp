@@ -117,6 +117,27 @@ TEST(ComplexLn, Accuracy) {
   }
 }
 
+// Where |z|^2 goes from one segment of a polynomial, or one row of a table, to the next, and where the difference from 1 takes
+// the place of the logarithm's argument: numbers to both sides of every such circle, the last places of both parts among them.
+TEST(ComplexLn, AccuracyAcrossTheBordersOfSegments) {
+  for (const char* name : {"Ln_32fc", "Ln_64fc"}) {
+    const Format format = FormatOf(ExportsNamed(name).at(0)->input);
+    std::vector<accuracy::Point> points;
+    for (int sixteenths = 8; sixteenths <= 34; ++sixteenths) {
+      const double square = sixteenths / 16.0;
+      for (double share : {0.0, 1e-6, 0.02, 0.1, 1.0 / 3, 0.45, 0.5}) {
+        const uint64_t x = format.pattern(std::sqrt(square * (1 - share))), y = format.pattern(std::sqrt(square * share));
+        for (uint64_t dx = 0; dx < 9; ++dx) {
+          for (uint64_t dy = share == 0 ? 4 : 0; dy < (share == 0 ? 5 : 9); ++dy) {
+            points.push_back({format.number(x + dx - 4), format.number(y + dy - 4), 0, 0});
+          }
+        }
+      }
+    }
+    ExpectComplexAccuracy(name, points, {ComplexBound::norm});
+  }
+}
+
 TEST(ComplexSqrt, SpecialValues) {
   for (const char* name : {"Sqrt_32fc", "Sqrt_64fc"}) {
     ExpectCases(name, {{{0, 0}, {0, 0}},
