@@ -1,6 +1,7 @@
 // The principal logarithm: ln |z| + i arctan2(y, x). The angle is that of the arctangent of two arguments at the same tag. The
 // other part is half the logarithm of s = x^2 + y^2, formed with the errors of both squares. Near the unit circle, where ln s
-// is as small as t = s - 1, ln(1 + t) is taken of the exact difference. Nothing is reported, not even of a zero.
+// is as small as t = s - 1, ln(1 + t) is taken. The high tags form t to its last place, however small it is; the others round
+// the sum of the errors, which is little beside |ln z| but may be as much as t itself. Nothing is reported, not even of a zero.
 #include "complex/refused.h"
 #include "explog/ln_terms.h"
 #include "frame/kernels.h"
@@ -27,8 +28,8 @@ template <> struct Segments<4> {
   }));
 };
 
-// s = x^2 + y^2 as a pair, of the larger part scaled to [1, 2) and the other with it.
-template <class T> struct Square { Vec<T> head, tail, exponent; };  // 4^exponent (head + tail)
+// s = x^2 + y^2, of the larger part scaled to [1, 2) and the other with it: 4^exponent (head + tail + rest), exactly.
+template <class T> struct Square { Vec<T> head, tail, rest, exponent; };
 template <class T> LUM_INLINE Square<T> SquareOfModulus(Vec<T> x, Vec<T> y) {
   const auto ax = abs(x), ay = abs(y);
   const auto large = max(ax, ay), small = min(ax, ay);
@@ -36,13 +37,21 @@ template <class T> LUM_INLINE Square<T> SquareOfModulus(Vec<T> x, Vec<T> y) {
   const auto a = getmant<0>(large), b = scalef(small, negate(exponent));
   const auto a2 = a * a, b2 = b * b;
   const auto sum = fast_two_sum(a2, b2);
-  return {sum.sum, sum.error + (fms(a, a, a2) + fms(b, b, b2)), exponent};
+  const auto errors = two_sum(fms(a, a, a2), fms(b, b, b2));
+  const auto tail = two_sum(sum.error, errors.sum);
+  return {sum.sum, tail.sum, tail.error + errors.error, exponent};
 }
 
-// s - 1 as a pair where s is near 1: the difference of the heads is exact.
+// s - 1 as a pair where s is near 1, without the rest: the difference of the heads is exact.
 template <class T> LUM_INLINE Sum<T> LessOne(const Square<T>& s) {
   const auto twice = s.exponent + s.exponent;
   return two_sum(scalef(s.head, twice) - all(T(1)), scalef(s.tail, twice));
+}
+// With the rest, down to which head and tail may cancel. What is left of them is then 0 or a multiple of the rest's last place,
+// as the sum needs where it is not the larger operand.
+template <class T> LUM_INLINE Sum<T> LessOneExactly(const Square<T>& s) {
+  const auto t = LessOne(s);
+  return fast_two_sum(t.sum, t.error + scalef(s.rest, s.exponent + s.exponent));
 }
 
 // In binary32.
@@ -90,23 +99,23 @@ struct A24_32fc : LnKernel<Lum32fc> {
   }
 };
 
-template <class Ln> LUM_INLINE Vec<Lum64f> LogOfModulus(Vec<Lum64f> x, Vec<Lum64f> y) {
+template <class Ln, bool has_all_places> LUM_INLINE Vec<Lum64f> LogOfModulus(Vec<Lum64f> x, Vec<Lum64f> y) {
   const auto s = SquareOfModulus(x, y);
   auto reduction = ReduceByReciprocal<4>(s.head);
   reduction.e = reduction.e + (s.exponent + s.exponent);
   auto terms = Ln::Terms(reduction);
 
-  const auto t = LessOne(s);
+  const auto t = has_all_places ? LessOneExactly(s) : LessOne(s);
   const auto is_near = lt(abs(t.sum), all(0.0625));
   terms = {zero_unless(~is_near, terms.base), zero_unless(~is_near, terms.base_tail), select(is_near, t.sum, terms.r)};
   return all(0.5) * Ln::Sum(Ln::Corrected(terms, select(is_near, t.error, s.tail * rcp14(s.head))));
 }
 
-template <class Ln, class Angle> struct Double : LnKernel<Lum64fc> {
+template <class Ln, class Angle, bool has_all_places = false> struct Double : LnKernel<Lum64fc> {
   static LUM_INLINE Lanes<Lum64fc> VectorPath(Interleaved<Lum64f> packed) {
     const auto z = split(packed);
     const auto angle = Angle::VectorPath(z.im, z.re);
-    return {join(ComplexVec<Lum64f>{LogOfModulus<Ln>(z.re, z.im), angle.value}), angle.refused};
+    return {join(ComplexVec<Lum64f>{LogOfModulus<Ln, has_all_places>(z.re, z.im), angle.value}), angle.refused};
   }
 };
 
@@ -114,7 +123,7 @@ using A11_32fc = Single<3, arctan2::Low<Lum32f>>;
 using A21_32fc = Single<4, arctan2::A21_32f>;
 using A26_64fc = Double<LnTerms_A26, arctan2::Low<Lum64f>>;
 using A50_64fc = Double<LnTerms_A50, arctan2::A50_64f>;
-using A53_64fc = Double<LnTerms_A53, arctan2::A53_64f>;
+using A53_64fc = Double<LnTerms_A53, arctan2::A53_64f, true>;
 
 }  // namespace
 

@@ -138,6 +138,29 @@ TEST(ComplexLn, AccuracyAcrossTheBordersOfSegments) {
   }
 }
 
+// On the unit circle the real part is a small difference of what the parts' rounding has left of 1, and none of its digits is
+// lost at the high tags: numbers of all angles rounded to the type, and neighbours of these.
+TEST(ComplexLn, AccuracyOfTheRealPartNextToTheUnitCircle) {
+  for (const char* name : {"Ln_32fc_A24", "Ln_64fc_A53"}) {
+    const Format format = FormatOf(ExportsNamed(name).at(0)->input);
+    std::vector<accuracy::Point> points;
+    Random random(5);
+    const auto add = [&](double re, double im) {
+      const uint64_t steps = random();
+      const uint64_t x = format.pattern(re) + steps % 9 - 4, y = format.pattern(im) + steps / 16 % 9 - 4;
+      points.push_back({format.number(format.pattern(re)), format.number(format.pattern(im)), 0, 0});
+      points.push_back({format.number(x), format.number(y), 0, 0});
+    };
+    for (int i = 0; i < 20000; ++i) {
+      const double angle = 2 * pi * static_cast<double>(random() >> 11) * 0x1p-53;
+      add(std::cos(angle), std::sin(angle));
+      const double small = std::ldexp(1 + static_cast<double>(random() >> 11) * 0x1p-53, -2 - i % 40);
+      add(std::sqrt(1 - small * small), small);
+    }
+    ExpectComplexAccuracy(name, points, {ComplexBound::parts, 1});
+  }
+}
+
 TEST(ComplexSqrt, SpecialValues) {
   for (const char* name : {"Sqrt_32fc", "Sqrt_64fc"}) {
     ExpectCases(name, {{{0, 0}, {0, 0}},
