@@ -16,27 +16,30 @@ struct PathValue {
   Mask<Lum64f> refused;
 };
 
+LUM_INLINE Mask<Lum64f> IsZero(Vec<Lum64f> x) { return eq(x, all(0.0)); }
+// Zeros are not among them, NaN is.
+LUM_INLINE Mask<Lum64f> IsBelow(Vec<Lum64f> x, double smallest) { return nle(all(smallest), abs(x)) & ~IsZero(x); }
+
 // Relative errors of both parts.
 LUM_INLINE PathValue ValueWithin(HeadTail re, HeadTail im, double units, Mask<Lum64f> refused) {
   return {re, im, abs(re.head) * all(units), abs(im.head) * all(units), refused};
 }
-
-// Zeros, by their bits: the caller may have denormal numbers taken for zero.
-LUM_INLINE Mask<Lum64f> IsZero(Vec<Lum64f> x) { return mask_cast<Lum64f>(eq(bits(abs(x)), all(uint64_t{0}))); }
+// The same of parts that come near the lower end of the range: below this size tails and distances lose bits to it.
+inline constexpr double smallest_part = 0x1p-900;
+LUM_INLINE PathValue SmallValueWithin(HeadTail re, HeadTail im, double units, Mask<Lum64f> refused) {
+  return ValueWithin(re, im, units, refused | IsBelow(re.head, smallest_part) | IsBelow(im.head, smallest_part));
+}
 
 // Lanes with a magnitude above the largest, or so small that squares and products of squares lose bits to the end of the range;
 // zeros are not among them, NaN is.
-LUM_INLINE Mask<Lum64f> IsFar(Vec<Lum64f> x, double largest) {
-  const auto magnitude = abs(x);
-  return (nle(all(0x1p-200), magnitude) & ~IsZero(x)) | nle(magnitude, all(largest));
-}
+LUM_INLINE Mask<Lum64f> IsFar(Vec<Lum64f> x, double largest) { return IsBelow(x, 0x1p-200) | nle(abs(x), all(largest)); }
 // The same at both ends.
 LUM_INLINE Mask<Lum64f> HasFarPart(ComplexVec<Lum64f> z) {
   constexpr double largest = 0x1p240;
   return IsFar(z.re, largest) | IsFar(z.im, largest);
 }
 
-// A part rounded to binary64, to nearest whatever the caller's rounding. A zero has the sign of the head.
+// A part rounded to binary64, given |head| at least smallest_part or 0. A zero has the sign of the head.
 struct RoundedPart {
   Vec<Lum64f> value;
   Mask<Lum64f> refused;
@@ -84,13 +87,14 @@ template <class Path, class E, class... Inputs> LUM_INLINE Lanes<E> PathOfElemen
 }
 
 // Whether a call goes through the vector path: not for a few elements, nor where what a core does in the caller's rounding (to
-// narrow, and the products of a power) is not to nearest. The portable vectors are slower than the core.
+// narrow, and the products of a power) is not to nearest, nor where the caller has denormal numbers flushed, which tails may be
+// and numbers of Extended are not. The portable vectors are slower than the core.
 #ifdef LUM_AVX512
 inline constexpr bool has_fast_vectors = true;
 inline bool TakesVectorPath(int32_t len) {
   constexpr int32_t shortest = 3;
-  constexpr uint32_t rounding_field = 0x6000;
-  return len >= shortest && (ReadMxcsr() & rounding_field) == 0;
+  constexpr uint32_t rounding_field = 0x6000, flush_to_zero = 0x8000, denormals_are_zero = 0x40;
+  return len >= shortest && (ReadMxcsr() & (rounding_field | flush_to_zero | denormals_are_zero)) == 0;
 }
 #else
 inline constexpr bool has_fast_vectors = false;

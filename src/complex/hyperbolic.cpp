@@ -63,13 +63,13 @@ constexpr double tangent_error = 12;
 struct TanhPath {
   static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z) {
     const auto t = TangentOf(z.re, z.im);
-    return ValueWithin(t.hyperbolic, t.circular, tangent_error, t.refused);
+    return SmallValueWithin(t.hyperbolic, t.circular, tangent_error, t.refused);
   }
 };
 struct TanPath {
   static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z) {
     const auto t = TangentOf(z.im, z.re);
-    return ValueWithin(t.circular, t.hyperbolic, tangent_error, t.refused);
+    return SmallValueWithin(t.circular, t.hyperbolic, tangent_error, t.refused);
   }
 };
 

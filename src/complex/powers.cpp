@@ -65,7 +65,7 @@ struct PowPath {
     const auto refused = logarithm.refused | re.refused | im.refused | circular.refused | IsFar(exponent, largest_exponent) |
                          IsFar(angle, largest_angle);
     constexpr double product_error = 5;
-    return ValueWithin(Product(e, circular.cosine), Product(e, circular.sine), product_error, refused);
+    return SmallValueWithin(Product(e, circular.cosine), Product(e, circular.sine), product_error, refused);
   }
 };
 

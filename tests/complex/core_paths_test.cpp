@@ -7,12 +7,11 @@
 #include <random>
 
 #include "support/cases.h"
+#include "support/environment.h"
 #include "support/subjects.h"
 
 namespace lum::test {
 namespace {
-
-constexpr size_t elements_of_a_kind = 40000;
 
 class Points {
  public:
@@ -36,6 +35,11 @@ class Points {
     const double x = OfMagnitude(smallest, largest), zero = std::copysign(0.0, Uniform(-1, 1));
     return Integer(0, 1) == 0 ? Point{x, zero} : Point{zero, x};
   }
+  // Tangents of such numbers have a part of a size down to the smallest denormal number.
+  Point FarAlongOnePart(int smallest) {
+    const double far = Uniform(-310, 310), other = OfMagnitude(smallest, 1);
+    return Integer(0, 1) == 0 ? Point{far, other} : Point{other, far};
+  }
   // Parts next to multiples of pi/128.
   Point NearAngles() { return {NextToAngle(), NextToAngle()}; }
 
@@ -55,7 +59,9 @@ class Points {
   std::mt19937_64 random_{20};
 };
 
-Batch PointsOf(const Export& entry) {
+bool IsPower(const Export& entry) { return entry.function == "Pow" || entry.function == "Powx"; }
+
+Batch PointsOf(const Export& entry, size_t elements_of_a_kind) {
   const Format format = FormatOf(entry.input);
   const bool is_single = entry.input == Element::c32;
   Points points;
@@ -71,6 +77,7 @@ Batch PointsOf(const Export& entry) {
     list.push_back(points.OnGrid());
     list.push_back(points.OnAxis(-12, 10));
     list.push_back(points.NearAngles());
+    list.push_back(points.FarAlongOnePart(is_single ? -140 : -205));
   }
   Batch batch(entry);
   for (size_t i = 0; i < list.size(); ++i) {
@@ -83,20 +90,56 @@ Batch PointsOf(const Export& entry) {
   return batch;
 }
 
-class CorePaths : public testing::TestWithParam<const Export*> {};
+// Large numbers to the power -4, with one part or both next to the lower end of the range and below.
+Batch SmallPowersOf(const Export& entry, size_t count) {
+  const Format format = FormatOf(entry.input);
+  const bool is_single = entry.input == Element::c32;
+  Points points;
+  Batch batch(entry);
+  const Bits exponent{format.pattern(-4), format.pattern(0)};
+  if (entry.function == "Powx") batch.value.Append(exponent);
+  for (size_t i = 0; i < count; ++i) {
+    const auto large = is_single ? points.OfAnySize(24, 40) : points.OfAnySize(170, 220);
+    const auto other = is_single ? points.OfAnySize(-100, 40) : points.OfAnySize(-200, 220);
+    batch.src1.Append({format.pattern(large.re), format.pattern(other.im)});
+    if (entry.function == "Pow") batch.src2.Append(exponent);
+  }
+  return batch;
+}
+
+class CorePaths : public testing::TestWithParam<const Export*> {
+ protected:
+  static void ExpectSameInArray(const Batch& batch, const Environment& environment = {}) {
+    const Export& entry = *GetParam();
+    for (const std::string& name : RunnableLibraries()) {
+      SCOPED_TRACE(name + ", " + Describe(environment));
+      std::string reason;
+      const Callee callee(*TestLibrary(name, "", reason), entry);
+      std::vector<LumStatus> statuses;
+      EnterEnvironment(environment);
+      Output alone = callee.RunEach(batch, statuses);
+      const Output together = callee.Run(batch);
+      LeaveEnvironment();
+      alone.status = together.status;  // that of one of the elements
+      EXPECT_EQ(FirstDifference(alone, together, batch), "equal");
+      EXPECT_EQ(together.status, *std::max_element(statuses.begin(), statuses.end()));
+    }
+  }
+};
 
 TEST_P(CorePaths, ArrayHasWhatEachElementAloneHas) {
-  const Export& entry = *GetParam();
-  const Batch batch = PointsOf(entry);
-  for (const std::string& name : RunnableLibraries()) {
-    std::string reason;
-    const Callee callee(*TestLibrary(name, "", reason), entry);
-    std::vector<LumStatus> statuses;
-    Output alone = callee.RunEach(batch, statuses);
-    const Output together = callee.Run(batch);
-    alone.status = together.status;  // that of one of the elements
-    EXPECT_EQ(FirstDifference(alone, together, batch), "equal") << name;
-    EXPECT_EQ(together.status, *std::max_element(statuses.begin(), statuses.end())) << name;
+  ExpectSameInArray(PointsOf(*GetParam(), 40000));
+  if (IsPower(*GetParam())) ExpectSameInArray(SmallPowersOf(*GetParam(), 100000));
+}
+
+// Scalar code of extended precision gets by without denormal numbers where vectors of pairs do not.
+TEST_P(CorePaths, ArrayHasWhatEachElementAloneHasWhereTheCallerFlushes) {
+  if (!has_environment) GTEST_SKIP() << "this processor has no MXCSR";
+  constexpr uint32_t denormals_are_zero = 0x40, flush_to_zero = 0x8000;
+  for (const uint32_t flushing : {denormals_are_zero, flush_to_zero, denormals_are_zero | flush_to_zero}) {
+    const Environment environment{.mxcsr = default_mxcsr | flushing};
+    ExpectSameInArray(PointsOf(*GetParam(), 4000), environment);
+    if (IsPower(*GetParam())) ExpectSameInArray(SmallPowersOf(*GetParam(), 10000), environment);
   }
 }
 

@@ -207,6 +207,14 @@ TEST(ComplexTanh, SmallResultsUnderflowSilently) {
   ExpectCases("Tanh_64fc", {{{500, 2}, {1, -0.0}}});
 }
 
+// A part next to the lower end of the range or below is as right as others, in arrays as alone.
+TEST(ComplexTanh, PartsNextToTheLowerEndOfTheRange) {
+  ExpectCases("Tan_64fc", {{{FromBits(0x34561E36106694B1), FromBits(0xC07225116501EF92)}, {FromBits(0x001BAAB8F08F6FC5), -1}},
+                           {{FromBits(0x361EE422C02F0B65), FromBits(0x4071B80000000000)}, {FromBits(0x031EB7ECA5252AD6), 1}},
+                           {{FromBits(0x33D71563467F25F0), FromBits(0xC072839F25F05BCA)}, {FromBits(0x000000000DEE49CC), -1}}});
+  ExpectCases("Tanh_64fc", {{{FromBits(0x4072B5E21CC25F64), FromBits(0x3622ADC8AD59343F)}, {1, FromBits(0x004591115441CEE7)}}});
+}
+
 TEST(ComplexHyperbolic, Accuracy) {
   for (const char* name : {"Cosh", "Sinh", "Cos", "Sin", "Tanh", "Tan"}) ExpectPartsWithinOneUlp(name);
 }
