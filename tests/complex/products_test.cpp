@@ -57,6 +57,32 @@ TEST(ComplexProducts, FiniteOverflowReports) {
   }
 }
 
+// A part whose two products overflow and cancel exactly is zero all the same.
+TEST(ComplexProducts, OverflowingProductsThatCancel) {
+  for (const char* type : {"_32fc", "_64fc"}) {
+    const double large = type[1] == '3' ? 0x1p100 : 0x1p700;
+    const std::string mul = std::string("Mul") + type, mul_by_conj = std::string("MulByConj") + type;
+    ExpectCases(mul, {{{large, large}, {large, large}, {0, inf}, lumStsOverflow},
+                      {{large, -large}, {large, -large}, {0, -inf}, lumStsOverflow},
+                      {{large, large}, {large, -large}, {inf, 0}, lumStsOverflow},
+                      {{-large, large}, {large, large}, {-inf, 0}, lumStsOverflow}});
+    ExpectCases(mul_by_conj, {{{large, large}, {large, -large}, {0, inf}, lumStsOverflow},
+                              {{large, -large}, {large, large}, {0, -inf}, lumStsOverflow},
+                              {{large, large}, {large, large}, {inf, 0}, lumStsOverflow}});
+  }
+  ExpectCases("Mul_64fc", {{{1e200, 1e200}, {1e200, 1e200}, {0, inf}, lumStsOverflow},
+                           {{1e200, 3e200}, {3e200, 1e200}, {0, inf}, lumStsOverflow},
+                           {{1e-200, 1e-200}, {1e-200, 1e-200}, {0, 0}}});
+}
+
+// The zero of a sum of zeros is that of a plain sum.
+TEST(ComplexProducts, SignsOfZeros) {
+  ExpectCases("Mul_64fc", {{{0, 0}, {1, 1}, {0, 0}},
+                           {{-0.0, 0}, {1, 1}, {-0.0, 0}},
+                           {{-0.0, -0.0}, {1, 1}, {0, -0.0}},
+                           {{0, -0.0}, {-1, 1}, {0, 0}}});
+}
+
 TEST(ComplexProducts, NonFiniteParts) {
   for (const char* name : {"Mul_32fc", "Mul_64fc"}) {
     ExpectCases(name, {{{inf, 1}, {1, 1}, {inf, inf}},

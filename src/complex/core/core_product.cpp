@@ -17,10 +17,10 @@ ExtendedPair SumOfProducts(Extended a, Extended c, Extended b, Extended d) {
   return fast_two_sum(heads.head, heads.tail + (first.tail + second.tail));
 }
 
-// An exact zero has the sign that the plain sum gives it.
-Lum64f RoundedSum(Lum64f a, Lum64f c, Lum64f b, Lum64f d) {
+// An exact zero has the sign that a plain sum gives it, whose products stay within the range of Extended.
+Lum64f RoundedSum(Extended a, Extended c, Extended b, Extended d) {
   const ExtendedPair sum = SumOfProducts(a, c, b, d);
-  return sum.head == 0 ? a * c + b * d : static_cast<Lum64f>(rounded(sum));
+  return static_cast<Lum64f>(sum.head == 0 ? a * c + b * d : rounded(sum));
 }
 
 // Of two NaNs the first, however the compiler orders the operands of a sum.
