@@ -201,7 +201,8 @@ struct A53_64fc : Kernel<Lum64fc> {
   static LUM_INLINE Vec<Lum64f> Product(const Exponential& e, const HeadTail& factor) {
     const auto f = fast_two_sum(factor.head, fma(factor.head + factor.tail, e.excess, factor.tail));
     const auto product = e.power * f.sum;
-    return product + fma(e.power, f.error, fms(e.power, f.sum, product));
+    const auto rest = fma(e.power, f.error, fms(e.power, f.sum, product));
+    return add(ne(product, all(0.0)), product, rest);  // below the range the rest is a zero of any sign
   }
 
   static LUM_INLINE Lanes<Lum64fc> VectorPath(Interleaved<Lum64f> z) {

@@ -50,6 +50,14 @@ TEST(ComplexExp, Overflow) {
               {{{711, 1}, {inf, inf}, lumStsOverflow}, {{1e300, -1}, {inf, -inf}, lumStsOverflow}, {{711, -0.0}, {inf, -0.0}}});
 }
 
+// A part below the range is a zero with the sign of the part.
+TEST(ComplexExp, Underflow) {
+  ExpectCases("Exp_64fc", {{{-400, -1e-200}, {FromBits(0x1BDE50C483C04DCD), -0.0}},
+                           {{-400, 1e-200}, {FromBits(0x1BDE50C483C04DCD), 0}},
+                           {{-800, 2}, {-0.0, 0}},
+                           {{-800, -1}, {0, -0.0}}});
+}
+
 TEST(ComplexExp, BeyondTheThresholdsOfTheVectorPath) {
   ExpectComplexAccuracy(
       "Exp_32fc",
