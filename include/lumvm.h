@@ -11,9 +11,10 @@
  *   - A positive status is a warning: every element has been written, and the status is that of the last element that had
  *     something to report. Every function can return lumStsOk, lumStsSizeErr and lumStsNullPtrErr; others are listed with it.
  *   - An element's result depends on nothing but its argument: neither on its position, nor on the caller's rounding mode,
- *     flush-to-zero setting or exception masks, which are as before after the call. The exception: complex functions whose
- *     tags are one function, and Sqrt 64fc A53, round their last steps in the caller's mode. No exception flag but inexact is
- *     raised; of the caller's sticky flags all but that one may be found cleared.
+ *     flush-to-zero setting or exception masks, which are as before after the call. The exception: of the complex functions
+ *     whose tags are one function, those of 32fc, and Pow and Powx of both types, round and flush as the caller has it set,
+ *     and some of 64fc may take denormal arguments for zero. No exception flag but inexact is raised; of the caller's sticky
+ *     flags all but that one may be found cleared.
  *   - All functions are reentrant and thread-safe, allocate nothing and keep no state.
  * Relative cost figures rank the functions and tags; they are of the same kind for all functions. Those of hundreds are of an
  * element that goes through scalar code of extended precision; with AVX-512 an array takes about a tenth of that.

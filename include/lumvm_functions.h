@@ -197,7 +197,8 @@ LUM_API LumStatus lumsAtan_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len);
  *   in each part nearly always to the last bit.
  * Domain: all numbers; branch cuts along the imaginary axis beyond -i and i, where the sign of a zero real part
  *   chooses the side
- * Special values: atan(z) = atanh(i z) / i, with the special values of atanh
+ * Special values: atan(z) = atanh(i z) / i, with the special values of atanh; atan(-z) = -atan(z) and atan(conj z)
+ *   = conj atan(z) but for the last bit of the imaginary part, now and then
  * Status: always lumStsOk
  * Relative cost: 32fc A11 486, A21 486, A24 486; 64fc A26 425, A50 425, A53 425 */
 LUM_API LumStatus lumsAtan_32fc_A11(const Lum32fc* src, Lum32fc* dst, int32_t len);
@@ -224,9 +225,10 @@ LUM_API LumStatus lumsAtanh_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len)
  *   one function, right in each part nearly always to the last bit.
  * Domain: all numbers; branch cuts along the real axis beyond -1 and 1, where the sign of a zero imaginary part
  *   chooses the side
- * Special values: atanh(conj z) = conj atanh(z), atanh(-z) = -atanh(z); atanh(+-1 +- 0 i) = +-inf +- 0 i; atanh(+-0
- *   + y i) = +-0 + atan(y) i, also of a NaN; atanh(+-inf + y i) = +-0 +- pi/2 i; atanh(x +- inf i) = 0 +- pi/2 i,
- *   of a NaN +0; atanh(+-inf + NaN i) = +-0 + NaN i; NaN in both parts for other NaN arguments
+ * Special values: atanh(conj z) = conj atanh(z); atanh(-z) = -atanh(z) but for the last bit of the real part, now
+ *   and then; atanh(+-1 +- 0 i) = +-inf +- 0 i; atanh(+-0 + y i) = +-0 + atan(y) i, also of a NaN; atanh(+-inf + y
+ *   i) = +-0 +- pi/2 i; atanh(x +- inf i) = 0 +- pi/2 i, of a NaN +0; atanh(+-inf + NaN i) = +-0 + NaN i; NaN in
+ *   both parts for other NaN arguments
  * Status: always lumStsOk
  * Relative cost: 32fc A11 434, A21 434, A24 434; 64fc A26 445, A50 445, A53 445 */
 LUM_API LumStatus lumsAtanh_32fc_A11(const Lum32fc* src, Lum32fc* dst, int32_t len);

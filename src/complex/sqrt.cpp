@@ -1,6 +1,6 @@
 // The principal square root. With w = sqrt((|x| + |z|) / 2) and v = |y| / (2 w):  sqrt z = w + v i for x >= 0, v + w i for
 // x < 0, the imaginary part with the sign of y. Squares are kept in range by a power of 4 taken from the exponents of both
-// parts, or in A24 by binary64. The highest tag of 64fc is a loop over the scalar core.
+// parts, or in A24 by binary64. The highest tag of 64fc is in powers.cpp, with the functions that have a scalar core.
 #include "complex/refused.h"
 #include "frame/kernels.h"
 #include "roots/coupled_root.h"

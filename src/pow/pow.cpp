@@ -1,8 +1,8 @@
 // x^y = 2^(y log2 x). With x = 2^e m and a short reciprocal c of m:  log2 x = e - log2 c + log2(1 + r), r = c m - 1, where the
 // table of -log2 c holds what belongs to the exponent as well; the product P with y is rounded toward zero, and 2^P is
-// 2^floor(16 P)/16 from a table and an exponent field, times 2^f, 0 <= f < 1/16 (1/32). In the mid and high tiers the logarithm
-// and the product are pairs; the high tiers also keep what the second term of the series and the table of powers lose.
-// Negative, zero and infinite bases, NaN, and products next to the ends of the range go to the lane routine.
+// 2^(floor(16 P)/16) from a table and an exponent field, times 2^f, 0 <= f < 1/16 (1/32). In the mid and high tiers the
+// logarithm and the product are pairs; the high tiers also keep what the second term of the series and the table of powers
+// lose. Negative, zero and infinite bases, NaN, and products next to the ends of the range go to the lane routine.
 #include <cstdint>
 
 #include "frame/kernel_frame.h"
