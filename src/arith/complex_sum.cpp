@@ -2,6 +2,7 @@
 // of the inputs was one is reported. Sub of doubles has a rule of its own, below.
 #include <limits>
 
+#include "arith/first_nan.h"
 #include "frame/kernel_frame.h"
 #include "frame/kernels.h"
 
@@ -19,16 +20,17 @@ template <class T> LUM_INLINE Mask<T> Infinite(Vec<T> x) { return fpclass<0x18>(
 template <class T> LUM_INLINE Mask<T> NotFinite(Vec<T> x) { return fpclass<0x99>(x); }
 
 struct Plus {
-  template <class X> static LUM_INLINE X Of(X a, X b) { return a + b; }
+  template <class T> static LUM_INLINE Vec<T> Of(Vec<T> a, Vec<T> b) { return SumInOrder(a, b); }
 };
 struct Minus {
-  template <class X> static LUM_INLINE X Of(X a, X b) { return a - b; }
+  template <class T> static LUM_INLINE Vec<T> Of(Vec<T> a, Vec<T> b) { return a - b; }
 };
 
 template <class E, class Operation> struct SumKernel : Kernel<E> {
   using T = Real<E>;
   using Refused = ComponentMask<T>;
   static constexpr bool is_single = std::is_same_v<E, Lum32fc>;
+  static constexpr bool is_short = true;
   static constexpr Variant variant = is_single ? x87_up_front_variant : common_variant;
 
   static LUM_INLINE Lanes<E, Refused> VectorPath(Interleaved<T> a, Interleaved<T> b) {
@@ -36,8 +38,8 @@ template <class E, class Operation> struct SumKernel : Kernel<E> {
     if constexpr (is_single) return {sum, {Infinite(sum.low), Infinite(sum.high)}};
     else return {sum, {NotFinite(sum.low), NotFinite(sum.high)}};
   }
-  static LumStatus LaneRoutine(const E& a, const E& b, E& sum) {
-    sum = {Operation::Of(a.re, b.re), Operation::Of(a.im, b.im)};
+  // The sum itself is the vector path's.
+  static LumStatus LaneRoutine(const E& a, const E& b, const E& sum) {
     return HasInfinity(sum) && !HasInfinity(a) && !HasInfinity(b) ? lumStsOverflow : lumStsOk;
   }
 };

@@ -1,5 +1,7 @@
 // Abs, Add, Sub, Mul and Sqr of real numbers: one operation between a load and a store. They never report: an overflow is an
-// infinity, an invalid operation the default NaN. Memory is what bounds them, so a block is four vectors and nothing else.
+// infinity, an invalid operation the default NaN, and of two NaNs the first comes back quieted. Memory is what bounds them, so
+// a block is four vectors and nothing else.
+#include "arith/first_nan.h"
 #include "frame/kernel_frame.h"
 #include "frame/kernels.h"
 
@@ -19,13 +21,13 @@ template <class T> struct SqrKernel : PlainKernel<T> {
   static LUM_INLINE Vec<T> VectorPath(Vec<T> x) { return x * x; }
 };
 template <class T> struct AddKernel : PlainKernel<T> {
-  static LUM_INLINE Vec<T> VectorPath(Vec<T> a, Vec<T> b) { return a + b; }
+  static LUM_INLINE Vec<T> VectorPath(Vec<T> a, Vec<T> b) { return SumInOrder(a, b); }
 };
 template <class T> struct SubKernel : PlainKernel<T> {
   static LUM_INLINE Vec<T> VectorPath(Vec<T> a, Vec<T> b) { return a - b; }
 };
 template <class T> struct MulKernel : PlainKernel<T> {
-  static LUM_INLINE Vec<T> VectorPath(Vec<T> a, Vec<T> b) { return a * b; }
+  static LUM_INLINE Vec<T> VectorPath(Vec<T> a, Vec<T> b) { return ProductInOrder(a, b); }
 };
 
 // Pairs as a flat array of twice the length.

@@ -127,7 +127,7 @@ struct A11_32f : Tangent<A11_32f, Lum32f> {
   static constexpr float threshold = 8256;
   static constexpr bool has_tails = false;
   static LUM_INLINE Reduced<Lum32f> Reduce(Vec<Lum32f> x) { return Reduce32f(x); }
-  static LUM_INLINE Vec<Lum32f> Evaluate(const Reduced<Lum32f>& a) {
+  static LUM_STAGE Vec<Lum32f> Evaluate(const Reduced<Lum32f>& a) {
     const auto t = TangentOf(a);
     const auto p = fma(all(f32(0x3EAAAAA6, 0.33333319425582886)) * a.hi, a.hi * a.hi, a.hi);
     return (t + p) * rcp14(fnma(t, p, all(1.0f)));  // the reciprocal's 14 bits are enough
@@ -143,7 +143,7 @@ struct A21_32f : Tangent<A21_32f, Lum32f> {
   static constexpr float threshold = 8256;
   static constexpr bool has_tails = false;
   static LUM_INLINE Reduced<Lum32f> Reduce(Vec<Lum32f> x) { return Reduce32f(x); }
-  static LUM_INLINE Vec<Lum32f> Evaluate(const Reduced<Lum32f>& a) {
+  static LUM_STAGE Vec<Lum32f> Evaluate(const Reduced<Lum32f>& a) {
     const auto t = TangentOf(a);
     const auto s = a.hi * a.hi;
     const auto p = fma(TangentSeries(s) * a.hi, s, a.hi);
@@ -172,7 +172,7 @@ struct A24_32f : Tangent<A24_32f, Lum32f> {
     const auto hi = fnma(n, part3, r2);
     return {hi, error2 + fnma(n, part3, r2 - hi), bits(shifted)};
   }
-  static LUM_INLINE Vec<Lum32f> Evaluate(const Reduced<Lum32f>& a) {
+  static LUM_STAGE Vec<Lum32f> Evaluate(const Reduced<Lum32f>& a) {
     const auto s = a.hi * a.hi;
     return QuotientWithTails(a, (TangentSeries(s) * a.hi) * s);
   }
@@ -202,7 +202,7 @@ template <bool is_long> struct OneWord_64f : Tangent<OneWord_64f<is_long>, Lum64
                         fnma(n, all(f64(0x3FC921FB54442D18, 0.19634954084936207)), x));
     return {fnma(n, all(f64(0x391C1CD129024E09, 1.3535708424023925e-33)), r), all(0.0), bits(t)};
   }
-  static LUM_INLINE Vec<Lum64f> Evaluate(const Reduced<Lum64f>& a) {
+  static LUM_STAGE Vec<Lum64f> Evaluate(const Reduced<Lum64f>& a) {
     const auto t = TangentOf(a);
     const auto s = a.hi * a.hi;
     const auto p = fma(TangentSeries<is_long>(s) * a.hi, s, a.hi);
@@ -224,7 +224,7 @@ struct A53_64f : Tangent<A53_64f, Lum64f> {
     const auto [hi, lo, shifted] = TakeSixteenths(x);
     return {hi, lo, shifted};
   }
-  static LUM_INLINE Vec<Lum64f> Evaluate(Reduced<Lum64f> a) {
+  static LUM_STAGE Vec<Lum64f> Evaluate(Reduced<Lum64f> a) {
     const auto s = a.hi * a.hi;
     return QuotientWithTails(a, (TangentSeries<true>(s) * a.hi) * s);
   }

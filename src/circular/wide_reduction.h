@@ -91,7 +91,7 @@ template <class T> struct WideAngle {
   Vec<T> hi, lo;
 };
 
-template <class T> LUM_INLINE WideAngle<T> ReduceWide(Vec<T> x, Vec<UnsignedOf<T>> sign) {
+template <class T> LUM_STAGE WideAngle<T> ReduceWide(VecIn<T> x, VecIn<UnsignedOf<T>> sign) {
   using C = WideConstants<T>;
   using U = UnsignedOf<T>;
   constexpr int width = 8 * sizeof(T), p = C::fraction_bits, rest = 2 * (width - p);
@@ -115,7 +115,7 @@ template <class T> LUM_INLINE WideAngle<T> ReduceWide(Vec<T> x, Vec<UnsignedOf<T
 }
 
 // sin(index + hi + lo), by the addition theorem with polynomials for the sine and cosine of hi.
-LUM_INLINE Vec<Lum64f> SineOf(Vec<uint64_t> index, Vec<Lum64f> hi, Vec<Lum64f> lo) {
+LUM_STAGE Vec<Lum64f> SineOf(VecIn<uint64_t> index, VecIn<Lum64f> hi, VecIn<Lum64f> lo) {
   const auto [cos_tail, cos_head, sin_head, sin_tail] = gather_rows<Lum64f>(AngleTable512, shift_left<2>(index));
   const auto p = fma(cos_head, hi, sin_head);
   const auto result = fma(cos_tail, hi, p);
@@ -130,7 +130,7 @@ LUM_INLINE Vec<Lum64f> SineOf(Vec<uint64_t> index, Vec<Lum64f> hi, Vec<Lum64f> l
   const auto slope = fnma(hi, sin_head, cosine);
   return result + (sum + fma(lo, slope, sin_tail));
 }
-LUM_INLINE Vec<Lum32f> SineOf(Vec<uint32_t> index, Vec<Lum32f> hi, Vec<Lum32f> lo) {
+LUM_STAGE Vec<Lum32f> SineOf(VecIn<uint32_t> index, VecIn<Lum32f> hi, VecIn<Lum32f> lo) {
   const auto [cos_tail, sin_head, sin_tail, cos_head] = gather_rows<Lum32f>(AngleTable256, shift_left<2>(index));
   const auto slope = fnma(sin_head, hi, cos_tail + cos_head);
   const auto q = hi * hi;

@@ -61,13 +61,13 @@ struct A24_32fc : Quotient<Lum32fc> {
 
 struct A53_64fc : Quotient<Lum64fc> {
   // a c + b d.
-  static LUM_INLINE HeadTail SumOfProducts(Vec<Lum64f> a, Vec<Lum64f> c, Vec<Lum64f> b, Vec<Lum64f> d) {
+  static LUM_STAGE HeadTail SumOfProducts(VecIn<Lum64f> a, VecIn<Lum64f> c, VecIn<Lum64f> b, VecIn<Lum64f> d) {
     const auto first = a * c, second = b * d;
     const auto sum = two_sum(first, second);
     return {sum.sum, sum.error + (fms(a, c, first) + fms(b, d, second))};
   }
   // numerator / denominator, r being near the reciprocal of the denominator.
-  static LUM_INLINE Vec<Lum64f> Ratio(const HeadTail& numerator, const HeadTail& denominator, Vec<Lum64f> r) {
+  static LUM_STAGE Vec<Lum64f> Ratio(const HeadTail& numerator, const HeadTail& denominator, VecIn<Lum64f> r) {
     const auto q = numerator.head * r;
     const auto remainder = fnma(q, denominator.head, numerator.head) + fnma(q, denominator.tail, numerator.tail);
     return fma(remainder, r, q);

@@ -55,7 +55,7 @@ template <class T> LUM_INLINE Sum<T> LessOneExactly(const Square<T>& s) {
 }
 
 // In binary32.
-template <int segment_degree> LUM_INLINE Vec<Lum32f> LogOfModulus(Vec<Lum32f> x, Vec<Lum32f> y) {
+template <int segment_degree> LUM_STAGE Vec<Lum32f> LogOfModulus(VecIn<Lum32f> x, VecIn<Lum32f> y) {
   const auto s = SquareOfModulus(x, y);
   const auto t = LessOne(s).sum;
   const auto near_one = all(1.0f) + t;
@@ -78,7 +78,7 @@ template <int segment_degree, class Angle> struct Single : LnKernel<Lum32fc> {
 };
 
 // In binary64 the squares of binary32 numbers are exact, and x^2 - 1 is where s is near 1.
-LUM_INLINE Vec<Lum64f> HalfLogOfSquares(Vec<Lum64f> large, Vec<Lum64f> small) {
+LUM_STAGE Vec<Lum64f> HalfLogOfSquares(VecIn<Lum64f> large, VecIn<Lum64f> small) {
   auto terms = LnTerms_A26::Terms(ReduceByReciprocal<4>(fma(large, large, small * small)));
   const auto t = fma(large, large, all(-1.0)) + small * small;
   const auto is_near = lt(abs(t), all(0.0625));
@@ -99,7 +99,7 @@ struct A24_32fc : LnKernel<Lum32fc> {
   }
 };
 
-template <class Ln, bool has_all_places> LUM_INLINE Vec<Lum64f> LogOfModulus(Vec<Lum64f> x, Vec<Lum64f> y) {
+template <class Ln, bool has_all_places> LUM_STAGE Vec<Lum64f> LogOfModulus(VecIn<Lum64f> x, VecIn<Lum64f> y) {
   const auto s = SquareOfModulus(x, y);
   auto reduction = ReduceByReciprocal<4>(s.head);
   reduction.e = reduction.e + (s.exponent + s.exponent);

@@ -1,6 +1,6 @@
 // The floating-point environment of a call. A kernel computes with all exceptions masked, round to nearest and no flushing,
-// whatever the caller has set, and no flag that it raises escapes. On processors without MXCSR the standard library's
-// floating-point environment takes its place.
+// whatever the caller has set, and of the flags that it raises none but inexact escapes. On processors without MXCSR the
+// standard library's floating-point environment takes its place.
 #pragma once
 
 #include <cstdint>

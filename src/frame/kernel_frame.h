@@ -11,7 +11,8 @@
 //   LargePath(x, lanes)
 //     Optional, one input: a second, slower vector path over a vector with refused lanes. Given what VectorPath returned, it
 //     returns the same with values in the lanes that it finishes and the mask of those that remain for the lane routine.
-// Constants that a kernel may override: variant, vectors (in a block), fill (of inactive lanes: never to be refused).
+// Constants that a kernel may override: variant, vectors (in a block), fill (of inactive lanes: never to be refused), is_short
+// (a vector path of a few operations, which is inlined in either layer).
 // A kernel with a parameter has it as a data member; all others are empty.
 #pragma once
 
@@ -31,6 +32,7 @@ template <class InputElement, class OutputElement = InputElement> struct Kernel 
   using Output = OutputElement;
   static constexpr Variant variant = common_variant;
   static constexpr int vectors = 2;
+  static constexpr bool is_short = false;
   static constexpr Real<Input> fill = Real<Input>(0.75);
 };
 
@@ -67,15 +69,37 @@ namespace frame {
 template <class K, int n> using Inputs = std::array<Packed<typename K::Input>, n>;
 template <class K, int m> using Outputs = std::array<Packed<typename K::Output>, m>;
 
-template <class K, int n> LUM_INLINE auto Compute(const K& kernel, const Inputs<K, n>& x) {
+template <class K, int n> LUM_INLINE auto VectorPathOf(const K& kernel, const Inputs<K, n>& x) {
   if constexpr (n == 1) return kernel.VectorPath(x[0]);
   else return kernel.VectorPath(x[0], x[1]);
+}
+template <class K, int n> [[gnu::noinline]] auto CalledVectorPath(const K& kernel, const Inputs<K, n>& x) {
+  return VectorPathOf<K, n>(kernel, x);
+}
+template <class K, int n>
+concept RefusesLanes = requires(const K kernel, const Inputs<K, n> x) {
+  VectorPathOf<K, n>(kernel, x).refused;
+};
+
+// In the portable layer, where every intermediate vector has its place on the stack, blocks, tail and refused lanes share one
+// copy of the vector path: a call then needs the stack of one, and the library is half the size.
+template <class K, int n> LUM_INLINE auto Compute(const K& kernel, const Inputs<K, n>& x) {
+  if constexpr (RefusesLanes<K, n> && !vectors_fit_registers && !K::is_short) return CalledVectorPath<K, n>(kernel, x);
+  else return VectorPathOf<K, n>(kernel, x);
 }
 
 template <class K, int n>
 concept HasLargePath = requires(const K kernel, const Inputs<K, n> x) {
   kernel.LargePath(x[0], kernel.VectorPath(x[0]));
 };
+template <class K, int n, class Result>
+[[gnu::noinline]] Result CalledLargePath(const K& kernel, const Inputs<K, n>& x, const Result& r) {
+  return kernel.LargePath(x[0], r);
+}
+template <class K, int n, class Result> LUM_INLINE Result LargePathOf(const K& kernel, const Inputs<K, n>& x, const Result& r) {
+  if constexpr (vectors_fit_registers) return kernel.LargePath(x[0], r);
+  else return CalledLargePath<K, n>(kernel, x, r);
+}
 
 // The same with the second path, where a kernel has one. It has no need for the first path's values where that refuses all.
 template <class K, int n> LUM_INLINE auto ComputeRefused(const K& kernel, const Inputs<K, n>& x) {
@@ -84,9 +108,9 @@ template <class K, int n> LUM_INLINE auto ComputeRefused(const K& kernel, const 
     if (none(~r.refused)) {
       decltype(r) no_values{};
       no_values.refused = r.refused;
-      r = kernel.LargePath(x[0], no_values);
+      r = LargePathOf<K, n>(kernel, x, no_values);
     } else if (any(r.refused)) {
-      r = kernel.LargePath(x[0], r);
+      r = LargePathOf<K, n>(kernel, x, r);
     }
   }
   return r;

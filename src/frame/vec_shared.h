@@ -9,7 +9,7 @@ inline namespace LUM_LAYER {
 
 template <Floating T> LUM_INLINE Vec<T> operator+(Vec<T> a, Vec<T> b) { return add(a, b); }
 template <Floating T> LUM_INLINE Vec<T> operator-(Vec<T> a, Vec<T> b) { return sub(a, b); }
-template <Floating T> LUM_INLINE Vec<T> operator*(Vec<T> a, Vec<T> b) { return mul(a, b); }
+template <Floating T> LUM_INLINE Vec<T> operator*(VecIn<T> a, VecIn<T> b) { return mul(a, b); }
 
 // A number as its bits are. Clang would see a changed sign through the pattern and take it into the fused operation behind,
 // which gives a NaN the other sign; the empty statement hides it.
@@ -39,10 +39,18 @@ template <Floating T> LUM_INLINE Vec<T> xor_sign(Vec<T> x, Vec<T> v) {
   return as_float(ternary<0x78>(bits(v), bits(x), all(sign_bit<T>)));
 }
 
-// c0 + x (c1 + x (c2 + ...)), one fused step a coefficient.
-template <Floating T> LUM_INLINE Vec<T> horner(Vec<T>, T c0) { return all(c0); }
-template <Floating T, class... Rest> LUM_INLINE Vec<T> horner(Vec<T> x, T c0, Rest... rest) {
-  return fma(horner(x, rest...), x, all(c0));
+// c0 + x (c1 + x (c2 + ...)), one fused step a coefficient. The portable loop has no more than two vectors in memory at a time,
+// where the nested calls would have all.
+template <Floating T> LUM_INLINE Vec<T> horner(VecIn<T>, T c0) { return all(c0); }
+template <Floating T, class... Rest> LUM_INLINE Vec<T> horner(VecIn<T> x, T c0, Rest... rest) {
+  if constexpr (vectors_fit_registers) {
+    return fma(horner(x, rest...), x, all(c0));
+  } else {
+    const T c[] = {c0, rest...};
+    Vec<T> p = all(c[sizeof...(rest)]);
+    for (size_t i = sizeof...(rest); i-- > 0;) p = fma(p, x, all(c[i]));
+    return p;
+  }
 }
 
 // a + b = sum + error exactly, for any two finite numbers without overflow.

@@ -7,6 +7,13 @@
 #include <cstdint>
 
 #define LUM_INLINE inline __attribute__((always_inline))
+// A stage of a long vector path. In the portable layer it is a function of its own: intermediate vectors lie on the stack
+// there, and those of one stage make room for those of the next.
+#ifdef LUM_AVX512
+#define LUM_STAGE LUM_INLINE
+#else
+#define LUM_STAGE inline __attribute__((noinline))
+#endif
 
 namespace lum {
 

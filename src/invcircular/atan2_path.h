@@ -44,7 +44,7 @@ template <class T> LUM_INLINE Vec<T> Place(Vec<T> y, Vec<T> x, Vec<T> r) {
   return or_sign(y, add(fpclass<0x56>(x), or_sign(x, r), all(pi<T>)));
 }
 
-template <class Tier, class T> LUM_INLINE Lanes<T> OneQuotient(Vec<T> y, Vec<T> x) {
+template <class Tier, class T> LUM_STAGE Lanes<T> OneQuotient(VecIn<T> y, VecIn<T> x) {
   const auto ay = abs(y), ax = abs(x);
   const auto a = Reduce(ay, ax);
   const auto t = Tier::Quotient(a.n, a.d);
@@ -143,7 +143,7 @@ template <class T> LUM_INLINE Vec<T> FullReciprocal(Vec<T> d) {
 
 template <class T, SignedOf<T> low, SignedOf<T> high> struct High {
   using Element = T;
-  static LUM_INLINE Lanes<T> VectorPath(Vec<T> y, Vec<T> x) {
+  static LUM_STAGE Lanes<T> VectorPath(VecIn<T> y, VecIn<T> x) {
     using C = IntervalConstants<T>;
     const auto& tables = interval_tables<T>;
     const auto ay = abs(y), ax = abs(x);

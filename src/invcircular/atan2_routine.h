@@ -6,6 +6,7 @@
 #include <cstdint>
 
 #include "frame/double_word.h"
+#include "frame/lane_format.h"
 #include "invcircular/atan2_constants.h"
 
 namespace lum {
@@ -77,7 +78,7 @@ template <class T> T Atan2Magnitude(double ay, double ax, bool x_negative) {
 
 template <class T> void Atan2Routine(T y, T x, T& result) {
   if (y != y || x != x) {
-    result = y + x;
+    result = lane::nan_of(y, x);
     return;
   }
   const T magnitude = Atan2Magnitude<T>(static_cast<double>(std::fabs(y)), static_cast<double>(std::fabs(x)), std::signbit(x));

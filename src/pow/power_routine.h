@@ -7,6 +7,7 @@
 #include <limits>
 #include <type_traits>
 
+#include "frame/lane_format.h"
 #include "frame/literals.h"
 #include "frame/types.h"
 #include "tables/table.h"
@@ -226,7 +227,7 @@ template <class T> LumStatus PowerRoutine(T x, T y, T& result) {
   result = 1;
   if (x == 1 || y == 0) return lumStsOk;
   if (x != x || y != y) {
-    result = x + y;
+    result = lane::nan_of(x, y);
     return lumStsOk;
   }
   const auto parity = ParityOf(y);

@@ -1,7 +1,8 @@
 // x / y without a divide instruction: an estimate r0 of 1 / y with 14 bits, and e = 1 - y r0 exactly enough to sum the series
 // 1 / (1 - e) = 1 + e + e^2 + ... as far as the tier needs. The high tiers divide the significands, correct the quotient by its
 // exact residual and scale by the difference of the exponents: no range of y is excluded but zero. The others multiply by 1 / y
-// and leave divisors whose reciprocal is not a normal number to a scalar division.
+// and leave divisors whose reciprocal is not a normal number to a scalar division. A divisor that is a NaN is refused, too: of
+// two NaNs the scalar division gives the dividend's.
 #include <cstdint>
 #include <type_traits>
 
@@ -57,7 +58,7 @@ template <class T> struct BySignificands : DivKernel<T> {
       r = fma(r0, fma(e, e, e), r0);
     }
     const auto residual = fnma(q, ym, xm);
-    return {scalef(fma(r, residual, q), d), fpclass<0x06>(y)};
+    return {scalef(fma(r, residual, q), d), fpclass<0x87>(y)};
   }
 };
 

@@ -11,6 +11,7 @@
 #include "frame/double_word.h"
 #include "frame/kernel_frame.h"
 #include "frame/kernels.h"
+#include "frame/lane_format.h"
 #include "roots/coupled_root.h"
 
 namespace lum {
@@ -52,10 +53,8 @@ template <class T> struct HypotKernel : Kernel<T> {
     constexpr auto infinity = std::numeric_limits<T>::infinity();
     if (std::fabs(a) == infinity || std::fabs(b) == infinity) {
       result = infinity;
-    } else if (a != a) {
-      result = b != b ? a * b : a * a;
-    } else if (b != b) {
-      result = b * b;
+    } else if (a != a || b != b) {
+      result = lane::nan_of(a, b);
     } else if (a == 0 && b == 0) {
       result = T(0);
     } else {

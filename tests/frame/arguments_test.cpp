@@ -30,7 +30,7 @@ class ArgumentChecks : public ExportTest {
     const LumStatus returned = function.Call(arguments);
     const Environment left = LeaveEnvironment();
     EXPECT_EQ(returned, status);
-    EXPECT_EQ(FirstDifference(before, output_, batch_), "equal");
+    EXPECT_EQ(FirstDifference(before, output_), "equal");
     EXPECT_EQ(Describe(left), Describe(entered));
   }
 

@@ -78,7 +78,7 @@ TEST_P(Hook, ChangedElementsAreReadBack) {
     if (entry().outputs() == 2) expected.dst2.Set(i, repeated(0x22, entry().output));
   }
   output.status = expected.status;
-  EXPECT_EQ(FirstDifference(expected, output, batch), "equal");
+  EXPECT_EQ(FirstDifference(expected, output), "equal");
 }
 
 INSTANTIATE_TEST_SUITE_P(Exports, Hook, testing::ValuesIn(AllSubjects()), NameOf);

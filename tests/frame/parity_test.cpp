@@ -47,7 +47,7 @@ TEST_P(Parity, SameResultsAndStatuses) {
   for (const Batch& batch : Sweep(entry, random_values)) {
     const Result k0 = RunRecorded(*k0_, entry, batch);
     const Result p0 = RunRecorded(*p0_, entry, batch);
-    ASSERT_EQ(FirstDifference(k0.output, p0.output, batch), "equal") << "expected by k0, got from p0";
+    ASSERT_EQ(DifferenceOfLibraries(k0.output, p0.output, batch), "equal") << "expected by k0, got from p0";
     for (size_t i = 0; i < batch.size(); ++i) ASSERT_EQ(k0.statuses[i], p0.statuses[i]) << batch.Show(i);
     compared += batch.size();
   }

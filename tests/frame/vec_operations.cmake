@@ -24,6 +24,8 @@ if(CMAKE_SYSTEM_PROCESSOR MATCHES "x86_64|AMD64")
   target_link_libraries(vec_operations_test PRIVATE operation_table_native)
 endif()
 
+add_test(NAME frame.immediates COMMAND ${Python3_EXECUTABLE} ${vec_operations_dir}/immediates.py $<TARGET_FILE:lumvmp0>)
+
 find_package(GTest REQUIRED)
 find_package(Threads REQUIRED)
 target_link_libraries(vec_operations_test PRIVATE GTest::gtest_main Threads::Threads)

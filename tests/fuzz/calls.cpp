@@ -109,8 +109,7 @@ Result RunPlaced(const Call& call, const std::string& library, const Callee& cal
   return result;
 }
 
-void Expect(const Call& call, const std::string& library, const char* what, const Output& expected, const Output& actual) {
-  const std::string difference = FirstDifference(expected, actual, call.batch);
+void ExpectEqual(const Call& call, const std::string& library, const char* what, const std::string& difference) {
   if (difference != "equal") Complain(call, library, std::string(what) + ": " + difference);
 }
 
@@ -132,13 +131,16 @@ void Check(const Call& call, const std::vector<std::pair<std::string, Callee>>& 
   const Output expected_there = RunPlaced(call, callees[0].first, callees[0].second, call.environment).output;
   Note(call, statuses);
   for (const auto& [library, callee] : callees) {
-    Expect(call, library, "each element alone", expected, callee.RunEach(call.batch, own_statuses));
+    const Output own = callee.RunEach(call.batch, own_statuses);
+    ExpectEqual(call, library, "each element alone", DifferenceOfLibraries(expected, own, call.batch));
     for (size_t i = 0; i < statuses.size(); ++i) {
       if (statuses[i] != own_statuses[i]) Complain(call, library, "status of element " + std::to_string(i) + " differs");
     }
-    Expect(call, library, "default environment", expected, RunPlaced(call, library, callee, {}).output);
+    const Output placed = RunPlaced(call, library, callee, {}).output;
+    ExpectEqual(call, library, "default environment", FirstDifference(own, placed));
     const Result there = RunPlaced(call, library, callee, call.environment);
-    Expect(call, library, "given environment", follows ? expected_there : expected, there.output);
+    ExpectEqual(call, library, "given environment",
+                follows ? DifferenceOfLibraries(expected_there, there.output, call.batch) : FirstDifference(own, there.output));
     const std::string complaint = EnvironmentComplaint(*call.entry, call.environment, there.left);
     if (has_environment && !complaint.empty()) Complain(call, library, complaint);
   }

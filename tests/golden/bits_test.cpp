@@ -1,5 +1,5 @@
 // One digest an export, of results and statuses over fixed sweeps: any change of a bit shows as a changed line of bits.txt.
-// Arguments with two NaN components are left out, since their result may be any quiet NaN.
+// Arguments with two NaN components are left out, since the result of a complex function may then be either of them.
 // LUM_WRITE_GOLDEN=1 writes the file anew, from the portable library.
 #include <xxhash.h>
 

@@ -44,9 +44,10 @@ struct Output {
   explicit Output(const Export& entry, size_t size = 0);
   std::string Show(size_t i) const;
 };
-// "equal", or the first element, or the status, that differs. Where two components of an element's arguments are NaN, any
-// quiet NaN is as good as any other.
-std::string FirstDifference(const Output& expected, const Output& actual, const Batch& arguments);
+// "equal", or the first element, or the status, that differs.
+std::string FirstDifference(const Output& expected, const Output& actual);
+// The same for two libraries, which may take different ones of several NaNs in the arguments of a complex function.
+std::string DifferenceOfLibraries(const Output& expected, const Output& actual, const Batch& arguments);
 
 // A function at an address, called with batches.
 class Callee {

@@ -2,6 +2,7 @@
 // routines, and probes of the environment that each variant sets up. test_kernels.h tells what they compute.
 #include "support/test_kernels.h"
 
+#include "arith/first_nan.h"
 #include "frame/kernel_frame.h"
 
 namespace lum {
@@ -77,7 +78,7 @@ template <class E> struct ToRealKernel : Kernel<E, Real<E>> {
   using T = Real<E>;
   static LUM_INLINE Lanes<T> VectorPath(Interleaved<T> x) {
     const auto z = split(x);
-    return {z.re + z.im, IsNegative(z.re)};
+    return {SumInOrder(z.re, z.im), IsNegative(z.re)};
   }
   static LumStatus LaneRoutine(E x, T& result) {
     result += 1000;

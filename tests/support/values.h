@@ -20,8 +20,8 @@ struct Batch {
   void resize(size_t size);
   // Appends element i of another batch.
   void Append(const Batch& other, size_t i);
-  // How many components of element i, over all inputs and the parameter, are NaN. With two of them the result may be any quiet
-  // NaN, since the order of an operation's operands carries no meaning.
+  // How many components of element i, over all inputs and the parameter, are NaN. Of several NaNs a complex function may take
+  // another one in another library.
   int Nans(size_t i) const;
   std::string Show(size_t i) const;
 };

@@ -2,6 +2,16 @@
 foreach(library IN LISTS LUM_LIBRARIES)
   add_test(NAME surface.exports.${library}
            COMMAND ${Python3_EXECUTABLE} ${CMAKE_CURRENT_SOURCE_DIR}/surface/exports.py $<TARGET_FILE:${library}>)
+  if(LUM_SANITIZE)
+    add_skipped_test(surface.dynamic_section.${library} "sanitizers need libraries")
+  elseif(library STREQUAL "lumvmp0" AND NOT CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    add_skipped_test(surface.dynamic_section.${library} "clang copies vectors by memcpy of the C library")
+  elseif(NOT CMAKE_SYSTEM_PROCESSOR MATCHES "x86_64|AMD64")
+    add_skipped_test(surface.dynamic_section.${library} "the floating-point environment is that of the C library")
+  else()
+    add_test(NAME surface.dynamic_section.${library}
+             COMMAND ${Python3_EXECUTABLE} ${CMAKE_CURRENT_SOURCE_DIR}/surface/dynamic_section.py $<TARGET_FILE:${library}>)
+  endif()
 endforeach()
 
 # The header alone, as a C and as a C++ program would include it; both programs call the library.

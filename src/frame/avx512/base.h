@@ -16,6 +16,8 @@ template <> struct RegisterOf<float> { using Type = __m512; };
 template <> struct RegisterOf<double> { using Type = __m512d; };
 
 template <Lane T> struct Vec { typename RegisterOf<T>::Type v; };
+// A vector as a parameter of an inlined function that hands it on.
+template <Lane T> using VecIn = Vec<T>;
 
 template <int lanes> struct MaskBitsOf;
 template <> struct MaskBitsOf<16> { using Type = __mmask16; };
@@ -24,6 +26,7 @@ template <> struct MaskBitsOf<8> { using Type = __mmask8; };
 template <Lane T> struct Mask { typename MaskBitsOf<lanes_of<T>>::Type k; };
 
 template <class T> inline constexpr bool is32 = sizeof(T) == 4;
+inline constexpr bool vectors_fit_registers = true;
 
 // ---- Make, load, store
 

@@ -207,7 +207,8 @@ template <Integer T> LUM_INLINE Mask<T> test_none(const Vec<T>& a, const Vec<T>&
 // ---- Selection
 
 // Per lane m ? a : b.
-template <Lane T> LUM_INLINE Vec<T> select(const Mask<T>& m, const Vec<T>& a, const Vec<T>& b) {
+template <Lane T> LUM_INLINE Vec<T> select(const Mask<T>& mask, const Vec<T>& a, const Vec<T>& b) {
+  const Mask<T> m = of_unknown_origin(mask);
   return each_lane<T>([&](int i) {
     using U = UnsignedOf<T>;
     return std::bit_cast<T>((std::bit_cast<U>(a.lane[i]) & m.bits_of(i)) | (std::bit_cast<U>(b.lane[i]) & ~m.bits_of(i)));

@@ -11,6 +11,9 @@ inline namespace portable {
 // ---- Types
 
 template <Lane T> struct alignas(16) Vec { T lane[lanes_of<T>]; };
+// A vector as a parameter of an inlined function that hands it on to a called one: a copy would have its own place on the
+// stack.
+template <Lane T> using VecIn = const Vec<T>&;
 
 // All bits set in the lanes of the mask, none in the others. The lanes are of type T, since some compilers do not vectorise a
 // comparison of doubles that gives integers.
@@ -20,6 +23,7 @@ template <Lane T> struct alignas(16) Mask {
 };
 
 template <class T> inline constexpr bool is32 = sizeof(T) == 4;
+inline constexpr bool vectors_fit_registers = false;
 
 // The vector of value(i) in lane i.
 template <Lane T, class F> LUM_INLINE Vec<T> each_lane(F value) {
@@ -127,6 +131,25 @@ template <Lane T> LUM_INLINE bool any(const Mask<T>& a) {
   return united != 0;
 }
 template <Lane T> LUM_INLINE bool none(const Mask<T>& a) { return !any(a); }
+// The mask, of which the compiler knows nothing. Clang makes a choice between a + b and a a sum with a chosen summand, b or -0,
+// and that quiets a signalling NaN in a lane that should stay as it is; where it sees no choice, it leaves the bits alone.
+template <Lane T> LUM_INLINE Mask<T> of_unknown_origin(Mask<T> m) {
+#ifdef __clang__
+  using Register [[gnu::vector_size(16)]] = UnsignedOf<T>;
+  constexpr int lanes = static_cast<int>(sizeof(Register) / sizeof(T));
+  for (int i = 0; i < lanes_of<T>; i += lanes) {
+    Register part;
+    std::memcpy(&part, &m.lane[i], sizeof part);
+#if defined(__x86_64__)
+    asm("" : "+x"(part));
+#else
+    asm("" : "+w"(part));
+#endif
+    std::memcpy(&m.lane[i], &part, sizeof part);
+  }
+#endif
+  return m;
+}
 // The masks of two vectors of doubles as that of one vector of floats, and its halves.
 LUM_INLINE Mask<float> join(const Mask<double>& low, const Mask<double>& high) {
   return each_mask_lane<float>([&](int i) { return (i < 8 ? low.bits_of(i) : high.bits_of(i - 8)) != 0; });

@@ -13,21 +13,27 @@ template <Lane T, Integer I>
 requires(sizeof(T) == sizeof(I)) LUM_INLINE Vec<T> permute(const Vec<T>& table, const Vec<I>& index) {
   return each_lane<T>([&](int i) { return table.lane[raw(index.lane[i]) & (lanes_of<T> - 1)]; });
 }
-// Entry index mod 2 lanes of the table whose first half is low and second half is high.
+// The table whose first half is low and second half is high, as one array. A choice between an element of low and one of high
+// is not the same to g++ 12: at -O3 it makes one load of two addresses, and then removes the stores to a vector that it
+// believes unread.
+template <Lane T> struct JoinedTable {
+  T entry[2 * lanes_of<T>];
+  LUM_INLINE JoinedTable(const Vec<T>& low, const Vec<T>& high) {
+    std::memcpy(entry, low.lane, sizeof low.lane);
+    std::memcpy(entry + lanes_of<T>, high.lane, sizeof high.lane);
+  }
+};
+// Entry index mod 2 lanes of that table.
 template <Lane T, Integer I>
 requires(sizeof(T) == sizeof(I)) LUM_INLINE Vec<T> permute2(const Vec<T>& low, const Vec<T>& high, const Vec<I>& index) {
-  return each_lane<T>([&](int i) {
-    const auto entry = raw(index.lane[i]) & (2 * lanes_of<T> - 1);
-    return entry < lanes_of<T> ? low.lane[entry] : high.lane[entry - lanes_of<T>];
-  });
+  const JoinedTable<T> table(low, high);
+  return each_lane<T>([&](int i) { return table.entry[raw(index.lane[i]) & (2 * lanes_of<T> - 1)]; });
 }
 // The same on 16-bit words: 64 entries, each lane of the index holding two.
 template <Integer32 T, Integer I>
 requires(sizeof(T) == sizeof(I)) LUM_INLINE Vec<T> permute2_words(const Vec<T>& low, const Vec<T>& high, const Vec<I>& index) {
-  const auto word = [&](uint32_t entry) {
-    const T pair = entry & 32 ? high.lane[(entry & 31) / 2] : low.lane[(entry & 31) / 2];
-    return (raw(pair) >> (entry % 2 ? 16 : 0)) & 0xFFFF;
-  };
+  const JoinedTable<T> table(low, high);
+  const auto word = [&](uint32_t entry) { return (raw(table.entry[entry / 2]) >> (entry % 2 ? 16 : 0)) & 0xFFFF; };
   return each_lane<T>([&](int i) {
     const uint32_t pair = raw(index.lane[i]);
     return static_cast<T>(word(pair & 63) | word((pair >> 16) & 63) << 16);

@@ -1,0 +1,56 @@
+// Sums and products of which two NaNs give the first one, quieted.
+#pragma once
+
+#include <cstring>
+#include <utility>
+
+#include "frame/vec.h"
+
+namespace lum {
+
+// x86 instructions choose the first operand, and those of AVX-512 are written with their operands in order. In C++ a compiler
+// may exchange the terms of a sum or a product, and does so by element; the portable layer names the instruction where it has
+// one that chooses, and elsewhere chooses by itself.
+#if defined(__x86_64__) && !defined(LUM_AVX512)
+#ifdef __AVX__
+#define LUM_ORDERED(operation, x, y) asm("v" operation " %1, %0, %0" : "+x"(x) : "x"(y))
+#else
+#define LUM_ORDERED(operation, x, y) asm(operation " %1, %0" : "+x"(x) : "x"(y))
+#endif
+template <Floating T, class Operation, size_t... i>
+LUM_INLINE Vec<T> ByRegisters(const Vec<T>& a, const Vec<T>& b, Operation operation, std::index_sequence<i...>) {
+  using Register [[gnu::vector_size(16)]] = T;
+  const auto register_at = [](const Vec<T>& v, size_t index) {
+    Register x;
+    std::memcpy(&x, v.lane + index * (16 / sizeof(T)), sizeof x);
+    return x;
+  };
+  Register results[] = {register_at(a, i)...};
+  (operation(results[i], register_at(b, i)), ...);
+  return std::bit_cast<Vec<T>>(results);
+}
+template <Floating T> LUM_INLINE Vec<T> SumInOrder(const Vec<T>& a, const Vec<T>& b) {
+  return ByRegisters(
+      a, b,
+      [](auto& x, auto y) {
+        if constexpr (is32<T>) LUM_ORDERED("addps", x, y);
+        else LUM_ORDERED("addpd", x, y);
+      },
+      std::make_index_sequence<4>());
+}
+template <Floating T> LUM_INLINE Vec<T> ProductInOrder(const Vec<T>& a, const Vec<T>& b) {
+  return ByRegisters(
+      a, b,
+      [](auto& x, auto y) {
+        if constexpr (is32<T>) LUM_ORDERED("mulps", x, y);
+        else LUM_ORDERED("mulpd", x, y);
+      },
+      std::make_index_sequence<4>());
+}
+#undef LUM_ORDERED
+#else
+template <Floating T> LUM_INLINE Vec<T> SumInOrder(Vec<T> a, Vec<T> b) { return a + b; }
+template <Floating T> LUM_INLINE Vec<T> ProductInOrder(Vec<T> a, Vec<T> b) { return a * b; }
+#endif
+
+}  // namespace lum

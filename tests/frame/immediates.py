@@ -1,0 +1,57 @@
+#!/usr/bin/env python3
+"""Checks that the table of operations has every immediate that kernels use: immediates.py PORTABLE_LIBRARY
+
+Most immediates stand in the sources as numbers. Computed ones are found in the portable library: the operations that have such are
+functions of their own there, one an immediate, and their symbols name it.
+"""
+
+import re
+import subprocess
+import sys
+from pathlib import Path
+
+ROOT = Path(__file__).resolve().parents[2]
+OPERATIONS = ("fixupimm", "fpclass", "getmant", "reduce", "rndscale", "ternary")
+COMPUTED = ("fpclass", "getmant", "reduce", "rndscale")
+
+
+def computed():
+    symbols = subprocess.run(["nm", sys.argv[1]], check=True, capture_output=True, text=True).stdout
+    pattern = rf"N3lum8portable\d+({'|'.join(COMPUTED)})ILi(\d+)E"
+    return {(name, int(immediate)) for name, immediate in re.findall(pattern, symbols)}
+
+
+def written():
+    used = set()
+    for path in sorted((ROOT / "src").rglob("*")):
+        if path.suffix not in (".h", ".cpp") or path.parent.name in ("portable", "avx512"):
+            continue
+        code = re.sub(r"//.*", "", path.read_text())
+        for name, immediate in re.findall(rf"\b({'|'.join(OPERATIONS)})<([^<>;]*(?:<<[^<>;]*)*)>\(", code):
+            if re.fullmatch(r"\d+|0x[0-9A-Fa-f]+", immediate):
+                used.add((name, int(immediate, 0)))
+            elif name not in COMPUTED:
+                sys.exit(f"{path}: {name}<{immediate}> is not a number")
+    return used
+
+
+def tested():
+    lines = (ROOT / "tests/frame/recorded_operations.txt").read_text()
+    return {(name, int(immediate, 16)) for name, immediate in re.findall(r"^(\w+)<(0x[0-9A-F]+)> ", lines, re.MULTILINE)}
+
+
+def main():
+    in_library, in_sources = computed(), written()
+    used = in_library | in_sources
+    missing = sorted(used - tested())
+    for name, immediate in missing:
+        print(f"{name}<0x{immediate:X}> is used and not tested")
+    print(f"{len(used)} operations with an immediate are used, {len(missing)} are not tested")
+    unseen = set(COMPUTED) - {name for name, _ in in_library}
+    if unseen:
+        print(f"the library has no symbols of {', '.join(sorted(unseen))}")
+    return 1 if missing or unseen or not in_sources else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
