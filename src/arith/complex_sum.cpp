@@ -6,7 +6,7 @@
 #include "frame/kernel_frame.h"
 #include "frame/kernels.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 namespace {
 
 template <class T> bool IsInfinite(T x) {
@@ -105,4 +105,4 @@ LumStatus Conj_64fc_A53(const Lum64fc* src, Lum64fc* dst, int32_t len) {
       {}, {{reinterpret_cast<const uint64_t*>(src)}, {reinterpret_cast<uint64_t*>(dst)}}, 2 * int64_t{len});
 }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

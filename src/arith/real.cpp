@@ -5,7 +5,7 @@
 #include "frame/kernel_frame.h"
 #include "frame/kernels.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 namespace {
 
 template <class T> struct PlainKernel : Kernel<T> {
@@ -77,4 +77,4 @@ LumStatus Sub_64fc_Flat(const Lum64fc* src1, const Lum64fc* src2, Lum64fc* dst, 
   return Flat<SubKernel>(src1, src2, dst, len);
 }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

@@ -7,7 +7,7 @@
 #include "frame/kernel_frame.h"
 #include "frame/kernels.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 namespace {
 
 // The rounding fields of rndscale to integers.
@@ -92,4 +92,4 @@ LumStatus Modf_64f(const Lum64f* src, Lum64f* dst1, Lum64f* dst2, int32_t len) {
   return TwoOutputs<ModfKernel<Lum64f>>(src, dst1, dst2, len);
 }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

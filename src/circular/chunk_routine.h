@@ -10,7 +10,7 @@
 #include "circular/nonfinite.h"
 #include "circular/wide_reduction.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 
 // Entry j + 1: bits 25 j to 25 j + 24 of 4/pi, in its place times 2^200.
 inline constexpr auto ChunkTable25 = table64({
@@ -140,4 +140,4 @@ inline LumStatus SineAndCosine(double x, double& sine, double& cosine) {
   return lumStsOk;
 }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

@@ -4,7 +4,7 @@
 #include "frame/kernel_frame.h"
 #include "frame/kernels.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 namespace {
 
 template <class T> struct ComplexOf;
@@ -44,4 +44,4 @@ LumStatus CIS_64fc_A26(const Lum64f* src, Lum64fc* dst, int32_t len) { return On
 LumStatus CIS_64fc_A50(const Lum64f* src, Lum64fc* dst, int32_t len) { return OneInput<A50_64fc>(src, dst, len); }
 LumStatus CIS_64fc_A53(const Lum64f* src, Lum64fc* dst, int32_t len) { return OneInput<A53_64fc>(src, dst, len); }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

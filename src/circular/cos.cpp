@@ -9,7 +9,7 @@
 #include "frame/kernel_frame.h"
 #include "frame/kernels.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 namespace {
 
 struct Float : Kernel<Lum32f> {
@@ -112,4 +112,4 @@ LumStatus Cos_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len) { return OneI
 LumStatus Cos_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A50_64f>(src, dst, len); }
 LumStatus Cos_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A53_64f>(src, dst, len); }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

@@ -4,7 +4,7 @@
 #include "frame/types.h"
 #include "frame/vec.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 
 template <class T> struct HalfTurn;
 template <> struct HalfTurn<Lum32f> {
@@ -62,4 +62,4 @@ template <class T> LUM_INLINE Vec<UnsignedOf<T>> OddParitySign(Vec<T> shifted, V
   return ternary<0x96>(ParitySign(shifted), bits(x), bits(magnitude));
 }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

@@ -4,7 +4,7 @@
 #include "frame/kernel_frame.h"
 #include "frame/types.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 
 // sin, cos or tan of an infinity is a NaN with a status, that of a NaN is the NaN, quieted.
 template <class T> LumStatus CircularOfNonFinite(T x, T& result) {
@@ -18,4 +18,4 @@ template <class T> LUM_INLINE Lanes<T> MergeLarge(Vec<T> x, const Lanes<T>& lane
   return {select(lanes.refused, large, lanes.value), fpclass<0x99>(x)};
 }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

@@ -8,7 +8,7 @@
 #include "frame/vec.h"
 #include "tables/table.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 
 template <class T> struct SineAndCosineValues {
   Vec<T> sine, cosine;
@@ -142,4 +142,4 @@ struct QuarterTurns_A24 {
   }
 };
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

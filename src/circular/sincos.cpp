@@ -3,7 +3,7 @@
 #include "frame/kernel_frame.h"
 #include "frame/kernels.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 namespace {
 
 template <class T> LUM_INLINE TwoLanes<T> Both(const SineAndCosineValues<T>& v) { return {v.sine, v.cosine, v.refused}; }
@@ -49,4 +49,4 @@ LumStatus SinCos_64f_A53(const Lum64f* src, Lum64f* dst1, Lum64f* dst2, int32_t 
   return TwoOutputs<A53_64f>(src, dst1, dst2, len);
 }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

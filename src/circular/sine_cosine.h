@@ -10,7 +10,7 @@
 #include "circular/sixteenths.h"
 #include "circular/wide_reduction.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 
 // (sin r - r) / r^3 of q = r^2, |r| <= pi/2.
 LUM_INLINE Vec<Lum64f> LongDoubleSine(Vec<Lum64f> q) {
@@ -80,4 +80,4 @@ inline LumStatus SineAndCosineRoutine(Lum32f x, Lum32f& sine, Lum32f& cosine) {
 }
 inline LumStatus SineAndCosineRoutine(Lum64f x, Lum64f& sine, Lum64f& cosine) { return SineAndCosine(x, sine, cosine); }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

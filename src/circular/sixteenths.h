@@ -6,7 +6,7 @@
 #include "frame/vec.h"
 #include "tables/table.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 
 // x = n pi/16 + hi + lo, n in the low bits of `shifted`; for |x| up to 2^24.
 struct Sixteenths {
@@ -86,4 +86,4 @@ LUM_INLINE Vec<uint64_t> HalfTurnSign(const Sixteenths& r, Vec<Lum64f> x) {
   return ternary<0x28>(shift_left<59>(r.shifted), bits(x), all(sign_bit<Lum64f>));  // (a ^ b) & c
 }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

@@ -9,7 +9,7 @@
 #include "frame/kernel_frame.h"
 #include "frame/kernels.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 namespace {
 
 // x = k pi/N + hi + lo; k in the low bits. Tiers without tails have lo = 0.
@@ -239,4 +239,4 @@ LumStatus Tan_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len) { return OneI
 LumStatus Tan_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A50_64f>(src, dst, len); }
 LumStatus Tan_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A53_64f>(src, dst, len); }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

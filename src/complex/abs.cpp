@@ -4,7 +4,7 @@
 #include "frame/kernels.h"
 #include "roots/coupled_root.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 namespace {
 
 template <class E> struct AbsKernel : Kernel<E, Real<E>> {
@@ -76,4 +76,4 @@ LumStatus Abs_64fc_A26(const Lum64fc* src, Lum64f* dst, int32_t len) { return On
 LumStatus Abs_64fc_A50(const Lum64fc* src, Lum64f* dst, int32_t len) { return OneInput<Middle<Lum64fc>>(src, dst, len); }
 LumStatus Abs_64fc_A53(const Lum64fc* src, Lum64f* dst, int32_t len) { return OneInput<High<Lum64fc>>(src, dst, len); }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

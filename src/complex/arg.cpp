@@ -3,7 +3,7 @@
 #include "invcircular/atan2_path.h"
 #include "invcircular/atan2_routine.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 namespace {
 
 template <class E, class Path> struct ArgKernel : Kernel<E, Real<E>> {
@@ -31,4 +31,4 @@ LumStatus Arg_64fc_A26(const Lum64fc* src, Lum64f* dst, int32_t len) { return On
 LumStatus Arg_64fc_A50(const Lum64fc* src, Lum64f* dst, int32_t len) { return OneInput<A50_64fc>(src, dst, len); }
 LumStatus Arg_64fc_A53(const Lum64fc* src, Lum64f* dst, int32_t len) { return OneInput<A53_64fc>(src, dst, len); }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

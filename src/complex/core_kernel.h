@@ -7,7 +7,7 @@
 #include "complex/pairs/pair.h"
 #include "complex/refused.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 
 // The parts of a result, their distances from the core's values in units of 2^-64, and the lanes outside the domain.
 struct PathValue {
@@ -133,4 +133,4 @@ template <class Path, OneInputCore core, class E> LumStatus RunReporting(const E
   LUM_CORE_FUNCTION(run, function, 32fc)  \
   LUM_CORE_FUNCTION(run, function, 64fc)
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

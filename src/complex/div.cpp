@@ -5,7 +5,7 @@
 #include "complex/refused.h"
 #include "frame/kernels.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 namespace {
 
 template <class E> struct Quotient : Kernel<E> {
@@ -122,4 +122,4 @@ LumStatus Div_64fc_A53(const Lum64fc* src1, const Lum64fc* src2, Lum64fc* dst, i
   return TwoInputs<A53_64fc>(src1, src2, dst, len);
 }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

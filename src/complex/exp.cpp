@@ -8,7 +8,7 @@
 #include "frame/kernels.h"
 #include "tables/table.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 namespace {
 
 struct SineCosine {
@@ -225,4 +225,4 @@ LumStatus Exp_32fc_A24(const Lum32fc* src, Lum32fc* dst, int32_t len) { return O
 LumStatus Exp_64fc_A26(const Lum64fc* src, Lum64fc* dst, int32_t len) { return OneInput<A26_64fc>(src, dst, len); }
 LumStatus Exp_64fc_A53(const Lum64fc* src, Lum64fc* dst, int32_t len) { return OneInput<A53_64fc>(src, dst, len); }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

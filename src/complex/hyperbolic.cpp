@@ -5,7 +5,7 @@
 #include "complex/pairs/exponential.h"
 #include "frame/kernels.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 namespace {
 
 struct Factors {
@@ -82,4 +82,4 @@ LUM_CORE_FUNCTIONS(RunReporting, Sinh)
 LUM_CORE_FUNCTIONS(RunSilent, Tan)
 LUM_CORE_FUNCTIONS(RunSilent, Tanh)
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

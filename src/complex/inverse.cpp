@@ -6,7 +6,7 @@
 #include "complex/pairs/logarithm.h"
 #include "frame/kernels.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 namespace {
 
 LUM_INLINE HeadTail ExactSquare(Vec<Lum64f> x) { return ExactProduct(x, x); }
@@ -122,4 +122,4 @@ LUM_CORE_FUNCTIONS(RunSilent, Asinh)
 LUM_CORE_FUNCTIONS(RunSilent, Atan)
 LUM_CORE_FUNCTIONS(RunSilent, Atanh)
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

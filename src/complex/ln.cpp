@@ -7,7 +7,7 @@
 #include "frame/kernels.h"
 #include "invcircular/atan2_path.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 namespace {
 
 template <class E> struct LnKernel : Kernel<E> {
@@ -134,4 +134,4 @@ LumStatus Ln_64fc_A26(const Lum64fc* src, Lum64fc* dst, int32_t len) { return On
 LumStatus Ln_64fc_A50(const Lum64fc* src, Lum64fc* dst, int32_t len) { return OneInput<A50_64fc>(src, dst, len); }
 LumStatus Ln_64fc_A53(const Lum64fc* src, Lum64fc* dst, int32_t len) { return OneInput<A53_64fc>(src, dst, len); }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

@@ -5,7 +5,7 @@
 #include "complex/refused.h"
 #include "frame/kernels.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 namespace {
 
 // The factors of the two products of each part.
@@ -111,4 +111,4 @@ LumStatus MulByConj_64fc_A53(const Lum64fc* src1, const Lum64fc* src2, Lum64fc* 
   return TwoInputs<A53_64fc<true>>(src1, src2, dst, len);
 }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

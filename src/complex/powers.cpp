@@ -6,7 +6,7 @@
 #include "complex/pairs/logarithm.h"
 #include "frame/kernels.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 namespace {
 
 // ln |z| and arg z of z = x + iy, with units of error of the core's parts.
@@ -119,4 +119,4 @@ LumStatus Powx_64fc(const Lum64fc* src, const Lum64fc* exponent, Lum64fc* dst, i
   return RunPowx(src, *exponent, dst, len);
 }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

@@ -4,7 +4,7 @@
 
 #include "complex/element_loop.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 
 template <OneInputCore core, class E> void CoreOnLane(const E& z, E& result) {
   const ExtendedPrecision precision;
@@ -39,4 +39,4 @@ template <TwoInputsCore core, class E> LumStatus ProductCoreOnLane(const E& z, c
   return are_finite && HasInfinitePart(result) ? lumStsOverflow : lumStsOk;
 }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

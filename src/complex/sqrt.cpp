@@ -5,7 +5,7 @@
 #include "frame/kernels.h"
 #include "roots/coupled_root.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 namespace {
 
 template <class E> struct SqrtKernel : Kernel<E> {
@@ -132,4 +132,4 @@ LumStatus Sqrt_32fc_A21(const Lum32fc* src, Lum32fc* dst, int32_t len) { return 
 LumStatus Sqrt_32fc_A24(const Lum32fc* src, Lum32fc* dst, int32_t len) { return OneInput<A24_32fc>(src, dst, len); }
 LumStatus Sqrt_64fc_A50(const Lum64fc* src, Lum64fc* dst, int32_t len) { return OneInput<A50_64fc>(src, dst, len); }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

@@ -7,7 +7,7 @@
 #include "frame/kernel_frame.h"
 #include "frame/kernels.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 namespace {
 
 constexpr auto minus_root2 = f64(0xBFF6A09E667F3BCC, -1.414213562373095);  // cut toward zero
@@ -106,4 +106,4 @@ LumStatus CdfNormInv_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len) { retu
 LumStatus CdfNormInv_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A50_64f>(src, dst, len); }
 LumStatus CdfNormInv_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A53_64f>(src, dst, len); }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

@@ -8,7 +8,7 @@
 #include "frame/kernels.h"
 #include "tables/table.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 namespace {
 
 // No argument is refused.
@@ -160,4 +160,4 @@ LumStatus Erf_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len) { return OneI
 LumStatus Erf_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A50_64f>(src, dst, len); }
 LumStatus Erf_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A53_64f>(src, dst, len); }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

@@ -10,7 +10,7 @@
 #include "frame/kernels.h"
 #include "tables/table.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 namespace {
 
 // From here on the vector paths refuse.
@@ -152,4 +152,4 @@ LumStatus Erfc_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len) { return One
 LumStatus Erfc_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A50_64f>(src, dst, len); }
 LumStatus Erfc_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A53_64f>(src, dst, len); }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

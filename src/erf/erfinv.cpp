@@ -7,7 +7,7 @@
 #include "frame/kernel_frame.h"
 #include "frame/kernels.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 namespace {
 
 // Of any argument; the refused lanes hold numbers next to 0, the ends of the domain, and those outside of it.
@@ -62,4 +62,4 @@ LumStatus ErfInv_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len) { return O
 LumStatus ErfInv_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A50_64f>(src, dst, len); }
 LumStatus ErfInv_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A53_64f>(src, dst, len); }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

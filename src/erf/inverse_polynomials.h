@@ -7,7 +7,7 @@
 #include "frame/kernel_frame.h"
 #include "tables/table.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 
 // The tables of erfinv and erfcinv.
 template <int degree> struct ErrorPolynomials;
@@ -57,4 +57,4 @@ template <class C, int degree> LUM_INLINE Vec<Lum32f> EvaluatePolynomial(Vec<Lum
   }
 }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

@@ -12,7 +12,7 @@
 #include "frame/types.h"
 #include "tables/table.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 
 // -ln q for 0 < q < 1/2.
 inline DoubleWord MinusLog(double q) {
@@ -56,4 +56,4 @@ template <class T> LumStatus OutsideDomain(T& result) {
   return lumStsDomain;
 }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

@@ -5,7 +5,7 @@
 
 #include "erf/rows.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 
 template <class T> struct PackedFormat;
 template <> struct PackedFormat<Lum32f> {
@@ -39,4 +39,4 @@ template <class T> LUM_INLINE Vec<T> Fall(const Unpacked<T>& row, Vec<T> d, Vec<
   return head + fnma(row.slope * d, series, rest);
 }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

@@ -4,7 +4,7 @@
 #include "frame/literals.h"
 #include "frame/types.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 
 // 1/ln 2, and ln 2 in two parts: the number next to it and what that lacks.
 template <class T> struct ExpReduction;
@@ -19,4 +19,4 @@ template <> struct ExpReduction<Lum64f> {
   static constexpr auto ln2_lo = f64(0x3C7ABC9E3B39803F, 2.3190468138462996e-17);
 };
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

@@ -10,7 +10,7 @@
 #include "frame/types.h"
 #include "tables/table.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 
 // Where the results of the lane routines change their kind, in either type.
 template <class T> struct ExpLimits;
@@ -127,4 +127,4 @@ template <class T> LumStatus ExpDoubleRoutine(T argument, T& result) {
   return is_denormal ? lumStsUnderflow : lumStsOk;
 }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

@@ -11,7 +11,7 @@
 #include "frame/kernels.h"
 #include "tables/table.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 namespace {
 
 // n has N = entries steps a unit.
@@ -196,4 +196,4 @@ LumStatus Expm1_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len) { return On
 LumStatus Expm1_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A50_64f>(src, dst, len); }
 LumStatus Expm1_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A53_64f>(src, dst, len); }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

@@ -9,7 +9,7 @@
 #include "frame/kernels.h"
 #include "tables/table.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 namespace {
 
 struct Float : Kernel<Lum32f> {
@@ -108,4 +108,4 @@ LumStatus Ln_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len) { return OneIn
 LumStatus Ln_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A50_64f>(src, dst, len); }
 LumStatus Ln_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A53_64f>(src, dst, len); }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

@@ -5,7 +5,7 @@
 #include "explog/logarithm_reduction.h"
 #include "tables/table.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 
 struct LogarithmTerms {
   Vec<Lum64f> base, base_tail, r;
@@ -68,4 +68,4 @@ struct LnTerms_A53 {
   }
 };
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

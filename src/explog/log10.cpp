@@ -8,7 +8,7 @@
 #include "frame/kernels.h"
 #include "tables/table.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 namespace {
 
 struct Float : Kernel<Lum32f> {
@@ -130,4 +130,4 @@ LumStatus Log10_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len) { return On
 LumStatus Log10_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A50_64f>(src, dst, len); }
 LumStatus Log10_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A53_64f>(src, dst, len); }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

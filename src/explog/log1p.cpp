@@ -10,7 +10,7 @@
 #include "frame/kernels.h"
 #include "tables/table.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 namespace {
 
 // Of the larger and the smaller of 1 and x; a NaN is both, which max and min need it as their second operand for.
@@ -187,4 +187,4 @@ LumStatus Log1p_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len) { return On
 LumStatus Log1p_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A50_64f>(src, dst, len); }
 LumStatus Log1p_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A53_64f>(src, dst, len); }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

@@ -4,7 +4,7 @@
 #include "frame/types.h"
 #include "frame/vec.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 
 // Zeros, infinities and negative numbers, of which a logarithm has to report or whose result is special. NaN is not among them:
 // the significand and the exponent of a NaN are NaN and carry it to the result.
@@ -41,4 +41,4 @@ template <int fraction_bits> LUM_INLINE ReciprocalReduction ReduceByReciprocal(V
   return {r, add(lt(c, all(0.75)), getexp(x), all(1.0)), bits(t)};
 }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

@@ -10,7 +10,7 @@
 #include "frame/types.h"
 #include "tables/table.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 
 // The logarithm of any argument; positive(x) gives that of a positive finite one.
 template <class T, class Positive> LumStatus LogarithmRoutine(T x, T& result, Positive positive) {
@@ -166,4 +166,4 @@ template <class T> T Log10Positive(T x) {
 
 template <class T> LumStatus Log10Routine(T x, T& result) { return LogarithmRoutine(x, result, Log10Positive<T>); }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

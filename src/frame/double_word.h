@@ -3,7 +3,9 @@
 // 2).
 #pragma once
 
-namespace lum {
+#include "frame/layer.h"
+
+namespace lum::inline LUM_LAYER {
 
 // hi + lo, |lo| at most half a unit in the last place of hi.
 struct DoubleWord {
@@ -32,4 +34,4 @@ inline DoubleWord ExactProduct(double a, double b) {
   return {product, ((a_high * b_high - product) + a_high * b_low + a_low * b_high) + a_low * b_low};
 }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

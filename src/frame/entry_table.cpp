@@ -2,7 +2,7 @@
 
 #include "frame/kernels.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 
 namespace {
 struct Costs {
@@ -25,4 +25,4 @@ constinit EntryTable entryTable = {
 #include "frame/catalogue.def"
 };
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

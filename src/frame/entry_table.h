@@ -4,6 +4,7 @@
 
 #include <cstdint>
 
+#include "frame/layer.h"
 #include "lumvm_types.h"
 
 namespace lum {
@@ -62,8 +63,12 @@ enum Row : int {
 };
 #undef LUM_ROW
 
-// In writable data, written by nobody; the exported stubs alone read it. Hidden, so that a stub reaches its slot directly.
 using EntryTable = FunctionRecord[row_count];
+
+// The table of a layer. In writable data, written by nobody; the exported stubs alone read it. Hidden, so that a stub reaches
+// its slot directly.
+inline namespace LUM_LAYER {
 extern __attribute__((visibility("hidden"))) EntryTable entryTable;
+}
 
 }  // namespace lum

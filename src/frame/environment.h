@@ -14,7 +14,7 @@
 #define LUM_HAS_MXCSR 0
 #endif
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 
 // Strict forces rounding, masks and flushing; mask-only leaves rounding and flushing as the caller set them.
 enum class MxcsrForm { strict, mask_only };
@@ -164,4 +164,4 @@ inline void Leave(const Environment& environment) { std::fesetenv(&environment.s
 
 #endif
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

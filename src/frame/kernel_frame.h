@@ -25,7 +25,7 @@
 #include "frame/environment.h"
 #include "frame/packed.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 
 template <class InputElement, class OutputElement = InputElement> struct Kernel {
   using Input = InputElement;
@@ -334,4 +334,4 @@ LUM_INLINE LumStatus TwoOutputs(const typename K::Input* src, typename K::Output
   return frame::RunChecked<K, 1, 2>(kernel, {{src}, {dst1, dst2}}, len);
 }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

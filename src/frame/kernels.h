@@ -3,10 +3,10 @@
 
 #include "frame/entry_table.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 
 #define LUM_ROW(function, type, shape, exported, low, mid, high) signature::shape<Lum##type> low, mid, high;
 #include "frame/catalogue.def"
 #undef LUM_ROW
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

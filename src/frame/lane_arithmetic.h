@@ -8,7 +8,7 @@
 
 #include "frame/lane_exact.h"
 
-namespace lum::lane {
+namespace lum::inline LUM_LAYER::lane {
 
 #if defined(__FMA__) || defined(__ARM_FEATURE_FMA)
 inline constexpr bool processor_has_fma = true;
@@ -192,4 +192,4 @@ template <int R, bool negate_product, bool negate_addend, Floating T> inline T c
   return is_nan(result) ? default_nan<T>() : result;
 }
 
-}  // namespace lum::lane
+}  // namespace lum::inline LUM_LAYER::lane

@@ -4,7 +4,7 @@
 
 #include "frame/lane_format.h"
 
-namespace lum::lane {
+namespace lum::inline LUM_LAYER::lane {
 
 using Wide = unsigned __int128;
 
@@ -152,4 +152,4 @@ template <int R, Floating T> [[gnu::noinline]] T exact_scalef(T a, T b) {
   return round_pack<R, T>(is_negative(a), significand, exponent + n);
 }
 
-}  // namespace lum::lane
+}  // namespace lum::inline LUM_LAYER::lane

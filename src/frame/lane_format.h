@@ -7,7 +7,7 @@
 
 #include "frame/vec_types.h"
 
-namespace lum::lane {
+namespace lum::inline LUM_LAYER::lane {
 
 template <Floating T> struct Format {
   using Bits = UnsignedOf<T>;
@@ -62,4 +62,4 @@ template <Floating T, class... Operands> LUM_INLINE T with_nan(T result, Operand
   else return is_nan(result) ? nan_of(operands...) : result;
 }
 
-}  // namespace lum::lane
+}  // namespace lum::inline LUM_LAYER::lane

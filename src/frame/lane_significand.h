@@ -3,7 +3,7 @@
 
 #include "frame/lane_arithmetic.h"
 
-namespace lum::lane {
+namespace lum::inline LUM_LAYER::lane {
 
 // |x| = 1.fraction * 2^exponent for x finite and not zero, denormals included.
 template <Floating T> struct Normalized {
@@ -171,4 +171,4 @@ LUM_INLINE double fixupimm(double a, double b, uint64_t tokens) {
   }
 }
 
-}  // namespace lum::lane
+}  // namespace lum::inline LUM_LAYER::lane

@@ -5,6 +5,8 @@
 #include <bit>
 #include <cstdint>
 
+#include "frame/layer.h"
+
 namespace lum {
 
 // Called only when bits and decimal disagree: not a constant expression, so compilation stops here.

@@ -7,7 +7,7 @@
 #include "frame/types.h"
 #include "frame/vec.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 
 // As many complex elements as a vector has lanes: the pairs re, im in memory order.
 template <Floating T> struct Interleaved { Vec<T> low, high; };
@@ -84,4 +84,4 @@ requires is_complex<E> LUM_INLINE void StoreElements(int count, E* p, Packed<E> 
   store(mask.high, parts + lanes_of<T>, x.high);
 }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

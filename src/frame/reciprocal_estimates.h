@@ -5,7 +5,7 @@
 
 #include "frame/lane_format.h"
 
-namespace lum::lane {
+namespace lum::inline LUM_LAYER::lane {
 
 struct Line {
   uint32_t a, b;
@@ -76,4 +76,4 @@ template <Floating T> inline T rsqrt14(T x) {
   return from_bits<T>((field << F::fraction_bits) + (static_cast<Bits>(significand) << (F::fraction_bits - 16)));
 }
 
-}  // namespace lum::lane
+}  // namespace lum::inline LUM_LAYER::lane

@@ -2,12 +2,12 @@
 #pragma once
 
 #ifdef LUM_AVX512
-namespace lum {
+namespace lum::inline LUM_LAYER {
 inline double scalar_fma(double a, double b, double c) { return __builtin_fma(a, b, c); }
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER
 #else
 #include "frame/lane_arithmetic.h"
-namespace lum {
+namespace lum::inline LUM_LAYER {
 inline double scalar_fma(double a, double b, double c) { return lane::careful_fma<rn, false, false>(a, b, c); }
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER
 #endif

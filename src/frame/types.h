@@ -3,6 +3,7 @@
 
 #include <type_traits>
 
+#include "frame/layer.h"
 #include "lumvm_types.h"
 
 namespace lum {

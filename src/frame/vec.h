@@ -25,12 +25,9 @@
 
 #include "frame/vec_types.h"
 
-// The layers stand in inline namespaces of their own, so that one program may hold both.
 #ifdef LUM_AVX512
-#define LUM_LAYER avx512
 #include "frame/vec_avx512.h"
 #else
-#define LUM_LAYER portable
 #include "frame/vec_portable.h"
 #endif
 #include "frame/vec_shared.h"

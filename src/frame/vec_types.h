@@ -6,6 +6,8 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "frame/layer.h"
+
 #define LUM_INLINE inline __attribute__((always_inline))
 // A stage of a long vector path. In the portable layer it is a function of its own: intermediate vectors lie on the stack
 // there, and those of one stage make room for those of the next.

@@ -6,7 +6,7 @@
 #include "frame/kernels.h"
 #include "hyperbolic/inverse_hyperbolic.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 namespace {
 
 template <class T> struct Routine : Kernel<T> {
@@ -69,4 +69,4 @@ LumStatus Acosh_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len) { return On
 LumStatus Acosh_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A50_64f>(src, dst, len); }
 LumStatus Acosh_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A53_64f>(src, dst, len); }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

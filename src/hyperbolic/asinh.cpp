@@ -6,7 +6,7 @@
 #include "frame/kernels.h"
 #include "hyperbolic/inverse_hyperbolic.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 namespace {
 
 template <class T> struct Routine : Kernel<T> {
@@ -61,4 +61,4 @@ LumStatus Asinh_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len) { return On
 LumStatus Asinh_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A50_64f>(src, dst, len); }
 LumStatus Asinh_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A53_64f>(src, dst, len); }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

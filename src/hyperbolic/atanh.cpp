@@ -7,7 +7,7 @@
 #include "frame/kernels.h"
 #include "hyperbolic/reciprocal_logarithm.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 namespace {
 
 // One of the two logarithms: ln(1 + r) - ln w.
@@ -128,4 +128,4 @@ LumStatus Atanh_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len) { return On
 LumStatus Atanh_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A50_64f>(src, dst, len); }
 LumStatus Atanh_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<High<Lum64f>>(src, dst, len); }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

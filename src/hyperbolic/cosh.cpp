@@ -4,7 +4,7 @@
 #include "hyperbolic/exponentials.h"
 #include "hyperbolic/hyperbolic_routine.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 namespace {
 
 // The bits of the least magnitude that is refused; those of infinities and NaN lie above.
@@ -93,4 +93,4 @@ LumStatus Cosh_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len) { return One
 LumStatus Cosh_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<Mid<Lum64f>>(src, dst, len); }
 LumStatus Cosh_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<High<Lum64f>>(src, dst, len); }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

@@ -10,7 +10,7 @@
 #include "frame/kernel_frame.h"
 #include "tables/table.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 
 // ln 2 in two parts: products of the first with n are exact.
 template <class T> struct Ln2;
@@ -71,4 +71,4 @@ template <int column, class T> LUM_INLINE Vec<UnsignedOf<T>> LookupHalfPower(Vec
   return bits(permute2(load(entries), load(entries + lanes_of<T>), count));
 }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

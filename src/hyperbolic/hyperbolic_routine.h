@@ -11,7 +11,7 @@
 #include "frame/types.h"
 #include "tables/table.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 
 // m = count ln(2)/64 + q for 0 <= m < 711.
 struct ScalarReduced {
@@ -135,4 +135,4 @@ template <class T> LumStatus CoshRoutine(T x, T& result) {
   return lumStsOk;
 }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

@@ -5,7 +5,7 @@
 
 #include "hyperbolic/reciprocal_logarithm.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 
 // ((1 - e)^(-1/2) - 1) / e for |e| up to 2^-13 and a little.
 LUM_INLINE Vec<Lum32f> RootSeries(Vec<Lum32f> e) { return horner(e, 0.5f, 0.375f); }
@@ -112,4 +112,4 @@ struct A26Ratio {
   LUM_INLINE Vec<Lum64f> operator()(Vec<Lum64f> r) const { return ShortLogRatio(r); }
 };
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

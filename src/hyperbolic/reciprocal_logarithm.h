@@ -6,7 +6,7 @@
 #include "frame/kernel_frame.h"
 #include "tables/table.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 
 // hi + lo = ln 2 and the columns hi and lo of ln(1 + i/N): his are short, so that multiples and sums of them are exact.
 template <class T> struct LogTable;
@@ -74,4 +74,4 @@ LUM_INLINE Vec<Lum64f> ShortLogRatio(Vec<Lum64f> r) {
                 f64(0xBFD00359551D29C9, -0.25020440399080407), f64(0x3FC9A1A3AE2FCF04, 0.2002453423043492));
 }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

@@ -5,7 +5,7 @@
 #include "hyperbolic/exponentials.h"
 #include "hyperbolic/hyperbolic_routine.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 namespace {
 
 template <class T> struct HyperbolicSine : Kernel<T> {
@@ -142,4 +142,4 @@ LumStatus Sinh_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len) { return One
 LumStatus Sinh_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A50_64f>(src, dst, len); }
 LumStatus Sinh_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A53_64f>(src, dst, len); }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

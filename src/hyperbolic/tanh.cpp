@@ -6,7 +6,7 @@
 #include "frame/kernels.h"
 #include "tables/table.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 namespace {
 
 // How the bits of |x| lead to the row.
@@ -120,4 +120,4 @@ LumStatus Tanh_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len) { return One
 LumStatus Tanh_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A50_64f>(src, dst, len); }
 LumStatus Tanh_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A53_64f>(src, dst, len); }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

@@ -6,7 +6,7 @@
 
 #include "frame/kernel_frame.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 
 // The scale below which y is taken for zero: only |x| = 1 comes there. Its reciprocal root would be infinite.
 template <class T> inline constexpr T smallest_y = f32(0x2F800000, 0x1p-32);
@@ -116,4 +116,4 @@ template <class T> LumStatus OutsideUnitInterval(T x, T& result) {
   return x != x ? lumStsOk : lumStsDomain;
 }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

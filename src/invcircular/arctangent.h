@@ -3,7 +3,7 @@
 
 #include "frame/kernel_frame.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 
 // n / d to nearly the last place, by significands and exponents, so that no size of n and d matters.
 LUM_INLINE Vec<Lum32f> SignificandReciprocal(Vec<Lum32f> m) { return rcp14(m); }
@@ -54,4 +54,4 @@ LUM_INLINE Vec<Lum64f> ShortArctangent(Vec<Lum64f> s) {
 template <class T> inline constexpr T half_pi = f32(0x3FC90FDB, 1.5707963705062866);
 template <> inline constexpr Lum64f half_pi<Lum64f> = f64(0x3FF921FB54442D18, 1.5707963267948966);
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

@@ -4,7 +4,7 @@
 #include "frame/kernels.h"
 #include "invcircular/arcsine.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 namespace {
 
 template <class T> struct Arguments {
@@ -83,4 +83,4 @@ LumStatus Asin_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len) { return One
 LumStatus Asin_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A50_64f>(src, dst, len); }
 LumStatus Asin_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A53_64f>(src, dst, len); }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

@@ -7,7 +7,7 @@
 #include "invcircular/arctangent.h"
 #include "tables/table.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 namespace {
 
 template <class T> struct Grid;
@@ -135,4 +135,4 @@ LumStatus Atan_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len) { return One
 LumStatus Atan_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<Mid<Lum64f>>(src, dst, len); }
 LumStatus Atan_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<High<Lum64f>>(src, dst, len); }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

@@ -3,7 +3,7 @@
 #include "invcircular/atan2_path.h"
 #include "invcircular/atan2_routine.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 namespace {
 
 template <class Path, int vectors_in_block = 2> struct TwoArguments : Kernel<typename Path::Element> {
@@ -41,4 +41,4 @@ LumStatus Atan2_64f_A53(const Lum64f* src1, const Lum64f* src2, Lum64f* dst, int
   return TwoInputs<A53_64f>(src1, src2, dst, len);
 }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

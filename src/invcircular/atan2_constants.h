@@ -7,7 +7,7 @@
 #include "frame/literals.h"
 #include "frame/types.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 
 template <class T> struct IntervalConstants;
 template <> struct IntervalConstants<Lum32f> {
@@ -42,4 +42,4 @@ template <> struct IntervalConstants<Lum64f> {
       f64(0xBFA04CD71F92185E, -0.03183624515899973), f64(0x3F8BE4FBE6733718, 0.013620346040990536)};
 };
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

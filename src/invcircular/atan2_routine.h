@@ -9,7 +9,7 @@
 #include "frame/lane_format.h"
 #include "invcircular/atan2_constants.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 
 // The significand of a positive number in [1, 2) and its exponent.
 struct ScaledNumber {
@@ -85,4 +85,4 @@ template <class T> void Atan2Routine(T y, T x, T& result) {
   result = std::signbit(y) ? -magnitude : magnitude;
 }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

@@ -10,7 +10,7 @@
 #include "pow/power_routine.h"
 #include "tables/table.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 namespace {
 
 template <class T> struct PowConstants;
@@ -318,4 +318,4 @@ LumStatus Pow_64f_A53(const Lum64f* src1, const Lum64f* src2, Lum64f* dst, int32
   return TwoInputs<A53_64f>(src1, src2, dst, len);
 }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

@@ -12,7 +12,7 @@
 #include "frame/types.h"
 #include "tables/table.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 
 // Of the scheme of PowerMagnitude in either type. A table of a stage has rows c, hi, lo.
 template <class T> struct PowerConstants;
@@ -255,4 +255,4 @@ template <class T> LumStatus PowerRoutine(T x, T y, T& result) {
   return lumStsOk;
 }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

@@ -8,7 +8,7 @@
 #include "pow/powx_chains.h"
 #include "pow/powx_general.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 namespace {
 
 // Kernels of a tier. The powers of thirds are null where the general path serves their exponents.
@@ -132,4 +132,4 @@ LumStatus Powx_64f_A53(const Lum64f* src, Lum64f value, Lum64f* dst, int32_t len
   return WithoutChains<PowxA53_64f>(Arguments<Lum64f>{src, dst, len}, value, kernels_A53);
 }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

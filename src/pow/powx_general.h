@@ -10,7 +10,7 @@
 #include "pow/power_routine.h"
 #include "tables/table.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 
 template <class T> struct PowxGeneral : Kernel<T> {
   T value;
@@ -271,4 +271,4 @@ struct PowxA53_64f : PowxGeneral<Lum64f> {
   }
 };
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

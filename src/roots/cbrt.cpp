@@ -4,7 +4,7 @@
 #include "frame/kernels.h"
 #include "roots/thirds.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 namespace {
 
 // c^p of the reciprocals c, and what the rounded entries leave.
@@ -76,4 +76,4 @@ LumStatus Cbrt_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len) {
   return OneInput<CbrtKernel<Lum64f, Tier::high>>(src, dst, len);
 }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

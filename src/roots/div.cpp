@@ -9,7 +9,7 @@
 #include "frame/kernel_frame.h"
 #include "frame/kernels.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 namespace {
 
 template <class T> struct DivKernel : Kernel<T> {
@@ -83,4 +83,4 @@ LumStatus Div_64f_A53(const Lum64f* src1, const Lum64f* src2, Lum64f* dst, int32
   return TwoInputs<BySignificands<Lum64f>>(src1, src2, dst, len);
 }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

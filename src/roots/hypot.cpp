@@ -14,7 +14,7 @@
 #include "frame/lane_format.h"
 #include "roots/coupled_root.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 namespace {
 
 // The root of m^2 + n^2 for n <= m, m near 1. One step with the exact residual makes the result correct to its last bits.
@@ -131,4 +131,4 @@ LumStatus Hypot_64f_A53(const Lum64f* src1, const Lum64f* src2, Lum64f* dst, int
   return TwoInputs<Exact<Lum64f, 1>>(src1, src2, dst, len);
 }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

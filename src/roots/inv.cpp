@@ -5,7 +5,7 @@
 #include "frame/kernel_frame.h"
 #include "frame/kernels.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 namespace {
 
 template <class T> struct InvKernel : Kernel<T> {
@@ -37,4 +37,4 @@ LumStatus Inv_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len) { return OneI
 LumStatus Inv_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<Newton<Lum64f, 1>>(src, dst, len); }
 LumStatus Inv_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<Newton<Lum64f, 2>>(src, dst, len); }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

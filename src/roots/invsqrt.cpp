@@ -6,7 +6,7 @@
 #include "frame/kernel_frame.h"
 #include "frame/kernels.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 namespace {
 
 // Zeros, infinities and negative numbers are refused; NaN and denormals run through.
@@ -87,4 +87,4 @@ LumStatus InvSqrt_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len) { return 
 LumStatus InvSqrt_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A50_64f>(src, dst, len); }
 LumStatus InvSqrt_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A53_64f>(src, dst, len); }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

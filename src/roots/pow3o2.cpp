@@ -11,7 +11,7 @@
 #include "frame/kernels.h"
 #include "tables/table.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 namespace {
 
 constexpr auto midpoint_values = table64({
@@ -127,4 +127,4 @@ LumStatus Pow3o2_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len) {
   return OneInput<ByRoot<Lum64f, 2, true>>(src, dst, len);
 }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

@@ -9,7 +9,7 @@
 #include "frame/kernels.h"
 #include "roots/coupled_root.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 namespace {
 
 // Zeros, infinities and negative numbers are refused; NaN and denormals run through.
@@ -76,4 +76,4 @@ LumStatus Sqrt_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len) { return One
 LumStatus Sqrt_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<Coupled<Lum64f, 2>>(src, dst, len); }
 LumStatus Sqrt_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<Heron<Lum64f>>(src, dst, len); }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

@@ -8,7 +8,7 @@
 #include "frame/kernel_frame.h"
 #include "tables/table.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 
 enum class Power { one_third, minus_one_third, two_thirds };
 
@@ -131,4 +131,4 @@ template <class F, Tier tier, class T> LUM_INLINE Vec<T> ThirdsMagnitude(const T
   }
 }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

@@ -5,6 +5,8 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "frame/layer.h"
+
 namespace lum {
 
 template <class T, size_t n> struct alignas(64) Table {

@@ -2,8 +2,8 @@
 // information, from which the binary interface is read.
 #include "frame/entry_table.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 
 constinit EntryTable entryTable = {};
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

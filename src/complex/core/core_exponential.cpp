@@ -3,7 +3,7 @@
 
 #include "complex/core/parts.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 namespace {
 
 // |x| at which e^x has long left the range of binary64.
@@ -186,4 +186,4 @@ void CorePow(ComplexDouble& result, const ComplexDouble& z, const ComplexDouble&
   CoreExp(result, product);
 }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

@@ -4,7 +4,7 @@
 //   tanh z = (sinh x cosh x + i sin y cos y) / (cos^2 y + sinh^2 x)
 #include "complex/core/parts.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 namespace {
 
 // |x| at which e^x has long left the range of binary64, and at which tanh x has long been 1.
@@ -156,4 +156,4 @@ void CoreTan(ComplexDouble& result, const ComplexDouble& z) {
   result = OverI<IsNan<Lum64f>>(rotated);
 }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

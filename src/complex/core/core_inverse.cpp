@@ -3,7 +3,7 @@
 // the other.
 #include "complex/core/parts.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 namespace {
 
 constexpr Lum64f quarter_pi = 0x1.921fb54442d18p-1;
@@ -183,4 +183,4 @@ void CoreAtan(ComplexDouble& result, const ComplexDouble& z) {
   result = OverI(rotated);
 }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

@@ -3,7 +3,7 @@
 #include "complex/core/extended_pair.h"
 #include "complex/core/parts.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 namespace {
 
 bool BothFinite(const ComplexDouble& z) { return IsFinite(z.re) && IsFinite(z.im); }
@@ -81,4 +81,4 @@ void CoreAbs(Lum64f& result, const ComplexDouble& z) {
   result = static_cast<Lum64f>(root);
 }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

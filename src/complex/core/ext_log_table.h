@@ -5,7 +5,7 @@
 #include "complex/core/extended_pair.h"
 #include "frame/literals.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 
 inline constexpr auto log_reciprocals = table32({
 #include "tables/generated/extended_log_reciprocals.inc"
@@ -38,4 +38,4 @@ inline ExtendedPair LogByTable(ExtendedPair x) {
   return LogByTable(n, {significand(x.head), x.tail == 0 ? 0 : x.tail * power_of_two(-n)});
 }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

@@ -5,7 +5,7 @@
 #include "complex/core/extended_pair.h"
 #include "frame/literals.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 
 // e^r - 1 = even + odd, e^-r - 1 = even - odd, |r| <= ln2/512 and a little.
 struct PowerArgument {
@@ -39,4 +39,4 @@ inline ExtendedPair TablePower(int j, Extended p) {
   return {power.head, power.tail + (power.head + power.tail) * p};
 }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

@@ -5,7 +5,7 @@
 
 #include "frame/literals.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 namespace {
 
 constexpr int direct_limit = 0x401c;      // exponent field of the last direct range, below 2^30
@@ -120,4 +120,4 @@ int64_t ExtReducePi4(ExtendedPair& remainder, const Extended& x) {
   return is_negative ? -r.count : r.count;
 }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

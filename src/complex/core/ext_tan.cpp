@@ -4,7 +4,7 @@
 #include "complex/core/ext_reduce.h"
 #include "frame/literals.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 namespace {
 
 // (tan x - x - x^3/3) / x^5, |x| <= pi/64 and a little.
@@ -60,4 +60,4 @@ Extended TanOf(const Extended& x) {
 
 void ExtTan(Extended& result, const Extended& x) { result = TanOf(x); }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

@@ -11,7 +11,7 @@
 
 #include "frame/types.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 
 using Extended = long double;
 static_assert(std::numeric_limits<Extended>::digits >= 64, "the complex cores need 64 significand bits");
@@ -45,4 +45,4 @@ void ExtAsinh(Extended& result, const Extended& x);
 void ExtAcosh(Extended& result, const Extended& x);
 void ExtAtanh(Extended& result, const Extended& x);
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

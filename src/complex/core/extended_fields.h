@@ -8,7 +8,7 @@
 
 #include "complex/core/extended.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 
 using ExtendedLimits = std::numeric_limits<Extended>;
 inline constexpr int extended_digits = ExtendedLimits::digits;
@@ -110,4 +110,4 @@ inline Extended sign_factor(bool is_negative) { return unit_signs[is_negative ? 
 // magnitude, not NaN, with the sign bit of sign.
 inline Extended with_sign_of(Extended magnitude, const Extended& sign) { return magnitude * sign_factor(sign_bit(sign)); }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

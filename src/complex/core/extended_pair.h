@@ -8,7 +8,7 @@
 #include "complex/core/extended_fields.h"
 #include "tables/table.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 
 struct ExtendedPair {
   Extended head, tail;
@@ -123,4 +123,4 @@ template <size_t terms, size_t n> inline Extended odd_series(const std::array<Ex
   return x + x * square * first_terms<terms>(c, square);
 }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

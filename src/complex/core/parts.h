@@ -10,7 +10,7 @@
 #include "complex/core/cores.h"
 #include "complex/core/extended.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 
 template <std::floating_point T> struct PartFormat;
 template <> struct PartFormat<Lum32f> {
@@ -70,4 +70,4 @@ inline void Finish(ComplexDouble& result, Lum64f re, Lum64f im) {
   result = {re, im};
 }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

@@ -6,7 +6,7 @@
 #include "complex/pairs/pair.h"
 #include "tables/table.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 
 // Of (x, y) with positive y and any x other than 0: in (0, pi).
 LUM_INLINE HeadTail Angle(HeadTail y, HeadTail x) {
@@ -46,4 +46,4 @@ LUM_INLINE HeadTail Angle(HeadTail y, HeadTail x) {
   return Normalised(sum.head, sum.tail + (tail + u.tail));
 }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

@@ -5,7 +5,7 @@
 #include "complex/pairs/pair.h"
 #include "tables/table.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 
 // Up to here k times the leading parts of pi/128 is exact.
 inline constexpr Lum64f largest_angle = 10000;
@@ -49,4 +49,4 @@ LUM_INLINE CircularPair SineCosineOf(Vec<Lum64f> y) {
           lt(abs(r), all(0x1p-19)) & ne(k, all(0.0))};
 }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

@@ -5,7 +5,7 @@
 #include "complex/pairs/pair.h"
 #include "tables/table.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 
 // Arguments up to this size have results, and terms of results, well within the exponent range.
 inline constexpr Lum64f largest_exponent = 600;
@@ -69,4 +69,4 @@ LUM_INLINE SinhCosh HyperbolicPair(Vec<Lum64f> x) {
           Normalised(cosh.head, fma(c.head, cosh_rest, fma(s.head, sinh_rest, cosh_tail)))};
 }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

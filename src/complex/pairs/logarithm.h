@@ -5,7 +5,7 @@
 #include "complex/pairs/pair.h"
 #include "tables/table.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 
 struct LogarithmTerms {
   Vec<Lum64f> base, base_tail;  // k ln 2 - ln c
@@ -51,4 +51,4 @@ LUM_INLINE HeadTail LogarithmOfOnePlus(HeadTail z) {
   return SumLogarithm(terms);
 }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

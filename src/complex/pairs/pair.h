@@ -6,7 +6,7 @@
 #include "frame/types.h"
 #include "frame/vec.h"
 
-namespace lum {
+namespace lum::inline LUM_LAYER {
 
 struct HeadTail {
   Vec<Lum64f> head, tail;
@@ -86,4 +86,4 @@ LUM_INLINE HeadTail SquareRoot(HeadTail a) {
   return {g, (fnma(g, g, a.head) + a.tail) * h};
 }
 
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER
