@@ -3,7 +3,8 @@
  * lums<Function>_<type>_<tag>(src, dst, len) applies a function to len elements and returns a status. The type is 32f or 64f
  * (binary32, binary64) or 32fc or 64fc (complex: pairs re, im in adjacent memory). The tag is the number of correct bits of the
  * significand that the function guarantees: A11, A21, A24 for the 32-bit types, A26, A50, A53 for the 64-bit ones. At A24 and
- * A53 the error of a real function is below one unit in the last place. Fewer bits are faster.
+ * A53 the error of a real function is below one unit in the last place (ulp), but for what is said at Tanh. Fewer bits are
+ * faster.
  *
  * For every function:
  *   - Arrays need no alignment. dst may be the same array as a source; partly overlapping arrays are not provided for.
