@@ -3,7 +3,8 @@
  * lums<Function>_<type>_<tag>(src, dst, len) applies a function to len elements and returns a status. The type is 32f or 64f
  * (binary32, binary64) or 32fc or 64fc (complex: pairs re, im in adjacent memory). The tag is the number of correct bits of the
  * significand that the function guarantees: A11, A21, A24 for the 32-bit types, A26, A50, A53 for the 64-bit ones. At A24 and
- * A53 the error of a real function is below one unit in the last place. Fewer bits are faster.
+ * A53 the error of a real function is below one unit in the last place (ulp), but for what is said at Tanh. Fewer bits are
+ * faster.
  *
  * For every function:
  *   - Arrays need no alignment. dst may be the same array as a source; partly overlapping arrays are not provided for.
@@ -16,8 +17,9 @@
  *     and some of 64fc may take denormal arguments for zero. No exception flag but inexact is raised; of the caller's sticky
  *     flags all but that one may be found cleared.
  *   - All functions are reentrant and thread-safe, allocate nothing and keep no state.
- * Relative cost figures rank the functions and tags; they are of the same kind for all functions. Those of hundreds are of an
- * element that goes through scalar code of extended precision; with AVX-512 an array takes about a tenth of that.
+ * Relative cost figures rank the functions and tags: times of an element of a long array with AVX-512, in one unit. Those of Acos
+ * 32fc, Powx 64fc, Sqrt 64fc A53 and Exp 64fc A53 are of an element that goes through scalar code of extended precision; in an
+ * array it takes between a fifteenth and a third of that.
  *
  * The types and statuses are in lumvm_types.h, the functions with their domains, special values and statuses in
  * lumvm_functions.h. */

@@ -2119,8 +2119,9 @@ auto tan(const W& way, const X& x) {
   return y;
 }
 
-// The hyperbolic tangent of x. Complex: The hyperbolic tangent of z. All tags are one function, right in each part nearly
-// always to the last bit.
+// The hyperbolic tangent of x. At 64f A53 the error reaches 1.01 ulp, for |x| just above 1/8, 1/16 and 1/32 with a result
+// just below that power of 2; there neighbours can be out of order by an ulp. Complex: The hyperbolic tangent of z. All
+// tags are one function, right in each part nearly always to the last bit.
 // lumsTanh: float, double, std::complex<float>, std::complex<double>.
 template <accuracy a = high, class X, class Y>
 requires detail::gives<detail::tanh, X, Y>

@@ -15,6 +15,7 @@
   scalar                       in C++, of x and y, the loop to compare with, where it is no call of `c`; two outputs: first, second
   reference64                  the function of tools/accuracy/cheap_reference.cpp that gives it in binary64, where `scalar` does not
   mpfr, mpc                    the function of MPFR or MPC that gives it, or one of tools/accuracy/reference.cpp
+  borders                      where its kernels change segments, tables or paths, in the words of make_borders.py
   python, cpp                  its names in Python, the first one being its own, and in C++
 
 A value that differs between types is a table by type. Arguments are numbers, or lists of them: the parts of the first input,

@@ -61,6 +61,15 @@ inline ReducedArgument ReduceByChunks(double magnitude) {
   octants.hi -= static_cast<double>(whole & ~int64_t{7});        // whole turns; exact
   octants.hi -= static_cast<double>((whole & 7) + (whole & 1));  // to the nearest even octant
   octants.Normalise();
+  int64_t quarters = ((whole & 7) + 1) >> 1;
+  // The last bit of a large head is worth up to four octants, of which the tail holds the rest: what lies next to another even
+  // octant has to lose it before more pieces are added, since the sum cannot hold both to the bits that a cancellation leaves.
+  if (octants.hi >= 1.5 || octants.hi <= -1.5) {
+    const double even = (octants.hi + 0x1.8p53) - 0x1.8p53;
+    octants.hi -= even;
+    octants.Normalise();
+    quarters += static_cast<int64_t>(even) / 2;
+  }
   add_pairs(3, 7);
   octants.Normalise();
 
@@ -70,7 +79,7 @@ inline ReducedArgument ReduceByChunks(double magnitude) {
   const double part1 = f64(0x3FE921FB40000000, 0.7853981256484985), part2 = f64(0x3E64442D18469899, 3.774894977445941e-08);
   CompensatedSum r{head * part1, rest * part1 + (rest + head) * part2};
   r.Normalise();
-  return {r.hi, r.lo, ((whole & 7) + 1) >> 1};
+  return {r.hi, r.lo, quarters};
 }
 
 // magnitude in [2^17, 2^30).

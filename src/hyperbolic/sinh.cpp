@@ -93,8 +93,9 @@ struct A24_32f : HyperbolicSine<Lum32f> {
   }
 };
 
-// 128 rows, which need few terms. What the difference of the two powers lacks matters next to zero, where it is small and the
-// exponent part is zero.
+// 128 rows, which need few terms. The third column is what the difference of the two powers lacks. It is exact where the
+// exponent part is zero, which is where the difference may be small. Elsewhere the first power and with it the column grow by
+// 2^m; that the share of the second power, of at most 2^-55 before, grows too instead of vanishing is within the tag.
 struct A50_64f : HyperbolicSine<Lum64f> {
   static constexpr int row_bits = 7;
   static constexpr size_t row_count = 128;
@@ -109,7 +110,7 @@ struct A50_64f : HyperbolicSine<Lum64f> {
     const auto plus = as_float(bits(gather<Lum64f>(columns, row)) + exponent);
     const auto minus = as_float(bits(gather(columns + row_count, row)) - exponent);
     const auto sum = plus + minus, difference = plus - minus;
-    const auto low = ((plus - difference) - minus) + gather(columns + 2 * row_count, row);
+    const auto low = ((plus - difference) - minus) + as_float(bits(gather(columns + 2 * row_count, row)) + exponent);
     const auto r2 = r * r;
     const auto s =
         fma(r * r2, horner(r2, f64(0x3FC55555555554AD, 0.166666666666662), f64(0x3F8111115712F425, 0.008333335370815995)), r);

@@ -45,6 +45,14 @@ TEST(Tanh, AccuracyNextToBordersAndCentres) {
   }
 }
 
+// The last sum carries into the power of 2 above the result, whose units are twice as large.
+TEST(Tanh, AccuracyJustBelowPowersOf2) {
+  Arguments1 x;
+  for (double close : {0x1.0112211d747a8p-3, 0x1.00380353e830fp-4, 0x1.fffffff9c3aa7p-5}) x = x + Around(close, false);
+  for (double power = 0x1p-6; power < 1; power *= 2) x = x + Between(power, std::atanh(power), 20000);
+  ExpectAccuracy("Tanh_64f", mpfr_tanh, WithNegatives(x));
+}
+
 TEST(Tanh, Accuracy) {
   const Arguments1 near = Between(-3, 3, 20000) + BetweenMagnitudes(0.01, 30, 20000) + BetweenMagnitudes(-0.01, -30);
   ExpectAccuracy("Tanh_32f", mpfr_tanh, near + BetweenMagnitudes(1.5e-45, 1) + BetweenMagnitudes(-1.5e-45, -1));

@@ -2,10 +2,11 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
 #include <map>
-#include <random>
 #include <string_view>
+
+#include "accuracy/generator.h"
+#include "accuracy/hard_inputs.h"
 
 namespace lum::accuracy {
 namespace {
@@ -91,7 +92,10 @@ const std::map<std::string_view, Domain>& Domains() {
         {87.33653259277344, 89.41598629223294, 669.8, 707.7, 710.4758600739439, 0.0027076062, 0.0108304247, 0.0216608494, 1}}},
       {"Sqrt", {{0, 100}, {0, 100}, {1, 2, 4, 0x1p-78, 0x1p-916}}},
       {"Tan", {{-100, 100}, {-100, 100}, circular_points}},
-      {"Tanh", {{-10, 10}, {-22, 22}, {1, 9.01, 19.06, 0.5, 0.0546875, 0.1875, 5, 10, 24}}},
+      {"Tanh",
+       {{-10, 10},
+        {-22, 22},
+        {1, 9.01, 19.06, 0.5, 0.0546875, 0.1875, 5, 10, 24, 0x1.0112211d747a8p-3, 0x1.00380353e830fp-4, 0x1.fffffff9c3aa7p-5}}},
   };
   return domains;
 }
@@ -105,51 +109,6 @@ const Domain& DomainOf(const Export& entry) {
 bool IsCircular(std::string_view function) {
   return function == "Sin" || function == "Cos" || function == "SinCos" || function == "CIS" || function == "Tan";
 }
-
-// Numbers of the type as doubles.
-class Generator {
- public:
-  Generator(const Export& entry, uint64_t seed) : is32_(entry.is_32bit()), engine_(seed) {}
-
-  double Round(double x) const { return is32_ ? static_cast<double>(static_cast<float>(x)) : x; }
-  double Uniform(Interval range) {
-    return Round(range.low + (range.high - range.low) * (static_cast<double>(engine_() >> 11) * 0x1p-53));
-  }
-  // Any finite number: every exponent is as frequent.
-  double AnyBits() {
-    for (;;) {
-      const double x = is32_ ? static_cast<double>(std::bit_cast<float>(static_cast<uint32_t>(engine_())))
-                             : std::bit_cast<double>(engine_());
-      if (std::isfinite(x)) return x;
-    }
-  }
-  // A magnitude within 2^-spread to 2^spread.
-  double LogUniform(double spread) {
-    const double x = Round(std::exp2(Uniform({-spread, spread})));
-    return (engine_() & 1) != 0 ? -x : x;
-  }
-  double Denormal() {
-    const double x = is32_ ? static_cast<double>(std::bit_cast<float>(static_cast<uint32_t>(engine_() & 0x807FFFFF)))
-                           : std::bit_cast<double>(engine_() & 0x800FFFFFFFFFFFFF);
-    return x;
-  }
-  double Neighbour(double x, int steps) const {
-    const double towards = steps < 0 ? -std::numeric_limits<double>::infinity() : std::numeric_limits<double>::infinity();
-    for (int i = 0; i < std::abs(steps); ++i) {
-      x = is32_ ? static_cast<double>(std::nextafter(static_cast<float>(x), static_cast<float>(towards)))
-                : std::nextafter(x, towards);
-    }
-    return x;
-  }
-  double Smallest() const { return is32_ ? 0x1p-149 : 0x1p-1074; }
-  double Largest() const { return is32_ ? 0x1.fffffep127 : 0x1.fffffffffffffp1023; }
-  double SmallestNormal() const { return is32_ ? 0x1p-126 : 0x1p-1022; }
-  uint64_t Bits() { return engine_(); }
-
- private:
-  bool is32_;
-  std::mt19937_64 engine_;
-};
 
 // Finite arguments along one axis.
 std::vector<double> Axis(const Export& entry, size_t count, uint64_t seed) {
@@ -275,6 +234,34 @@ Interval OrdinaryRange(const Export& entry) {
   const Interval range = entry.is_32bit() ? domain.range32 : domain.range64;
   if (entry.function == "Pow" || entry.function == "Powx") return {0.1, 20};
   return {std::max(range.low, -20.0), std::min(range.high, 20.0)};
+}
+
+const char* NameOf(InputClass inputs) {
+  switch (inputs) {
+    case InputClass::sample:
+      return "sample";
+    case InputClass::borders:
+      return "borders";
+    case InputClass::quarter_turns:
+      return "quarter-turns";
+    case InputClass::unit_circle:
+      return "unit-circle";
+  }
+  return "";
+}
+
+std::vector<Point> PointsOf(const Export& entry, InputClass inputs, size_t count) {
+  switch (inputs) {
+    case InputClass::sample:
+      return SamplePoints(entry, count);
+    case InputClass::borders:
+      return PointsAtBorders(entry, count);
+    case InputClass::quarter_turns:
+      return PointsAtQuarterTurns(entry);
+    case InputClass::unit_circle:
+      return PointsOnUnitCircle(entry, count);
+  }
+  return {};
 }
 
 std::vector<Point> SamplePoints(const Export& entry, size_t count) {

@@ -3,6 +3,7 @@
 #include <fmt/ostream.h>
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <bit>
 #include <filesystem>
 #include <fstream>
@@ -78,6 +79,7 @@ void WriteCurve(const std::filesystem::path& directory, const Export& entry, con
 struct Options {
   std::vector<std::string> functions;
   bool exhaustive = false;
+  std::vector<std::string> inputs;
   size_t count = 60000;
   std::string csv;
   std::string curves;
@@ -101,9 +103,10 @@ std::vector<const Export*> Chosen(const Options& options) {
   return chosen;
 }
 
-void PrintRow(const Export& entry, const Accuracy& a) {
+void PrintRow(const Export& entry, const std::string& inputs, const Accuracy& a) {
   const double share = 100.0 * static_cast<double>(a.correctly_rounded) / static_cast<double>(a.count);
-  fmt::print("{:<24} {:>10.7g} ulp {:>6.1f} bits {:>9.4f} % rounded", entry.name, a.worst.ulp, a.Bits(entry), share);
+  fmt::print("{:<24} {:<13} {:>10.7g} ulp {:>6.1f} bits {:>9.4f} % rounded", entry.name, inputs, a.worst.ulp, a.Bits(entry),
+             share);
   if (lum::support::IsComplex(entry.output)) fmt::print(" {:>10.7g} ulp norm-wise", a.worst_norm.ulp);
   if (a.wrong_class != 0) {
     fmt::print("  {} of the wrong class, as at {}", a.wrong_class,
@@ -113,9 +116,9 @@ void PrintRow(const Export& entry, const Accuracy& a) {
   std::fflush(stdout);
 }
 
-void Report(const Options& options, const Export& entry, const Accuracy& accuracy) {
-  PrintRow(entry, accuracy);
-  if (!options.csv.empty()) Record(options.csv, Row(entry, options.exhaustive ? "all" : "sample", accuracy));
+void Report(const Options& options, const Export& entry, const std::string& inputs, const Accuracy& accuracy) {
+  PrintRow(entry, inputs, accuracy);
+  if (!options.csv.empty()) Record(options.csv, Row(entry, inputs, accuracy));
 }
 
 // The chosen exports by function and type, those of all tags together.
@@ -137,18 +140,22 @@ void RunOverSamples(const Options& options, const Library& library, const Group&
     fmt::print(stderr, "accuracy: {} {} is skipped: no reference\n", group[0]->function, group[0]->type);
     return;
   }
-  const std::vector<Point> points = SamplePoints(*group[0], options.count);
-  const ExactValues exact(reference, points);
-  for (const Export* entry : group) {
-    const Accuracy accuracy = Measure(library, *entry, points, exact);
-    if (!options.curves.empty()) WriteCurve(options.curves, *entry, accuracy);
-    Report(options, *entry, accuracy);
+  for (const InputClass inputs : input_classes) {
+    if (!options.inputs.empty() && std::ranges::find(options.inputs, NameOf(inputs)) == options.inputs.end()) continue;
+    const std::vector<Point> points = PointsOf(*group[0], inputs, options.count);
+    if (points.empty()) continue;
+    const ExactValues exact(reference, points);
+    for (const Export* entry : group) {
+      const Accuracy accuracy = Measure(library, *entry, points, exact);
+      if (inputs == InputClass::sample && !options.curves.empty()) WriteCurve(options.curves, *entry, accuracy);
+      Report(options, *entry, NameOf(inputs), accuracy);
+    }
   }
 }
 
 void RunOverAll(const Options& options, const Library& library, const Group& group) {
   const std::vector<Accuracy> accuracies = MeasureAll(library, group);
-  for (size_t i = 0; i < group.size(); ++i) Report(options, *group[i], accuracies[i]);
+  for (size_t i = 0; i < group.size(); ++i) Report(options, *group[i], "all", accuracies[i]);
 }
 
 void Run(const Options& options) {
@@ -171,6 +178,11 @@ int main(int argc, char** argv) {
   Options options;
   app.add_option("functions", options.functions, "functions (Exp) or exports (lumsExp_32f_A24); all when none is given");
   app.add_flag("--exhaustive", options.exhaustive, "all 2^32 arguments of the functions of one 32f input");
+  app.add_option("--inputs", options.inputs,
+                 "kinds of inputs: sample, borders, quarter-turns, unit-circle; all when none is given")
+      ->check(CLI::IsMember({"sample", "borders", "quarter-turns", "unit-circle"}))
+      ->take_all()
+      ->allow_extra_args(false);
   app.add_option("--count", options.count, "points a function and type");
   app.add_option("--csv", options.csv, "results file to update");
   app.add_option("--curves", options.curves, "folder for the error over the argument");

@@ -105,6 +105,9 @@ void AddToNorm(Worst& worst, const Point& point, double re, double im, mpfr_srcp
 double Bound(const Export& entry) {
   const int significand = FormatOf(entry.is_32bit()).significand;
   if (support::DeclarationOf(entry).is_exact && !entry.is_complex()) return 0.5;
+  // Just above 2^-3, 2^-4 and 2^-5 the sum of the value at the centre and the rest is rounded in units that are twice the
+  // result's.
+  if (entry.name == "lumsTanh_64f_A53") return 1.01;
   return entry.tier == support::Tier::high ? 1 : std::ldexp(0.5, significand - entry.bits());
 }
 

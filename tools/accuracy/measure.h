@@ -10,7 +10,7 @@
 namespace lum::accuracy {
 
 // An error of at most this many ulp is what the tag promises: below 1 at the high tags of functions that are not exact, half a
-// unit of the promised last bit at the others.
+// unit of the promised last bit at the others. One export has a limit of its own.
 double Bound(const support::Export& entry);
 
 struct Worst {
