@@ -36,6 +36,17 @@ extern "C" {
 /* The version of the library, a constant record that the caller must not change or free. Never fails. */
 LUM_API const LumLibraryVersion* lumvmGetLibVersion(void);
 
+/* The following two are exported by liblumvm alone, which holds the code for several kinds of processors ("layers") and takes the
+ * fastest one that this processor and its operating system run, when it is loaded. All layers give the same results. */
+
+/* The layer that runs: "avx512", "avx2" or "portable". Never fails. */
+LUM_API const char* lumvmGetLayer(void);
+
+/* Takes another layer, to repeat what another machine does, or with NULL the fastest one again. Returns 0, or -1 where the library
+ * has no such layer or this processor cannot run it, and then nothing changes. No other function of the library may run at the
+ * same time. */
+LUM_API int lumvmSetLayer(const char* layer);
+
 #ifdef __cplusplus
 }
 #endif

@@ -2,7 +2,8 @@
 // for a parameter too large for a register.
 #include "frame/catalogue_names.h"
 #include "frame/entry_table.h"
-#include "lumvm_functions.h"
+#include "frame/version.h"
+#include "lumvm.h"
 
 using lum::entryTable;
 
@@ -43,5 +44,9 @@ extern "C" {
 #define LUM_STUB(name, function, type, shape, tag, slot) LUM_STUB_##shape(name, type, Row_##function##_##type, slot)
 #define LUM_ROW(function, type, shape, exported, ...) LUM_EXPORTS_##exported(LUM_STUB, function, type, shape)
 #include "frame/catalogue.def"
+
+#ifndef LUM_CHOOSES_LAYER
+const LumLibraryVersion* lumvmGetLibVersion(void) { return &lum::libraryVersion; }
+#endif
 
 }  // extern "C"

@@ -3,7 +3,9 @@
 // layers, and no function compiled for one processor is taken for that of another.
 #pragma once
 
-#if defined(LUM_AVX512)
+#if defined(LUM_CHOOSES_LAYER)  // the stubs of the library that holds several, and their table
+#define LUM_LAYER chosen
+#elif defined(LUM_AVX512)
 #define LUM_LAYER avx512
 #elif defined(LUM_AVX2)
 #define LUM_LAYER avx2

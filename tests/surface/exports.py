@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""Checks that libraries export exactly the catalogue's names and lumvmGetLibVersion: exports.py LIBRARY..."""
+"""Checks that libraries export exactly the catalogue's names and lumvmGetLibVersion: exports.py [--choosing] LIBRARY...
+With --choosing, the two names of the library that chooses its layer are expected, too."""
 
 import subprocess
 import sys
@@ -17,8 +18,12 @@ def exported(library):
 
 def main():
     expected = {name for row in catalogue.rows() for name, _ in row.exports()} | {"lumvmGetLibVersion"}
+    libraries = sys.argv[1:]
+    if libraries[0] == "--choosing":
+        expected |= {"lumvmGetLayer", "lumvmSetLayer"}
+        libraries = libraries[1:]
     good = True
-    for library in sys.argv[1:]:
+    for library in libraries:
         names = exported(library)
         for name in sorted(set(names) - expected):
             print(f"{library}: {name} is exported and not in the catalogue")

@@ -14,15 +14,22 @@ cmake --build "$scratch/build" >/dev/null
 "$scratch/build/outside_cpp"
 
 PKG_CONFIG_PATH=$(dirname "$(find "$scratch/prefix" -name lumvm.pc)")
-LD_LIBRARY_PATH=$(dirname "$(find "$scratch/prefix" -name 'liblumvmp0.so')")
+LD_LIBRARY_PATH=$(dirname "$(find "$scratch/prefix" -name 'liblumvm.so')")
 export PKG_CONFIG_PATH LD_LIBRARY_PATH
-for package in lumvm lumvmk0 lumvmp0; do
+# The tree may lie anywhere: nothing but its own files tells where it is.
+for package in lumvm lumvmk0 lumvma2 lumvmp0; do
   [ -e "$PKG_CONFIG_PATH/$package.pc" ] || continue
-  read -ra flags < <(pkg-config --define-variable=prefix="$scratch/prefix" --cflags --libs "$package")
+  read -ra flags < <(pkg-config --cflags --libs "$package")
   for program in "$tests/outside_project/main.c" "$tests/../../examples/damped_oscillation.c"; do
     cc -std=c99 -pedantic -Wall -Wextra -Werror "$program" "${flags[@]}" -lm -o "$scratch/by_pkg_config"
-    if [ $package != lumvmp0 ] && [ -e "$1/liblumvmk0.so" ] && ! grep -qsw avx512vl /proc/cpuinfo; then continue; fi
-    "$scratch/by_pkg_config" >"$scratch/output" || { cat "$scratch/output"; echo "$program with $package failed"; exit 1; }
+    # On a processor that a library is not for, the loader refuses it.
+    if "$scratch/by_pkg_config" >"$scratch/output" 2>&1; then continue; fi
+    if grep -q "ISA level" "$scratch/output"; then continue; fi
+    cat "$scratch/output"
+    echo "$program with $package failed"
+    exit 1
   done
 done
+cc -std=c99 -static "$tests/outside_project/main.c" -I"$scratch/prefix/include" "$LD_LIBRARY_PATH/liblumvm.a" -lm -o "$scratch/by_archive"
+"$scratch/by_archive" >/dev/null
 echo "programs against the installed tree: ok"
