@@ -73,6 +73,6 @@ def kernel_code(library):
     by_address = {code[0].address: code for code in functions.values() if code}
     result = {}
     for full_name, code in functions.items():
-        if match := re.match(r"lum::(\w+)\([^)]*\)$", full_name):
+        if match := re.match(r"lum::(?:avx512::)?(\w+)\([^)]*\)$", full_name):
             result[match[1]] = by_address.get(code[0].target(), code) if code[0].mnemonic == "jmp" else code
     return result
