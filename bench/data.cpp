@@ -5,7 +5,7 @@
 #include <cstring>
 #include <random>
 
-#include "accuracy/inputs.h"
+#include "support/declarations.h"
 
 #if defined(__x86_64__)
 #include <x86intrin.h>
@@ -31,7 +31,7 @@ Data::Data(const support::Export& entry, size_t count)
       dst1_(count * support::SizeOf(entry.output)),
       dst2_(dst1_.size()) {
   std::mt19937_64 engine(1);
-  const auto range = accuracy::OrdinaryRange(entry);
+  const support::Interval range = support::DeclarationOf(entry).everyday;
   const size_t components = src1_.size() / (is_32bit_ ? 4 : 8);
   std::uniform_real_distribution<double> first(range.low, range.high), second(0.1, 5);
   for (size_t i = 0; i < components; ++i) {

@@ -8,7 +8,9 @@
   kernels                      by type, where levels share one: the part of the kernels' names behind the type, low to high
   exact                        true: exact or correctly rounded
   scalar_core                  true: all levels are one scalar core of extended precision; or by type the tags that are one
-  ordinary                     by type: an interval of everyday arguments, which benchmarks and samples take
+  ordinary                     by type: the interval of arguments that samples take
+  everyday                     the interval that benchmarks take, where it is not the ordinary one up to 20
+  thresholds                   points whose neighbours are tried, with both signs: poles, zeros, ends of the domain, switches
   defined                      the interval outside of which the result is a NaN
   special_arguments            what, at: arguments that the first vector path refuses and that a user may well have; tags
   c                            its name in the C library, which vector libraries take over
@@ -34,7 +36,7 @@ TAGS = {"32f": ("A11", "A21", "A24"), "64f": ("A26", "A50", "A53")}  # low, midd
 TYPES = ("32f", "64f", "32fc", "64fc")
 SHAPES = ("OneInput", "TwoInputs", "TwoOutputs", "ScalarParameter", "ToReal", "ToComplex")
 KEYS = {"summary", "domain", "special", "statuses", "types", "shape", "tags", "kernels", "exact", "scalar_core", "ordinary",
-        "defined", "special_arguments", "c", "scalar", "reference64", "mpfr", "mpc", "python", "cpp", "borders"}
+        "defined", "special_arguments", "c", "scalar", "reference64", "mpfr", "mpc", "python", "cpp", "borders", "everyday", "thresholds"}
 EXPORTED = {"all": "Tagged", "high": "High", "none": "Untagged"}
 
 

@@ -52,6 +52,10 @@ def facts(row):
     ordinary = catalogue.of_type(entry.get("ordinary"), row.type)
     if ordinary:
         yield f".ordinary = {{{number(ordinary[0])}, {number(ordinary[1])}}}"
+        low, high = entry.get("everyday", (max(ordinary[0], -20), min(ordinary[1], 20)))
+        yield f".everyday = {{{number(low)}, {number(high)}}}"
+    if "thresholds" in entry:
+        yield f".thresholds = {{{', '.join(number(float(x)) for x in entry['thresholds'])}}}"
     if "c" in entry:
         yield f".c_name = {json.dumps(entry['c'])}"
     statuses = []

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "accuracy/reference.h"
+#include "support/declarations.h"
 
 namespace lum::accuracy {
 
@@ -24,10 +25,6 @@ const char* NameOf(InputClass inputs);
 // Deterministic, about `count` of them where they are not given by the class; none where the class does not suit the function.
 std::vector<Point> PointsOf(const support::Export& entry, InputClass inputs, size_t count);
 
-struct Interval {
-  double low, high;
-};
-// Arguments of everyday size: what speed is measured at.
-Interval OrdinaryRange(const support::Export& entry);
+using support::Interval;
 
 }  // namespace lum::accuracy

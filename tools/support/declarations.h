@@ -35,7 +35,9 @@ struct Declaration {
   bool is_exact = false;                   // exact or correctly rounded
   std::string_view scalar_core_tags = {};  // computed element by element in extended precision, or as if they were
   Interval ordinary = {-10, 10};
-  std::string_view c_name = {};  // in the C library; empty where it has none
+  Interval everyday = {-10, 10};                 // what speed is measured at: the ordinary range, but not far from 0
+  std::vector<double> thresholds = {1, 2, 0.5};  // points whose neighbours are tried, with both signs
+  std::string_view c_name = {};                  // in the C library; empty where it has none
   std::vector<DeclaredStatus> statuses = {};
   std::vector<SpecialArgument> special_arguments = {};
 };
