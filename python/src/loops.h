@@ -63,12 +63,20 @@ template <class T> inline bool HasVanished(T x) {
 
 inline constexpr int numpy_flags = FE_INVALID | FE_DIVBYZERO | FE_OVERFLOW | FE_UNDERFLOW;
 
-// Sets flags without the exceptions that feraiseexcept would go through.
-inline void SetFlags(int flags) {
+// Where there is MXCSR, it alone is looked at: a call leaves none in the x87 unit.
+inline int Flags() {
 #if defined(__SSE__)
-  if (flags != 0) _mm_setcsr(_mm_getcsr() | static_cast<unsigned>(flags));
+  return static_cast<int>(_mm_getcsr()) & numpy_flags;
 #else
-  if (flags != 0) std::feraiseexcept(flags);
+  return std::fetestexcept(numpy_flags);
+#endif
+}
+inline void ReplaceFlags(int flags) {
+#if defined(__SSE__)
+  _mm_setcsr((_mm_getcsr() & ~static_cast<unsigned>(numpy_flags)) | static_cast<unsigned>(flags));
+#else
+  std::feclearexcept(numpy_flags & ~flags);
+  std::feraiseexcept(flags);
 #endif
 }
 
@@ -111,11 +119,9 @@ int FlagsOfBlock(Kind kind, LumStatus status, const In* x, const In* y, const Ou
 // The caller's flags are kept: a call may clear some of them, and raises none of its own accord that NumPy should see.
 class KeptFlags {
  public:
-  KeptFlags() : before_(std::fetestexcept(numpy_flags)) {}
+  KeptFlags() : before_(Flags()) {}
   ~KeptFlags() {
-    const int after = std::fetestexcept(numpy_flags);
-    if ((after & ~before_) != 0) std::feclearexcept(after & ~before_);
-    SetFlags((before_ | asked_) & ~(after & before_));
+    if (const int wanted = before_ | asked_; Flags() != wanted) ReplaceFlags(wanted);
   }
   KeptFlags(const KeptFlags&) = delete;
   KeptFlags& operator=(const KeptFlags&) = delete;
