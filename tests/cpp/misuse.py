@@ -2,8 +2,10 @@
 """Compiles wrong uses of lumvm.hpp, which must fail by a constraint that the compiler names, and right ones beside them:
 misuse.py INCLUDE COMPILER..."""
 
+import os
 import subprocess
 import sys
+from concurrent.futures import ThreadPoolExecutor
 
 PRELUDE = """
 #include <lumvm.hpp>
@@ -48,21 +50,24 @@ def compile_call(compiler, include, call):
     return subprocess.run(command, input=PRELUDE % call, capture_output=True, text=True)
 
 
-def complaints(compiler, include):
-    for call in RIGHT:
-        if (result := compile_call(compiler, include, call)).returncode != 0:
-            yield f"{compiler}: {call} does not compile: {result.stderr}"
-    for what, (call, word) in WRONG.items():
-        result = compile_call(compiler, include, call)
-        if result.returncode == 0:
-            yield f"{compiler}: {what}: {call} compiles"
-        elif "constraint" not in result.stderr or word not in result.stderr:
-            yield f"{compiler}: {what}: the message does not name '{word}': {result.stderr}"
+def complaint(compiler, include, what, call, word):
+    """What is wrong with a call that must compile, or that must not and whose message must speak of a constraint."""
+    result = compile_call(compiler, include, call)
+    if word is None:
+        return f"{compiler}: {call} does not compile: {result.stderr}" if result.returncode != 0 else None
+    if result.returncode == 0:
+        return f"{compiler}: {what}: {call} compiles"
+    if "constraint" not in result.stderr or word not in result.stderr:
+        return f"{compiler}: {what}: the message does not name '{word}': {result.stderr}"
+    return None
 
 
 def main():
     include, *compilers = sys.argv[1:]
-    found = [line for compiler in compilers for line in complaints(compiler, include)]
+    cases = [("right", call, None) for call in RIGHT] + [(what, call, word) for what, (call, word) in WRONG.items()]
+    with ThreadPoolExecutor(os.cpu_count()) as pool:
+        jobs = [pool.submit(complaint, compiler, include, *case) for compiler in compilers for case in cases]
+    found = [job.result() for job in jobs if job.result()]
     print("\n".join(found + [f"{len(RIGHT)} right and {len(WRONG)} wrong calls with {', '.join(compilers)}: {len(found)} complaints"]))
     return 1 if found else 0
 

@@ -89,6 +89,8 @@ void ExpectCasesOf(const Export& entry, const std::vector<Case>& cases) {
       const Batch single = BatchOf(c, entry);
       ExpectElement(c, callee, single, 0);
       if (junk.size() == 0 || entry.has_parameter()) junk = QuietJunk(callee, single);
+      // With some parameters every element reports; with all other functions there are some that do not.
+      ASSERT_TRUE(junk.size() != 0 || entry.has_parameter()) << "no element that reports nothing";
       if (junk.size() != 0) ExpectAmongJunk(c, callee, single, junk, random);
     }
   }

@@ -2,7 +2,6 @@
 // chosen when the library was loaded. It starts with functions that choose and then call on, for callers that come before the
 // library's constructor, such as constructors of other libraries.
 #include <cstddef>
-#include <cstring>
 #include <iterator>
 
 #include "frame/dispatch/processor.h"
@@ -38,6 +37,15 @@ constexpr LayerCode layers[] = {
 #endif
     {Layer::portable, &portable::entryTable, &portable::libraryVersion},
 };
+
+// Without the C library, which nothing else here needs.
+bool AreEqual(const char* a, const char* b) {
+  while (*a != '\0' && *a == *b) {
+    ++a;
+    ++b;
+  }
+  return *a == *b;
+}
 
 const LayerCode* current = nullptr;
 
@@ -115,7 +123,7 @@ int lumvmSetLayer(const char* name) {
     return 0;
   }
   for (const lum::LayerCode& code : lum::layers) {
-    if (std::strcmp(name, NameOf(code.layer)) == 0 && lum::ProcessorRuns(code.layer)) {
+    if (lum::AreEqual(name, NameOf(code.layer)) && lum::ProcessorRuns(code.layer)) {
       lum::Take(code);
       return 0;
     }
