@@ -5,7 +5,7 @@ if(LUM_SANITIZE)
   endforeach()
 else()
   add_test(NAME tools.command_line
-           COMMAND ${Python3_EXECUTABLE} ${CMAKE_CURRENT_SOURCE_DIR}/tools/command_line.py $<TARGET_FILE:lumvm>)
+           COMMAND ${Python3_EXECUTABLE} ${CMAKE_CURRENT_SOURCE_DIR}/tools/command_line.py $<TARGET_FILE:lumvm_tool>)
   add_test(NAME tools.accuracy_unknown_function COMMAND accuracy Nope)
   set_tests_properties(tools.accuracy_unknown_function PROPERTIES PASS_REGULAR_EXPRESSION "^accuracy: no function 'Nope'\n$")
   add_test(NAME tools.accuracy_exhaustive_two_inputs COMMAND accuracy --exhaustive Add)
@@ -13,6 +13,8 @@ else()
                                                                        "^accuracy: no function 'Add' of one 32f input\n$")
 endif()
 
+add_test(NAME tools.run_script
+         COMMAND ${Python3_EXECUTABLE} ${CMAKE_CURRENT_SOURCE_DIR}/tools/run_script.py ${PROJECT_SOURCE_DIR}/run)
 add_test(NAME tools.bench_unknown_function COMMAND bench Nope)
 set_tests_properties(tools.bench_unknown_function PROPERTIES PASS_REGULAR_EXPRESSION "^bench: no function 'Nope'\n$")
 add_test(NAME tools.bench_report_arguments
