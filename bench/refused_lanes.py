@@ -94,7 +94,7 @@ def write_page(stored):
     page = INTRODUCTION.format(
         machine=machine(), nothing_refused=", ".join(whole), summary=summary,
         lane_cost=statistics.median(32 * (line.ticks["1 of 32"] - line.ticks["none"]) for line in lines),
-        slower="; ".join(f"{line.name}, {line.refused} {line.ratio['all']:.2g}" for line in slower))
+        slower="\n".join(f"- {line.name}, {line.refused}: {line.ratio['all']:.2g}" for line in slower) or "none")
     for type_ in ("32f", "64f"):
         page += f"\n## {type_}\n\n| name | refused | {' | '.join(SHARES)} |\n|---|---|{'---|' * len(SHARES)}\n"
         page += "".join(line.table_line() + "\n" for line in lines if line.type == type_)

@@ -52,7 +52,11 @@ The highest tags at length {length}: ns an element and, in parentheses, the time
 
 {table}
 
-Names of which a peer is the faster one: {behind}. [What the figures mean](notes/speed.md).
+Names of which a peer is the faster one, with its time over ours:
+
+{behind}
+
+[What the figures mean](notes/speed.md).
 """
 
 
@@ -135,7 +139,7 @@ def draw(row, stored):
     blocks = "".join(f"${i} << EOD\n" + "\n".join(points) + "\nEOD\n" for i, points in
                      ((f"d{n}", p) for n, p in enumerate(series.values())))
     plots = ", ".join(f"$d{n} with linespoints pt 7 ps 0.4 title '{who}' noenhanced" for n, who in enumerate(series))
-    script = f"""{blocks}set terminal svg size 720,300 font 'sans,11'
+    script = f"""{blocks}set terminal svg size 720,300 font 'sans,11' background 'white'
 set output '{IMAGES / f"{name}.svg"}'
 set logscale xy
 set xlabel 'length'
@@ -150,7 +154,7 @@ plot {plots}
 def write_page(stored, floors, measured):
     rows, behind = overview(stored)
     lines = [INTRODUCTION.format(machine=machine()),
-             OVERVIEW.format(length=MAIN_LENGTH, table="\n".join(rows), behind="; ".join(behind) or "none")]
+             OVERVIEW.format(length=MAIN_LENGTH, table="\n".join(rows), behind="\n".join(f"- {name}" for name in behind) or "none")]
     for row in catalogue.rows():
         body = table(row, stored, floors)
         if not body:

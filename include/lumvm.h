@@ -4,7 +4,8 @@
  * (binary32, binary64) or 32fc or 64fc (complex: pairs re, im in adjacent memory). The tag is the number of correct bits of the
  * significand that the function guarantees: A11, A21, A24 for the 32-bit types, A26, A50, A53 for the 64-bit ones. At A24 and
  * A53 the error of a real function is below one unit in the last place (ulp), but for what is said at Tanh. Fewer bits are
- * faster.
+ * faster. Pow and Powx do not keep their bits everywhere: those of complex numbers lose digits as the exponent times the
+ * logarithm grows, and Powx with the exponents -2, -3 and -4 next to the ends of the range.
  *
  * For every function:
  *   - Arrays need no alignment. dst may be the same array as a source; partly overlapping arrays are not provided for.

@@ -4,6 +4,7 @@
 Only the pictures of functions whose curves are in the folder are drawn anew."""
 
 import csv
+import math
 import subprocess
 import sys
 from pathlib import Path
@@ -40,7 +41,26 @@ To repeat them:
 The pictures show the largest error over the argument in intervals of a quarter of a binade (of eight
 for very small and large arguments), one line a tag, relative to the tag's
 limit: a line must stay below 1.
+
+## Overview
+
+The largest error of each tag over all kinds of inputs, low, middle and high, in ulp; of complex results as a whole. **Bold** is
+beyond the limit: the tag's bits do not hold for all arguments of these, and [the list below](#beyond-the-limit) says where.
+
 """
+
+BEYOND = """
+## Beyond the limit
+
+The figures of a kind of inputs that are larger than the limit, with the argument of the largest error. Of complex Pow and Powx the
+product of exponent and logarithm is rounded, which takes digits from very large and very small results; Powx with the exponents
+-2, -3 and -4 gives a zero or a number of few digits where the power itself leaves the range and its reciprocal is denormal.
+
+| name | inputs | error | limit | at |
+|---|---|---|---|---|
+"""
+
+TYPES = ("32f", "64f", "32fc", "64fc")
 
 
 def read_rows():
@@ -48,11 +68,64 @@ def read_rows():
         return {(row["export"], row["inputs"]): row for row in csv.DictReader(file)}
 
 
+def error_of(row):
+    return float(row["norm_ulp"] or row["max_ulp"])
+
+
+def is_beyond(row):
+    return error_of(row) > float(row["bound_ulp"])
+
+
+def anchor(row):
+    return f"{row.function}-{row.type}".lower()
+
+
+def overview(rows, measured):
+    """A table of all functions: links to the sections, and the largest errors of their tags."""
+    cells = {}
+    for row in rows:
+        errors = []
+        for name, _ in row.exports():
+            figures = [figure for (export, _), figure in measured.items() if export == name]
+            if figures:
+                worst = max(figures, key=error_of)
+                text = f"{error_of(worst):.3g}"
+                errors.append(f"**{text}**" if any(map(is_beyond, figures)) else text)
+        cells[row.function, row.type] = f"[{', '.join(errors)}](#{anchor(row)})"
+    lines = [f"| function | {' | '.join(TYPES)} |", "|---" * (len(TYPES) + 1) + "|"]
+    for function in dict.fromkeys(function for function, _ in cells):
+        lines.append(f"| {function} | {' | '.join(cells.get((function, type_), '') for type_ in TYPES)} |")
+    return "\n".join(lines)
+
+
+def beyond(measured):
+    lines = [f"| `{row['export']}` | {row['inputs']} | {error_of(row):.3g} | {row['bound_ulp']} | `{row['at']}` |"
+             for row in measured.values() if is_beyond(row)]
+    return BEYOND + "\n".join(lines) + "\n" if lines else ""
+
+
 def table_row(name, row, is_complex):
     at = row["at"]
     cells = [f"`{name}`", row["inputs"], row["max_ulp"], row["norm_ulp"] if is_complex else None, row["bits"],
-             f"{float(row['correctly_rounded_percent']):.2f} %", row["wrong_class"], f"`{at}`", row["bound_ulp"]]
+             f"{float(row['correctly_rounded_percent']):.2f} %", row["wrong_class"], f"`{at}`",
+             row["bound_ulp"] + (" **beyond**" if is_beyond(row) else "")]
     return "| " + " | ".join(c for c in cells if c is not None) + " |"
+
+
+def place(x):
+    """Where an argument stands on the axis: logarithmic on both sides of zero."""
+    return math.copysign(math.log10(1 + abs(x) * 1e3), x)
+
+
+def tics(low, high):
+    """Labels of the axis, far enough from one another to be read."""
+    shown = {0.0: "0"} if low <= 0 <= high else {}
+    for exponent in (0, 3, 10, 15, 30, 100, 200, 300, 20, 50, 150, 250):
+        label = {0: "1", 3: "1000"}.get(exponent, f"1e{exponent}")
+        for at, text in ((place(10.0 ** exponent), label), (place(-10.0 ** exponent), "-" + label)):
+            if low <= at <= high and all(abs(at - other) > (high - low) / 12 for other in shown):
+                shown[at] = text
+    return ", ".join(f"'{text}' {at}" for at, text in sorted(shown.items()))
 
 
 def draw(function, type_, exports, bounds, curves):
@@ -61,15 +134,17 @@ def draw(function, type_, exports, bounds, curves):
     if not names:
         return
     IMAGES.mkdir(parents=True, exist_ok=True)
+    arguments = [place(float(line.split()[0])) for name, _ in names for line in (curves / f"{name}.dat").read_text().splitlines()
+                 if line and not line.startswith("#")]
     plots = ", ".join(
         f"'{curves / (name + '.dat')}' using (sgn($1)*log10(1+abs($1)*1e3)):($2/{bounds[name]}) with lines title '{tag or name}'"
         for name, tag in names)
-    script = f"""set terminal svg size 720,260 font 'sans,11'
+    script = f"""set terminal svg size 720,260 font 'sans,11' background 'white'
 set output '{IMAGES / f"{function}_{type_}.svg"}'
 set yrange [0:1.1]
 set ylabel 'error / limit'
 set xlabel 'x'
-set xtics ('-1e30' -33, '-1e15' -18, '-1000' -6, '-1' -3, '0' 0, '1' 3, '1000' 6, '1e15' 18, '1e30' 33, '1e100' 103, '1e300' 303, '-1e100' -103, '-1e300' -303)
+set xtics ({tics(min(arguments), max(arguments))})
 set key outside right
 set grid ytics
 plot {plots}
@@ -84,7 +159,7 @@ def main():
     for row in catalogue.rows():
         family = descriptions[catalogue.title_of(row, descriptions)]["family"]
         families.setdefault(family, []).append(row)
-    lines = [INTRODUCTION]
+    lines = [INTRODUCTION + overview(catalogue.rows(), measured) + "\n" + beyond(measured)]
     for family, rows in families.items():
         lines.append(f"\n## {family}\n")
         for row in rows:

@@ -2,13 +2,16 @@
 """Writes what programs take from the functions' declarations as C++ initialisers: make_declarations.py KIND FILE
 
 KIND is one of
-  descriptions      texts, a line a title, for the command line tool
+  descriptions      texts, a line a title, for the command line tool; lists in them have an entry a line
   declarations      facts, a line a function and type, for tests and programs that go over all functions
   scalar_loops      a loop over the C++ library's function to compare with
   references        MPFR's and MPC's functions
   cheap_references  binary64 functions of a 32f input
-  cpp_calls         a line an exported name with its function of lumvm.hpp, for a test"""
+  cpp_calls         a line an exported name with its function of lumvm.hpp, for a test
+  names             a line a name of a function in C, C++ or Python, for the command line tool
+  measured          a line an exported name with its largest error and its time, for the command line tool"""
 
+import csv
 import json
 import math
 import sys
@@ -37,9 +40,42 @@ def point(row, arguments):
 
 def descriptions():
     for title, entry in sorted(catalogue.descriptions().items()):
-        fields = [title, entry["summary"], entry["domain"], "; ".join(entry["special"]),
-                  "; ".join(catalogue.status_lines(entry) or ["always ok"])]
+        fields = [title, entry["summary"], entry["domain"], "\n".join(entry["special"]),
+                  "\n".join(catalogue.status_lines(entry) or ["always lumStsOk"]), entry["family"]]
         yield "{" + ", ".join(json.dumps(field) for field in fields) + "},"
+
+
+def names():
+    """A name in another language stands for one function: the one that bears it, else the first that is called so."""
+    meanings = {}
+    own = {title.removesuffix(" (complex)").lower() for title in catalogue.descriptions()}
+    for title, entry in sorted(catalogue.descriptions().items()):
+        for name in filter(None, [entry.get("cpp"), entry.get("c"), *entry.get("python", [])]):
+            if name.lower() not in own:
+                meanings.setdefault(name.lower(), title.removesuffix(" (complex)"))
+    for name, function in sorted(meanings.items()):
+        yield f"{{{json.dumps(name)}, {json.dumps(function)}}},"
+
+
+def measured():
+    """Largest errors over all kinds of inputs, of a complex result as a whole, and times of an element in an array of 4096."""
+    errors = {}
+    with (catalogue.ROOT / "docs/data/accuracy.csv").open() as file:
+        for row in csv.DictReader(file):
+            error = float(row["norm_ulp"] or row["max_ulp"])
+            if row["export"] not in errors or error > errors[row["export"]][0]:
+                errors[row["export"]] = (error, float(row["bound_ulp"]), row["at"])
+    times = {}
+    with (catalogue.ROOT / "docs/data/performance.csv").open() as file:
+        for row in csv.DictReader(file):
+            if row["length"] == "4096":
+                times[row["function"], row["who"]] = float(row["ns"])
+    for row in catalogue.rows():
+        for export, tag in row.exports():
+            error, bound, at = errors.get(export, (-1.0, 0.0, ""))
+            time = times.get((f"{row.function}_{row.type}", tag or "lumvm"), 0.0)
+            scalar = times.get((f"{row.function}_{row.type}", "scalar"), 0.0)
+            yield f"{{{json.dumps(export)}, {error!r}, {bound!r}, {json.dumps(at)}, {time!r}, {scalar!r}}},"
 
 
 def facts(row):
@@ -160,7 +196,8 @@ def cpp_calls():
             yield f"LUM_CPP({compare}, {name}, {cpp}, {level})"
 
 
-KINDS = {kind.__name__: kind for kind in (descriptions, declarations, scalar_loops, references, cheap_references, cpp_calls)}
+KINDS = {kind.__name__: kind for kind in (descriptions, declarations, scalar_loops, references, cheap_references, cpp_calls,
+                                      names, measured)}
 
 
 def main():

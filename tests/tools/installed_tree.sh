@@ -32,4 +32,13 @@ for package in lumvm lumvmk0 lumvma2 lumvmp0; do
 done
 cc -std=c99 -static "$tests/outside_project/main.c" -I"$scratch/prefix/include" "$LD_LIBRARY_PATH/liblumvm.a" -lm -o "$scratch/by_archive"
 "$scratch/by_archive" >/dev/null
+
+# The installed tool finds the installed library, also when the tree has moved, and comes with its pages.
+unset LD_LIBRARY_PATH
+mv "$scratch/prefix" "$scratch/moved"
+[ "$("$scratch/moved/bin/lumvm" apply exp 0)" = 1 ]
+"$scratch/moved/bin/lumvm" --version | grep -q "$scratch/moved"
+for page in man/man1/lumvm.1 bash-completion/completions/lumvm zsh/site-functions/_lumvm; do
+  [ -s "$scratch/moved/share/$page" ]
+done
 echo "programs against the installed tree: ok"

@@ -13,6 +13,8 @@ else()
                                                                        "^accuracy: no function 'Add' of one 32f input\n$")
 endif()
 
+add_test(NAME tools.run_script
+         COMMAND ${Python3_EXECUTABLE} ${CMAKE_CURRENT_SOURCE_DIR}/tools/run_script.py ${PROJECT_SOURCE_DIR}/run)
 add_test(NAME tools.bench_unknown_function COMMAND bench Nope)
 set_tests_properties(tools.bench_unknown_function PROPERTIES PASS_REGULAR_EXPRESSION "^bench: no function 'Nope'\n$")
 add_test(NAME tools.bench_report_arguments

@@ -1,29 +1,47 @@
-// The commands of the tool. Each throws InputError for what the user got wrong and returns the exit code otherwise.
+// The commands of the tool. Each throws InputError or SystemError where it cannot do what is asked.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
-#include "lumvm/numbers.h"
+#include "lumvm/results.h"
 
 namespace lum::tool {
 
+struct ListOptions {
+  std::vector<std::string> words;  // a function is listed that all of them fit: parts of names or texts, families, types
+  bool is_json = false;
+};
+
+struct InfoOptions {
+  std::string function;
+  bool is_json = false;
+};
+
+// What apply and compare have in common.
 struct ApplyOptions {
   std::string function;
-  std::string type;
-  std::string tag;                 // empty: the highest
-  std::vector<std::string> files;  // one or, for two inputs, one or two
-  std::string value;               // the scalar parameter, as text
+  std::string type;                    // empty: by the input
+  std::string tag;                     // empty: the highest
+  std::vector<std::string> arguments;  // files, or numbers
+  std::string value;                   // the scalar parameter, as text
+  std::vector<std::string> columns;
+  std::string delimiter;
+  std::string layer;
+  bool is_raw = false;
+  // Of apply alone.
   std::string output = "-";
-  std::string target;  // k0, p0, or empty: k0 where the processor can
-  bool binary = false;
+  std::string format;  // empty: by the name of the output
+  bool is_json = false;
   Notation notation = Notation::decimal;
 };
 
-int List();
-int Info(const std::string& function);
-int Apply(const ApplyOptions& options);
+void List(const ListOptions& options);
+void Info(const InfoOptions& options);
+void Apply(const ApplyOptions& options);
 // Results at all tags side by side with their distance from the highest, and the speed of each against a scalar loop.
-int Compare(const ApplyOptions& options);
+void Compare(const ApplyOptions& options);
+void Version();
 
 }  // namespace lum::tool

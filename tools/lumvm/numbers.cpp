@@ -2,121 +2,150 @@
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <bit>
-#include <cerrno>
 #include <charconv>
 #include <cmath>
 #include <cstdint>
+#include <cstdlib>
 #include <cstring>
-#include <fstream>
-#include <iostream>
-#include <iterator>
-#include <string_view>
+#include <type_traits>
 
 namespace lum::tool {
 namespace {
 
-// One number. Without a value for what is none, and for a magnitude that the type cannot hold.
-template <class T> bool ParseNumber(std::string_view word, T& value) {
-  bool negative = false;
-  if (word.starts_with('+') || word.starts_with('-')) {
-    negative = word.front() == '-';
-    word.remove_prefix(1);
-  }
-  if (word.starts_with('-') || word.empty()) return false;
+bool IsHexadecimal(std::string_view digits) { return digits.starts_with("0x") || digits.starts_with("0X"); }
+
+// The value of a word that is a number out of range: the C library rounds it to an infinity, a zero or a denormal number.
+template <class T> T Rounded(const std::string& word) {
+  if constexpr (sizeof(T) == 4) return std::strtof(word.c_str(), nullptr);
+  else return std::strtod(word.c_str(), nullptr);
+}
+
+// The number at the start of a word: its reading, and its end, which is the word's start for none.
+template <class T> Reading ParseStart(std::string_view word, T& value, const char*& end) {
+  end = word.data();
+  const bool is_signed = word.starts_with('+') || word.starts_with('-');
+  std::string_view digits = word.substr(is_signed ? 1 : 0);
+  if (digits.empty() || digits.front() == '-') return Reading::none;
   auto format = std::chars_format::general;
-  if (word.starts_with("0x") || word.starts_with("0X")) {
-    word.remove_prefix(2);
+  if (IsHexadecimal(digits)) {
+    digits.remove_prefix(2);
+    if (digits.starts_with('-')) return Reading::none;
     format = std::chars_format::hex;
   }
-  const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), value, format);
-  if (error != std::errc() || end != word.data() + word.size()) return false;
-  if (negative) value = -value;
-  return true;
+  const auto [stop, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value, format);
+  if (error == std::errc::invalid_argument) return Reading::none;
+  end = stop;
+  if (error == std::errc::result_out_of_range) {
+    value = Rounded<T>(std::string(word.data(), stop));
+    return Reading::out_of_range;
+  }
+  if (word.front() == '-') value = -value;
+  return Reading::number;
 }
 
-template <class T> std::string FormatNumber(T value, Notation notation) {
+template <class T> char* FormatNumber(char* out, T value, Notation notation) {
+  constexpr size_t room = element_text_size / 2 - 4;
   if (notation == Notation::bits) {
-    if constexpr (sizeof(T) == 4) return fmt::format("0x{:08X}", std::bit_cast<uint32_t>(value));
-    else return fmt::format("0x{:016X}", std::bit_cast<uint64_t>(value));
+    if constexpr (sizeof(T) == 4) return fmt::format_to(out, "0x{:08X}", std::bit_cast<uint32_t>(value));
+    else return fmt::format_to(out, "0x{:016X}", std::bit_cast<uint64_t>(value));
   }
-  char buffer[64];
-  const bool hexadecimal = notation == Notation::hexadecimal && std::isfinite(value);
-  const auto end = hexadecimal ? std::to_chars(buffer, buffer + sizeof buffer, std::fabs(value), std::chars_format::hex).ptr
-                               : std::to_chars(buffer, buffer + sizeof buffer, value).ptr;
-  std::string text(buffer, end);
-  if (!hexadecimal) return text;
-  return fmt::format("{}0x{}", std::signbit(value) ? "-" : "", text);
+  if (notation == Notation::decimal || !std::isfinite(value)) return std::to_chars(out, out + room, value).ptr;
+  if (std::signbit(value)) *out++ = '-';
+  *out++ = '0';
+  *out++ = 'x';
+  return std::to_chars(out, out + room, std::fabs(value), std::chars_format::hex).ptr;
 }
 
-template <class T> void ParseInto(Array& array, const std::string& text, const std::string& name) {
-  constexpr std::string_view separators = " \t\r\v\f,";
-  size_t line_number = 0;
-  size_t numbers = 0;
-  for (size_t start = 0; start < text.size();) {
-    ++line_number;
-    const size_t end = std::min(text.find('\n', start), text.size());
-    std::string_view line(text.data() + start, end - start);
-    line = line.substr(0, line.find('#'));
-    start = end + 1;
-    for (size_t at = line.find_first_not_of(separators); at != line.npos; at = line.find_first_not_of(separators, at)) {
-      const size_t stop = std::min(line.find_first_of(separators, at), line.size());
-      const std::string_view word = line.substr(at, stop - at);
-      at = stop;
-      T value;
-      if (!ParseNumber(word, value)) {
-        throw InputError(fmt::format("{}:{}: not a number of this type: '{}'", name, line_number, word));
-      }
-      const auto* bytes = reinterpret_cast<const std::byte*>(&value);
-      array.bytes.insert(array.bytes.end(), bytes, bytes + sizeof value);
-      ++numbers;
-    }
-  }
-  if (support::IsComplex(array.element) && numbers % 2 != 0) {
-    throw InputError(fmt::format("{}:{}: a complex number lacks its imaginary part", name, line_number));
-  }
+template <class T> char* FormatAt(char* out, const std::byte* at, Notation notation) {
+  T value;
+  std::memcpy(&value, at, sizeof value);
+  return FormatNumber(out, value, notation);
+}
+
+Reading Worse(Reading a, Reading b) {
+  if (a == Reading::none || b == Reading::none) return Reading::none;
+  return a == Reading::out_of_range ? a : b;
+}
+
+std::string_view Trimmed(std::string_view text) {
+  const size_t first = text.find_first_not_of(" \t");
+  return first == text.npos ? "" : text.substr(first, text.find_last_not_of(" \t") - first + 1);
 }
 
 }  // namespace
 
-std::string ReadAll(const std::string& path) {
-  if (path == "-") return {std::istreambuf_iterator<char>(std::cin), {}};
-  std::ifstream file(path, std::ios::binary);
-  if (!file) throw InputError(fmt::format("{}: {}", path, std::strerror(errno)));
-  std::string content(std::istreambuf_iterator<char>(file), {});
-  if (file.bad()) throw InputError(fmt::format("{}: cannot be read", path));
-  return content;
+template <class T> Reading ParseNumber(std::string_view word, T& value) {
+  const char* end;
+  const Reading reading = ParseStart(word, value, end);
+  return end == word.data() + word.size() ? reading : Reading::none;
 }
 
-Array ParseText(const std::string& text, const std::string& name, Element element) {
-  Array array{element, {}};
-  if (support::Is32Bit(element)) ParseInto<float>(array, text, name);
-  else ParseInto<double>(array, text, name);
-  return array;
-}
-
-Array ParseBinary(const std::string& raw, const std::string& name, Element element) {
-  if (raw.size() % support::SizeOf(element) != 0) {
-    throw InputError(
-        fmt::format("{}: {} bytes are not a whole number of elements of {} bytes", name, raw.size(), support::SizeOf(element)));
+template <class T> Reading ParseComplex(std::string_view word, T& re, T& im) {
+  re = im = 0;
+  if (word.starts_with('(') && word.ends_with(')')) {
+    word = word.substr(1, word.size() - 2);
+    const size_t comma = word.find(',');
+    const Reading first = ParseNumber(Trimmed(word.substr(0, comma)), re);
+    return comma == word.npos ? first : Worse(first, ParseNumber(Trimmed(word.substr(comma + 1)), im));
   }
-  const auto* bytes = reinterpret_cast<const std::byte*>(raw.data());
-  return {element, {bytes, bytes + raw.size()}};
+  if (!word.ends_with('i') && !word.ends_with('j')) return Reading::none;
+  word.remove_suffix(1);
+  const auto imaginary = [&](std::string_view factor) {
+    if (factor.empty() || factor == "+" || factor == "-") {
+      im = factor == "-" ? -T(1) : T(1);
+      return Reading::number;
+    }
+    return ParseNumber(factor, im);
+  };
+  const char* end;
+  const Reading first = ParseStart(word, re, end);
+  if (first != Reading::none && end != word.data() + word.size() && (*end == '+' || *end == '-')) {
+    return Worse(first, imaginary(word.substr(static_cast<size_t>(end - word.data()))));
+  }
+  re = 0;
+  return imaginary(word);
 }
 
-std::string Format(const Array& array, size_t i, Notation notation) {
-  const std::byte* at = array.bytes.data() + i * support::SizeOf(array.element);
-  const auto number = [&](size_t part) {
-    if (support::Is32Bit(array.element)) {
-      float value;
-      std::memcpy(&value, at + part * sizeof value, sizeof value);
-      return FormatNumber(value, notation);
-    }
-    double value;
-    std::memcpy(&value, at + part * sizeof value, sizeof value);
-    return FormatNumber(value, notation);
-  };
-  return support::IsComplex(array.element) ? fmt::format("{} {}", number(0), number(1)) : number(0);
+template Reading ParseNumber(std::string_view, float&);
+template Reading ParseNumber(std::string_view, double&);
+template Reading ParseComplex(std::string_view, float&, float&);
+template Reading ParseComplex(std::string_view, double&, double&);
+
+bool IsComplexLiteral(std::string_view word) {
+  double re, im;
+  return ParseComplex(word, re, im) != Reading::none;
+}
+
+bool IsNumber(std::string_view word) {
+  double value;
+  return ParseNumber(word, value) != Reading::none || IsComplexLiteral(word);
+}
+
+char* FormatPart(char* out, Element element, const std::byte* at, size_t part, Notation notation) {
+  return support::Is32Bit(element) ? FormatAt<float>(out, at + part * sizeof(float), notation)
+                                   : FormatAt<double>(out, at + part * sizeof(double), notation);
+}
+
+char* FormatElement(char* out, Element element, const std::byte* at, Notation notation) {
+  out = FormatPart(out, element, at, 0, notation);
+  if (!support::IsComplex(element)) return out;
+  *out++ = ' ';
+  return FormatPart(out, element, at, 1, notation);
+}
+
+std::string FormatElement(Element element, const std::byte* at, Notation notation) {
+  char text[element_text_size];
+  return {text, FormatElement(text, element, at, notation)};
+}
+
+std::string Quoted(std::string_view word) {
+  constexpr size_t limit = 60;
+  std::string text(word.substr(0, limit));
+  std::ranges::replace_if(
+      text, [](unsigned char c) { return c < ' ' || c == 0x7F; }, '?');
+  return fmt::format("'{}{}'", text, word.size() > limit ? "..." : "");
 }
 
 }  // namespace lum::tool
