@@ -26,7 +26,9 @@ LUM_INLINE CorePart RoundedTwice(Vec<Lum64f> head, Vec<Lum64f> tail, Vec<Lum64f>
 }
 
 // a c + b d where one of the products has a zero factor or an operand is not finite, so that the sum of the products is exact.
-struct ShortSum { Vec<Lum64f> sum, tail; };
+struct ShortSum {
+  Vec<Lum64f> sum, tail;
+};
 LUM_INLINE ShortSum SumWithOneProduct(Vec<Lum64f> a, Vec<Lum64f> c, Vec<Lum64f> b, Vec<Lum64f> d) {
   const auto first = a * c, second = b * d;
   return {first + second, fms(a, c, first) + fms(b, d, second)};

@@ -55,7 +55,6 @@ LUM_INLINE CoreValue32 ProductAsCore(ComplexVec<Lum32f> z, ComplexVec<Lum32f> w,
 
 template <class E, bool by_conjugate> struct Product : Kernel<E> {
   static constexpr int vectors = 1;
-  static constexpr bool second_is_short = true;
   static LUM_INLINE Finished<E> SecondPath(Packed<E> packed_z, Packed<E> packed_w,
                                            const Lanes<E, ComponentMask<Real<E>>>& lanes) {
     using T = Real<E>;

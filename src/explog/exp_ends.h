@@ -27,7 +27,9 @@ LUM_INLINE Vec<Lum32f> ExpFloatAtEnds(Vec<Lum32f> x) {
   return select(rounds, RoundedToDenormal<60>(raised), normal);
 }
 
-struct ExpDoubleValue { Vec<Lum64f> head, p, exponent; };
+struct ExpDoubleValue {
+  Vec<Lum64f> head, p, exponent;
+};
 LUM_INLINE ExpDoubleValue ExpDoubleAtEnds(Vec<Lum64f> x) {
   const auto a = ExpDoubleReduced(x);
   const auto j = shift_left<1>(bits(a.shifted) & all(uint64_t{63}));
