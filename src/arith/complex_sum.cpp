@@ -47,7 +47,19 @@ template <class E, class Operation> struct SumKernel : Kernel<E> {
 // An infinity, a NaN or a zero among the inputs keeps Sub of doubles from reporting.
 bool IsOrdinary(Lum64f x) { return x != 0 && x - x == 0; }
 
-struct SubDoublesCell;
+// Two deliberate differences from the other sums: an overflow beside a zero component goes unreported, and the hook is given
+// src1 twice.
+struct SubDoubles : SumKernel<Lum64fc, Minus> {
+  static constexpr Variant variant = element_loop_variant;
+  static constexpr bool hook_has_first_source_only = true;
+  static LUM_INLINE Lanes<Lum64fc, Refused> VectorPath(Interleaved<Lum64f> a, Interleaved<Lum64f> b) {
+    const Interleaved<Lum64f> difference{a.low - b.low, a.high - b.high};
+    return {difference, {Infinite(difference.low), Infinite(difference.high)}};
+  }
+  static LumStatus LaneRoutine(const Lum64fc& a, const Lum64fc& b, const Lum64fc&) {
+    return IsOrdinary(a.re) && IsOrdinary(a.im) && IsOrdinary(b.re) && IsOrdinary(b.im) ? lumStsOverflow : lumStsOk;
+  }
+};
 
 // The signs of the imaginary parts flipped, as bits: a signalling NaN stays signalling.
 template <uint64_t... pattern> struct ConjKernel : Kernel<uint64_t> {
@@ -72,24 +84,8 @@ LumStatus Add_64fc_A53(const Lum64fc* src1, const Lum64fc* src2, Lum64fc* dst, i
   return TwoInputs<SumKernel<Lum64fc, Plus>>(src1, src2, dst, len);
 }
 
-// Element by element, in an environment of its own. Two deliberate differences from the other sums: an overflow beside a zero
-// component goes unreported, and the hook is given src1 twice.
 LumStatus Sub_64fc_A53(const Lum64fc* src1, const Lum64fc* src2, Lum64fc* dst, int32_t len) {
-  if (const auto bad = CheckArguments(len, src1, src2, dst); bad != lumStsOk) return bad;
-  const Environment environment = Enter<element_loop_variant>();
-  LumStatus status = lumStsOk;
-  for (int32_t i = 0; i < len; ++i) {
-    const Lum64fc a = src1[i];
-    const Lum64fc b = src2[i];
-    const Lum64fc difference = {a.re - b.re, a.im - b.im};
-    dst[i] = difference;
-    if (!HasInfinity(difference)) continue;
-    if (!IsOrdinary(a.re) || !IsOrdinary(a.im) || !IsOrdinary(b.re) || !IsOrdinary(b.im)) continue;
-    status = lumStsOverflow;
-    ElementHook(status, i, src1, src1, dst, dst, &hook_cell<SubDoublesCell>);
-  }
-  Leave(environment);
-  return status;
+  return TwoInputs<SubDoubles>(src1, src2, dst, len);
 }
 
 LumStatus Conj_32fc_A24(const Lum32fc* src, Lum32fc* dst, int32_t len) {

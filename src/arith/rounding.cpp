@@ -37,10 +37,20 @@ template <class T, int slot> struct RoundKernel : PlainKernel<T> {
 // What x has behind the point, with its sign. The difference is exact.
 template <class T> LUM_INLINE Vec<T> Fraction(Vec<T> x, Vec<T> whole) { return or_sign(x, x - whole); }
 
+// A zero with the sign of an infinity, or the NaN quieted, in the lanes of the mask; other in the rest.
+template <class T> LUM_INLINE Vec<T> FractionOfNonFinite(Vec<T> x, Mask<T> non_finite, Vec<T> other) {
+  const auto fraction = select(fpclass<0x18>(x), x & all(sign_bit<T>), x + x);
+  return select(non_finite, fraction, other);
+}
+
 // Infinities and NaN are refused, since x - x would be a NaN there.
 template <class T> struct FracKernel : Kernel<T> {
   static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) { return {Fraction(x, rndscale<toward_zero | quiet>(x)), fpclass<0x99>(x)}; }
   static void LaneRoutine(T x, T& fraction) { fraction = x != x ? x + x : std::copysign(T(0), x); }
+  static constexpr bool second_is_short = true;
+  static LUM_INLINE Lanes<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) {
+    return {FractionOfNonFinite(x, lanes.refused, lanes.value), mask_of<T>(0)};
+  }
 };
 
 template <class T> struct ModfKernel : Kernel<T> {
@@ -51,6 +61,10 @@ template <class T> struct ModfKernel : Kernel<T> {
   static void LaneRoutine(T x, T& whole, T& fraction) {
     whole = x + x;  // an infinity, or the NaN quieted
     fraction = x != x ? x + x : std::copysign(T(0), x);
+  }
+  static constexpr bool second_is_short = true;
+  static LUM_INLINE TwoLanes<T> SecondPath(Vec<T> x, const TwoLanes<T>& lanes) {
+    return {select(lanes.refused, x + x, lanes.value1), FractionOfNonFinite(x, lanes.refused, lanes.value2), mask_of<T>(0)};
   }
 };
 

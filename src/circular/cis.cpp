@@ -22,18 +22,22 @@ template <class Tier> struct Plain : Kernel<typename Tier::Element, typename Com
   static LUM_INLINE Lanes<C> VectorPath(Vec<T> x) { return Pairs<C>(Tier::Ordinary(x)); }
   static void LaneRoutine(T x, C& result) { SineAndCosineRoutine(x, result.im, result.re); }
 };
-template <class Tier> struct WithLargePath : Plain<Tier> {
+template <class Tier> struct WithLarge : Plain<Tier> {
+  static constexpr bool second_in_all_layers = true;
   using typename Plain<Tier>::T;
   using typename Plain<Tier>::C;
-  static LUM_INLINE Lanes<C> LargePath(Vec<T> x, const Lanes<C>&) { return Pairs<C>(Tier::Large(x)); }
+  static LUM_INLINE Lanes<C> SecondPath(Vec<T> x, const Lanes<C>&) {
+    const auto v = Tier::Large(x);
+    return {join(ComplexVec<T>{SelectNonFinite(x, v.cosine), SelectNonFinite(x, v.sine)}), mask_of<T>(0)};
+  }
 };
 
-struct A11_32fc : WithLargePath<QuarterTurns_A21> {};
-struct A21_32fc : WithLargePath<QuarterTurns_A21> {};
-struct A24_32fc : WithLargePath<QuarterTurns_A24> {};
+struct A11_32fc : WithLarge<QuarterTurns_A21> {};
+struct A21_32fc : WithLarge<QuarterTurns_A21> {};
+struct A24_32fc : WithLarge<QuarterTurns_A24> {};
 struct A26_64fc : Plain<SineAndCosine_A26> {};
-struct A50_64fc : WithLargePath<SineAndCosine_A50> {};
-struct A53_64fc : WithLargePath<SineAndCosine_A53> {};
+struct A50_64fc : WithLarge<SineAndCosine_A50> {};
+struct A53_64fc : WithLarge<SineAndCosine_A53> {};
 
 }  // namespace
 

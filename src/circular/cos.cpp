@@ -13,7 +13,8 @@ namespace lum::inline LUM_LAYER {
 namespace {
 
 struct Float : Kernel<Lum32f> {
-  static LUM_INLINE Lanes<Lum32f> LargePath(Vec<Lum32f> x, const Lanes<Lum32f>& lanes) {
+  static constexpr bool second_in_all_layers = true;
+  static LUM_INLINE Finished<Lum32f> SecondPath(Vec<Lum32f> x, const Lanes<Lum32f>& lanes) {
     return MergeLarge(x, lanes, LargeCosine(x));
   }
   static LumStatus LaneRoutine(Lum32f x, Lum32f& result) { return CircularOfNonFinite(x, result); }
@@ -71,7 +72,8 @@ struct A24_32f : Float {
 };
 
 struct Double : Kernel<Lum64f> {
-  static LUM_INLINE Lanes<Lum64f> LargePath(Vec<Lum64f> x, const Lanes<Lum64f>& lanes) {
+  static constexpr bool second_in_all_layers = true;
+  static LUM_INLINE Finished<Lum64f> SecondPath(Vec<Lum64f> x, const Lanes<Lum64f>& lanes) {
     return MergeLarge(x, lanes, LargeCosine(x));
   }
   static LumStatus LaneRoutine(Lum64f x, Lum64f& result) { return CircularOfNonFinite(x, result); }

@@ -1,4 +1,4 @@
-// What remains of a vector of the circular functions after the path for large arguments: infinities and NaN.
+// The circular functions of infinities and NaN, which the reductions of large arguments leave.
 #pragma once
 
 #include "frame/kernel_frame.h"
@@ -13,9 +13,17 @@ template <class T> LumStatus CircularOfNonFinite(T x, T& result) {
   return is_nan ? lumStsOk : lumStsDomain;
 }
 
-// The results of the second path in the refused lanes; infinities and NaN stay refused.
-template <class T> LUM_INLINE Lanes<T> MergeLarge(Vec<T> x, const Lanes<T>& lanes, Vec<T> large) {
-  return {select(lanes.refused, large, lanes.value), fpclass<0x99>(x)};
+// The same of the lanes of a vector, other in those that are finite.
+template <class T> LUM_INLINE Vec<T> SelectNonFinite(Vec<T> x, Vec<T> other) {
+  const auto is_nan = unord(x, x);
+  const auto factor = select(fpclass<0x99>(x), x, all(T(1)));
+  return select(fpclass<0x99>(x), factor * select(is_nan, factor, all(T(0))), other);
+}
+
+// The results of the second path in the refused lanes.
+template <class T> LUM_INLINE Finished<T> MergeLarge(Vec<T> x, const Lanes<T>& lanes, Vec<T> large) {
+  const auto value = select(lanes.refused, large, lanes.value);
+  return {SelectNonFinite(x, value), mask_of<T>(0), {.domain = fpclass<0x18>(x)}};
 }
 
 }  // namespace lum::inline LUM_LAYER

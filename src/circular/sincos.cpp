@@ -15,18 +15,22 @@ template <class Tier> struct Plain : Kernel<typename Tier::Element> {
   static LUM_INLINE TwoLanes<T> VectorPath(Vec<T> x) { return Both(Tier::Ordinary(x)); }
   static LumStatus LaneRoutine(T x, T& sine, T& cosine) { return SineAndCosineRoutine(x, sine, cosine); }
 };
-template <class Tier> struct WithLargePath : Plain<Tier> {
+template <class Tier> struct WithLarge : Plain<Tier> {
+  static constexpr bool second_in_all_layers = true;
   using T = typename Tier::Element;
-  static LUM_INLINE TwoLanes<T> LargePath(Vec<T> x, const TwoLanes<T>&) { return Both(Tier::Large(x)); }
+  static LUM_INLINE TwoFinished<T> SecondPath(Vec<T> x, const TwoLanes<T>&) {
+    const auto v = Tier::Large(x);
+    return {SelectNonFinite(x, v.sine), SelectNonFinite(x, v.cosine), mask_of<T>(0), {.domain = fpclass<0x18>(x)}};
+  }
 };
 
 // Distinct kernels, each with a cell of its own for the hook.
-struct A11_32f : WithLargePath<QuarterTurns_A21> {};
-struct A21_32f : WithLargePath<QuarterTurns_A21> {};
-struct A24_32f : WithLargePath<QuarterTurns_A24> {};
+struct A11_32f : WithLarge<QuarterTurns_A21> {};
+struct A21_32f : WithLarge<QuarterTurns_A21> {};
+struct A24_32f : WithLarge<QuarterTurns_A24> {};
 struct A26_64f : Plain<SineAndCosine_A26> {};
-struct A50_64f : WithLargePath<SineAndCosine_A50> {};
-struct A53_64f : WithLargePath<SineAndCosine_A53> {};
+struct A50_64f : WithLarge<SineAndCosine_A50> {};
+struct A53_64f : WithLarge<SineAndCosine_A53> {};
 
 }  // namespace
 

@@ -92,17 +92,18 @@ template <class T> LUM_INLINE Vec<T> QuotientWithTails(const Reduced<T>& a, Vec<
 
 // The tiers by their Tier::Reduce, Tier::Evaluate and Tier::threshold.
 template <class Tier, class T> struct Tangent : Kernel<T> {
+  static constexpr bool second_in_all_layers = true;
   static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) {
     return {Tier::Evaluate(Tier::Reduce(x)), nle(abs(x), all(T{Tier::threshold}))};
   }
-  static LUM_INLINE Lanes<T> LargePath(Vec<T> x, const Lanes<T>& lanes) {
+  static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) {
     const auto ordinary = Tier::Reduce(x);
     auto wide = ReduceWideToTable(x);
     if constexpr (!Tier::has_tails) wide = {wide.hi + wide.lo, wide.lo, wide.k};
     const auto at = lanes.refused;
     const Reduced<T> merged{select(at, wide.hi, ordinary.hi), select(at, wide.lo, ordinary.lo),
                             select(mask_cast<UnsignedOf<T>>(at), wide.k, ordinary.k)};
-    return {Tier::Evaluate(merged), fpclass<0x99>(x)};
+    return {SelectNonFinite(x, Tier::Evaluate(merged)), mask_of<T>(0), {.domain = fpclass<0x18>(x)}};
   }
   static LumStatus LaneRoutine(T x, T& result) { return CircularOfNonFinite(x, result); }
 };

@@ -86,19 +86,18 @@ template <class Path, class E, class... Inputs> LUM_INLINE Lanes<E> PathOfElemen
   else return NarrowedPath<Path>(packed...);
 }
 
-// Whether a call goes through the vector path: not for a few elements, nor where what a core does in the caller's rounding (to
-// narrow, and the products of a power) is not to nearest, nor where the caller has denormal numbers flushed, which tails may be
-// and numbers of Extended are not. The portable vectors are slower than the core.
+// Whether a call goes through the vector path: not where what a core does in the caller's rounding (to narrow, and the products
+// of a power) is not to nearest, nor where the caller has denormal numbers flushed, which tails may be and numbers of Extended
+// are not. The portable vectors are slower than the core.
 #ifdef LUM_AVX512
 inline constexpr bool has_fast_vectors = true;
-inline bool TakesVectorPath(int32_t len) {
-  constexpr int32_t shortest = 3;
+inline bool TakesVectorPath() {
   constexpr uint32_t rounding_field = 0x6000, flush_to_zero = 0x8000, denormals_are_zero = 0x40;
-  return len >= shortest && (ReadMxcsr() & (rounding_field | flush_to_zero | denormals_are_zero)) == 0;
+  return (ReadMxcsr() & (rounding_field | flush_to_zero | denormals_are_zero)) == 0;
 }
 #else
 inline constexpr bool has_fast_vectors = false;
-inline bool TakesVectorPath(int32_t) { return false; }
+inline bool TakesVectorPath() { return false; }
 #endif
 
 template <class Path, OneInputCore core, class E> struct SilentKernel : Kernel<E> {
@@ -114,13 +113,13 @@ template <class Path, OneInputCore core, class E> struct OverflowKernel : Silent
 // The array function of a core and its path.
 template <class Path, OneInputCore core, class E> LumStatus RunSilent(const E* src, E* dst, int32_t len) {
   if constexpr (has_fast_vectors) {
-    if (TakesVectorPath(len)) return OneInput<SilentKernel<Path, core, E>>(src, dst, len);
+    if (TakesVectorPath()) return OneInput<SilentKernel<Path, core, E>>(src, dst, len);
   }
   return SilentLoop<core>(src, dst, len);
 }
 template <class Path, OneInputCore core, class E> LumStatus RunReporting(const E* src, E* dst, int32_t len) {
   if constexpr (has_fast_vectors) {
-    if (TakesVectorPath(len)) return OneInput<OverflowKernel<Path, core, E>>(src, dst, len);
+    if (TakesVectorPath()) return OneInput<OverflowKernel<Path, core, E>>(src, dst, len);
   }
   return OneInputLoop<core, E>::Run(src, dst, len);
 }

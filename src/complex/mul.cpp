@@ -2,6 +2,7 @@
 // four products. The low tags take one of them exactly, in a fused step, and refuse a lane whose difference has cancelled. The
 // others of 32fc take both exactly in binary64; those of 64fc keep the errors of both and refuse numbers near the ends of the
 // range, zeros among them.
+#include "complex/exact_product.h"
 #include "complex/refused.h"
 #include "frame/kernels.h"
 
@@ -20,8 +21,54 @@ template <bool by_conjugate, class T> LUM_INLINE Vec<T> Joined(const Factors<T>&
   else return fmaddsub(f.z, f.w_re, products);
 }
 
+// All elements of which a component is in the mask.
+template <class T> LUM_INLINE Mask<T> ElementsOf(ComponentMask<T> m) {
+  const auto components = [](Mask<T> half) __attribute__((always_inline)) { return as_float(spread(half)); };
+  const auto parts = deinterleave(components(m.low), components(m.high));
+  return mask_cast<T>(sign_mask(bits(parts.even) | bits(parts.odd)));
+}
+
+// The products as the core has them. Those of 32fc are exact in binary64, and their sums need no further part: only next to the
+// middle of two numbers of binary32 may the core's roundings differ from one.
+struct CoreValue32 {
+  ComplexVec<Lum32f> value;
+  Mask<Lum32f> is_sure;
+};
+LUM_INLINE CoreValue32 ProductAsCore(ComplexVec<Lum32f> z, ComplexVec<Lum32f> w, Mask<Lum32f>) {
+  const auto half = [](ComplexVec<Lum64f> a, ComplexVec<Lum64f> b) __attribute__((always_inline)) {
+    return ComplexVec<Lum64f>{a.re * b.re + negate(a.im * b.im), a.re * b.im + a.im * b.re};
+  };
+  const auto low = half({widen_low(z.re), widen_low(z.im)}, {widen_low(w.re), widen_low(w.im)});
+  const auto high = half({widen_high(z.re), widen_high(z.im)}, {widen_high(w.re), widen_high(w.im)});
+  const auto narrowed = [](Vec<Lum64f> x, Vec<Lum64f> y, Vec<Lum32f> & value) __attribute__((always_inline)) {
+    const auto distance = all(0x1p-52);
+    value = narrow(x, y);
+    const auto inner = narrow(fnma(x, distance, x), fnma(y, distance, y));
+    const auto outer = narrow(fma(x, distance, x), fma(y, distance, y));
+    return eq(inner, outer) | unord(inner, outer);  // infinities and NaN of operands that are not finite
+  };
+  CoreValue32 product;
+  product.is_sure = narrowed(low.re, high.re, product.value.re) & narrowed(low.im, high.im, product.value.im);
+  product.is_sure = product.is_sure & ~HaveTwoNans(z, w);
+  return product;
+}
+
 template <class E, bool by_conjugate> struct Product : Kernel<E> {
   static constexpr int vectors = 1;
+  static LUM_INLINE Finished<E> SecondPath(Packed<E> packed_z, Packed<E> packed_w,
+                                           const Lanes<E, ComponentMask<Real<E>>>& lanes) {
+    using T = Real<E>;
+    const auto z = split(packed_z), first = split(lanes.value);
+    auto w = split(packed_w);
+    if constexpr (by_conjugate) w.im = negate(w.im);
+    const auto refused = ElementsOf(lanes.refused);
+    const auto product = ProductAsCore(z, w, refused);
+    const auto finished = product.is_sure & refused;
+    const ComplexVec<T> value{select(finished, product.value.re, first.re), select(finished, product.value.im, first.im)};
+    const auto infinite = fpclass<0x18>(value.re) | fpclass<0x18>(value.im);
+    const auto not_finite = fpclass<0x99>(z.re) | fpclass<0x99>(z.im) | fpclass<0x99>(w.re) | fpclass<0x99>(w.im);
+    return {join(value), refused & ~finished, {.overflow = finished & infinite & ~not_finite}};
+  }
   static LumStatus LaneRoutine(const E& z, const E& w, E& result) {
     return ProductCoreOnLane < by_conjugate ? CoreMulByConj : CoreMul > (z, w, result);
   }

@@ -93,13 +93,13 @@ template <class E> struct PowxKernel : Kernel<E> {
 
 template <class E> LUM_INLINE LumStatus RunPow(const E* src1, const E* src2, E* dst, int32_t len) {
   if constexpr (has_fast_vectors) {
-    if (TakesVectorPath(len)) return TwoInputs<PowKernel<E>>(src1, src2, dst, len);
+    if (TakesVectorPath()) return TwoInputs<PowKernel<E>>(src1, src2, dst, len);
   }
   return TwoInputsLoop<CorePow, E>::Run(src1, src2, dst, len);
 }
 template <class E> LUM_INLINE LumStatus RunPowx(const E* src, const E& exponent, E* dst, int32_t len) {
   if constexpr (has_fast_vectors) {
-    if (TakesVectorPath(len)) return OneInput<PowxKernel<E>>(src, dst, len, {{}, exponent});
+    if (TakesVectorPath()) return OneInput<PowxKernel<E>>(src, dst, len, {{}, exponent});
   }
   return ParameterLoop<CorePow, E>::Run(src, exponent, dst, len);
 }

@@ -1,9 +1,10 @@
 // e^x. With x = n ln 2 + r, n a multiple of 1/N:  e^x = 2^floor(n) 2^(j/N) e^r,  0 <= r < ln(2)/N, N = 16 or 8.
 // 2^(j/N) comes from a table, e^r from a polynomial, and scalef applies 2^floor(n), so that there is no integer work on
 // exponents. The tiers differ in the parts of ln 2, the degree of the polynomial, and whether the table's tail takes part.
-// Arguments beyond the threshold go to a lane routine, which knows overflow, denormal results and underflow.
+// Arguments beyond the threshold have a second path, which knows overflow, denormal results and underflow.
 #include <cstdint>
 
+#include "explog/exp_ends.h"
 #include "explog/exp_reduction.h"
 #include "explog/exp_routine.h"
 #include "frame/kernel_frame.h"
@@ -67,38 +68,57 @@ LUM_INLINE Vec<Lum64f> LongPolynomial(Vec<Lum64f> r) {
                 f64(0x3F2B28056EA3D8B9, 0.00020718637762912553));
 }
 
-struct A11_32f : Kernel<Lum32f> {
+// The scale factor of a vanishing result would be denormal.
+template <class T> struct ExpKernel : Kernel<T> {
+  static constexpr bool second_is_short = true;
+  static constexpr bool hides_refused = true;
+};
+
+// The tiers whose lane routine computes in binary32.
+struct Float : ExpKernel<Lum32f> {
+  static LumStatus LaneRoutine(Lum32f x, Lum32f& result) { return ExpFloatRoutine(x, result); }
+  static LUM_INLINE Finished<Lum32f> SecondPath(Vec<Lum32f> x, const Lanes<Lum32f>& lanes) {
+    return ExpSecondPath(
+        x, lanes, [](Vec<Lum32f> between) __attribute__((always_inline)) { return ExpFloatAtEnds(between); });
+  }
+};
+// Those where it computes in binary64.
+template <class T> struct ByDouble : ExpKernel<T> {
+  static LumStatus LaneRoutine(T x, T& result) { return ExpDoubleRoutine(x, result); }
+  static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) {
+    return ExpSecondPath(
+        x, lanes, [](Vec<T> between) __attribute__((always_inline)) { return ExpAtEnds(between); });
+  }
+};
+
+struct A11_32f : Float {
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
     const auto a = Reduce<1>(x);
     const auto p = horner(a.r, 1.0f, f32(0x3F82CC37, 1.0218571424484253));
     return {p * scalef(Head(a), a.n), a.refused};
   }
-  static LumStatus LaneRoutine(Lum32f x, Lum32f& result) { return ExpFloatRoutine(x, result); }
 };
 
-struct A21_32f : Kernel<Lum32f> {
+struct A21_32f : Float {
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
     const auto a = Reduce<2>(x);
     const auto u = fma(a.r * a.r, QuadraticPart(a.r), a.r);
     const auto s = scalef(Head(a), a.n);
     return {fma(u, s, s), a.refused};
   }
-  static LumStatus LaneRoutine(Lum32f x, Lum32f& result) { return ExpFloatRoutine(x, result); }
 };
 
-struct A24_32f : Kernel<Lum32f> {
+struct A24_32f : ByDouble<Lum32f> {
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
     const auto a = Reduce<2>(x);
     const auto u = fma(QuadraticPart(a.r), a.r * a.r, Tail(a) + a.r);
     const auto s = scalef(Head(a), a.n);
     return {fma(u, s, s), a.refused};
   }
-  static LumStatus LaneRoutine(Lum32f x, Lum32f& result) { return ExpDoubleRoutine(x, result); }
 };
 
-struct Double : Kernel<Lum64f> {
+struct Double : ByDouble<Lum64f> {
   static constexpr int vectors = 4;
-  static LumStatus LaneRoutine(Lum64f x, Lum64f& result) { return ExpDoubleRoutine(x, result); }
 };
 
 struct A26_64f : Double {

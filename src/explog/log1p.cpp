@@ -5,6 +5,7 @@
 // of x, so that -0 gives -0.
 #include <cstdint>
 
+#include "explog/logarithm_reduction.h"
 #include "explog/logarithm_routine.h"
 #include "frame/kernel_frame.h"
 #include "frame/kernels.h"
@@ -25,6 +26,8 @@ template <class T> LUM_INLINE OnePlus<T> AddOne(Vec<T> x) {
 
 // Refused are those s = 1 + x that are not positive, infinite or NaN.
 template <class T> struct Log1p : Kernel<T> {
+  static constexpr bool second_is_short = true;
+  static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) { return LogarithmOfSpecial(x + all(T(1)), lanes); }
   static LumStatus LaneRoutine(T x, T& result) { return LnRoutine<T>(x + 1, result); }
 };
 

@@ -1,6 +1,9 @@
 // What the vector paths of the logarithms share: the split of the argument and its refusal.
 #pragma once
 
+#include <limits>
+
+#include "frame/kernel_frame.h"
 #include "frame/types.h"
 #include "frame/vec.h"
 
@@ -9,6 +12,17 @@ namespace lum::inline LUM_LAYER {
 // Zeros, infinities and negative numbers, of which a logarithm has to report or whose result is special. NaN is not among them:
 // the significand and the exponent of a NaN are NaN and carry it to the result.
 template <Floating T> LUM_INLINE Mask<T> ZeroInfiniteOrNegative(Vec<T> x) { return fpclass<0x5E>(x); }
+
+// The second path of a logarithm whose poles lie at x = 0, as the lane routine has it. Positive finite numbers remain.
+template <Floating T> LUM_INLINE Finished<T> LogarithmOfSpecial(Vec<T> x, const Lanes<T>& lanes) {
+  const auto zero = fpclass<0x06>(x) & lanes.refused, negative = fpclass<0x50>(x) & lanes.refused;
+  const auto itself = fpclass<0x89>(x) & lanes.refused;  // NaN and infinity
+  const auto root = select(itself, x, all(T(1)));
+  auto value = select(itself, root * root, lanes.value);
+  value = select(zero, all(-std::numeric_limits<T>::infinity()), value);
+  value = select(negative, all(std::numeric_limits<T>::quiet_NaN()), value);
+  return {value, lanes.refused & ~(zero | negative | itself), {.domain = negative, .singularity = zero}};
+}
 
 // log(m) / r of m = 1 + r in [3/4, 3/2), by a polynomial of its own for each of sixteen segments. They have no constant term,
 // so log(1) is +0. The columns hold their coefficients, 16 entries each, the highest power first.

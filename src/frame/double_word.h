@@ -13,7 +13,7 @@ struct DoubleWord {
 };
 
 // a + b exactly.
-inline DoubleWord ExactSum(double a, double b) {
+constexpr DoubleWord ExactSum(double a, double b) {
   const double sum = a + b;
   const double b_part = sum - a;
   return {sum, (a - (sum - b_part)) + (b - b_part)};

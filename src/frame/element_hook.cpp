@@ -5,4 +5,6 @@ namespace lum {
 
 void ElementHook(int32_t, int32_t, const void*, const void*, void*, void*, uint32_t*) {}
 
+const bool element_hook_is_empty = true;
+
 }  // namespace lum

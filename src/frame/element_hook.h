@@ -10,4 +10,7 @@ namespace lum {
 // zero-initialised word that belongs to the kernel. Does nothing in this library.
 void ElementHook(int32_t status, int32_t index, const void* src1, const void* src2, void* dst1, void* dst2, uint32_t* cell);
 
+// True where the hook does nothing: elements whose results and statuses are known in vectors then report without the calls.
+extern const bool element_hook_is_empty;
+
 }  // namespace lum

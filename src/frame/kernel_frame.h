@@ -8,15 +8,23 @@
 //   LaneRoutine(x..., r...)
 //     Finishes one refused element: scalars in, results by reference, which hold the vector path's values. Returns the
 //     element's LumStatus; a silent kernel's returns void, and the kernel's status is then always 0.
-//   LargePath(x, lanes)
-//     Optional, one input: a second, slower vector path over a vector with refused lanes. Given what VectorPath returned, it
-//     returns the same with values in the lanes that it finishes and the mask of those that remain for the lane routine.
+//   SecondPath(x..., lanes)
+//     Optional: a vector path for the lanes that the first one refuses. Given what VectorPath returned, it returns the same
+//     with values in the lanes that it finishes and the mask of those that remain for the lane routine; as Finished<Output>,
+//     also the lanes that report, by status. Values and statuses are those of the lane routine.
 // Constants that a kernel may override: variant, vectors (in a block), fill (of inactive lanes: never to be refused), is_short
-// (a vector path of a few operations, which is inlined in either layer).
+// (a vector path of a few operations, which is inlined in either layer), and those of the second path:
+//   second_is_short: a few operations, so that it costs less to run it than to see whether a vector needs it.
+//   hides_refused: the processor would stop at denormal numbers that the first path makes of refused arguments, so the loop
+//   over
+//     both paths has the fill in their place.
+//   second_in_all_layers: the lane routine knows only what the second path leaves. Otherwise a layer whose vectors do not fit
+//     into registers has the routine alone, which is faster there.
 // A kernel with a parameter has it as a data member; all others are empty.
 #pragma once
 
 #include <array>
+#include <bit>
 #include <cstdint>
 #include <type_traits>
 #include <utility>
@@ -34,6 +42,10 @@ template <class InputElement, class OutputElement = InputElement> struct Kernel 
   static constexpr int vectors = 2;
   static constexpr bool is_short = false;
   static constexpr Real<Input> fill = Real<Input>(0.75);
+  static constexpr bool second_is_short = false;
+  static constexpr bool hides_refused = false;
+  static constexpr bool second_in_all_layers = false;
+  static constexpr bool hook_has_first_source_only = false;  // in the place of the second, too
 };
 
 template <class E, class Refused = Mask<Real<E>>> struct Lanes {
@@ -44,6 +56,21 @@ template <class E> struct TwoValues { Packed<E> value1, value2; };
 template <class E> struct TwoLanes {
   Packed<E> value1, value2;
   Mask<Real<E>> refused;
+};
+
+// Lanes that report, by status; at most one for each lane.
+template <class T> struct Reports { Mask<T> domain{}, singularity{}, overflow{}, underflow{}; };
+struct NoReports {};
+// What a second path gives where elements may report.
+template <class E> struct Finished {
+  Packed<E> value;
+  Mask<Real<E>> refused;
+  Reports<Real<E>> reports;
+};
+template <class E> struct TwoFinished {
+  Packed<E> value1, value2;
+  Mask<Real<E>> refused;
+  Reports<Real<E>> reports;
 };
 
 // The arrays of one call: n inputs, m outputs.
@@ -88,38 +115,77 @@ template <class K, int n> LUM_INLINE auto Compute(const K& kernel, const Inputs<
   else return VectorPathOf<K, n>(kernel, x);
 }
 
-template <class K, int n>
-concept HasLargePath = requires(const K kernel, const Inputs<K, n> x) {
-  kernel.LargePath(x[0], kernel.VectorPath(x[0]));
-};
+template <class K, int n, class Result> LUM_INLINE auto SecondPathOf(const K& kernel, const Inputs<K, n>& x, const Result& r) {
+  if constexpr (n == 1) return kernel.SecondPath(x[0], r);
+  else return kernel.SecondPath(x[0], x[1], r);
+}
 template <class K, int n, class Result>
-[[gnu::noinline]] Result CalledLargePath(const K& kernel, const Inputs<K, n>& x, const Result& r) {
-  return kernel.LargePath(x[0], r);
+[[gnu::noinline]] auto CalledSecondPath(const K& kernel, const Inputs<K, n>& x, const Result& r) {
+  return SecondPathOf<K, n>(kernel, x, r);
 }
-template <class K, int n, class Result> LUM_INLINE Result LargePathOf(const K& kernel, const Inputs<K, n>& x, const Result& r) {
-  if constexpr (vectors_fit_registers) return kernel.LargePath(x[0], r);
-  else return CalledLargePath<K, n>(kernel, x, r);
+template <class K, int n, class Result> LUM_INLINE auto ComputeSecond(const K& kernel, const Inputs<K, n>& x, const Result& r) {
+  if constexpr (vectors_fit_registers) return SecondPathOf<K, n>(kernel, x, r);
+  else return CalledSecondPath<K, n>(kernel, x, r);
 }
-
-// The same with the second path, where a kernel has one. It has no need for the first path's values where that refuses all.
-template <class K, int n> LUM_INLINE auto ComputeRefused(const K& kernel, const Inputs<K, n>& x) {
-  auto r = Compute<K, n>(kernel, x);
-  if constexpr (HasLargePath<K, n>) {
-    if (none(~r.refused)) {
-      decltype(r) no_values{};
-      no_values.refused = r.refused;
-      r = LargePathOf<K, n>(kernel, x, no_values);
-    } else if (any(r.refused)) {
-      r = LargePathOf<K, n>(kernel, x, r);
-    }
-  }
-  return r;
-}
+template <class K>
+concept HasSecondPath = (vectors_fit_registers || K::second_in_all_layers) && requires {
+  &K::SecondPath;
+};
 
 template <class K, int m, class Result> LUM_INLINE Outputs<K, m> Values(const Result& r) {
   if constexpr (requires { r.value; }) return {r.value};
   else if constexpr (requires { r.value1; }) return {r.value1, r.value2};
   else return {r};
+}
+
+// What both paths make of a vector.
+template <class K, int m, class Remaining, class Reported> struct BothPaths {
+  Outputs<K, m> values;
+  bool any_refused;     // by the first path
+  Remaining remaining;  // for the lane routine
+  Reported reports;
+};
+template <class K, int m, class Result> LUM_INLINE auto AsBothPaths(const Result& r, bool any_refused) {
+  using Remaining = decltype(r.refused);
+  if constexpr (requires { r.reports; }) {
+    return BothPaths<K, m, Remaining, decltype(r.reports)>{Values<K, m>(r), any_refused, r.refused, r.reports};
+  } else {
+    return BothPaths<K, m, Remaining, NoReports>{Values<K, m>(r), any_refused, r.refused, {}};
+  }
+}
+
+// The first path where both run.
+template <class K, int n> LUM_INLINE auto ComputeFirst(const K& kernel, const Inputs<K, n>& x) {
+  auto r = Compute<K, n>(kernel, x);
+  if constexpr (K::hides_refused) {
+    Inputs<K, n> hidden = x;
+    for (auto& values : hidden) values = select(r.refused, all(K::fill), values);
+    const auto refused = r.refused;
+    r = Compute<K, n>(kernel, hidden);
+    r.refused = refused;
+  }
+  return r;
+}
+
+template <class K, int n, int m> LUM_INLINE auto ComputeBoth(const K& kernel, const Inputs<K, n>& x) {
+  const auto first = ComputeFirst<K, n>(kernel, x);
+  if constexpr (!HasSecondPath<K>) {
+    return AsBothPaths<K, m>(first, any(first.refused));
+  } else if constexpr (K::second_is_short) {
+    return AsBothPaths<K, m>(ComputeSecond<K, n>(kernel, x, first), any(first.refused));
+  } else {
+    using Result = decltype(AsBothPaths<K, m>(ComputeSecond<K, n>(kernel, x, first), true));
+    if constexpr (requires { ~first.refused; }) {
+      // There is no need for the first path's values where it refuses all.
+      if (none(~first.refused)) {
+        std::remove_const_t<decltype(first)> no_values{};
+        no_values.refused = first.refused;
+        return AsBothPaths<K, m>(ComputeSecond<K, n>(kernel, x, no_values), true);
+      }
+    }
+    if (any(first.refused)) return AsBothPaths<K, m>(ComputeSecond<K, n>(kernel, x, first), true);
+    return Result{Values<K, m>(first), false, {}, {}};
+  }
 }
 
 template <class K, int n, int m> LUM_INLINE Inputs<K, n> LoadStep(const Arrays<K, n, m>& a, int64_t i) {
@@ -144,14 +210,34 @@ template <class K, int n, int m, class Result> LUM_INLINE void StoreStep(const A
 
 }  // namespace frame
 
-// A block with refused lanes: its inputs and the vector path's results in lane order.
+// Reports as bits, of the lanes in use.
+struct ReportBits {
+  uint32_t domain = 0, singularity = 0, overflow = 0, underflow = 0;
+
+  uint32_t Any() const { return domain | singularity | overflow | underflow; }
+  LumStatus Of(int lane) const {
+    if ((domain >> lane & 1) != 0) return lumStsDomain;
+    if ((singularity >> lane & 1) != 0) return lumStsSingularity;
+    if ((overflow >> lane & 1) != 0) return lumStsOverflow;
+    return (underflow >> lane & 1) != 0 ? lumStsUnderflow : lumStsOk;
+  }
+};
+template <class T> LUM_INLINE ReportBits BitsOf(const Reports<T>& r, uint32_t in_use) {
+  return {to_bits(r.domain) & in_use, to_bits(r.singularity) & in_use, to_bits(r.overflow) & in_use,
+          to_bits(r.underflow) & in_use};
+}
+LUM_INLINE ReportBits BitsOf(const NoReports&, uint32_t) { return {}; }
+
+// A block with refused lanes: its inputs and the vector paths' results in lane order.
 template <class K, int n, int m> struct SpilledBlock {
   alignas(64) typename K::Input inputs[n][block_of<K>];
   alignas(64) typename K::Output results[m][block_of<K>];
   uint32_t refused[K::vectors] = {};  // the lanes of each vector
-  bool any_refused = false;
+  ReportBits reports[K::vectors];
+  bool any_refused = false;  // or reported
 
   bool IsRefused(int lane) const { return (refused[lane / step_of<K>] >> (lane % step_of<K>)&1) != 0; }
+  LumStatus Reported(int lane) const { return reports[lane / step_of<K>].Of(lane % step_of<K>); }
 };
 
 namespace frame {
@@ -163,17 +249,31 @@ LUM_INLINE void Spill(const K& kernel, const Arrays<K, n, m>& arrays, int64_t fi
   for (int v = 0; v * step < count; ++v) {
     const int active = std::min(step, count - v * step);
     const auto x = LoadStep<K, n, m>(arrays, first + v * step, active);
-    const auto r = ComputeRefused<K, n>(kernel, x);
-    const auto values = Values<K, m>(r);
+    const auto r = ComputeBoth<K, n, m>(kernel, x);
     for (int j = 0; j < n; ++j) StoreElements(&block.inputs[j][v * step], x[j]);
-    for (int j = 0; j < m; ++j) StoreElements(&block.results[j][v * step], values[j]);
+    for (int j = 0; j < m; ++j) StoreElements(&block.results[j][v * step], r.values[j]);
     // A fill lane is refused only where a parameter makes it so; its result would be dropped by the masked store.
-    block.refused[v] = element_bits(r.refused) & ((1u << active) - 1u);
-    block.any_refused |= block.refused[v] != 0;
+    const uint32_t in_use = (1u << active) - 1u;
+    block.refused[v] = element_bits(r.remaining) & in_use;
+    block.reports[v] = BitsOf(r.reports, in_use);
+    block.any_refused |= (block.refused[v] | block.reports[v].Any()) != 0;
   }
 }
 
-// The lane routine on one spilled lane; a reported element passes through the caller's array and the hook.
+// An element that reports passes through the caller's array and the hook.
+template <class K, int n, int m>
+LUM_INLINE void ReportLane(LumStatus reported, const Arrays<K, n, m>& arrays, int64_t index, int lane,
+                           SpilledBlock<K, n, m>& block, Call& call) {
+  auto& r = block.results;
+  call.status = reported;
+  for (int j = 0; j < m; ++j) arrays.dst[j][index] = r[j][lane];
+  const void* const last_source = K::hook_has_first_source_only ? arrays.src[0] : arrays.src[n - 1];
+  ElementHook(reported, static_cast<int32_t>(index), arrays.src[0], last_source, arrays.dst[0], arrays.dst[m - 1],
+              &hook_cell<K>);
+  for (int j = 0; j < m; ++j) r[j][lane] = arrays.dst[j][index];
+}
+
+// The lane routine on one spilled lane, or the report of a lane that the second path has finished.
 template <class K, int n, int m>
 LUM_INLINE void FinishLane(const K& kernel, const Arrays<K, n, m>& arrays, int64_t index, int lane,
                            SpilledBlock<K, n, m>& block, Call& call) {
@@ -185,13 +285,10 @@ LUM_INLINE void FinishLane(const K& kernel, const Arrays<K, n, m>& arrays, int64
     else return kernel.LaneRoutine(std::as_const(x[0][lane]), r[0][lane]);
   };
   if constexpr (std::is_void_v<decltype(routine())>) {
-    routine();
-  } else if (const LumStatus reported = routine(); reported != lumStsOk) {
-    call.status = reported;
-    for (int j = 0; j < m; ++j) arrays.dst[j][index] = r[j][lane];
-    ElementHook(reported, static_cast<int32_t>(index), arrays.src[0], arrays.src[n - 1], arrays.dst[0], arrays.dst[m - 1],
-                &hook_cell<K>);
-    for (int j = 0; j < m; ++j) r[j][lane] = arrays.dst[j][index];
+    if (block.IsRefused(lane)) routine();
+  } else {
+    const LumStatus reported = block.IsRefused(lane) ? routine() : block.Reported(lane);
+    if (reported != lumStsOk) ReportLane(reported, arrays, index, lane, block, call);
   }
 }
 
@@ -208,9 +305,7 @@ __attribute__((noinline, cold)) void FinishLanes(const K& kernel, const Arrays<K
     if constexpr (K::variant.x87 == X87Form::lazy) {
       if (!call.environment.x87_prepared) X87Prepare(call.environment);
     }
-    for (int lane = 0; lane < count; ++lane) {
-      if (block.IsRefused(lane)) frame::FinishLane(kernel, arrays, first + lane, lane, block, call);
-    }
+    for (int lane = 0; lane < count; ++lane) { frame::FinishLane(kernel, arrays, first + lane, lane, block, call); }
   }
   constexpr int step = step_of<K>;
   for (int v = 0; v * step < count; ++v) {
@@ -223,45 +318,56 @@ __attribute__((noinline, cold)) void FinishLanes(const K& kernel, const Arrays<K
 
 namespace frame {
 
-// A full block with refused lanes whose kernel has a second vector path, which most often finishes all of them.
-template <class K, int n, int m>
-LUM_INLINE void LargeBlock(const K& kernel, const Arrays<K, n, m>& arrays, int64_t first, Call& call) {
-  Outputs<K, m> values[K::vectors];
-  bool all_finished = true;
-  for (int v = 0; v < K::vectors; ++v) {
-    const auto r = ComputeRefused<K, n>(kernel, LoadStep<K, n, m>(arrays, first + v * step_of<K>));
-    values[v] = Values<K, m>(r);
-    all_finished = all_finished && !any(r.refused);
-  }
-  if (!all_finished) {
+// The status of the last lane that reports.
+LUM_INLINE void TakeLastReport(const ReportBits& reports, Call& call) {
+  if (reports.Any() != 0) call.status = reports.Of(std::bit_width(reports.Any()) - 1);
+}
+
+// A full block by both paths; true where the first one refused lanes of it.
+template <class K, int n, int m, size_t... v>
+LUM_INLINE bool BlockOfBothPaths(const K& kernel, const Arrays<K, n, m>& arrays, int64_t first, Call& call,
+                                 std::index_sequence<v...>) {
+  const std::array r{ComputeBoth<K, n, m>(kernel, LoadStep<K, n, m>(arrays, first + static_cast<int64_t>(v) * step_of<K>))...};
+  constexpr uint32_t all_lanes = (1u << step_of<K>)-1u;
+  const std::array reports{BitsOf(r[v].reports, all_lanes)...};
+  if (any((r[v].remaining | ...)) || (!element_hook_is_empty && (reports[v].Any() | ...) != 0)) [[unlikely]] {
     FinishLanes(kernel, arrays, first, block_of<K>, call);
+    return true;
+  }
+  (TakeLastReport(reports[v], call), ...);
+  for (int j = 0; j < m; ++j) {
+    (StoreElements(arrays.dst[j] + first + static_cast<int64_t>(v) * step_of<K>, r[v].values[j]), ...);
+  }
+  return (r[v].any_refused || ...);
+}
+
+// A block with refused lanes, and those behind it: special arguments come in clusters, so this loop goes on until some blocks
+// have had none. Returns the index behind its last block.
+template <class K, int n, int m>
+__attribute__((noinline)) int64_t BlocksOfBothPaths(const K& kernel, const Arrays<K, n, m>& arrays, int64_t first, int64_t len,
+                                                    Call& call) {
+  constexpr int most_ordinary = 2;
+  int ordinary = 0;
+  do {
+    const bool refuses = BlockOfBothPaths<K, n, m>(kernel, arrays, first, call, std::make_index_sequence<K::vectors>());
+    ordinary = refuses ? 0 : ordinary + 1;
+    first += block_of<K>;
+  } while (ordinary < most_ordinary && first + block_of<K> <= len);
+  return first;
+}
+
+// A vector of fewer elements by both paths.
+template <class K, int n, int m>
+__attribute__((noinline)) void TailOfBothPaths(const K& kernel, const Arrays<K, n, m>& arrays, int64_t i, int count,
+                                               Call& call) {
+  const auto r = ComputeBoth<K, n, m>(kernel, LoadStep<K, n, m>(arrays, i, count));
+  const auto reports = BitsOf(r.reports, (1u << count) - 1u);
+  if (any(r.remaining) || (!element_hook_is_empty && reports.Any() != 0)) {
+    FinishLanes(kernel, arrays, i, count, call);
     return;
   }
-  for (int v = 0; v < K::vectors; ++v) {
-    for (int j = 0; j < m; ++j) StoreElements(arrays.dst[j] + first + v * step_of<K>, values[v][j]);
-  }
-}
-
-// Does the first path refuse all lanes of a block? Nothing of it but the mask is computed.
-template <class K, int n, int m> LUM_INLINE bool RefusesAll(const K& kernel, const Arrays<K, n, m>& arrays, int64_t first) {
-  bool all_refused = true;
-  for (int v = 0; v < K::vectors; ++v) {
-    const auto r = Compute<K, n>(kernel, LoadStep<K, n, m>(arrays, first + v * step_of<K>));
-    all_refused = all_refused && none(~r.refused);
-  }
-  return all_refused;
-}
-
-// Such a block, and those behind it all of whose lanes are refused too: large arguments come in whole arrays. Returns the index
-// behind the last of them.
-template <class K, int n, int m>
-__attribute__((noinline)) int64_t LargeBlocks(const K& kernel, const Arrays<K, n, m>& arrays, int64_t first, int64_t len,
-                                              Call& call) {
-  do {
-    LargeBlock<K, n, m>(kernel, arrays, first, call);
-    first += block_of<K>;
-  } while (first + block_of<K> <= len && RefusesAll<K, n, m>(kernel, arrays, first));
-  return first;
+  TakeLastReport(reports, call);
+  for (int j = 0; j < m; ++j) StoreElements(count, arrays.dst[j] + i, r.values[j]);
 }
 
 // The block at index i, in which v runs over its vectors, whose streams the processor overlaps. Returns the index of the next.
@@ -271,7 +377,7 @@ LUM_INLINE int64_t Block(const K& kernel, const Arrays<K, n, m>& arrays, int64_t
   const std::array results{Compute<K, n>(kernel, LoadStep<K, n, m>(arrays, i + static_cast<int64_t>(v) * step_of<K>))...};
   if constexpr (requires { results[0].refused; }) {
     if (any((results[v].refused | ...))) [[unlikely]] {
-      if constexpr (HasLargePath<K, n>) return LargeBlocks<K, n, m>(kernel, arrays, i, len, call);
+      if constexpr (HasSecondPath<K>) return BlocksOfBothPaths<K, n, m>(kernel, arrays, i, len, call);
       else FinishLanes(kernel, arrays, i, block_of<K>, call);
       return i + block_of<K>;
     }
@@ -286,7 +392,8 @@ LUM_INLINE void TailStep(const K& kernel, const Arrays<K, n, m>& arrays, int64_t
   const auto result = Compute<K, n>(kernel, LoadStep<K, n, m>(arrays, i, count));
   if constexpr (requires { result.refused; }) {
     if (any(result.refused)) [[unlikely]] {
-      FinishLanes(kernel, arrays, i, count, call);
+      if constexpr (HasSecondPath<K>) TailOfBothPaths<K, n, m>(kernel, arrays, i, count, call);
+      else FinishLanes(kernel, arrays, i, count, call);
       return;
     }
   }

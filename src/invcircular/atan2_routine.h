@@ -1,4 +1,5 @@
-// The arctangent of two scalars, which finishes the lanes that the vector paths refuse: any operands.
+// The arctangent of two numbers in the lanes that the vector paths refuse: of any scalars, and of vectors where an argument is
+// a zero, an infinity or a NaN.
 #pragma once
 
 #include <bit>
@@ -6,6 +7,7 @@
 #include <cstdint>
 
 #include "frame/double_word.h"
+#include "frame/kernel_frame.h"
 #include "frame/lane_format.h"
 #include "invcircular/atan2_constants.h"
 
@@ -48,6 +50,38 @@ inline DoubleWord ScalarAngle(double y, double x) {
   for (size_t k = C::polynomial_size; k-- > 0;) p = p * s + C::polynomial[k];
   const DoubleWord head = ExactSum(C::heads[i], t);
   return {head.hi, head.lo + (C::tails[i] + rest / d.hi + t * s * p)};
+}
+
+// The angles of the axes and of the diagonals.
+struct AxisAngles {
+  double along, diagonal, across;
+};
+template <bool x_negative> consteval AxisAngles AnglesOfAxes() {
+  using C = IntervalConstants<Lum64f>;
+  const auto angle = [](double hi, double lo) {
+    if (!x_negative) return hi + lo;
+    const DoubleWord head = ExactSum(C::pi, -hi);
+    return head.hi + (head.lo + (C::pi_tail - lo));
+  };
+  return {angle(0, 0), angle(C::heads[2], C::tails[2]), angle(C::heads[4], C::tails[4])};
+}
+
+// The second path of the arctangent of two arguments. Numbers near the ends of the exponent range remain.
+template <class T> LUM_INLINE Lanes<T> Atan2OfSpecial(Vec<T> y, Vec<T> x, const Lanes<T>& lanes) {
+  constexpr auto positive = AnglesOfAxes<false>(), negative = AnglesOfAxes<true>();
+  const auto x_negative = mask_cast<T>(sign_mask(bits(x)));
+  const auto chosen = [&](double of_positive, double of_negative) __attribute__((always_inline)) {
+    return select(x_negative, all(static_cast<T>(of_negative)), all(static_cast<T>(of_positive)));
+  };
+  const auto y_zero = fpclass<0x06>(y), x_zero = fpclass<0x06>(x);
+  const auto y_infinite = fpclass<0x18>(y), x_infinite = fpclass<0x18>(x), nan = unord(y, x);
+  const auto across = (x_zero & ~y_zero) | (y_infinite & ~x_infinite), diagonal = y_infinite & x_infinite;
+  auto angle = chosen(positive.along, negative.along);
+  angle = select(across, chosen(positive.across, negative.across), angle);
+  angle = select(diagonal, chosen(positive.diagonal, negative.diagonal), angle);
+  angle = select(nan, y + x, or_sign(y, angle));
+  const auto finished = lanes.refused & (y_zero | x_infinite | across | nan);
+  return {select(finished, angle, lanes.value), lanes.refused & ~finished};
 }
 
 template <class T> T Atan2Magnitude(double ay, double ax, bool x_negative) {

@@ -1,8 +1,8 @@
 // x / y without a divide instruction: an estimate r0 of 1 / y with 14 bits, and e = 1 - y r0 exactly enough to sum the series
 // 1 / (1 - e) = 1 + e + e^2 + ... as far as the tier needs. The high tiers divide the significands, correct the quotient by its
 // exact residual and scale by the difference of the exponents: no range of y is excluded but zero. The others multiply by 1 / y
-// and leave divisors whose reciprocal is not a normal number to a scalar division. A divisor that is a NaN is refused, too: of
-// two NaNs the scalar division gives the dividend's.
+// and leave divisors whose reciprocal is not a normal number to the divide instruction. A divisor that is a NaN is refused,
+// too: of two NaNs the instruction gives the dividend's.
 #include <cstdint>
 #include <type_traits>
 
@@ -17,6 +17,11 @@ template <class T> struct DivKernel : Kernel<T> {
   static LumStatus LaneRoutine(T x, T y, T& result) {
     result = x / y;
     return y == 0 ? lumStsSingularity : lumStsOk;
+  }
+  static constexpr bool second_is_short = true;
+  static LUM_INLINE Finished<T> SecondPath(Vec<T> x, Vec<T> y, const Lanes<T>& lanes) {
+    const auto dividend = select(lanes.refused, x, all(T(1))), divisor = select(lanes.refused, y, all(T(1)));
+    return {select(lanes.refused, div(dividend, divisor), lanes.value), mask_of<T>(0), {.singularity = fpclass<0x06>(y)}};
   }
 };
 

@@ -1,6 +1,6 @@
 // sqrt(a^2 + b^2). The squares are formed as they stand, the root comes from an estimate of its reciprocal and one or two
 // steps. The high tiers keep the rounding errors of the squares and of their sum and add them to the residual of the last step.
-// Pairs whose squares might overflow or lose bits to underflow go to a lane routine, which scales. Nothing is ever reported.
+// Pairs whose squares might overflow or lose bits to underflow are scaled on a second path. Nothing is ever reported.
 #include <bit>
 #include <cmath>
 #include <cstdint>
@@ -48,7 +48,45 @@ Lum64f OfFinite(Lum64f a, Lum64f b) {
   return RootOfSquares(m * scale, n * scale) * inverse;
 }
 
+// The same over vectors, for pairs of numbers that are not both zero. A smaller number too small to change the result is taken
+// for zero, so that its square is not denormal.
+LUM_INLINE Vec<Lum64f> RootOfSquares(Vec<Lum64f> m, Vec<Lum64f> given_n) {
+  const auto n = zero_unless(lt(m * all(0x1p-110), given_n), given_n);
+  const auto p = m * m, q = n * n;
+  const auto s = fast_two_sum(p, q);
+  const auto tail = s.error + (fms(m, m, p) + fms(n, n, q));
+  const auto root = sqrt(s.sum);
+  const auto r = root * root;
+  return root + div(((s.sum - r) - fms(root, root, r)) + tail, root + root);
+}
+LUM_INLINE Vec<Lum64f> OfFinite(Vec<Lum64f> a, Vec<Lum64f> b) {
+  const auto x = abs(a), y = abs(b);
+  const auto m = max(x, y), n = min(x, y);
+  const auto exponent = shift_right<52>(bits(m));
+  const auto is_small = lt(exponent, all(uint64_t{25}));
+  const auto field = (select(is_small, all(uint64_t{4073}), all(uint64_t{2048})) - exponent) & all(uint64_t{0x7FF});
+  const auto scale = as_float(shift_left<52>(field)), inverse = as_float(shift_left<52>(all(uint64_t{2046}) - field));
+  // Below 2^-150 m: a product with a denormal result would be slow.
+  const auto is_relevant = mask_cast<Lum64f>(lt(bits(m), bits(n) + all(uint64_t{150} << 52)));
+  return RootOfSquares(m * scale, zero_unless(is_relevant, n) * scale) * inverse;
+}
+LUM_INLINE Vec<Lum32f> OfFinite(Vec<Lum32f> a, Vec<Lum32f> b) {
+  const auto half = [](Vec<Lum64f> x, Vec<Lum64f> y) __attribute__((always_inline)) { return sqrt(x * x + y * y); };
+  return narrow(half(widen_low(a), widen_low(b)), half(widen_high(a), widen_high(b)));
+}
+
 template <class T> struct HypotKernel : Kernel<T> {
+  static constexpr bool second_is_short = true;
+  static LUM_INLINE Lanes<T> SecondPath(Vec<T> a, Vec<T> b, const Lanes<T>& lanes) {
+    const auto infinite = fpclass<0x18>(a) | fpclass<0x18>(b), nan = unord(a, b);
+    const auto zero = fpclass<0x06>(a) & fpclass<0x06>(b);
+    const auto finite = lanes.refused & ~(infinite | nan | zero);
+    auto value = select(lanes.refused & nan, a + b, lanes.value);
+    value = select(lanes.refused & zero, all(T(0)), value);
+    value = select(infinite, all(std::numeric_limits<T>::infinity()), value);
+    if (any(finite)) value = select(finite, OfFinite(select(finite, a, all(T(1))), select(finite, b, all(T(1)))), value);
+    return {value, mask_of<T>(0)};
+  }
   static void LaneRoutine(T a, T b, T& result) {
     constexpr auto infinity = std::numeric_limits<T>::infinity();
     if (std::fabs(a) == infinity || std::fabs(b) == infinity) {

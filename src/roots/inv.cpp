@@ -1,5 +1,5 @@
 // 1 / x without a divide instruction: an estimate of 14 bits, and Newton steps r' = r + r (1 - x r), each doubling the bits.
-// Zeros, infinities and numbers whose estimate is a zero or an infinity are left to a scalar division.
+// Zeros, infinities and numbers whose estimate is a zero or an infinity are left to the divide instruction.
 #include <cstdint>
 
 #include "frame/kernel_frame.h"
@@ -12,6 +12,11 @@ template <class T> struct InvKernel : Kernel<T> {
   static LumStatus LaneRoutine(T x, T& result) {
     result = T(1) / x;
     return x == 0 ? lumStsSingularity : lumStsOk;
+  }
+  static constexpr bool second_is_short = true;
+  static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) {
+    const auto quotient = div(all(T(1)), select(lanes.refused, x, all(T(1))));
+    return {select(lanes.refused, quotient, lanes.value), mask_of<T>(0), {.singularity = fpclass<0x06>(x)}};
   }
 };
 

@@ -26,6 +26,14 @@ template <class T> struct InvSqrtKernel : Kernel<T> {
     result = x == -infinity ? x / x : std::numeric_limits<T>::quiet_NaN();
     return lumStsDomain;
   }
+  static constexpr bool second_is_short = true;
+  static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) {
+    // Of zeros and infinities the estimate is the result.
+    const auto value = select(fpclass<0x1E>(x), rsqrt14(x), lanes.value);
+    return {select(fpclass<0x40>(x), all(std::numeric_limits<T>::quiet_NaN()), value),
+            mask_of<T>(0),
+            {.domain = fpclass<0x50>(x), .singularity = fpclass<0x06>(x)}};
+  }
 };
 
 struct A11_32f : InvSqrtKernel<Lum32f> {

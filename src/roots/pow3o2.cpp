@@ -87,6 +87,18 @@ template <class T> struct Pow3o2Kernel : Kernel<T> {
     }
     return lumStsOk;
   }
+  // All but the positive numbers whose result is next to an end of the range.
+  static constexpr bool second_is_short = true;
+  static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) {
+    using L = Limits<T>;
+    const auto is_nan = unord(x, x), negative = fpclass<0x50>(x);
+    const auto vanishes = mask_cast<T>(le(bits(abs(x)), all(L::vanishing)));
+    const auto overflows = mask_cast<T>(le(all(L::overflowing), bits(x)));  // or NaN or negative
+    auto value = select(overflows, all(std::numeric_limits<T>::infinity()), lanes.value);
+    value = select(vanishes, all(T(0)), value);
+    value = select(negative, all(std::numeric_limits<T>::quiet_NaN()), value);
+    return {add(is_nan, select(is_nan, x, value), x), lanes.refused & ~(overflows | vanishes), {.domain = negative}};
+  }
 };
 
 // The vector path: no step for the low tier of floats, the residual for the high tiers.

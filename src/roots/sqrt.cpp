@@ -23,6 +23,12 @@ template <class T> struct SqrtKernel : Kernel<T> {
     result = x == 0 ? x : x + x;
     return lumStsOk;
   }
+  static constexpr bool second_is_short = true;
+  static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) {
+    const auto negative = fpclass<0x50>(x);
+    const auto value = select(fpclass<0x0E>(x), x, lanes.value);
+    return {select(negative, all(std::numeric_limits<T>::quiet_NaN()), value), mask_of<T>(0), {.domain = negative}};
+  }
 };
 
 template <class T, int steps> struct Coupled : SqrtKernel<T> {

@@ -18,6 +18,8 @@ void ElementHook(int32_t status, int32_t index, const void* src1, const void* sr
   if (installed_observer != nullptr) installed_observer(installed_context, {status, index, src1, src2, dst1, dst2, cell});
 }
 
+const bool element_hook_is_empty = false;
+
 LUM_TEST_EXPORT void lumTestInstallHook(HookObserver* observer, void* context) {
   installed_observer = observer;
   installed_context = context;

@@ -1,5 +1,6 @@
-// Kernels in the recording libraries that exercise the frame: every shape, several sizes of block, silent and reporting lane
-// routines, and probes of the environment that each variant sets up. test_kernels.h tells what they compute.
+// Kernels in the recording libraries that exercise the frame: every shape, several sizes of block, second paths whose reports
+// stand among those of the routine, silent and reporting lane routines, and probes of the environment that each variant sets
+// up. test_kernels.h tells what they compute.
 #include "support/test_kernels.h"
 
 #include "arith/first_nan.h"
@@ -15,8 +16,24 @@ template <class T> LumStatus StatusOf(T x) {
 }
 template <class T> Mask<T> LUM_INLINE IsNegative(Vec<T> x) { return lt(x, all(T(0))); }
 
+// The second path of some kernels finishes the refused lanes above -3, by the steps of the routine.
+template <class T> LUM_INLINE Mask<T> IsFinished(Vec<T> x) { return IsNegative(x) & lt(all(T(-3)), x); }
+template <class T> LUM_INLINE Vec<T> FinishedValue(Vec<T> x, Vec<T> value) {
+  return select(IsFinished(x), value + all(T(1000)), value);
+}
+template <class T> LUM_INLINE Reports<T> FinishedReports(Vec<T> x) {
+  const auto is_low = le(x, all(T(-2)));
+  const auto reports = IsFinished(x) & le(x, all(T(-1)));
+  return {.overflow = reports & ~is_low, .underflow = reports & is_low};
+}
+
 template <class T, int n> struct OneInputKernel : Kernel<T> {
   static constexpr int vectors = n;
+  static constexpr bool second_in_all_layers = true, hides_refused = n == 1, second_is_short = n == 4;
+  static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>&) {
+    const auto value = x + all(T(1));
+    return {FinishedValue(x, value), IsNegative(x) & ~IsFinished(x), FinishedReports(x)};
+  }
   static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) { return {x + all(T(1)), IsNegative(x)}; }
   static LumStatus LaneRoutine(T x, T& result) {
     result += 1000;
@@ -38,6 +55,10 @@ template <class E> struct OneComplexInputKernel : Kernel<E> {
 
 template <class T> struct TwoInputsKernel : Kernel<T> {
   static constexpr int vectors = 3;
+  static constexpr bool second_in_all_layers = true, second_is_short = true;
+  static LUM_INLINE Finished<T> SecondPath(Vec<T> a, Vec<T>, const Lanes<T>& lanes) {
+    return {FinishedValue(a, lanes.value), lanes.refused & ~IsFinished(a), FinishedReports(a)};
+  }
   static LUM_INLINE Lanes<T> VectorPath(Vec<T> a, Vec<T> b) { return {a - b, IsNegative(a)}; }
   static LumStatus LaneRoutine(T a, T, T& result) {
     result += 1000;
@@ -57,6 +78,10 @@ template <class E> struct TwoComplexInputsKernel : Kernel<E> {
 };
 
 template <class T> struct TwoOutputsKernel : Kernel<T> {
+  static constexpr bool second_in_all_layers = true, second_is_short = true;
+  static LUM_INLINE TwoFinished<T> SecondPath(Vec<T> x, const TwoLanes<T>& lanes) {
+    return {FinishedValue(x, lanes.value1), FinishedValue(x, lanes.value2), lanes.refused & ~IsFinished(x), FinishedReports(x)};
+  }
   static LUM_INLINE TwoLanes<T> VectorPath(Vec<T> x) { return {x + all(T(1)), x + x, IsNegative(x)}; }
   static LumStatus LaneRoutine(T x, T& result1, T& result2) {
     result1 += 1000;

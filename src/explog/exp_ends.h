@@ -1,0 +1,89 @@
+// The second path of the exponentials: the steps of the lane routines over vectors. A denormal result is rounded by a sum whose
+// last bit is worth the smallest denormal number, so that no operation stops at it.
+#pragma once
+
+#include <limits>
+
+#include "explog/exp_routine.h"
+#include "frame/kernel_frame.h"
+
+namespace lum::inline LUM_LAYER {
+
+// v / 2^scale rounded to a multiple of the smallest positive number of T, for 0 <= v <= 2^scale times the smallest normal one.
+// The sum is in the binade of the addend, or next above it exactly; so its pattern less the addend's counts the multiples.
+template <int scale> LUM_INLINE Vec<Lum32f> RoundedToDenormal(Vec<Lum32f> v) {
+  constexpr auto addend = std::bit_cast<Lum32f>(static_cast<uint32_t>(1 + scale) << 23);
+  return as_float(bits(v + all(addend)) - bits(all(addend)));
+}
+
+// e^x of numbers between the refusal and the ends, in the lanes of the mask; the others hold an ordinary number.
+LUM_INLINE Vec<Lum32f> ExpFloatAtEnds(Vec<Lum32f> x) {
+  const auto a = ExpFloatReduced(x);
+  const auto denormal = lt(x, all(ExpLimits<Lum32f>::denormal));
+  const auto raised = scalef(a.p, a.m + all(60.0f));
+  // The error of p may bring it above the smallest normal number.
+  const auto rounds = denormal & le(raised, all(0x1p-66f));
+  const auto normal = scalef(a.p, select(rounds, all(0.0f), a.m));
+  return select(rounds, RoundedToDenormal<60>(raised), normal);
+}
+
+struct ExpDoubleValue {
+  Vec<Lum64f> head, p, exponent;
+};
+LUM_INLINE ExpDoubleValue ExpDoubleAtEnds(Vec<Lum64f> x) {
+  const auto a = ExpDoubleReduced(x);
+  const auto j = shift_left<1>(bits(a.shifted) & all(uint64_t{63}));
+  const auto head = gather<Lum64f>(exp2_64, j), tail = gather<Lum64f>(exp2_64 + 1, j);
+  return {head, (a.u + tail) * head, a.k * all(1.0 / 64)};  // scalef takes the floor of the exponent
+}
+
+LUM_INLINE Vec<Lum64f> ExpAtEnds(Vec<Lum64f> x) {
+  const auto a = ExpDoubleAtEnds(x);
+  const auto normal = scalef(a.head + a.p, a.exponent);
+  const auto denormal = lt(x, all(ExpLimits<Lum64f>::denormal));
+  if (!any(denormal)) return normal;
+  // As ExpScaledToDenormal.
+  const auto exponent = select(denormal, a.exponent, all(-1000.0)) + all(60.0);
+  const auto up = scalef(a.p, exponent), b = scalef(a.head, exponent);
+  const auto s = b + up;
+  constexpr double unit = 0x1p-962;  // its last bit is worth 2^60 times the smallest positive number
+  const auto counted = [](Vec<Lum64f> v, double addend) __attribute__((always_inline)) {
+    return bits(v + all(addend)) - bits(all(addend));
+  };
+  const auto w = s * all(f64(0x41F8000000000000, 0x1.8p32));
+  const auto hi = (w + s) - w;
+  const auto lo = (s - hi) + ((b - s) + up);
+  const auto in_two_parts = counted(hi, unit) + counted(lo, 1.5 * unit);
+  const auto is_short = lt(exponent, all(static_cast<double>(0x33 - 1023)));
+  const auto count = select(mask_cast<uint64_t>(is_short), counted(s, unit), in_two_parts);
+  return select(denormal, as_float(count), normal);
+}
+LUM_INLINE Vec<Lum32f> ExpAtEnds(Vec<Lum32f> x) {
+  const auto of_half = [](Vec<Lum64f> half) __attribute__((always_inline)) {
+    const auto a = ExpDoubleAtEnds(half);
+    return scalef(a.head + a.p, a.exponent);
+  };
+  const auto low = of_half(widen_low(x)), high = of_half(widen_high(x));
+  const auto denormal = lt(x, all(ExpLimits<Lum32f>::denormal));
+  constexpr double unit = 0x1p-97;  // its last bit is worth the smallest positive number of binary32
+  const auto counted = [](Vec<Lum64f> v) __attribute__((always_inline)) { return bits(v + all(unit)) - bits(all(unit)); };
+  const auto rounded = as_float(narrow(counted(low), counted(high)));
+  const auto shown = [](Mask<Lum64f> m, Vec<Lum64f> v) __attribute__((always_inline)) { return select(m, all(1.0), v); };
+  const auto normal = narrow(shown(low_half(denormal), low), shown(high_half(denormal), high));
+  return select(denormal, rounded, normal);
+}
+
+// at_ends is the function between the refusal and the ends.
+template <class T, class AtEnds> LUM_INLINE Finished<T> ExpSecondPath(Vec<T> x, const Lanes<T>& lanes, AtEnds at_ends) {
+  using Limits = ExpLimits<T>;
+  const auto finite = lt(abs(x), all(std::numeric_limits<T>::infinity()));
+  const auto above = lt(all(Limits::overflow), x), below = lt(x, all(Limits::underflow));
+  const auto between = lanes.refused & ~(above | below);
+  auto value = select(above, all(std::numeric_limits<T>::infinity()), lanes.value);
+  value = select(below, all(T(0)), value);
+  if (any(between)) value = select(between, at_ends(select(between, x, all(T(0)))), value);
+  const auto denormal = lt(x, all(Limits::denormal)) & finite;
+  return {value, mask_of<T>(0), {.overflow = above & finite, .underflow = denormal}};
+}
+
+}  // namespace lum::inline LUM_LAYER
