@@ -62,7 +62,9 @@ struct Call {
 template <class K> inline uint32_t hook_cell = 0;
 
 template <class K> inline constexpr int step_of = lanes_of<Real<typename K::Input>>;
-template <class K> inline constexpr int block_of = step_of<K>* K::vectors;
+// A layer whose registers hold one stream of a kernel takes its blocks vector by vector.
+template <class K> inline constexpr int vectors_of = streams_fit_registers ? K::vectors : 1;
+template <class K> inline constexpr int block_of = step_of<K>* vectors_of<K>;
 
 namespace frame {
 
@@ -148,7 +150,7 @@ template <class K, int n, int m, class Result> LUM_INLINE void StoreStep(const A
 template <class K, int n, int m> struct SpilledBlock {
   alignas(64) typename K::Input inputs[n][block_of<K>];
   alignas(64) typename K::Output results[m][block_of<K>];
-  uint32_t refused[K::vectors] = {};  // the lanes of each vector
+  uint32_t refused[vectors_of<K>] = {};  // the lanes of each vector
   bool any_refused = false;
 
   bool IsRefused(int lane) const { return (refused[lane / step_of<K>] >> (lane % step_of<K>)&1) != 0; }
@@ -226,9 +228,9 @@ namespace frame {
 // A full block with refused lanes whose kernel has a second vector path, which most often finishes all of them.
 template <class K, int n, int m>
 LUM_INLINE void LargeBlock(const K& kernel, const Arrays<K, n, m>& arrays, int64_t first, Call& call) {
-  Outputs<K, m> values[K::vectors];
+  Outputs<K, m> values[vectors_of<K>];
   bool all_finished = true;
-  for (int v = 0; v < K::vectors; ++v) {
+  for (int v = 0; v < vectors_of<K>; ++v) {
     const auto r = ComputeRefused<K, n>(kernel, LoadStep<K, n, m>(arrays, first + v * step_of<K>));
     values[v] = Values<K, m>(r);
     all_finished = all_finished && !any(r.refused);
@@ -237,7 +239,7 @@ LUM_INLINE void LargeBlock(const K& kernel, const Arrays<K, n, m>& arrays, int64
     FinishLanes(kernel, arrays, first, block_of<K>, call);
     return;
   }
-  for (int v = 0; v < K::vectors; ++v) {
+  for (int v = 0; v < vectors_of<K>; ++v) {
     for (int j = 0; j < m; ++j) StoreElements(arrays.dst[j] + first + v * step_of<K>, values[v][j]);
   }
 }
@@ -245,7 +247,7 @@ LUM_INLINE void LargeBlock(const K& kernel, const Arrays<K, n, m>& arrays, int64
 // Does the first path refuse all lanes of a block? Nothing of it but the mask is computed.
 template <class K, int n, int m> LUM_INLINE bool RefusesAll(const K& kernel, const Arrays<K, n, m>& arrays, int64_t first) {
   bool all_refused = true;
-  for (int v = 0; v < K::vectors; ++v) {
+  for (int v = 0; v < vectors_of<K>; ++v) {
     const auto r = Compute<K, n>(kernel, LoadStep<K, n, m>(arrays, first + v * step_of<K>));
     all_refused = all_refused && none(~r.refused);
   }
@@ -298,7 +300,7 @@ LUM_INLINE void TailStep(const K& kernel, const Arrays<K, n, m>& arrays, int64_t
 template <class K, int n, int m> LUM_INLINE LumStatus RunChecked(const K& kernel, const Arrays<K, n, m>& arrays, int64_t len) {
   Call call{Enter<K::variant>()};
   int64_t i = 0;
-  while (i + block_of<K> <= len) i = Block<K, n, m>(kernel, arrays, i, len, call, std::make_index_sequence<K::vectors>());
+  while (i + block_of<K> <= len) i = Block<K, n, m>(kernel, arrays, i, len, call, std::make_index_sequence<vectors_of<K>>());
   for (; i < len; i += step_of<K>) {
     TailStep<K, n, m>(kernel, arrays, i, static_cast<int>(std::min<int64_t>(step_of<K>, len - i)), call);
   }

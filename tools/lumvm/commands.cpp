@@ -1,6 +1,7 @@
 #include "lumvm/commands.h"
 
 #include <fmt/format.h>
+#include <fmt/ranges.h>
 
 #include <algorithm>
 #include <chrono>
@@ -56,11 +57,14 @@ const Export& FindOne(const ApplyOptions& options) {
 Library LoadLibrary(const std::string& wanted) {
   std::string target = wanted;
   if (target.empty()) {
-    target = support::ProcessorHasAvx512() ? "k0" : "p0";
-    if (target == "p0") fmt::print(stderr, "lumvm: this processor lacks AVX-512; the portable library p0 is used\n");
+    target = support::FastestLibrary();
+    if (target == "p0") fmt::print(stderr, "lumvm: this processor lacks AVX2; the portable library p0 is used\n");
   }
-  if (target != "k0" && target != "p0") throw InputError(fmt::format("no target '{}'; there are k0 and p0", target));
-  if (target == "k0" && !support::ProcessorHasAvx512()) throw InputError("this processor lacks AVX-512, which target k0 needs");
+  const auto targets = support::BuiltLibraries();
+  if (std::ranges::find(targets, target) == targets.end())
+    throw InputError(fmt::format("no target '{}'; there are {}", target, fmt::join(targets, ", ")));
+  if (!support::ProcessorRuns(target))
+    throw InputError(fmt::format("this processor lacks {}, which target {} needs", support::InstructionsOf(target), target));
   std::string error;
   const auto library = Library::LoadBuilt(target, error);
   if (!library) throw InputError(error);

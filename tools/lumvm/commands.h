@@ -15,7 +15,7 @@ struct ApplyOptions {
   std::vector<std::string> files;  // one or, for two inputs, one or two
   std::string value;               // the scalar parameter, as text
   std::string output = "-";
-  std::string target;  // k0, p0, or empty: k0 where the processor can
+  std::string target;  // k0, a2, p0, or empty: the first that the processor runs
   bool binary = false;
   Notation notation = Notation::decimal;
 };

@@ -16,7 +16,8 @@ void AddInput(CLI::App* command, lum::tool::ApplyOptions& options) {
       ->expected(0, 2);
   command->add_option("-t,--type", options.type, "element type: 32f, 64f, 32fc, 64fc")->required();
   command->add_option("-v,--value", options.value, "the scalar parameter (the exponent of Powx); complex: \"re im\"");
-  command->add_option("--target", options.target, "k0 (AVX-512) or p0 (portable); k0 where the processor can");
+  command->add_option("--target", options.target,
+                      "k0 (AVX-512), a2 (AVX2) or p0 (portable); the first that the processor runs");
   command->add_flag("-b,--binary", options.binary, "input and output are raw elements as they stand in memory");
 }
 
