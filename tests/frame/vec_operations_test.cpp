@@ -189,9 +189,9 @@ TEST(VecOperations, EveryOperationOfTheVocabularyHasAnEntry) {
 
 TEST(VecOperations, AllLayersDefineTheSameOperationsInTheSameOrder) {
   const std::set<std::string> helpers = {
-      "each_lane",         "each_mask_lane",     "each_mask_bits", "bits_of", "each_lane_with_care",
-      "signed_fma",        "negate_every_other", "restore_nan",    "raw",     "by_lane",
-      "of_unknown_origin", "JoinedTable"};
+      "each_lane",    "each_mask_lane",     "each_mask_bits",    "bits_of",    "each_lane_with_care",
+      "signed_fma",   "negate_every_other", "restore_nan",       "raw",        "by_lane",
+      "directed_fma", "not_normal",         "of_unknown_origin", "JoinedTable"};
   for (const char* layer : {"portable", "avx2"}) {
     std::vector<std::string> names;
     for (const auto& name : operations_of_layer(layer))

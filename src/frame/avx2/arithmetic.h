@@ -13,9 +13,15 @@ template <auto one, Floating T, class... Others> LUM_INLINE Vec<T> by_lane(Vec<T
   return {half::each_lane<one>(a.low, others.low...), half::each_lane<one>(a.high, others.high...)};
 }
 
+template <int R, bool negate_product, bool negate_addend, Floating T>
+LUM_INLINE Vec<T> directed_fma(Vec<T> a, Vec<T> b, Vec<T> c) {
+  return {half::directed_fma<R, negate_product, negate_addend>(a.low, b.low, c.low),
+          half::directed_fma<R, negate_product, negate_addend>(a.high, b.high, c.high)};
+}
+
 template <int R = rn, Floating T> LUM_INLINE Vec<T> add(Vec<T> a, Vec<T> b) {
   if constexpr (R == rn) return {a.low + b.low, a.high + b.high};
-  else return by_lane<[](T x, T y) { return lane::add<R>(x, y); }>(a, b);
+  else return {half::directed_add<R>(a.low, b.low), half::directed_add<R>(a.high, b.high)};
 }
 template <int R = rn, Floating T> LUM_INLINE Vec<T> sub(Vec<T> a, Vec<T> b) {
   if constexpr (R == rn) return {a.low - b.low, a.high - b.high};
@@ -23,7 +29,7 @@ template <int R = rn, Floating T> LUM_INLINE Vec<T> sub(Vec<T> a, Vec<T> b) {
 }
 template <int R = rn, Floating T> LUM_INLINE Vec<T> mul(Vec<T> a, Vec<T> b) {
   if constexpr (R == rn) return {a.low * b.low, a.high * b.high};
-  else return by_lane<[](T x, T y) { return lane::careful_mul<R>(x, y); }>(a, b);
+  else return {half::directed_mul<R>(a.low, b.low), half::directed_mul<R>(a.high, b.high)};
 }
 template <int R = rn, Floating T> LUM_INLINE Vec<T> div(Vec<T> a, Vec<T> b) {
   if constexpr (R != rn) return by_lane<[](T x, T y) { return lane::div<R>(x, y); }>(a, b);
@@ -37,22 +43,22 @@ template <int R = rn, Floating T> LUM_INLINE Vec<T> sqrt(Vec<T> a) {
 }
 // a b + c with one rounding.
 template <int R = rn, Floating T> LUM_INLINE Vec<T> fma(Vec<T> a, Vec<T> b, Vec<T> c) {
-  if constexpr (R != rn) return by_lane<[](T x, T y, T z) { return lane::careful_fma<R, false, false>(x, y, z); }>(a, b, c);
+  if constexpr (R != rn) return directed_fma<R, false, false>(a, b, c);
   else return {half::fma(a.low, b.low, c.low), half::fma(a.high, b.high, c.high)};
 }
 // a b - c with one rounding.
 template <int R = rn, Floating T> LUM_INLINE Vec<T> fms(Vec<T> a, Vec<T> b, Vec<T> c) {
-  if constexpr (R != rn) return by_lane<[](T x, T y, T z) { return lane::careful_fma<R, false, true>(x, y, z); }>(a, b, c);
+  if constexpr (R != rn) return directed_fma<R, false, true>(a, b, c);
   else return {half::fms(a.low, b.low, c.low), half::fms(a.high, b.high, c.high)};
 }
 // c - a b with one rounding.
 template <int R = rn, Floating T> LUM_INLINE Vec<T> fnma(Vec<T> a, Vec<T> b, Vec<T> c) {
-  if constexpr (R != rn) return by_lane<[](T x, T y, T z) { return lane::careful_fma<R, true, false>(x, y, z); }>(a, b, c);
+  if constexpr (R != rn) return directed_fma<R, true, false>(a, b, c);
   else return {half::fnma(a.low, b.low, c.low), half::fnma(a.high, b.high, c.high)};
 }
 // -(a b) - c with one rounding.
 template <int R = rn, Floating T> LUM_INLINE Vec<T> fnms(Vec<T> a, Vec<T> b, Vec<T> c) {
-  if constexpr (R != rn) return by_lane<[](T x, T y, T z) { return lane::careful_fma<R, true, true>(x, y, z); }>(a, b, c);
+  if constexpr (R != rn) return directed_fma<R, true, true>(a, b, c);
   else return {half::fnms(a.low, b.low, c.low), half::fnms(a.high, b.high, c.high)};
 }
 // a b - c in even lanes, a b + c in odd ones, with one rounding.
@@ -82,12 +88,29 @@ template <Floating T> LUM_INLINE Vec<T> rsqrt14(Vec<T> a) { return {half::rsqrt1
 
 // ---- Exponent, significand, rounding to a grid
 
+// Zeros, denormal numbers, infinities and NaN.
+template <Floating T> LUM_INLINE Mask<T> not_normal(Vec<T> a) {
+  using F = lane::Format<T>;
+  return {half::bits_outside(half::magnitude(a.low), F::hidden, F::infinity),
+          half::bits_outside(half::magnitude(a.high), F::hidden, F::infinity)};
+}
+
 // floor(log2 |a|), also of denormals; -infinity for a zero, +infinity for an infinity.
-template <Floating T> LUM_INLINE Vec<T> getexp(Vec<T> a) { return {half::getexp(a.low), half::getexp(a.high)}; }
+template <Floating T> LUM_INLINE Vec<T> getexp(Vec<T> a) {
+  Vec<T> r{half::getexp_of_normal(a.low), half::getexp_of_normal(a.high)};
+  if (any(not_normal(a))) [[unlikely]]
+    r = {half::getexp(a.low), half::getexp(a.high)};
+  return r;
+}
 // The significand of a in the interval of imm bits 0-1: 0 [1,2), 1 [1/2,2), 2 [1/2,1), 3 [3/4,3/2); bits 2-3: 0 keeps the sign,
 // 1 clears it, 2 gives the default NaN for a negative number.
 template <int imm, Floating T> LUM_INLINE Vec<T> getmant(Vec<T> a) {
-  return {half::getmant<imm>(a.low), half::getmant<imm>(a.high)};
+  Vec<T> r{half::getmant_of_normal<imm>(a.low), half::getmant_of_normal<imm>(a.high)};
+  auto special = not_normal(a);
+  if constexpr ((imm & 8) != 0) special = special | lt(a, all(T{0}));
+  if (any(special)) [[unlikely]]
+    r = {half::getmant<imm>(a.low), half::getmant<imm>(a.high)};
+  return r;
 }
 // a 2^floor(b) with one rounding, gradual underflow included.
 template <int R = rn, Floating T> LUM_INLINE Vec<T> scalef(Vec<T> a, Vec<T> b) {

@@ -327,7 +327,27 @@ template <Floating T> LUM_INLINE Normal<T> normal(Half<T> a) {
   return {bits(select(small, m * all(lane::power_of_two<T>(F::fraction_bits + 1)), m)), small};
 }
 
-template <Floating T> LUM_INLINE Half<T> getexp(Half<T> a) {
+// Of normal numbers; in other lanes any value.
+template <Floating T> LUM_INLINE Half<T> getexp_of_normal(Half<T> a) {
+  using F = lane::Format<T>;
+  const auto m = bits(magnitude(a));
+  if constexpr (is32<T>) return {_mm256_cvtepi32_ps((shift_right<F::fraction_bits>(m) - all(uint32_t{F::bias})).v)};
+  else return as_float<T>(shift_right<F::fraction_bits>(m) | bits(all(0x1p52))) - all(0x1p52 + F::bias);
+}
+template <int imm, Floating T> LUM_INLINE Half<T> getmant_of_normal(Half<T> a) {
+  using F = lane::Format<T>;
+  using Bits = UnsignedOf<T>;
+  constexpr int interval = imm & 3;
+  constexpr Bits one = static_cast<Bits>(static_cast<Bits>(F::bias) << F::fraction_bits);
+  constexpr Bits kept = static_cast<Bits>((imm & 4) != 0 ? F::fraction : F::fraction | F::sign);
+  const auto b = bits(a);
+  auto r = (b & all(kept)) | all(static_cast<Bits>(interval == 2 ? one - F::hidden : one));
+  if constexpr (interval == 1) r = r - and_not(b, all(static_cast<Bits>(F::hidden)));  // an even field is an odd exponent
+  if constexpr (interval == 3) r = r - (shift_left<1>(b) & all(static_cast<Bits>(F::hidden)));
+  return as_float<T>(r);
+}
+
+template <Floating T> [[gnu::noinline, gnu::cold]] Half<T> getexp(Half<T> a) {
   using F = lane::Format<T>;
   const auto [b, small] = normal(a);
   const auto field = to_floating<T>(shift_right<F::fraction_bits>(b));
@@ -339,7 +359,7 @@ template <Floating T> LUM_INLINE Half<T> getexp(Half<T> a) {
   return select(nlt(magnitude(a), infinity), a * a, finite);
 }
 
-template <int imm, Floating T> LUM_INLINE Half<T> getmant(Half<T> a) {
+template <int imm, Floating T> [[gnu::noinline, gnu::cold]] Half<T> getmant(Half<T> a) {
   using F = lane::Format<T>;
   using Bits = UnsignedOf<T>;
   constexpr int interval = imm & 3;
@@ -368,28 +388,6 @@ template <int imm, Floating T> LUM_INLINE Half<T> rndscale(Half<T> a) {
   if constexpr (M == 0) return round<imm & 7>(a);
   const auto rounded = round<imm & 7>(a * all(lane::power_of_two<T>(M))) * all(lane::power_of_two<T>(-M));
   return select(compare<13>(magnitude(a), all(lane::power_of_two<T>(F::fraction_bits - M))), a, rounded);
-}
-
-// The number nearest to a value, and a number with the sign of (value - nearest); gives the value rounded by R.
-template <int R, Floating T> LUM_INLINE Half<T> directed(Half<T> nearest, Half<T> error) {
-  using S = SignedOf<T>;
-  const Half<S> b{raw(nearest)}, below{lt(error, all(T{0})).v}, above{compare<14>(error, all(T{0})).v};
-  const Half<S> negative = shift_right_arithmetic<8 * sizeof(T) - 1>(b), one = all(S{1});
-  if constexpr (R == rd) return from_raw<T>((b + (below & ((negative ^ all(S{-1})) | one))).v);
-  else if constexpr (R == ru) return from_raw<T>((b + (above & (negative | one))).v);
-  else if constexpr (R == rz) return from_raw<T>((b + (and_not(negative, below) | (negative & above))).v);
-  else return nearest;
-}
-// Rounded to nearest the difference is exact but where a small a goes a whole step of the grid down or up; then the step is the
-// larger summand. A zero is that of the rounding; an infinity leaves +0.
-template <int imm, Floating T> LUM_INLINE Half<T> reduce(Half<T> a) {
-  constexpr int R = (imm & 4) ? rn : imm & 3;
-  const auto grid = rndscale<imm>(a);
-  auto rest = a - grid;
-  if constexpr (R != rn) rest = directed<R>(rest, a - (rest + grid));
-  if constexpr (R == rd) rest = as_float<T>(bits(rest) | (Half<UnsignedOf<T>>{eq(rest, all(T{0})).v} & all(sign_bit<T>)));
-  const auto is_infinite = eq(magnitude(a), all(std::bit_cast<T>(lane::Format<T>::infinity)));
-  return from_raw<T>(_mm256_andnot_si256(is_infinite.v, raw(rest)));
 }
 
 template <int imm, Floating T> LUM_INLINE HalfMask<T> fpclass(Half<T> a) {
@@ -552,6 +550,86 @@ template <auto one, Lane T, Lane... Others> [[gnu::noinline, gnu::cold]] Half<T>
     for (int i = 0; i < Half<T>::lanes; ++i) r.lane[i] = one(r.lane[i], other.lane[i]...);
   }(Lanes<Others>(others)...);
   return load(r.lane);
+}
+
+// ---- Directed rounding
+
+// The number nearest to a value, and a number with the sign of (value - nearest); gives the value rounded by R.
+template <int R, Floating T> LUM_INLINE Half<T> directed(Half<T> nearest, Half<T> error) {
+  using S = SignedOf<T>;
+  const Half<S> b{raw(nearest)};
+  if constexpr (R == rn) {
+    return nearest;
+  } else if constexpr (R == rz) {
+    // One unit down where the error points to zero: bits of all ones are -1.
+    const auto toward_zero = as_float<T>(bits(error) ^ (bits(nearest) & all(sign_bit<T>)));
+    return from_raw<T>((b + Half<S>{lt(toward_zero, all(T{0})).v}).v);
+  } else {
+    const Half<S> negative = shift_right_arithmetic<8 * sizeof(T) - 1>(b), one = all(S{1});
+    const Half<S> moves{(R == rd ? lt(error, all(T{0})) : compare<14>(error, all(T{0}))).v};
+    return from_raw<T>((b + (moves & ((R == rd ? negative ^ all(S{-1}) : negative) | one))).v);
+  }
+}
+
+// Numbers whose sums and products have no part below the range, and none beyond it.
+template <Floating T> inline constexpr T smallest_product = sizeof(T) == 4 ? T(0x1p-76) : T(0x1p-900);
+template <Floating T> inline constexpr T largest_product = sizeof(T) == 4 ? T(0x1p125) : T(0x1p1020);
+// Lanes with a product outside, NaN among them, that is not the zero of a zero factor.
+template <Floating T> LUM_INLINE HalfMask<T> product_doubt(Half<T> product, Half<T> a, Half<T> b) {
+  const auto m = magnitude(product);
+  const auto outside = ~(compare<13>(m, all(smallest_product<T>)) & le(m, all(largest_product<T>)));
+  return outside & ~(eq(product, all(T{0})) & (eq(a, all(T{0})) | eq(b, all(T{0}))));
+}
+
+template <Floating T> struct HalfSum { Half<T> sum, error; };
+// a + b = sum + error, for finite numbers without overflow.
+template <Floating T> LUM_INLINE HalfSum<T> two_sum(Half<T> a, Half<T> b) {
+  const auto s = a + b;
+  const auto b_part = s - a;
+  return {s, (a - (s - b_part)) + (b - b_part)};
+}
+
+template <int R, Floating T> LUM_INLINE Half<T> directed_add(Half<T> a, Half<T> b) {
+  const auto [s, error] = two_sum(a, b);
+  auto doubt = ~le(magnitude(s), all(largest_product<T>));
+  if constexpr (R == rd) doubt = doubt | eq(s, all(T{0}));  // whose sign is that of the terms
+  if (any(doubt)) [[unlikely]]
+    return each_lane<[](T x, T y) { return lane::add<R>(x, y); }>(a, b);
+  return directed<R>(s, error);
+}
+template <int R, Floating T> LUM_INLINE Half<T> directed_mul(Half<T> a, Half<T> b) {
+  const auto p = a * b;
+  if (any(product_doubt(p, a, b))) [[unlikely]]
+    return each_lane<[](T x, T y) { return lane::careful_mul<R>(x, y); }>(a, b);
+  return directed<R>(p, fms(a, b, p));
+}
+// The error of a fused sum by S. Boldo and J.-M. Muller, Exact and approximated error of the FMA, 2011.
+template <int R, bool negate_product, bool negate_addend, Floating T>
+LUM_INLINE Half<T> directed_fma(Half<T> a, Half<T> b, Half<T> c) {
+  const auto turned = [](Half<T> x) __attribute__((always_inline)) { return as_float<T>(bits(x) ^ all(sign_bit<T>)); };
+  const auto x = negate_product ? turned(a) : a, z = negate_addend ? turned(c) : c;
+  const auto s = fma(x, b, z);
+  const auto p = x * b;
+  auto doubt = product_doubt(p, x, b) | ~le(magnitude(z), all(largest_product<T>));
+  if constexpr (R == rd) doubt = doubt | eq(s, all(T{0}));
+  if (any(doubt)) [[unlikely]] {
+    return each_lane<[](T l, T m, T n) { return lane::careful_fma<R, negate_product, negate_addend>(l, m, n); }>(a, b, c);
+  }
+  const auto low = two_sum(z, fms(x, b, p));
+  const auto high = two_sum(p, low.sum);
+  return directed<R>(s, ((high.sum - s) + high.error) + low.error);
+}
+
+// Rounded to nearest the difference is exact but where a small a goes a whole step of the grid down or up; then the step is the
+// larger summand. A zero is that of the rounding; an infinity leaves +0.
+template <int imm, Floating T> LUM_INLINE Half<T> reduce(Half<T> a) {
+  constexpr int R = (imm & 4) ? rn : imm & 3;
+  const auto grid = rndscale<imm>(a);
+  auto rest = a - grid;
+  if constexpr (R != rn) rest = directed<R>(rest, a - (rest + grid));
+  if constexpr (R == rd) rest = as_float<T>(bits(rest) | (Half<UnsignedOf<T>>{eq(rest, all(T{0})).v} & all(sign_bit<T>)));
+  const auto is_infinite = eq(magnitude(a), all(std::bit_cast<T>(lane::Format<T>::infinity)));
+  return from_raw<T>(_mm256_andnot_si256(is_infinite.v, raw(rest)));
 }
 
 // ---- Estimates of the reciprocal and the reciprocal root
