@@ -133,7 +133,7 @@ template <Function function> Loop LoopOf(bool is_32bit, void* address) {
 
 std::vector<Peer> FindComposedPeers(const Export& entry) {
   std::vector<Peer> peers;
-  if (entry.is_complex() || !support::ProcessorHasAvx512()) return peers;
+  if (entry.is_complex() || !support::ProcessorRuns("k0")) return peers;
   const bool is_32bit = entry.is_32bit();
   const auto add = [&](const char* library, const std::string& symbol, const std::string& name, Loop (*loop)(bool, void*)) {
     void* handle = dlopen(library, RTLD_NOW);

@@ -26,16 +26,21 @@ struct Options {
   bool refused = false;
 };
 
-Library Load(const std::string& path) {
+bool IsBuilt(const std::string& name) {
+  const auto names = lum::support::BuiltLibraries();
+  return std::ranges::find(names, name) != names.end();
+}
+Library Load(const std::string& name) {
   std::string error;
-  const auto library =
-      path.empty() ? Library::LoadBuilt(ProcessorHasAvx512() ? "k0" : "p0", error) : Library::Load(path, error);
+  const auto library = IsBuilt(name) ? Library::LoadBuilt(name, error) : Library::Load(name, error);
   if (!library) throw std::runtime_error(error);
   return *library;
 }
 
 void RegisterAll(const Options& options) {
-  const Library library = Load(options.library);
+  const std::string name_of_library = options.library.empty() ? std::string(FastestLibrary()) : options.library;
+  const std::string instructions = IsBuilt(name_of_library) ? name_of_library : std::string(FastestLibrary());
+  const Library library = Load(name_of_library);
   if (options.refused) {
     lum::bench::RegisterRefused(library, options.functions);
     return;
@@ -63,9 +68,11 @@ void RegisterAll(const Options& options) {
       if (base && base->Symbol(entry.name) != nullptr)
         Register(fmt::format("{}base:{}", prefix, tag), data, len, call(*base, entry));
       if (!is_new_group) continue;
-      for (const auto& peer : lum::bench::FindPeers(entry)) Register(prefix + peer.name, data, len, peer.loop);
-      for (const auto& peer : lum::bench::FindComposedPeers(entry)) Register(prefix + peer.name, data, len, peer.loop);
-      for (const auto& peer : lum::bench::FindPlainPeers(entry)) Register(prefix + peer.name, data, len, peer.loop);
+      for (const auto& peer : lum::bench::FindPeers(entry, instructions)) Register(prefix + peer.name, data, len, peer.loop);
+      if (instructions == "k0") {
+        for (const auto& peer : lum::bench::FindComposedPeers(entry)) Register(prefix + peer.name, data, len, peer.loop);
+        for (const auto& peer : lum::bench::FindPlainPeers(entry)) Register(prefix + peer.name, data, len, peer.loop);
+      }
       if (const auto scalar = FindScalarLoop(entry); scalar != nullptr) Register(prefix + "scalar", data, len, scalar);
     }
   }
@@ -85,7 +92,8 @@ int main(int argc, char** argv) {
   Options options;
   app.add_option("functions", options.functions, "functions such as Exp; all when none is given");
   auto* lengths = app.add_option("--lengths", options.lengths, "lengths of the arrays")->delimiter(',');
-  app.add_option("--library", options.library, "another file than the built liblumvmk0.so");
+  app.add_option("--library", options.library,
+                 "a built library, k0, a2 or p0, or a library file; the fastest that the processor runs when none is given");
   auto* base = app.add_option("--base", options.base, "a library of another build to compare with");
   app.add_flag("--refused", options.refused, "arrays with arguments that the vector paths refuse, against a scalar loop")
       ->excludes(lengths)

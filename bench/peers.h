@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "support/library.h"
@@ -14,13 +15,14 @@ struct Peer {
   std::function<void(const support::Arguments&)> loop;
 };
 
-// The peers that have the function and type. None on a processor without AVX-512.
-std::vector<Peer> FindPeers(const support::Export& entry);
+// The peers' functions for the instructions of a library, "k0" or "a2", as far as they have the function and type.
+std::vector<Peer> FindPeers(const support::Export& entry, std::string_view library);
+std::vector<Peer> FindAvx2Peers(const support::Export& entry);
 
-// Functions that no peer has, composed of a peer's functions: composed_sleef_u10 and the like.
+// Functions that no peer has, composed of a peer's functions for AVX-512: composed_sleef_u10 and the like.
 std::vector<Peer> FindComposedPeers(const support::Export& entry);
 
-// Complex products by the plain formulas, vectorised by the compiler.
+// Complex products by the plain formulas, vectorised by the compiler for AVX-512.
 std::vector<Peer> FindPlainPeers(const support::Export& entry);
 
 // A line for each peer library that is not there.

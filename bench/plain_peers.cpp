@@ -48,7 +48,7 @@ template <class T> std::function<void(const Arguments&)> LoopOf(std::string_view
 }  // namespace
 
 std::vector<Peer> FindPlainPeers(const support::Export& entry) {
-  if (!support::IsComplex(entry.input) || !support::ProcessorHasAvx512()) return {};
+  if (!support::IsComplex(entry.input) || !support::ProcessorRuns("k0")) return {};
   const auto loop = entry.is_32bit() ? LoopOf<float>(entry.function) : LoopOf<double>(entry.function);
   return loop ? std::vector<Peer>{{"plain_fast_math", loop}} : std::vector<Peer>{};
 }

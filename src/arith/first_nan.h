@@ -9,9 +9,32 @@
 namespace lum::inline LUM_LAYER {
 
 // x86 instructions choose the first operand, and those of AVX-512 are written with their operands in order. In C++ a compiler
-// may exchange the terms of a sum or a product, and does so by element; the portable layer names the instruction where it has
-// one that chooses, and elsewhere chooses by itself.
-#if defined(__x86_64__) && !defined(LUM_AVX512)
+// may exchange the terms of a sum or a product, and does so by element; the other layers name the instruction where they have
+// one that chooses, and elsewhere choose by themselves.
+#if defined(LUM_AVX2)
+#define LUM_ORDERED(operation, x, y) asm(operation " %1, %0, %0" : "+x"(x) : "x"(y))
+template <Floating T> LUM_INLINE Vec<T> SumInOrder(Vec<T> a, Vec<T> b) {
+  if constexpr (is32<T>) {
+    LUM_ORDERED("vaddps", a.low.v, b.low.v);
+    LUM_ORDERED("vaddps", a.high.v, b.high.v);
+  } else {
+    LUM_ORDERED("vaddpd", a.low.v, b.low.v);
+    LUM_ORDERED("vaddpd", a.high.v, b.high.v);
+  }
+  return a;
+}
+template <Floating T> LUM_INLINE Vec<T> ProductInOrder(Vec<T> a, Vec<T> b) {
+  if constexpr (is32<T>) {
+    LUM_ORDERED("vmulps", a.low.v, b.low.v);
+    LUM_ORDERED("vmulps", a.high.v, b.high.v);
+  } else {
+    LUM_ORDERED("vmulpd", a.low.v, b.low.v);
+    LUM_ORDERED("vmulpd", a.high.v, b.high.v);
+  }
+  return a;
+}
+#undef LUM_ORDERED
+#elif defined(__x86_64__) && !defined(LUM_AVX512)
 #ifdef __AVX__
 #define LUM_ORDERED(operation, x, y) asm("v" operation " %1, %0, %0" : "+x"(x) : "x"(y))
 #else
@@ -27,7 +50,7 @@ LUM_INLINE Vec<T> ByRegisters(const Vec<T>& a, const Vec<T>& b, Operation operat
   };
   Register results[] = {register_at(a, i)...};
   (operation(results[i], register_at(b, i)), ...);
-  return std::bit_cast<Vec<T>>(results);
+  return std::bit_cast<Vec<T> >(results);
 }
 template <Floating T> LUM_INLINE Vec<T> SumInOrder(const Vec<T>& a, const Vec<T>& b) {
   return ByRegisters(

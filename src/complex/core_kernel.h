@@ -89,7 +89,7 @@ template <class Path, class E, class... Inputs> LUM_INLINE Lanes<E> PathOfElemen
 // Whether a call goes through the vector path: not where what a core does in the caller's rounding (to narrow, and the products
 // of a power) is not to nearest, nor where the caller has denormal numbers flushed, which tails may be and numbers of Extended
 // are not. The portable vectors are slower than the core.
-#ifdef LUM_AVX512
+#if defined(LUM_AVX512) || defined(LUM_AVX2)
 inline constexpr bool has_fast_vectors = true;
 inline bool TakesVectorPath() {
   constexpr uint32_t rounding_field = 0x6000, flush_to_zero = 0x8000, denormals_are_zero = 0x40;

@@ -29,7 +29,7 @@ template <class E> bool HasInfinitePart(const E& z) { return IsInfinite(z.re) ||
 // The end of a loop. The compiler copies structures of the scalar code through registers of 256 bits without clearing their
 // upper halves, as it does behind vector code; left as they are, they would make the caller's SSE code several times slower.
 inline void LeaveLoop(const Environment& environment) {
-#ifdef LUM_AVX512
+#if defined(LUM_AVX512) || defined(LUM_AVX2)
   __builtin_ia32_vzeroupper();
 #endif
   Leave(environment);

@@ -89,7 +89,9 @@ struct Call {
 template <class K> inline uint32_t hook_cell = 0;
 
 template <class K> inline constexpr int step_of = lanes_of<Real<typename K::Input>>;
-template <class K> inline constexpr int block_of = step_of<K>* K::vectors;
+// A layer whose registers hold one stream of a kernel takes its blocks vector by vector.
+template <class K> inline constexpr int vectors_of = streams_fit_registers ? K::vectors : 1;
+template <class K> inline constexpr int block_of = step_of<K>* vectors_of<K>;
 
 namespace frame {
 
@@ -232,8 +234,8 @@ LUM_INLINE ReportBits BitsOf(const NoReports&, uint32_t) { return {}; }
 template <class K, int n, int m> struct SpilledBlock {
   alignas(64) typename K::Input inputs[n][block_of<K>];
   alignas(64) typename K::Output results[m][block_of<K>];
-  uint32_t refused[K::vectors] = {};  // the lanes of each vector
-  ReportBits reports[K::vectors];
+  uint32_t refused[vectors_of<K>] = {};  // the lanes of each vector
+  ReportBits reports[vectors_of<K>];
   bool any_refused = false;  // or reported
 
   bool IsRefused(int lane) const { return (refused[lane / step_of<K>] >> (lane % step_of<K>)&1) != 0; }
@@ -349,7 +351,7 @@ __attribute__((noinline)) int64_t BlocksOfBothPaths(const K& kernel, const Array
   constexpr int most_ordinary = 2;
   int ordinary = 0;
   do {
-    const bool refuses = BlockOfBothPaths<K, n, m>(kernel, arrays, first, call, std::make_index_sequence<K::vectors>());
+    const bool refuses = BlockOfBothPaths<K, n, m>(kernel, arrays, first, call, std::make_index_sequence<vectors_of<K>>());
     ordinary = refuses ? 0 : ordinary + 1;
     first += block_of<K>;
   } while (ordinary < most_ordinary && first + block_of<K> <= len);
@@ -405,7 +407,7 @@ LUM_INLINE void TailStep(const K& kernel, const Arrays<K, n, m>& arrays, int64_t
 template <class K, int n, int m> LUM_INLINE LumStatus RunChecked(const K& kernel, const Arrays<K, n, m>& arrays, int64_t len) {
   Call call{Enter<K::variant>()};
   int64_t i = 0;
-  while (i + block_of<K> <= len) i = Block<K, n, m>(kernel, arrays, i, len, call, std::make_index_sequence<K::vectors>());
+  while (i + block_of<K> <= len) i = Block<K, n, m>(kernel, arrays, i, len, call, std::make_index_sequence<vectors_of<K>>());
   for (; i < len; i += step_of<K>) {
     TailStep<K, n, m>(kernel, arrays, i, static_cast<int>(std::min<int64_t>(step_of<K>, len - i)), call);
   }

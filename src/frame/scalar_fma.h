@@ -1,7 +1,7 @@
-// a b + c with one rounding for lane routines, with the same bits in both layers.
+// a b + c with one rounding for lane routines, with the same bits in all layers.
 #pragma once
 
-#ifdef LUM_AVX512
+#if defined(LUM_AVX512) || defined(LUM_AVX2)
 namespace lum::inline LUM_LAYER {
 inline double scalar_fma(double a, double b, double c) { return __builtin_fma(a, b, c); }
 }  // namespace lum::inline LUM_LAYER

@@ -1,5 +1,6 @@
-// Vector operations: the vocabulary in which every kernel is written. One of two layers provides it, the same operations with
-// the same result bits in every lane: AVX-512 intrinsics or portable C++. Kernels include this file and never ask which it is.
+// Vector operations: the vocabulary in which every kernel is written. One of three layers provides it, the same operations with
+// the same result bits in every lane: AVX-512 intrinsics, AVX2 intrinsics or portable C++. Kernels include this file and never
+// ask which it is.
 //
 //   types        Vec<T>, T one of float, double, int32_t, uint32_t, int64_t, uint64_t: 512 bits; Mask<T>: one bit a lane
 //   make         all(x)  iota<T>()  load(p)  load(mask, p, fill)  store(p, v)  store(mask, p, v)  first_lanes<T>(count)
@@ -27,6 +28,8 @@
 
 #ifdef LUM_AVX512
 #include "frame/vec_avx512.h"
+#elif defined(LUM_AVX2)
+#include "frame/vec_avx2.h"
 #else
 #include "frame/vec_portable.h"
 #endif

@@ -1,4 +1,4 @@
-// Operations that both layers build from the others: operators, bitwise operations on floating-point lanes, polynomials,
+// Operations that all layers build from the others: operators, bitwise operations on floating-point lanes, polynomials,
 // error-free sums, and constants checked at compile time.
 #pragma once
 
@@ -16,6 +16,8 @@ template <Floating T> LUM_INLINE Vec<T> operator*(VecIn<T> a, VecIn<T> b) { retu
 template <Floating T> LUM_INLINE Vec<T> sealed(Vec<T> a) {
 #if defined(__clang__) && defined(LUM_AVX512)
   asm("" : "+v"(a.v));
+#elif defined(__clang__) && defined(LUM_AVX2)
+  asm("" : "+x"(a.low.v), "+x"(a.high.v));
 #endif
   return a;
 }

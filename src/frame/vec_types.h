@@ -11,7 +11,7 @@
 #define LUM_INLINE inline __attribute__((always_inline))
 // A stage of a long vector path. In the portable layer it is a function of its own: intermediate vectors lie on the stack
 // there, and those of one stage make room for those of the next.
-#ifdef LUM_AVX512
+#if defined(LUM_AVX512) || defined(LUM_AVX2)
 #define LUM_STAGE LUM_INLINE
 #else
 #define LUM_STAGE inline __attribute__((noinline))

@@ -1,4 +1,4 @@
-// The table of one layer: compiled with LUM_AVX512 for the native one and without for the portable one.
+// The table of one layer: compiled once for each, with the macro that chooses it.
 #include "operation_table.h"
 
 #include <cstring>
@@ -359,8 +359,10 @@ OperationTable build() {
 
 }  // namespace
 
-#ifdef LUM_AVX512
-OperationTable NativeTable() { return build(); }
+#if defined(LUM_AVX512)
+OperationTable Avx512Table() { return build(); }
+#elif defined(LUM_AVX2)
+OperationTable Avx2Table() { return build(); }
 #else
 OperationTable PortableTable() { return build(); }
 #endif

@@ -1,5 +1,5 @@
 // The vector operations as functions over raw vectors, one table for each layer. The same source is compiled once for each, so
-// the two tables have the same entries in the same order.
+// the tables have the same entries in the same order.
 #pragma once
 
 #include <cstdint>
@@ -41,7 +41,8 @@ struct OperationTable {
   void (*masked_gather_f64)(uint32_t mask, const double* base, const int64_t* index, double* all_lanes);
 };
 
-OperationTable NativeTable();
+OperationTable Avx512Table();
+OperationTable Avx2Table();
 OperationTable PortableTable();
 
 }  // namespace lum_test

@@ -1,4 +1,4 @@
-// Both libraries give the same bits and the same status for every element, the AVX-512 one and the portable one.
+// All libraries give the same bits and the same status for every element.
 #include <map>
 
 #include "support/recorder.h"
@@ -29,26 +29,33 @@ Result RunRecorded(const support::Library& library, const Export& entry, const B
 class Parity : public testing::TestWithParam<const Export*> {
  protected:
   void SetUp() override {
-    std::string reason;
-    k0_ = TestLibrary("k0", "_recording", reason);
-    if (k0_ == nullptr) GTEST_SKIP() << reason;
-    p0_ = TestLibrary("p0", "_recording", reason);
-    if (p0_ == nullptr) GTEST_SKIP() << reason;
+    for (const std::string& name : RunnableLibraries()) {
+      std::string reason;
+      const support::Library* library = TestLibrary(name, "_recording", reason);
+      ASSERT_NE(library, nullptr) << reason;
+      libraries_.push_back({name, library});
+    }
+    if (libraries_.size() < 2) GTEST_SKIP() << "one library alone can run here";
     const auto exception = Exceptions().find(GetParam()->name);
     if (exception != Exceptions().end()) GTEST_SKIP() << exception->second;
   }
-  const support::Library* k0_ = nullptr;
-  const support::Library* p0_ = nullptr;
+  // The first is the one that the others are held against.
+  std::vector<std::pair<std::string, const support::Library*>> libraries_;
 };
 
 TEST_P(Parity, SameResultsAndStatuses) {
   const Export& entry = *GetParam();
   size_t compared = 0;
   for (const Batch& batch : Sweep(entry, random_values)) {
-    const Result k0 = RunRecorded(*k0_, entry, batch);
-    const Result p0 = RunRecorded(*p0_, entry, batch);
-    ASSERT_EQ(DifferenceOfLibraries(k0.output, p0.output, batch), "equal") << "expected by k0, got from p0";
-    for (size_t i = 0; i < batch.size(); ++i) ASSERT_EQ(k0.statuses[i], p0.statuses[i]) << batch.Show(i);
+    const Result expected = RunRecorded(*libraries_[0].second, entry, batch);
+    for (size_t other = 1; other < libraries_.size(); ++other) {
+      const auto& [name, library] = libraries_[other];
+      const Result actual = RunRecorded(*library, entry, batch);
+      ASSERT_EQ(DifferenceOfLibraries(expected.output, actual.output, batch), "equal")
+          << "expected by " << libraries_[0].first << ", got from " << name;
+      for (size_t i = 0; i < batch.size(); ++i)
+        ASSERT_EQ(expected.statuses[i], actual.statuses[i]) << name << ": " << batch.Show(i);
+    }
     compared += batch.size();
   }
   EXPECT_GE(compared, random_values);

@@ -1,4 +1,4 @@
-# The vector operations of both layers against each other. The table of operations is compiled once for each layer; the rest of
+# The vector operations of all layers against each other. The table of operations is compiled once for each layer; the rest of
 # the test runs on any processor.
 set(vec_operations_dir ${PROJECT_SOURCE_DIR}/tests/frame)
 
@@ -9,7 +9,9 @@ function(add_operation_table name)
   target_compile_options(${name} PRIVATE -ffp-contract=off -fno-math-errno ${ARGN})
 endfunction()
 
-add_executable(vec_operations_test ${vec_operations_dir}/vec_operations_test.cpp ${vec_operations_dir}/operation_inputs.cpp)
+add_executable(vec_operations_test ${vec_operations_dir}/vec_operations_test.cpp ${vec_operations_dir}/operation_inputs.cpp
+               ${PROJECT_SOURCE_DIR}/src/frame/dispatch/processor.cpp)
+target_include_directories(vec_operations_test PRIVATE ${PROJECT_SOURCE_DIR}/src)
 target_compile_features(vec_operations_test PRIVATE cxx_std_20)
 # The inputs are computed, so these files must not depend on contraction either.
 target_compile_options(vec_operations_test PRIVATE -ffp-contract=off)
@@ -18,10 +20,12 @@ target_compile_definitions(vec_operations_test PRIVATE LUM_SOURCE_DIR="${PROJECT
 add_operation_table(operation_table_portable)
 target_link_libraries(vec_operations_test PRIVATE operation_table_portable)
 if(CMAKE_SYSTEM_PROCESSOR MATCHES "x86_64|AMD64")
-  add_operation_table(operation_table_native ${LUM_AVX512_FLAGS})
-  target_compile_definitions(operation_table_native PRIVATE LUM_AVX512)
+  add_operation_table(operation_table_avx512 ${LUM_AVX512_FLAGS})
+  target_compile_definitions(operation_table_avx512 PRIVATE LUM_AVX512)
+  add_operation_table(operation_table_avx2 ${LUM_AVX2_FLAGS})
+  target_compile_definitions(operation_table_avx2 PRIVATE LUM_AVX2)
   target_compile_definitions(vec_operations_test PRIVATE LUM_TEST_NATIVE)
-  target_link_libraries(vec_operations_test PRIVATE operation_table_native)
+  target_link_libraries(vec_operations_test PRIVATE operation_table_avx512 operation_table_avx2)
 endif()
 
 add_test(NAME frame.immediates COMMAND ${Python3_EXECUTABLE} ${vec_operations_dir}/immediates.py $<TARGET_FILE:lumvmp0>)

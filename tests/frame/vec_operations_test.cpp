@@ -1,4 +1,4 @@
-// Every vector operation of the portable layer against the instruction, bit for bit; where there is no such processor, against
+// Every vector operation of every layer against the instruction, bit for bit; where there is no such processor, against
 // outcomes recorded on one. LUM_EXHAUSTIVE=1 adds all 2^32 inputs of rcp14 and rsqrt14, LUM_RECORD=path writes the record.
 #include <gtest/gtest.h>
 #include <sys/mman.h>
@@ -14,33 +14,30 @@
 #include <sstream>
 #include <thread>
 
+#include "frame/dispatch/processor.h"
 #include "operation_inputs.h"
 #include "operation_table.h"
 
 namespace lum_test {
 namespace {
 
-bool has_avx512() {
+struct LayerTable {
+  std::string name;
+  OperationTable table;
+};
+// The layers that run here, the portable one first and the instructions themselves, where the processor has them, last.
+const std::vector<LayerTable>& layers() {
+  static const std::vector<LayerTable> list = [] {
+    std::vector<LayerTable> found = {{"portable", PortableTable()}};
 #ifdef LUM_TEST_NATIVE
-  return __builtin_cpu_supports("avx512f") && __builtin_cpu_supports("avx512cd") && __builtin_cpu_supports("avx512bw") &&
-         __builtin_cpu_supports("avx512dq") && __builtin_cpu_supports("avx512vl");
-#else
-  return false;
+    if (lum::ProcessorRuns(lum::Layer::avx2)) found.push_back({"avx2", Avx2Table()});
+    if (lum::ProcessorRuns(lum::Layer::avx512)) found.push_back({"avx512", Avx512Table()});
 #endif
+    return found;
+  }();
+  return list;
 }
-
-const OperationTable& portable() {
-  static const OperationTable table = PortableTable();
-  return table;
-}
-#ifdef LUM_TEST_NATIVE
-const OperationTable& native() {
-  static const OperationTable table = NativeTable();
-  return table;
-}
-#else
-const OperationTable& native() { return portable(); }  // never asked: has_avx512 is false
-#endif
+const OperationTable& portable() { return layers().front().table; }
 
 bool is_nan(Element element, uint64_t bits) {
   return element == Element::f32 ? (bits & 0x7FFFFFFF) > 0x7F800000
@@ -83,24 +80,29 @@ std::string describe(const Operands& operands, const Outcome& got, const Outcome
   std::ostringstream text;
   for (const RawVector& v : operands.vector) text << "operand  " << hexadecimal(v.bytes, 64) << '\n';
   text << "mask     " << std::hex << operands.mask << '\n';
-  for (const RawVector& v : got.vector) text << "portable " << hexadecimal(v.bytes, 64) << '\n';
+  for (const RawVector& v : got.vector) text << "got      " << hexadecimal(v.bytes, 64) << '\n';
   for (const RawVector& v : expected.vector) text << "expected " << hexadecimal(v.bytes, 64) << '\n';
   return text.str();
 }
 
 bool same(const Outcome& a, const Outcome& b) { return std::memcmp(&a, &b, sizeof a) == 0; }
 
-// Both layers on the same operands; false, with a failure reported, when they differ.
+// All layers on the same operands; false, with a failure reported, when one differs from the last.
 bool agree(std::size_t index, const Operands& operands) {
   const Operation& operation = portable().operations[index];
-  Outcome got, expected;
-  operation.run(operands, got);
-  native().operations[index].run(operands, expected);
-  settle_nans(operation, operands, got);
+  Outcome expected;
+  layers().back().table.operations[index].run(operands, expected);
   settle_nans(operation, operands, expected);
-  if (same(got, expected)) return true;
-  ADD_FAILURE() << operation.name << '\n' << describe(operands, got, expected);
-  return false;
+  bool all_same = true;
+  for (std::size_t i = 0; i + 1 < layers().size(); ++i) {
+    Outcome got;
+    layers()[i].table.operations[index].run(operands, got);
+    settle_nans(operation, operands, got);
+    if (same(got, expected)) continue;
+    ADD_FAILURE() << operation.name << " of layer " << layers()[i].name << '\n' << describe(operands, got, expected);
+    all_same = false;
+  }
+  return all_same;
 }
 
 uint64_t seed_of(const std::string& name, uint64_t salt) {
@@ -114,7 +116,7 @@ bool on_floats(const Operation& operation) {
 }
 
 TEST(VecOperations, SpecialValuesAsTheInstruction) {
-  if (!has_avx512()) GTEST_SKIP() << "this processor has no AVX-512; the recorded outcomes are compared instead";
+  if (layers().size() < 2) GTEST_SKIP() << "this processor has one layer; the recorded outcomes are compared instead";
   for (std::size_t i = 0; i < portable().operations.size(); ++i) {
     const Operation& operation = portable().operations[i];
     Operands operands{};
@@ -127,7 +129,7 @@ TEST(VecOperations, SpecialValuesAsTheInstruction) {
 }
 
 TEST(VecOperations, RandomValuesAsTheInstruction) {
-  if (!has_avx512()) GTEST_SKIP() << "this processor has no AVX-512; the recorded outcomes are compared instead";
+  if (layers().size() < 2) GTEST_SKIP() << "this processor has one layer; the recorded outcomes are compared instead";
   uint64_t lanes = 0;
   for (std::size_t i = 0; i < portable().operations.size(); ++i) {
     const Operation& operation = portable().operations[i];
@@ -150,10 +152,11 @@ TEST(VecOperations, TablesHaveTheSameEntries) {
   std::set<std::string> names;
   for (const Operation& operation : portable().operations)
     EXPECT_TRUE(names.insert(operation.name).second) << operation.name << " occurs twice";
-  if (!has_avx512()) return;
-  ASSERT_EQ(native().operations.size(), portable().operations.size());
-  for (std::size_t i = 0; i < portable().operations.size(); ++i)
-    EXPECT_EQ(native().operations[i].name, portable().operations[i].name);
+  for (const LayerTable& layer : layers()) {
+    ASSERT_EQ(layer.table.operations.size(), portable().operations.size()) << layer.name;
+    for (std::size_t i = 0; i < portable().operations.size(); ++i)
+      EXPECT_EQ(layer.table.operations[i].name, portable().operations[i].name) << layer.name;
+  }
 }
 
 // The names of the operations that headers define, in their order.
@@ -184,14 +187,17 @@ TEST(VecOperations, EveryOperationOfTheVocabularyHasAnEntry) {
   for (const auto& name : defined_operations({"vec_shared.h"})) EXPECT_TRUE(tested.count(name)) << name << " has no entry";
 }
 
-TEST(VecOperations, BothLayersDefineTheSameOperationsInTheSameOrder) {
-  const std::set<std::string> helpers = {"each_lane",  "each_mask_lane",     "each_mask_bits", "bits_of", "each_lane_with_care",
-                                         "signed_fma", "negate_every_other", "restore_nan",    "raw",     "of_unknown_origin",
-                                         "JoinedTable"};
-  std::vector<std::string> names;
-  for (const auto& name : operations_of_layer("portable"))
-    if (!helpers.count(name)) names.push_back(name);
-  EXPECT_EQ(names, operations_of_layer("avx512"));
+TEST(VecOperations, AllLayersDefineTheSameOperationsInTheSameOrder) {
+  const std::set<std::string> helpers = {
+      "each_lane",    "each_mask_lane",     "each_mask_bits",    "bits_of",    "each_lane_with_care",
+      "signed_fma",   "negate_every_other", "restore_nan",       "raw",        "by_lane",
+      "directed_fma", "not_normal",         "of_unknown_origin", "JoinedTable"};
+  for (const char* layer : {"portable", "avx2"}) {
+    std::vector<std::string> names;
+    for (const auto& name : operations_of_layer(layer))
+      if (!helpers.count(name)) names.push_back(name);
+    EXPECT_EQ(names, operations_of_layer("avx512")) << layer;
+  }
 }
 
 // The record: for each entry, checksums of the outcomes over blocks of inputs that every machine generates alike, special
@@ -277,12 +283,12 @@ void compare_with_records(const OperationTable& table) {
   }
 }
 
-TEST(VecOperations, PortableOutcomesAsRecorded) { compare_with_records(portable()); }
-
-TEST(VecOperations, NativeOutcomesAsRecorded) {
-  if (!has_avx512()) GTEST_SKIP() << "this processor has no AVX-512";
-  if (const char* path = std::getenv("LUM_RECORD")) write_records(native(), path);
-  compare_with_records(native());
+TEST(VecOperations, OutcomesAsRecorded) {
+  if (const char* path = std::getenv("LUM_RECORD")) write_records(layers().back().table, path);
+  for (const LayerTable& layer : layers()) {
+    SCOPED_TRACE(layer.name);
+    compare_with_records(layer.table);
+  }
 }
 
 // Pages of which only the middle one can be touched.
@@ -359,18 +365,20 @@ class GuardedPage : public testing::Test {
   unsigned char* pages_ = nullptr;
 };
 
-TEST_F(GuardedPage, PortableTouchesOnlyLanesOfTheMask) { every_masked_operation(portable()); }
-TEST_F(GuardedPage, NativeTouchesOnlyLanesOfTheMask) {
-  if (!has_avx512()) GTEST_SKIP() << "this processor has no AVX-512";
-  every_masked_operation(native());
+TEST_F(GuardedPage, OnlyLanesOfTheMaskAreTouched) {
+  for (const LayerTable& layer : layers()) {
+    SCOPED_TRACE(layer.name);
+    every_masked_operation(layer.table);
+  }
 }
 
-// All 2^32 floats through one entry of both tables, on two threads; gives the number of vectors that differ.
-uint64_t differences_over_all_floats(const std::string& name) {
+// All 2^32 floats through one entry of a layer's table and of the last one's, on two threads; gives the number of vectors that
+// differ.
+uint64_t differences_over_all_floats(const LayerTable& layer, const std::string& name) {
   std::size_t index = 0;
   while (portable().operations[index].name != name) ++index;
-  const auto portable_run = portable().operations[index].run;
-  const auto native_run = native().operations[index].run;
+  const auto layer_run = layer.table.operations[index].run;
+  const auto last_run = layers().back().table.operations[index].run;
   std::atomic<uint64_t> differences{0};
   const auto half = [&](uint64_t first, uint64_t last) {
     Operands operands{};
@@ -380,8 +388,8 @@ uint64_t differences_over_all_floats(const std::string& name) {
         const auto bits = static_cast<uint32_t>(base) + lane;
         std::memcpy(operands.vector[0].bytes + 4 * lane, &bits, sizeof bits);
       }
-      portable_run(operands, got);
-      native_run(operands, expected);
+      layer_run(operands, got);
+      last_run(operands, expected);
       if (!same(got, expected)) ++differences;
     }
   };
@@ -393,9 +401,11 @@ uint64_t differences_over_all_floats(const std::string& name) {
 
 TEST(VecOperations, ReciprocalEstimatesOfAllFloats) {
   if (!std::getenv("LUM_EXHAUSTIVE")) GTEST_SKIP() << "takes minutes: set LUM_EXHAUSTIVE=1";
-  if (!has_avx512()) GTEST_SKIP() << "this processor has no AVX-512";
-  EXPECT_EQ(differences_over_all_floats("rcp14 f32"), 0u);
-  EXPECT_EQ(differences_over_all_floats("rsqrt14 f32"), 0u);
+  if (layers().back().name != "avx512") GTEST_SKIP() << "this processor has no AVX-512";
+  for (std::size_t i = 0; i + 1 < layers().size(); ++i) {
+    EXPECT_EQ(differences_over_all_floats(layers()[i], "rcp14 f32"), 0u) << layers()[i].name;
+    EXPECT_EQ(differences_over_all_floats(layers()[i], "rsqrt14 f32"), 0u) << layers()[i].name;
+  }
 }
 
 }  // namespace

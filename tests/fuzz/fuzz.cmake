@@ -6,12 +6,12 @@ if(NOT LUM_CLANGXX)
   return()
 endif()
 set(fuzz_sources ${CMAKE_CURRENT_SOURCE_DIR}/fuzz/calls.cpp ${PROJECT_SOURCE_DIR}/tools/support/declarations.cpp
-                 ${PROJECT_SOURCE_DIR}/tools/support/library.cpp)
+                 ${PROJECT_SOURCE_DIR}/tools/support/library.cpp ${PROJECT_SOURCE_DIR}/src/frame/dispatch/processor.cpp)
 foreach(name elements environment subjects values)
   list(APPEND fuzz_sources ${CMAKE_CURRENT_SOURCE_DIR}/support/${name}.cpp)
 endforeach()
 set(fuzz_flags -std=c++20 -O2 -g1 -fsanitize=fuzzer -Wall -Wextra -Wconversion -Wno-sign-conversion -Wshadow -Werror
-               -DLUM_TEST_LIBRARIES=\"${LUM_TEST_LIBRARIES}\" -DLUM_BUILT_LIBRARY_DIR=\"${PROJECT_BINARY_DIR}\")
+               -DLUM_BUILT_LIBRARIES=\"${LUM_BUILT_LIBRARIES}\" -DLUM_BUILT_LIBRARY_DIR=\"${PROJECT_BINARY_DIR}\")
 foreach(folder ${CMAKE_CURRENT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/tools ${PROJECT_SOURCE_DIR}/src ${PROJECT_SOURCE_DIR}/include
                ${LUM_DECLARATION_DIR})
   list(APPEND fuzz_flags -I${folder})

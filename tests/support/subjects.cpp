@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <map>
 #include <optional>
-#include <sstream>
 
 namespace lum::test {
 namespace {
@@ -19,8 +18,9 @@ struct LoadedLibrary {
 
 LoadedLibrary LoadForTest(const std::string& name, const std::string& variant) {
   LoadedLibrary loaded;
-  if (name == "k0" && !support::ProcessorHasAvx512()) {
-    loaded.reason = "liblumvmk0 needs AVX-512F/CD/BW/DQ/VL, which this processor does not have";
+  if (!support::ProcessorRuns(name)) {
+    loaded.reason =
+        "liblumvm" + name + " needs " + std::string(support::InstructionsOf(name)) + ", which this processor does not have";
   } else {
     loaded.library = Library::LoadBuilt(name, loaded.reason, variant);
   }
@@ -57,15 +57,7 @@ void AppendSubjects(std::vector<Subject>& list, const std::string& library, std:
 
 }  // namespace
 
-std::span<const std::string> LibraryNames() {
-  static const std::vector<std::string> names = [] {
-    std::vector<std::string> list;
-    std::istringstream text(LUM_TEST_LIBRARIES);
-    for (std::string name; std::getline(text, name, ' ');) list.push_back(name);
-    return list;
-  }();
-  return names;
-}
+std::span<const std::string> LibraryNames() { return support::BuiltLibraries(); }
 
 const Library* TestLibrary(const std::string& name, const std::string& variant, std::string& reason) {
   static std::map<std::string, LoadedLibrary> cache;
@@ -80,7 +72,7 @@ std::vector<std::string> RunnableLibraries() {
   for (const std::string& name : LibraryNames()) {
     std::string reason;
     if (TestLibrary(name, "", reason) != nullptr) names.push_back(name);
-    else if (name == "k0" && !support::ProcessorHasAvx512()) std::printf("k0 left out: %s\n", reason.c_str());
+    else if (!support::ProcessorRuns(name)) std::printf("%s left out: %s\n", name.c_str(), reason.c_str());
     else ADD_FAILURE() << reason;
   }
   return names;
@@ -162,7 +154,7 @@ Output Callee::RunEach(const Batch& batch, std::vector<LumStatus>& statuses) con
 void ExportTest::SetUp() {
   std::string reason;
   library_ = TestLibrary(GetParam().library, Variant(), reason);
-  if (library_ == nullptr && GetParam().library == "k0" && !support::ProcessorHasAvx512()) GTEST_SKIP() << reason;
+  if (library_ == nullptr && !support::ProcessorRuns(GetParam().library)) GTEST_SKIP() << reason;
   ASSERT_NE(library_, nullptr) << reason;
   ASSERT_NE(library_->Symbol(entry().name), nullptr) << entry().name << " is not exported";
 }

@@ -13,7 +13,7 @@
 
 namespace lum::test {
 
-// "k0" and "p0", as far as they are built.
+// "k0", "a2" and "p0", as far as they are built.
 std::span<const std::string> LibraryNames();
 // A built library (variant "" or "_recording"); null with a reason when it cannot run here.
 const support::Library* TestLibrary(const std::string& name, const std::string& variant, std::string& reason);

@@ -58,7 +58,7 @@ class EntryTable : public testing::TestWithParam<std::string> {
   void SetUp() override {
     std::string reason;
     library_ = TestLibrary(GetParam(), "_recording", reason);
-    if (library_ == nullptr && GetParam() == "k0" && !support::ProcessorHasAvx512()) GTEST_SKIP() << reason;
+    if (library_ == nullptr && !support::ProcessorRuns(GetParam())) GTEST_SKIP() << reason;
     ASSERT_NE(library_, nullptr) << reason;
     table_ = library_->Symbol<const FunctionRecord*()>("lumTestEntryTable")();
   }

@@ -160,8 +160,8 @@ void RunOverAll(const Options& options, const Library& library, const Group& gro
 
 void Run(const Options& options) {
   std::string target = options.target;
-  if (target.empty()) target = lum::support::ProcessorHasAvx512() ? "k0" : "p0";
-  if (target == "k0" && !lum::support::ProcessorHasAvx512()) throw std::runtime_error("this processor lacks AVX-512");
+  if (target.empty()) target = lum::support::FastestLibrary();
+  if (!lum::support::ProcessorRuns(target)) throw std::runtime_error("this processor does not run " + target);
   std::string error;
   const auto library = Library::LoadBuilt(target, error);
   if (!library) throw std::runtime_error(error);
@@ -186,7 +186,7 @@ int main(int argc, char** argv) {
   app.add_option("--count", options.count, "points a function and type");
   app.add_option("--csv", options.csv, "results file to update");
   app.add_option("--curves", options.curves, "folder for the error over the argument");
-  app.add_option("--target", options.target, "k0 or p0; k0 where the processor can");
+  app.add_option("--target", options.target, "k0, a2 or p0; the first that the processor runs");
   try {
     app.parse(argc, argv);
     Run(options);

@@ -4,8 +4,11 @@
 
 #include <algorithm>
 #include <iterator>
+#include <sstream>
+#include <vector>
 
 #include "frame/catalogue_names.h"
+#include "frame/dispatch/processor.h"
 
 namespace lum::support {
 namespace {
@@ -97,13 +100,29 @@ size_t SizeOf(Element element) {
   return 0;
 }
 
-bool ProcessorHasAvx512() {
-#if defined(__x86_64__)
-  return __builtin_cpu_supports("avx512f") && __builtin_cpu_supports("avx512cd") && __builtin_cpu_supports("avx512bw") &&
-         __builtin_cpu_supports("avx512dq") && __builtin_cpu_supports("avx512vl");
-#else
-  return false;
-#endif
+std::string_view InstructionsOf(std::string_view library) {
+  if (library == "k0") return "AVX-512F/CD/BW/DQ/VL";
+  return library == "a2" ? "AVX2, FMA, BMI and LZCNT" : "no particular instructions";
+}
+
+bool ProcessorRuns(std::string_view library) {
+  if (library == "k0") return lum::ProcessorRuns(Layer::avx512);
+  if (library == "a2") return lum::ProcessorRuns(Layer::avx2);
+  return library == "p0";
+}
+
+std::string_view FastestLibrary() {
+  return *std::ranges::find_if(BuiltLibraries(), [](std::string_view name) { return ProcessorRuns(name); });
+}
+
+std::span<const std::string> BuiltLibraries() {
+  static const std::vector<std::string> names = [] {
+    std::vector<std::string> list;
+    std::istringstream text(LUM_BUILT_LIBRARIES);
+    for (std::string name; std::getline(text, name, ' ');) list.push_back(name);
+    return list;
+  }();
+  return names;
 }
 
 std::optional<Library> Library::Load(const std::string& path, std::string& error) {

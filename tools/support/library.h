@@ -45,8 +45,14 @@ size_t SizeOf(Element element);
 inline bool IsComplex(Element element) { return element == Element::c32 || element == Element::c64; }
 inline bool Is32Bit(Element element) { return element == Element::f32 || element == Element::c32; }
 
-// True when the processor has the instructions of liblumvmk0.
-bool ProcessorHasAvx512();
+// The instructions that a library needs: "k0" AVX-512, "a2" AVX2 with FMA, BMI and LZCNT, "p0" none in particular.
+std::string_view InstructionsOf(std::string_view library);
+// True when the processor has them.
+bool ProcessorRuns(std::string_view library);
+// The fastest library that the processor runs.
+std::string_view FastestLibrary();
+// The names of the built libraries, the fastest first.
+std::span<const std::string> BuiltLibraries();
 
 // The arguments of any shape: those that a shape does not have are ignored. value points to the scalar parameter.
 struct Arguments {
@@ -63,7 +69,8 @@ class Library {
  public:
   // Loads by file path. Without a value: error holds the loader's message.
   static std::optional<Library> Load(const std::string& path, std::string& error);
-  // Loads the built liblumvmk0.so or liblumvmp0.so, "k0" or "p0"; with variant "_recording" the tests' copy.
+  // Loads the built liblumvmk0.so, liblumvma2.so or liblumvmp0.so, "k0", "a2" or "p0"; with variant "_recording" the tests'
+  // copy.
   static std::optional<Library> LoadBuilt(std::string_view target, std::string& error, std::string_view variant = "");
 
   // The address of a symbol, or null.
