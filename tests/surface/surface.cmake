@@ -14,6 +14,11 @@ foreach(library IN LISTS LUM_LIBRARIES)
   endif()
 endforeach()
 
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_SYSTEM_PROCESSOR MATCHES "x86_64|AMD64" AND NOT LUM_SANITIZE)
+  add_test(NAME surface.dynamic_section.lumvm
+           COMMAND ${Python3_EXECUTABLE} ${CMAKE_CURRENT_SOURCE_DIR}/surface/dynamic_section.py $<TARGET_FILE:lumvm>)
+endif()
+
 # The header alone, as a C and as a C++ program would include it; both programs call the library.
 add_executable(test.surface.header_c surface/header.c)
 set_target_properties(test.surface.header_c PROPERTIES C_EXTENSIONS OFF)
