@@ -55,7 +55,7 @@ struct SqrtPath {
 
 // z^w = e^(w ln z). The core rounds the logarithm to binary64, and the product with the exponent in plain operations.
 struct PowPath {
-  static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w) {
+  static LUM_INLINE PathValue Value(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w) {
     const auto logarithm = LogarithmParts(z);
     const auto re = RoundedAsCore(logarithm.modulus, logarithm.modulus_error);
     const auto im = RoundedAsCore(logarithm.angle, logarithm.angle_error);
@@ -66,6 +66,14 @@ struct PowPath {
                          IsFar(angle, largest_angle);
     constexpr double product_error = 5;
     return SmallValueWithin(Product(e, circular.cosine), Product(e, circular.sine), product_error, refused);
+  }
+  [[gnu::noinline]] static PathValue CalledValue(const ComplexVec<Lum64f>& z, const ComplexVec<Lum64f>& w) {
+    return Value(z, w);
+  }
+  // Where registers do not hold its intermediate vectors, all places of the path share one copy of it and of its stack.
+  static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w) {
+    if constexpr (streams_fit_registers) return Value(z, w);
+    else return CalledValue(z, w);
   }
 };
 
