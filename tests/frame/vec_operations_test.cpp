@@ -242,6 +242,8 @@ Record record_of(const Operation& operation) {
 
 void write_records(const OperationTable& table, const std::string& path) {
   std::ofstream file(path);
+  file << "# Written by `LUM_RECORD=FILE build/dev/tests/vec_operations_test`: what each operation gives, outcomes and "
+          "checksums.\n";
   for (const Operation& operation : table.operations) {
     const Record record = record_of(operation);
     file << operation.name << '\n' << std::hex;
@@ -258,6 +260,8 @@ std::map<std::string, Record> read_records(const std::string& path) {
   std::map<std::string, Record> records;
   std::ifstream file(path);
   EXPECT_TRUE(file) << "could not read " << path;
+  std::string heading;
+  std::getline(file, heading);
   for (std::string name, line; std::getline(file, name);) {
     Record& record = records[name];
     for (int i = 0; i < outcomes_in_full && std::getline(file, line); ++i) record.outcomes.push_back(line.substr(2));
