@@ -458,11 +458,35 @@ class Anything(Tool):
             self.check(choice.choice(requests), text)
 
 
+@unittest.skipUnless(shutil.which("gnuplot"), "gnuplot is not installed")
+class Pictures(Tool):
+    def test_terminal(self):
+        code, out, error = run("plot", "exp", "--from", "-5", "--to", "5")
+        self.assertEqual((code, error), (0, ""))
+        self.assertIn("lumsExp_64f_A53", out.decode())
+        self.assertGreater(out.count(b"*"), 30)
+
+    def test_files(self):
+        for name, start in (("a.svg", b"<?xml"), ("a.png", b"\x89PNG")):
+            self.assertEqual(run("plot", "Sin", "-t", "32f", "--error", "-o", self.path / name)[0], 0)
+            self.assertTrue((self.path / name).read_bytes().startswith(start))
+        self.assertIn(b"A26", (run("plot", "Powx", "-v", "0.3", "--from", "1", "--error", "-o", self.path / "b.svg"),
+                               (self.path / "b.svg").read_bytes())[1])
+
+    def test_bad_requests(self):
+        self.expect_error("functions of one real number", "plot", "Add")
+        self.expect_error("is not below", "plot", "Exp", "--from", "2", "--to", "1")
+        self.expect_error("no finite value", "plot", "Ln", "--from", "-2", "--to", "-1")
+        self.expect_error("no other tag", "plot", "Floor", "--error")
+        self.expect_error(".svg or .png", "plot", "Exp", "-o", self.path / "a.jpg")
+        self.assertEqual(list(self.path.iterdir()), [])
+
+
 class Pages(Tool):
     def test_every_option_is_in_the_manual_and_the_completions(self):
         manual = run("man")[1].decode().replace("\\-", "-")
         scripts = [run("completion", shell)[1].decode() for shell in ("bash", "zsh")]
-        for command in ("apply", "compare", "list", "info"):
+        for command in ("apply", "compare", "list", "info", "plot"):
             for option in re.findall(r"--[a-z]+", run(command, "--help")[1].decode().split("Exit codes")[0]):
                 for page in (manual, *scripts):
                     self.assertIn(option, page)
