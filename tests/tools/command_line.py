@@ -7,11 +7,13 @@ import random
 import re
 import resource
 import shutil
+import signal
 import stat
 import struct
 import subprocess
 import sys
 import tempfile
+import time
 import unittest
 from pathlib import Path
 
@@ -347,6 +349,51 @@ class Outputs(Tool):
         os.chown(out, 1234, 1235)
         self.assertEqual(run("apply", "Exp", "0", "-o", out)[0], 0)
         self.assertEqual((out.stat().st_uid, out.stat().st_gid), (1234, 1235))
+
+    @unittest.skipIf(os.geteuid() != 0, "another user's file needs root to come into being")
+    def test_owner_stays_where_it_cannot_be_given(self):
+        """A file of another owner that the caller may write keeps its owner; one that he may not write stays."""
+        self.path.chmod(0o777)
+        out = self.path / "out.txt"
+        out.write_text("old" * 100)
+        out.chmod(0o666)
+        nobody = lambda: os.setuid(65534)
+        command = [TOOL, "apply", "Exp", "0", "-o", out]
+        if subprocess.run([TOOL, "--version"], preexec_fn=nobody, capture_output=True).returncode != 0:
+            self.skipTest("the tool lies where others cannot read it")
+        self.assertEqual(subprocess.run(command, preexec_fn=nobody).returncode, 0)
+        self.assertEqual((out.read_text(), out.stat().st_uid), ("1\n", 0))
+        self.path.chmod(0o755)
+        self.assertEqual(subprocess.run(command[:3] + ["1", "-o", out], preexec_fn=nobody).returncode, 0)
+        self.assertEqual((out.read_text(), [p.name for p in self.path.iterdir()]), ("2.718281828459045\n", ["out.txt"]))
+        out.chmod(0o644)
+        result = subprocess.run(command, preexec_fn=nobody, capture_output=True)
+        self.assertEqual((result.returncode, len(result.stderr.splitlines())), (1, 1))
+        self.assertEqual(out.read_text(), "2.718281828459045\n")
+
+    def test_an_interrupt_leaves_nothing(self):
+        out = self.path / "out.txt"
+        out.write_text("old")
+        with subprocess.Popen([TOOL, "apply", "Exp", "-o", out], stdin=subprocess.PIPE) as process:
+            process.stdin.write(b"1 " * 1000000)
+            process.stdin.flush()
+            self.assertEqual(len(list(self.path.iterdir())), 2)
+            process.terminate()
+        self.assertEqual(process.returncode, -signal.SIGTERM)
+        self.assertEqual((out.read_text(), [p.name for p in self.path.iterdir()]), ("old", ["out.txt"]))
+
+    def test_progress_on_a_terminal_after_two_seconds(self):
+        master, slave = os.openpty()
+        with subprocess.Popen([TOOL, "apply", "Exp"], stdin=subprocess.PIPE, stdout=subprocess.DEVNULL, stderr=slave) as process:
+            for pause in (0, 2.5, 0):
+                time.sleep(pause)
+                process.stdin.write(b"1 " * 100000)
+                process.stdin.flush()
+            process.stdin.close()
+        os.close(slave)
+        shown = os.read(master, 10000).decode()
+        self.assertRegex(shown, "lumvm: [0-9]+ elements")
+        self.assertTrue(shown.endswith("\r\x1b[K"), repr(shown))
 
     def test_links_are_followed(self):
         (self.path / "folder").mkdir()
