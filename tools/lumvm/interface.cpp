@@ -129,8 +129,7 @@ std::unique_ptr<CLI::App> MakeApplication() {
   AddApply(*app);
   AddCompare(*app);
   AddPlot(*app);
-  auto version = std::make_shared<bool>(false);
-  app->add_flag("--version", *version, "version of the library, the layer that runs, and its build");
+  app->add_flag("--version")->description("version of the library, the layer that runs, and its build");
 
   auto shell = std::make_shared<std::string>();
   auto* completion = app->add_subcommand("completion", "print a completion script for bash or zsh");
