@@ -114,7 +114,7 @@ def table_row(name, row, is_complex):
 
 def place(x):
     """Where an argument stands on the axis: logarithmic on both sides of zero."""
-    return math.copysign(math.log10(1 + abs(x) * 1e3), x)
+    return math.copysign(math.log10(abs(x) + 1e-3) + 3, x)
 
 
 def tics(low, high):
@@ -137,7 +137,7 @@ def draw(function, type_, exports, bounds, curves):
     arguments = [place(float(line.split()[0])) for name, _ in names for line in (curves / f"{name}.dat").read_text().splitlines()
                  if line and not line.startswith("#")]
     plots = ", ".join(
-        f"'{curves / (name + '.dat')}' using (sgn($1)*log10(1+abs($1)*1e3)):($2/{bounds[name]}) with lines title '{tag or name}'"
+        f"'{curves / (name + '.dat')}' using (sgn($1)*(log10(abs($1)+1e-3)+3)):($2/{bounds[name]}) with lines title '{tag or name}'"
         for name, tag in names)
     script = f"""set terminal svg size 720,260 font 'sans,11' background 'white'
 set output '{IMAGES / f"{function}_{type_}.svg"}'

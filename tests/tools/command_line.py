@@ -7,11 +7,13 @@ import random
 import re
 import resource
 import shutil
+import signal
 import stat
 import struct
 import subprocess
 import sys
 import tempfile
+import time
 import unittest
 from pathlib import Path
 
@@ -348,6 +350,51 @@ class Outputs(Tool):
         self.assertEqual(run("apply", "Exp", "0", "-o", out)[0], 0)
         self.assertEqual((out.stat().st_uid, out.stat().st_gid), (1234, 1235))
 
+    @unittest.skipIf(os.geteuid() != 0, "another user's file needs root to come into being")
+    def test_owner_stays_where_it_cannot_be_given(self):
+        """A file of another owner that the caller may write keeps its owner; one that he may not write stays."""
+        self.path.chmod(0o777)
+        out = self.path / "out.txt"
+        out.write_text("old" * 100)
+        out.chmod(0o666)
+        nobody = lambda: os.setuid(65534)
+        command = [TOOL, "apply", "Exp", "0", "-o", out]
+        if subprocess.run([TOOL, "--version"], preexec_fn=nobody, capture_output=True).returncode != 0:
+            self.skipTest("the tool lies where others cannot read it")
+        self.assertEqual(subprocess.run(command, preexec_fn=nobody).returncode, 0)
+        self.assertEqual((out.read_text(), out.stat().st_uid), ("1\n", 0))
+        self.path.chmod(0o755)
+        self.assertEqual(subprocess.run(command[:3] + ["1", "-o", out], preexec_fn=nobody).returncode, 0)
+        self.assertEqual((out.read_text(), [p.name for p in self.path.iterdir()]), ("2.718281828459045\n", ["out.txt"]))
+        out.chmod(0o644)
+        result = subprocess.run(command, preexec_fn=nobody, capture_output=True)
+        self.assertEqual((result.returncode, len(result.stderr.splitlines())), (1, 1))
+        self.assertEqual(out.read_text(), "2.718281828459045\n")
+
+    def test_an_interrupt_leaves_nothing(self):
+        out = self.path / "out.txt"
+        out.write_text("old")
+        with subprocess.Popen([TOOL, "apply", "Exp", "-o", out], stdin=subprocess.PIPE) as process:
+            process.stdin.write(b"1 " * 1000000)
+            process.stdin.flush()
+            self.assertEqual(len(list(self.path.iterdir())), 2)
+            process.terminate()
+        self.assertEqual(process.returncode, -signal.SIGTERM)
+        self.assertEqual((out.read_text(), [p.name for p in self.path.iterdir()]), ("old", ["out.txt"]))
+
+    def test_progress_on_a_terminal_after_two_seconds(self):
+        master, slave = os.openpty()
+        with subprocess.Popen([TOOL, "apply", "Exp"], stdin=subprocess.PIPE, stdout=subprocess.DEVNULL, stderr=slave) as process:
+            for pause in (0, 2.5, 0):
+                time.sleep(pause)
+                process.stdin.write(b"1 " * 100000)
+                process.stdin.flush()
+            process.stdin.close()
+        os.close(slave)
+        shown = os.read(master, 10000).decode()
+        self.assertRegex(shown, "lumvm: [0-9]+ elements")
+        self.assertTrue(shown.endswith("\r\x1b[K"), repr(shown))
+
     def test_links_are_followed(self):
         (self.path / "folder").mkdir()
         target, link = self.path / "folder/target", self.path / "link"
@@ -458,11 +505,35 @@ class Anything(Tool):
             self.check(choice.choice(requests), text)
 
 
+@unittest.skipUnless(shutil.which("gnuplot"), "gnuplot is not installed")
+class Pictures(Tool):
+    def test_terminal(self):
+        code, out, error = run("plot", "exp", "--from", "-5", "--to", "5")
+        self.assertEqual((code, error), (0, ""))
+        self.assertIn("lumsExp_64f_A53", out.decode())
+        self.assertGreater(out.count(b"*"), 30)
+
+    def test_files(self):
+        for name, start in (("a.svg", b"<?xml"), ("a.png", b"\x89PNG")):
+            self.assertEqual(run("plot", "Sin", "-t", "32f", "--error", "-o", self.path / name)[0], 0)
+            self.assertTrue((self.path / name).read_bytes().startswith(start))
+        self.assertIn(b"A26", (run("plot", "Powx", "-v", "0.3", "--from", "1", "--error", "-o", self.path / "b.svg"),
+                               (self.path / "b.svg").read_bytes())[1])
+
+    def test_bad_requests(self):
+        self.expect_error("functions of one real number", "plot", "Add")
+        self.expect_error("is not below", "plot", "Exp", "--from", "2", "--to", "1")
+        self.expect_error("no finite value", "plot", "Ln", "--from", "-2", "--to", "-1")
+        self.expect_error("no other tag", "plot", "Floor", "--error")
+        self.expect_error(".svg or .png", "plot", "Exp", "-o", self.path / "a.jpg")
+        self.assertEqual(list(self.path.iterdir()), [])
+
+
 class Pages(Tool):
     def test_every_option_is_in_the_manual_and_the_completions(self):
         manual = run("man")[1].decode().replace("\\-", "-")
         scripts = [run("completion", shell)[1].decode() for shell in ("bash", "zsh")]
-        for command in ("apply", "compare", "list", "info"):
+        for command in ("apply", "compare", "list", "info", "plot"):
             for option in re.findall(r"--[a-z]+", run(command, "--help")[1].decode().split("Exit codes")[0]):
                 for page in (manual, *scripts):
                     self.assertIn(option, page)

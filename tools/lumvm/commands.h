@@ -1,7 +1,6 @@
 // The commands of the tool. Each throws InputError or SystemError where it cannot do what is asked.
 #pragma once
 
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -37,11 +36,23 @@ struct ApplyOptions {
   Notation notation = Notation::decimal;
 };
 
+struct PlotOptions {
+  std::string function;
+  std::string type;
+  std::string tag;
+  std::string value;
+  std::string from, to;  // empty: the function's interval of everyday arguments
+  std::string output;    // .svg or .png; empty: the terminal
+  std::string layer;
+  bool has_error = false;
+};
+
 void List(const ListOptions& options);
 void Info(const InfoOptions& options);
 void Apply(const ApplyOptions& options);
 // Results at all tags side by side with their distance from the highest, and the speed of each against a scalar loop.
 void Compare(const ApplyOptions& options);
+void Plot(const PlotOptions& options);
 void Version();
 
 }  // namespace lum::tool

@@ -101,6 +101,25 @@ void AddDescriptions(CLI::App& app) {
   info->callback([=] { Info(*info_options); });
 }
 
+void AddPlot(CLI::App& app) {
+  auto options = std::make_shared<PlotOptions>();
+  auto* plot = app.add_subcommand("plot", "draw a function of one real number, or its errors, in the terminal or as a picture");
+  AddFunction(plot, options->function);
+  plot->add_option("-t,--type", options->type, "element type: 32f or 64f; 64f when not given");
+  plot->add_option("--tag", options->tag, "accuracy of the function that is drawn; the highest when not given");
+  plot->add_option("-v,--value", options->value, "the exponent of Powx");
+  plot->add_option("--from", options->from, "the least argument");
+  plot->add_option("--to", options->to, "the largest argument");
+  plot->add_flag("--error", options->has_error,
+                 "the largest error of each tag: of 32f against the 64f function, of 64f the distance from the highest tag");
+  plot->add_option("-o,--output", options->output, "a file that ends in .svg or .png; the terminal when not given");
+  plot->add_option("--layer", options->layer, "avx512, avx2 or portable; the fastest that the processor runs when not given");
+  plot->callback([=] {
+    for (std::string* text : {&options->value, &options->from, &options->to}) Restore(*text);
+    Plot(*options);
+  });
+}
+
 }  // namespace
 
 std::unique_ptr<CLI::App> MakeApplication() {
@@ -109,8 +128,8 @@ std::unique_ptr<CLI::App> MakeApplication() {
   AddDescriptions(*app);
   AddApply(*app);
   AddCompare(*app);
-  auto version = std::make_shared<bool>(false);
-  app->add_flag("--version", *version, "version of the library, the layer that runs, and its build");
+  AddPlot(*app);
+  app->add_flag("--version")->description("version of the library, the layer that runs, and its build");
 
   auto shell = std::make_shared<std::string>();
   auto* completion = app->add_subcommand("completion", "print a completion script for bash or zsh");

@@ -36,7 +36,7 @@ void Run(int argc, char** argv) {
     if (app->count("--version") != 0) {
       lum::tool::Version();
     } else if (app->get_subcommands().empty()) {
-      throw lum::tool::InputError("a command is wanted: list, info, apply, compare, ...; 'lumvm --help' describes them");
+      throw lum::tool::InputError("a command is wanted: list, info, apply, compare, plot; 'lumvm --help' describes them");
     }
   } catch (const CLI::Success&) { fmt::print("{}\n", app->help()); }
 }

@@ -236,6 +236,12 @@ void Spool::Write(const void* bytes, size_t count) {
   }
 }
 
+int Spool::Rewound() {
+  if (std::fflush(file_) != 0) throw SystemError(fmt::format("a temporary file cannot be written: {}", std::strerror(errno)));
+  std::rewind(file_);
+  return fileno(file_);
+}
+
 void Spool::CopyTo(Output& output) {
   std::rewind(file_);
   std::vector<char> part(buffer_size);

@@ -30,9 +30,6 @@ class Output {
   void Rewrite(std::string_view start);
   void Finish();
 
-  // Where elements of a second array wait for the end of the first.
-  const std::string& name() const { return name_; }
-
  private:
   void Flush();
   void OpenReplacement();
@@ -59,6 +56,8 @@ class Spool {
   Spool& operator=(const Spool&) = delete;
   void Write(const void* bytes, size_t count);
   void CopyTo(Output& output);
+  // The open file, read from its start by another program.
+  int Rewound();
 
  private:
   std::FILE* file_;
