@@ -7,7 +7,8 @@
 namespace lum::inline LUM_LAYER {
 
 // A table of rows of so many columns, in columns of 16 or 32 entries or in rows of four.
-template <int columns, size_t entries, class T, size_t n> consteval Table<T, columns * entries> InColumns(const Table<T, n>& t) {
+template <int columns, size_t entries, class T, size_t n>
+consteval Table<T, columns * entries> InColumns(const Table<T, n>& t) {
   Table<T, columns * entries> result{};
   for (size_t i = 0; i < n; ++i) result.entries[i % columns * entries + i / columns] = t.entries[i];
   return result;
@@ -29,7 +30,8 @@ template <int stage, class T> LUM_INLINE PowerRow<T> StageRow(Vec<T> z) {
     if constexpr (stage == 0) return C::stage1;
     else if constexpr (stage == 1) return C::stage2;
     else return C::stage3;
-  }();
+  }
+  ();
   if constexpr (std::is_same_v<T, Lum32f>) {
     static constexpr auto table = InColumns<3, 32>(source);
     const auto column = [&](const T* p) __attribute__((always_inline)) { return permute2(load(p), load(p + 16), i); };
@@ -57,7 +59,8 @@ template <class T> LUM_INLINE VectorPair<T> Log2Pair(Vec<T> given) {
   using C = PowerConstants<T>;
   using Word = UnsignedOf<T>;
   const auto denormal = lt(given, all(std::numeric_limits<T>::min()));
-  const auto x = select(denormal, given * all(std::bit_cast<T>(static_cast<Word>(C::denormal_exponent + F::bias) << F::fraction_bits)), given);
+  const auto x = select(
+      denormal, given * all(std::bit_cast<T>(static_cast<Word>(C::denormal_exponent + F::bias) << F::fraction_bits)), given);
   const auto m = as_float((bits(x) & all(Word{F::fraction_mask})) | all(Word{F::one}));
   const auto row1 = StageRow<0>(m);
   const auto z1 = row1.c * m;
