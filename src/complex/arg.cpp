@@ -12,6 +12,11 @@ template <class E, class Path> struct ArgKernel : Kernel<E, Real<E>> {
     const auto z = split(packed);
     return Path::VectorPath(z.im, z.re);
   }
+  static constexpr bool second_is_short = true;
+  static LUM_INLINE Lanes<Real<E>> SecondPath(Packed<E> packed, const Lanes<Real<E>>& lanes) {
+    const auto z = split(packed);
+    return Atan2OfSpecial(z.im, z.re, lanes);
+  }
   static void LaneRoutine(const E& z, Real<E>& result) { Atan2Routine(z.im, z.re, result); }
 };
 

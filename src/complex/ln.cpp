@@ -2,10 +2,13 @@
 // other part is half the logarithm of s = x^2 + y^2, formed with the errors of both squares. Near the unit circle, where ln s
 // is as small as t = s - 1, ln(1 + t) is taken. The high tags form t to its last place, however small it is; the others round
 // the sum of the errors, which is little beside |ln z| but may be as much as t itself. Nothing is reported, not even of a zero.
+#include <limits>
+
 #include "complex/refused.h"
 #include "explog/ln_terms.h"
 #include "frame/kernels.h"
 #include "invcircular/atan2_path.h"
+#include "invcircular/atan2_routine.h"
 
 namespace lum::inline LUM_LAYER {
 namespace {
@@ -13,6 +16,17 @@ namespace {
 template <class E> struct LnKernel : Kernel<E> {
   static constexpr int vectors = 1;
   static void LaneRoutine(const E& z, E& result) { CoreOnLane<CoreLog>(z, result); }
+  // Of zero and of infinities: an infinity and the angle of an axis or a diagonal.
+  static LUM_INLINE Lanes<E> SecondPath(Packed<E> packed, const Lanes<E>& lanes) {
+    using T = Real<E>;
+    constexpr auto unbounded = std::numeric_limits<T>::infinity();
+    const auto z = split(packed), value = split(lanes.value);
+    const auto zero = fpclass<0x06>(z.re) & fpclass<0x06>(z.im), infinite = fpclass<0x18>(z.re) | fpclass<0x18>(z.im);
+    const auto finished = lanes.refused & (zero | infinite) & ~unord(z.re, z.im);
+    const auto log = select(zero, all(-unbounded), all(unbounded));
+    const auto angle = Atan2OfSpecial(z.im, z.re, Lanes<T>{value.im, finished});
+    return {join(ComplexVec<T>{select(finished, log, value.re), angle.value}), lanes.refused & ~finished};
+  }
 };
 
 // The segments' polynomials of the low and the middle tag.

@@ -7,9 +7,9 @@
 #include <limits>
 #include <type_traits>
 
+#include "frame/constant.h"
 #include "frame/literals.h"
 #include "frame/types.h"
-#include "frame/vec.h"
 #include "tables/table.h"
 
 namespace lum::inline LUM_LAYER {
@@ -43,12 +43,6 @@ template <class T> bool ExpIsSpecial(T x, T& result, LumStatus& status) {
     return false;
   }
   return true;
-}
-
-// A constant as a number or in all lanes of a vector.
-template <class V, class T> LUM_INLINE V Constant(T c) {
-  if constexpr (std::is_same_v<V, T>) return c;
-  else return all(c);
 }
 
 // e^x = 2^m p in binary32 arithmetic, to about 22 bits; m also in the low bits of `shifted`.

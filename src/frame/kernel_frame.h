@@ -236,7 +236,6 @@ template <class K, int n, int m> struct SpilledBlock {
   alignas(64) typename K::Output results[m][block_of<K>];
   uint32_t refused[vectors_of<K>] = {};  // the lanes of each vector
   ReportBits reports[vectors_of<K>];
-  bool any_refused = false;  // or reported
 
   bool IsRefused(int lane) const { return (refused[lane / step_of<K>] >> (lane % step_of<K>)&1) != 0; }
   LumStatus Reported(int lane) const { return reports[lane / step_of<K>].Of(lane % step_of<K>); }
@@ -244,22 +243,14 @@ template <class K, int n, int m> struct SpilledBlock {
 
 namespace frame {
 
-// Computes count elements from index first on.
-template <class K, int n, int m>
-LUM_INLINE void Spill(const K& kernel, const Arrays<K, n, m>& arrays, int64_t first, int count, SpilledBlock<K, n, m>& block) {
-  constexpr int step = step_of<K>;
-  for (int v = 0; v * step < count; ++v) {
-    const int active = std::min(step, count - v * step);
-    const auto x = LoadStep<K, n, m>(arrays, first + v * step, active);
-    const auto r = ComputeBoth<K, n, m>(kernel, x);
-    for (int j = 0; j < n; ++j) StoreElements(&block.inputs[j][v * step], x[j]);
-    for (int j = 0; j < m; ++j) StoreElements(&block.results[j][v * step], r.values[j]);
-    // A fill lane is refused only where a parameter makes it so; its result would be dropped by the masked store.
-    const uint32_t in_use = (1u << active) - 1u;
-    block.refused[v] = element_bits(r.remaining) & in_use;
-    block.reports[v] = BitsOf(r.reports, in_use);
-    block.any_refused |= (block.refused[v] | block.reports[v].Any()) != 0;
-  }
+// What both paths made of vector v of a block.
+template <class K, int n, int m, class Both>
+LUM_INLINE void Spill(const Inputs<K, n>& x, const Both& r, int v, uint32_t in_use, SpilledBlock<K, n, m>& block) {
+  for (int j = 0; j < n; ++j) StoreElements(&block.inputs[j][v * step_of<K>], x[j]);
+  for (int j = 0; j < m; ++j) StoreElements(&block.results[j][v * step_of<K>], r.values[j]);
+  // A fill lane is refused only where a parameter makes it so; its result would be dropped by the masked store.
+  block.refused[v] = element_bits(r.remaining) & in_use;
+  block.reports[v] = BitsOf(r.reports, in_use);
 }
 
 // An element that reports passes through the caller's array and the hook.
@@ -296,26 +287,42 @@ LUM_INLINE void FinishLane(const K& kernel, const Arrays<K, n, m>& arrays, int64
 
 }  // namespace frame
 
-// Finishes a block with refused lanes: count elements from index first on, fewer than a block in the tail. It computes the
-// block anew, so that the hot loop has no need to keep its vectors across a call.
+// Finishes a spilled block, or a tail of count elements, from index first on.
 template <class K, int n, int m>
-__attribute__((noinline, cold)) void FinishLanes(const K& kernel, const Arrays<K, n, m>& arrays, int64_t first, int count,
-                                                 Call& call) {
-  SpilledBlock<K, n, m> block;
-  frame::Spill(kernel, arrays, first, count, block);
-  if (block.any_refused) {
-    if constexpr (K::variant.x87 == X87Form::lazy) {
-      if (!call.environment.x87_prepared) X87Prepare(call.environment);
-    }
-    for (int lane = 0; lane < count; ++lane) { frame::FinishLane(kernel, arrays, first + lane, lane, block, call); }
-  }
+__attribute__((noinline, cold)) void FinishSpilled(const K& kernel, const Arrays<K, n, m>& arrays, int64_t first, int count,
+                                                   SpilledBlock<K, n, m>& block, Call& call) {
   constexpr int step = step_of<K>;
+  for (int v = 0; v * step < count; ++v) {
+    uint32_t lanes = block.refused[v] | block.reports[v].Any();
+    if constexpr (K::variant.x87 == X87Form::lazy) {
+      if (lanes != 0 && !call.environment.x87_prepared) X87Prepare(call.environment);
+    }
+    for (; lanes != 0; lanes &= lanes - 1) {
+      const int lane = v * step + std::countr_zero(lanes);
+      frame::FinishLane(kernel, arrays, first + lane, lane, block, call);
+    }
+  }
   for (int v = 0; v * step < count; ++v) {
     const int active = std::min(step, count - v * step);
     for (int j = 0; j < m; ++j) {
       StoreElements(active, arrays.dst[j] + first + v * step, LoadElements(&block.results[j][v * step]));
     }
   }
+}
+
+// Finishes a block with refused lanes by the lane routine: count elements from index first on, fewer than a block in the tail.
+// It computes the block anew, so that the hot loop has no need to keep its vectors across a call.
+template <class K, int n, int m>
+__attribute__((noinline, cold)) void FinishLanes(const K& kernel, const Arrays<K, n, m>& arrays, int64_t first, int count,
+                                                 Call& call) {
+  SpilledBlock<K, n, m> block;
+  constexpr int step = step_of<K>;
+  for (int v = 0; v * step < count; ++v) {
+    const int active = std::min(step, count - v * step);
+    const auto x = frame::LoadStep<K, n, m>(arrays, first + v * step, active);
+    frame::Spill<K, n, m>(x, frame::ComputeBoth<K, n, m>(kernel, x), v, (1u << active) - 1u, block);
+  }
+  FinishSpilled(kernel, arrays, first, count, block, call);
 }
 
 namespace frame {
@@ -333,7 +340,9 @@ LUM_INLINE bool BlockOfBothPaths(const K& kernel, const Arrays<K, n, m>& arrays,
   constexpr uint32_t all_lanes = (1u << step_of<K>)-1u;
   const std::array reports{BitsOf(r[v].reports, all_lanes)...};
   if (any((r[v].remaining | ...)) || (!element_hook_is_empty && (reports[v].Any() | ...) != 0)) [[unlikely]] {
-    FinishLanes(kernel, arrays, first, block_of<K>, call);
+    SpilledBlock<K, n, m> block;
+    (Spill<K, n, m>(LoadStep<K, n, m>(arrays, first + static_cast<int64_t>(v) * step_of<K>), r[v], v, all_lanes, block), ...);
+    FinishSpilled(kernel, arrays, first, block_of<K>, block, call);
     return true;
   }
   (TakeLastReport(reports[v], call), ...);
@@ -362,10 +371,14 @@ __attribute__((noinline)) int64_t BlocksOfBothPaths(const K& kernel, const Array
 template <class K, int n, int m>
 __attribute__((noinline)) void TailOfBothPaths(const K& kernel, const Arrays<K, n, m>& arrays, int64_t i, int count,
                                                Call& call) {
-  const auto r = ComputeBoth<K, n, m>(kernel, LoadStep<K, n, m>(arrays, i, count));
-  const auto reports = BitsOf(r.reports, (1u << count) - 1u);
+  const auto x = LoadStep<K, n, m>(arrays, i, count);
+  const auto r = ComputeBoth<K, n, m>(kernel, x);
+  const uint32_t in_use = (1u << count) - 1u;
+  const auto reports = BitsOf(r.reports, in_use);
   if (any(r.remaining) || (!element_hook_is_empty && reports.Any() != 0)) {
-    FinishLanes(kernel, arrays, i, count, call);
+    SpilledBlock<K, n, m> block;
+    Spill<K, n, m>(x, r, 0, in_use, block);
+    FinishSpilled(kernel, arrays, i, count, block, call);
     return;
   }
   TakeLastReport(reports, call);

@@ -86,15 +86,15 @@ template <class T> LUM_INLINE Lanes<T> Atan2OfSpecial(Vec<T> y, Vec<T> x, const 
 
 template <class T> T Atan2Magnitude(double ay, double ax, bool x_negative) {
   using C = IntervalConstants<Lum64f>;
-  constexpr double infinity = __builtin_inf();
+  constexpr double beyond = __builtin_inf();
   DoubleWord r{0, 0};
   if (ay == 0) {
     r = {0, 0};
   } else if (ax == 0) {
     r = {C::heads[4], C::tails[4]};
-  } else if (ay == infinity || ax == infinity) {
+  } else if (ay == beyond || ax == beyond) {
     if (ay == ax) r = {C::heads[2], C::tails[2]};
-    else if (ay == infinity) r = {C::heads[4], C::tails[4]};
+    else if (ay == beyond) r = {C::heads[4], C::tails[4]};
   } else {
     const ScaledNumber y = Scale(ay), x = Scale(ax);
     const int difference = y.exponent - x.exponent;

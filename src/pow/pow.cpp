@@ -2,12 +2,12 @@
 // table of -log2 c holds what belongs to the exponent as well; the product P with y is rounded toward zero, and 2^P is
 // 2^(floor(16 P)/16) from a table and an exponent field, times 2^f, 0 <= f < 1/16 (1/32). In the mid and high tiers the
 // logarithm and the product are pairs; the high tiers also keep what the second term of the series and the table of powers
-// lose. Negative, zero and infinite bases, NaN, and products next to the ends of the range go to the lane routine.
+// lose. Negative, zero and infinite bases, NaN, and products next to the ends of the range have a second path.
 #include <cstdint>
 
 #include "frame/kernel_frame.h"
 #include "frame/kernels.h"
-#include "pow/power_routine.h"
+#include "pow/power_path.h"
 #include "tables/table.h"
 
 namespace lum::inline LUM_LAYER {
@@ -145,6 +145,7 @@ LUM_INLINE Vec<Lum64f> LongExpPolynomial(Vec<Lum64f> f) {
 }
 
 template <class T> struct PowKernel : Kernel<T> {
+  static LUM_INLINE Finished<T> SecondPath(Vec<T> x, Vec<T> y, const Lanes<T>& lanes) { return PowerSecondPath(x, y, lanes); }
   static LumStatus LaneRoutine(T x, T y, T& result) { return PowerRoutine(x, y, result); }
 };
 

@@ -1,4 +1,4 @@
-// The scalar power, which finishes the lanes that the vector paths refuse: all special values, negative bases, and results
+// The scalar power, the lane routine: all special values, negative bases, and results
 // next to and beyond the ends of the range, denormal ones rounded once.
 #pragma once
 
@@ -7,6 +7,7 @@
 #include <limits>
 #include <type_traits>
 
+#include "frame/constant.h"
 #include "frame/lane_format.h"
 #include "frame/literals.h"
 #include "frame/types.h"
@@ -40,16 +41,18 @@ template <> struct PowerConstants<Lum32f> {
   static constexpr int overflowing_exponents = 265, vanishing_exponents = 193;
   static constexpr int last_denormal = -32;
   // (log2(1 + u/scale) - u) / u.
-  static float LogPolynomial(float u) {
-    return ((f32(0xBDAB1EA1, -0.08355451375246048) * u + f32(0x3E246F69, 0.16058124601840973)) * u +
-            f32(0xBEB1C35D, -0.3471936285495758)) *
+  template <class V> static LUM_INLINE V LogPolynomial(V u) {
+    const auto c = [](auto coefficient) { return Constant<V>(coefficient); };
+    return ((c(f32(0xBDAB1EA1, -0.08355451375246048)) * u + c(f32(0x3E246F69, 0.16058124601840973))) * u +
+            c(f32(0xBEB1C35D, -0.3471936285495758))) *
                u +
-           f32(0x3A6A6369, 0.0008941204869188368);
+           c(f32(0x3A6A6369, 0.0008941204869188368));
   }
   // (2^g - 1) / g.
-  static float ExpPolynomial(float g) {
-    return (f32(0x3D635847, 0.05550410971045494) * g + f32(0x3E75FDF0, 0.24022650718688965)) * g +
-           f32(0x3F317218, 0.6931471824645996);
+  template <class V> static LUM_INLINE V ExpPolynomial(V g) {
+    const auto c = [](auto coefficient) { return Constant<V>(coefficient); };
+    return (c(f32(0x3D635847, 0.05550410971045494)) * g + c(f32(0x3E75FDF0, 0.24022650718688965))) * g +
+           c(f32(0x3F317218, 0.6931471824645996));
   }
 };
 template <> struct PowerConstants<Lum64f> {
@@ -74,19 +77,21 @@ template <> struct PowerConstants<Lum64f> {
   static constexpr int denormal_exponent = 200;
   static constexpr int overflowing_exponents = 2057, vanishing_exponents = 1985;
   static constexpr int last_denormal = -61;
-  static double LogPolynomial(double u) {
-    return ((f64(0xBFB550472A9012D8, -0.08325619496470027) * u + f64(0x3FC47FD462B6DEE1, 0.16015105075870564)) * u +
-            f64(0xBFD62E4346694107, -0.3465736568077919)) *
+  template <class V> static LUM_INLINE V LogPolynomial(V u) {
+    const auto c = [](auto coefficient) { return Constant<V>(coefficient); };
+    return ((c(f64(0xBFB550472A9012D8, -0.08325619496470027)) * u + c(f64(0x3FC47FD462B6DEE1, 0.16015105075870564))) * u +
+            c(f64(0xBFD62E4346694107, -0.3465736568077919))) *
                u +
-           f64(0x3E79C3A6966457E8, 9.597935033233503e-08);
+           c(f64(0x3E79C3A6966457E8, 9.597935033233503e-08));
   }
-  static double ExpPolynomial(double g) {
-    return (((f64(0x3F55D87FE78A6731, 0.0013333558146428443) * g + f64(0x3F83B2AB6FBA4E77, 0.009618129107628477)) * g +
-             f64(0x3FAC6B08D704A0C0, 0.05550410866482158)) *
+  template <class V> static LUM_INLINE V ExpPolynomial(V g) {
+    const auto c = [](auto coefficient) { return Constant<V>(coefficient); };
+    return (((c(f64(0x3F55D87FE78A6731, 0.0013333558146428443)) * g + c(f64(0x3F83B2AB6FBA4E77, 0.009618129107628477))) * g +
+             c(f64(0x3FAC6B08D704A0C0, 0.05550410866482158))) *
                 g +
-            f64(0x3FCEBFBDFF82C58F, 0.24022650695910072)) *
+            c(f64(0x3FCEBFBDFF82C58F, 0.24022650695910072))) *
                g +
-           f64(0x3FE62E42FEFA39EF, 0.6931471805599453);
+           c(f64(0x3FE62E42FEFA39EF, 0.6931471805599453));
   }
 };
 

@@ -1,13 +1,13 @@
 // x^y for one y: the general paths of Powx, a kernel a tier. Those of binary32 and A26 go by natural logarithm and exponential,
 // A50 and A53 by base 2 with large tables and the exponent split in two short parts. All of them refuse x that is not a
 // positive normal number, products next to the ends of the range, and every x where y is infinite or NaN; refused lanes have
-// the lane routine of Pow, in binary64 for both types.
+// the second path of Pow, in binary64 for both types.
 #pragma once
 
 #include <cstdint>
 
 #include "frame/kernel_frame.h"
-#include "pow/power_routine.h"
+#include "pow/power_path.h"
 #include "tables/table.h"
 
 namespace lum::inline LUM_LAYER {
@@ -20,6 +20,20 @@ template <class T> struct PowxGeneral : Kernel<T> {
     const LumStatus status = PowerRoutine<double>(static_cast<double>(x), static_cast<double>(value), wide);
     result = static_cast<T>(wide);
     return status;
+  }
+  // The same steps over vectors.
+  LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) const {
+    if constexpr (std::is_same_v<T, Lum64f>) {
+      return PowerSecondPath(x, all(value), lanes);
+    } else {
+      const auto half = [&](Vec<Lum64f> wide, Mask<Lum64f> refused) __attribute__((always_inline)) {
+        return PowerSecondPath(wide, widen_low(all(value)), Lanes<Lum64f>{all(1.0), refused});
+      };
+      const auto low = half(widen_low(x), low_half(lanes.refused)), high = half(widen_high(x), high_half(lanes.refused));
+      return {select(lanes.refused, narrow(low.value, high.value), lanes.value),
+              mask_of<T>(0),
+              {.domain = join(low.reports.domain, high.reports.domain)}};
+    }
   }
   // All lanes or none.
   LUM_INLINE Mask<T> ValueIsNotFinite() const { return fpclass<0x99>(all(value)); }

@@ -1,0 +1,181 @@
+// The second path of the power: the steps of the scalar one over vectors, for any arguments.
+#pragma once
+
+#include "frame/kernel_frame.h"
+#include "pow/power_routine.h"
+
+namespace lum::inline LUM_LAYER {
+
+// A table of rows of so many columns, in columns of 16 or 32 entries or in rows of four.
+template <int columns, size_t entries, class T, size_t n>
+consteval Table<T, columns * entries> InColumns(const Table<T, n>& t) {
+  Table<T, columns * entries> result{};
+  for (size_t i = 0; i < n; ++i) result.entries[i % columns * entries + i / columns] = t.entries[i];
+  return result;
+}
+template <int columns, class T, size_t n> consteval Table<T, n / columns * 4> InRowsOfFour(const Table<T, n>& t) {
+  Table<T, n / columns * 4> result{};
+  for (size_t i = 0; i < n; ++i) result.entries[i / columns * 4 + i % columns] = t.entries[i];
+  return result;
+}
+
+// The rows of the stages and of the powers of 2.
+template <class T> struct PowerRow { Vec<T> c, hi, lo; };
+template <int stage, class T> LUM_INLINE PowerRow<T> StageRow(Vec<T> z) {
+  using C = PowerConstants<T>;
+  using Word = UnsignedOf<T>;
+  constexpr int shift = C::index_shift[stage];
+  const auto i = shift_right<shift>((bits(z) & all(static_cast<Word>(C::index_mask[stage]))) + all(Word{1} << (shift - 1)));
+  constexpr auto& source = []() -> auto& {
+    if constexpr (stage == 0) return C::stage1;
+    else if constexpr (stage == 1) return C::stage2;
+    else return C::stage3;
+  }
+  ();
+  if constexpr (std::is_same_v<T, Lum32f>) {
+    static constexpr auto table = InColumns<3, 32>(source);
+    const auto column = [&](const T* p) __attribute__((always_inline)) { return permute2(load(p), load(p + 16), i); };
+    return {column(table), column(table + 32), column(table + 64)};
+  } else {
+    static constexpr auto table = InRowsOfFour<3>(source);
+    const auto row = gather_rows<T>(table, shift_left<2>(i));
+    return {row.column0, row.column1, row.column2};
+  }
+}
+
+template <class T> struct VectorPair { Vec<T> hi, lo; };
+template <class T> LUM_INLINE VectorPair<T> SplitVector(Vec<T> x) {
+  const auto t = all(T{PowerConstants<T>::splitter}) * x;
+  const auto head = t - (t - x);
+  return {head, x - head};
+}
+template <class T> LUM_INLINE Vec<UnsignedOf<T>> BiasedExponents(Vec<T> x) {
+  return shift_right<PowerFormat<T>::fraction_bits>(bits(abs(x)));
+}
+
+// As the function of scalars.
+template <class T> LUM_INLINE VectorPair<T> Log2Pair(Vec<T> given) {
+  using F = PowerFormat<T>;
+  using C = PowerConstants<T>;
+  using Word = UnsignedOf<T>;
+  const auto denormal = lt(given, all(std::numeric_limits<T>::min()));
+  const auto x = select(
+      denormal, given * all(std::bit_cast<T>(static_cast<Word>(C::denormal_exponent + F::bias) << F::fraction_bits)), given);
+  const auto m = as_float((bits(x) & all(Word{F::fraction_mask})) | all(Word{F::one}));
+  const auto row1 = StageRow<0>(m);
+  const auto z1 = row1.c * m;
+  const auto row2 = StageRow<1>(z1);
+  const auto z2 = z1 * row2.c;
+  const auto row3 = StageRow<2>(z2);
+  const auto z3 = z2 * row3.c;
+  const auto count = shift_right_arithmetic<F::fraction_bits>(as_signed(bits(x) - all(Word{C::exponent_origin})));
+  Vec<T> e;
+  if constexpr (std::is_same_v<T, Lum32f>) e = to_float(count);
+  else e = to_double(count);
+  e = e - zero_unless(denormal, all(T{C::denormal_exponent}));
+
+  const auto u0 = z3 - all(T{C::scale});
+  const auto factor = SplitVector<T>(row1.c * row2.c * row3.c);
+  const auto [m_head, m_tail] = SplitVector(m);
+  const auto w = ((m_head * factor.hi - z3) + (m_head * factor.lo + m_tail * factor.hi)) + m_tail * factor.lo;
+  const auto a = e + row1.hi + row2.hi + row3.hi;
+  const auto s0 = a + u0;
+  const auto s = s0 + w;
+  const auto errors = (u0 - (s0 - a)) + (w - (s - s0));
+  const auto u = u0 + w;
+  return {s, u * C::LogPolynomial(u) + (errors + (row1.lo + row2.lo + row3.lo))};
+}
+
+// 2^(p.hi + p.lo). A denormal result is counted in units of the smallest positive number by a sum whose last bit is worth that.
+template <class T> LUM_INLINE Vec<T> Exp2Positive(VectorPair<T> p) {
+  using F = PowerFormat<T>;
+  using C = PowerConstants<T>;
+  using Word = UnsignedOf<T>;
+  using Signed = SignedOf<T>;
+  const auto shifted = p.hi + all(T{C::exp_shifter});
+  const auto count = bits(shifted) - bits(all(T{C::exp_shifter}));
+  const auto g = (p.hi - (shifted - all(T{C::exp_shifter}))) + p.lo;
+  static constexpr auto table = InRowsOfFour<2>(C::exp2);
+  const auto row = gather_rows<T>(table, shift_left<2>(count & all(Word{127})));
+  const auto n = shift_right_arithmetic<7>(as_signed(count));
+  const auto correction = row.column0 * (g * C::ExpPolynomial(g)) + row.column1;
+  const auto v = row.column0 + correction;
+
+  const auto exponent = as_signed(BiasedExponents(v)) + n;
+  auto value = as_float(bits(v) + as_unsigned(shift_left<F::fraction_bits>(n)));
+  value = select(mask_cast<T>(lt(all(Signed{2 * F::bias}), exponent)), all(std::numeric_limits<T>::infinity()), value);
+  const auto small = lt(exponent, all(Signed{1}));
+  value = zero_unless(mask_cast<T>(~small), value);
+  const auto denormal = small & ~lt(exponent, all(Signed{C::last_denormal}));
+  if (!any(denormal)) return value;
+
+  const auto field = select(denormal, n, all(Signed{0})) + all(Signed{C::denormal_exponent + F::bias});
+  const auto up = as_float(shift_left<F::fraction_bits>(field));
+  constexpr T unit = std::bit_cast<T>(static_cast<Word>(C::denormal_exponent + 1) << F::fraction_bits);
+  const auto counted = [](Vec<T> q, T addend) __attribute__((always_inline)) {
+    return bits(q + all(addend)) - bits(all(addend));
+  };
+  const auto head = SplitVector(v).hi;
+  const auto tail = (row.column0 - head) + correction;
+  const auto in_two_parts = counted(head * up, unit) + counted(tail * up, T(1.5) * unit);
+  const auto is_short = mask_cast<Word>(lt(exponent, all(Signed{-9})));
+  const auto result = select(is_short, counted(v * up, unit), in_two_parts);
+  return select(mask_cast<T>(denormal), as_float(result), value);
+}
+
+// x^y for positive finite x other than 1, and finite y other than 0.
+template <class T> LUM_INLINE Vec<T> PowerMagnitude(Vec<T> x, Vec<T> y) {
+  using C = PowerConstants<T>;
+  using Word = UnsignedOf<T>;
+  const auto log = Log2Pair(x);
+  const auto exponents = BiasedExponents(log.hi) + BiasedExponents(y);
+  const auto far = mask_cast<T>(le(all(Word{C::overflowing_exponents}), exponents));
+  const auto near_one = mask_cast<T>(lt(exponents, all(Word{C::vanishing_exponents})));
+  const auto factor = zero_unless(~(far | near_one), y);
+
+  const auto h = log.hi + log.lo;
+  const auto head = SplitVector(h).hi;
+  const auto tail = (log.lo - (h - log.hi)) + (h - head);
+  const auto [y_head, y_tail] = SplitVector(factor);
+  const auto a = head * y_head;
+  const auto b = tail * factor + head * y_tail;
+  const auto p = a + b;
+  const auto value = Exp2Positive<T>({p, b - (p - a)});
+  const auto falls = mask_cast<T>(sign_mask(bits(log.hi) ^ bits(y)));
+  return select(far, zero_unless(~falls, all(std::numeric_limits<T>::infinity())), value);
+}
+
+// The second path for any arguments.
+template <class T> LUM_INLINE Finished<T> PowerSecondPath(Vec<T> x, Vec<T> y, const Lanes<T>& lanes) {
+  constexpr int truncated = 0xB;
+  const auto one = eq(x, all(T(1))) | fpclass<0x06>(y), nan = unord(x, y) & ~one;
+  const auto whole = eq(rndscale<truncated>(y), y);
+  const auto half = zero_unless(whole, y) * all(T(0.5));
+  const auto x_negative = mask_cast<T>(sign_mask(bits(x))), y_negative = mask_cast<T>(sign_mask(bits(y)));
+  const auto sign = zero_unless(mask_cast<UnsignedOf<T>>(x_negative & ne(rndscale<truncated>(half), half)), all(sign_bit<T>));
+  const auto magnitude = abs(x);
+  const auto zero = fpclass<0x06>(x), infinite = fpclass<0x18>(x) | fpclass<0x18>(y);
+  const auto is_unit = eq(magnitude, all(T(1))) & whole;
+  const auto fractional = x_negative & ~whole & ~zero & ~infinite;
+  const auto settled = one | nan | zero | infinite | is_unit | fractional;
+  const auto general = lanes.refused & ~settled;
+
+  // Zeros, infinities and units: 0, 1 or an infinity with the sign. Growing is x away from 1 to the side that y enlarges.
+  const auto grows = le(all(T(1)), magnitude) ^ y_negative;
+  auto value = zero_unless(grows, all(std::numeric_limits<T>::infinity()));
+  value = select(is_unit, all(T(1)), value);
+  if (any(general)) {
+    const auto computed = PowerMagnitude(select(general, magnitude, all(T(2))), select(general, y, all(T(1))));
+    value = select(general, computed, value);
+  }
+  value = value | sign;
+  value = select(fractional, all(-std::numeric_limits<T>::quiet_NaN()), value);
+  value = select(nan, x + y, value);
+  value = select(one, all(T(1)), value);
+  const auto at_pole = zero & y_negative & ~(one | nan);
+  return {select(lanes.refused, value, lanes.value),
+          mask_of<T>(0),
+          {.domain = lanes.refused & (at_pole | (fractional & ~(one | nan)))}};
+}
+
+}  // namespace lum::inline LUM_LAYER
