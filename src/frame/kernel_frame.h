@@ -130,7 +130,7 @@ template <class K, int n, class Result> LUM_INLINE auto ComputeSecond(const K& k
   else return CalledSecondPath<K, n>(kernel, x, r);
 }
 template <class K>
-concept HasSecondPath = (vectors_fit_registers || K::second_in_all_layers) && requires {
+concept HasSecondPath = (has_second_paths || K::second_in_all_layers) && requires {
   &K::SecondPath;
 };
 

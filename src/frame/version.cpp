@@ -12,11 +12,11 @@ constinit const LumLibraryVersion libraryVersion = {2026,
                                                     {'k', '0'},
                                                     "lumVM AVX-512F/CD/BW/DQ/VL (k0)",
 #elif defined(LUM_AVX2)
-                                                     {'a', '2'},
-                                                     "lumVM AVX2/FMA (a2)",
+                                                    {'a', '2'},
+                                                    "lumVM AVX2/FMA (a2)",
 #else
-                                                     {'p', '0'},
-                                                     "lumVM portable (p0)",
+                                                    {'p', '0'},
+                                                    "lumVM portable (p0)",
 #endif
                                                     "2026.0.0 (r0xa7ad6ebc)",
                                                     "Mar 27 2026"};

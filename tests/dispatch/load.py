@@ -11,8 +11,9 @@ import sys
 import tempfile
 from pathlib import Path
 
-# A processor model of qemu, and the layers that may run on it, the best one first.
-MODELS = {"qemu64": ["portable"], "Haswell": ["avx2", "portable"], "Nehalem": ["portable"]}
+# A processor model of qemu, and the layers that may run on it, the best one first. Those with AVX2 are left out: qemu-user 7.2
+# does not emulate its gathers dependably, and the layer's programs end in a fault there.
+MODELS = {"qemu64": ["portable"], "Nehalem": ["portable"]}
 complaints = []
 
 

@@ -17,6 +17,9 @@ template <Lane T> using VecIn = Vec<T>;
 template <Lane T> struct Mask { half::HalfMask<T> low, high; };
 
 inline constexpr bool vectors_fit_registers = true;
+// Its sums and products are written in order by no instruction, so that a second path and a lane routine could take different
+// ones of two NaNs.
+inline constexpr bool has_second_paths = false;
 inline constexpr bool streams_fit_registers = false;
 
 // ---- Make, load, store

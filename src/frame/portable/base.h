@@ -24,7 +24,8 @@ template <Lane T> struct alignas(16) Mask {
 
 template <class T> inline constexpr bool is32 = sizeof(T) == 4;
 inline constexpr bool vectors_fit_registers = false;
-inline constexpr bool streams_fit_registers = true;
+inline constexpr bool has_second_paths = false;
+inline constexpr bool streams_fit_registers = false;
 
 // The vector of value(i) in lane i.
 template <Lane T, class F> LUM_INLINE Vec<T> each_lane(F value) {
