@@ -38,7 +38,7 @@ unset LD_LIBRARY_PATH
 mv "$scratch/prefix" "$scratch/moved"
 [ "$("$scratch/moved/bin/lumvm" apply exp 0)" = 1 ]
 "$scratch/moved/bin/lumvm" --version | grep -q "$scratch/moved"
-for page in man/man1/lumvm.1 bash-completion/completions/lumvm zsh/site-functions/_lumvm; do
+for page in man/man1/lumvm.1.gz bash-completion/completions/lumvm zsh/site-functions/_lumvm; do
   [ -s "$scratch/moved/share/$page" ]
 done
 echo "programs against the installed tree: ok"
