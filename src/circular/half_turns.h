@@ -59,7 +59,7 @@ template <class T> LUM_INLINE Vec<UnsignedOf<T>> ParitySign(Vec<T> shifted) {
 }
 // The same, changed where x is negative, of an odd function reduced by its magnitude.
 template <class T> LUM_INLINE Vec<UnsignedOf<T>> OddParitySign(Vec<T> shifted, Vec<T> x, Vec<T> magnitude) {
-  return ternary<0x96>(ParitySign(shifted), bits(x), bits(magnitude));
+  return ternary<A ^ B ^ C>(ParitySign(shifted), bits(x), bits(magnitude));
 }
 
 }  // namespace lum::inline LUM_LAYER

@@ -54,8 +54,8 @@ LUM_INLINE SineAndCosineValues<Lum32f> SelectQuarter(Vec<Lum32f> x, Vec<uint32_t
   const auto odd = mask_cast<Lum32f>(test_any(n, all(1u)));
   const auto sign = all(sign_bit<Lum32f>);
   const auto second_bit = shift_left<30>(n);
-  return {select(odd, cosine, sine) ^ ternary<0x28>(second_bit, bits(x), sign),  // (a ^ b) & c
-          select(odd, sine, cosine) ^ ternary<0x28>(second_bit, shift_left<31>(n), sign), refused};
+  return {select(odd, cosine, sine) ^ ternary<(A ^ B) & C>(second_bit, bits(x), sign),  // (a ^ b) & c
+          select(odd, sine, cosine) ^ ternary<(A ^ B) & C>(second_bit, shift_left<31>(n), sign), refused};
 }
 
 LUM_INLINE Mask<Lum32f> BeyondQuarterTurns(Vec<Lum32f> a) { return nlt(a, all(0x1p19f)); }
@@ -95,7 +95,7 @@ struct QuarterTurns_A21 {
     const auto ordinary = Reduce(a);
     const Reduced merged{select(beyond, narrow(low.r, high.r), ordinary.r),
                          select(mask_cast<uint32_t>(beyond), LowHalves(low.count, high.count), ordinary.n)};
-    return Evaluate(x, merged, fpclass<0x99>(x));
+    return Evaluate(x, merged, fpclass<classes::nonfinite>(x));
   }
 };
 
@@ -138,7 +138,7 @@ struct QuarterTurns_A24 {
   }
   static LUM_INLINE SineAndCosineValues<Lum32f> Large(Vec<Lum32f> x) {
     const auto a = abs(x);
-    return Evaluate(x, ReduceAny(widen_low(a)), ReduceAny(widen_high(a)), fpclass<0x99>(x));
+    return Evaluate(x, ReduceAny(widen_low(a)), ReduceAny(widen_high(a)), fpclass<classes::nonfinite>(x));
   }
 };
 

@@ -24,7 +24,7 @@ LUM_INLINE Vec<Lum64f> LongDoubleSine(Vec<Lum64f> q) {
 LUM_INLINE SineAndCosineValues<Lum64f> MergeWide(Vec<Lum64f> x, const SineAndCosineValues<Lum64f>& ordinary) {
   const auto a = ReduceLarge(x);
   return {select(ordinary.refused, SineOf(a.index, a.hi, a.lo) ^ sign_of(x), ordinary.sine),
-          select(ordinary.refused, CosineOf(a.index, a.hi, a.lo), ordinary.cosine), fpclass<0x99>(x)};
+          select(ordinary.refused, CosineOf(a.index, a.hi, a.lo), ordinary.cosine), fpclass<classes::nonfinite>(x)};
 }
 
 // sin r.
@@ -41,7 +41,7 @@ template <bool is_long> LUM_INLINE SineAndCosineValues<Lum64f> ByHalfTurns(Vec<L
   // The sign of r tells on which side the odd multiple of pi/2 lies.
   const auto m = n + or_sign(r, all(0.5));
   const auto parity = ParitySign(shifted);
-  const auto cosine_sign = ternary<0xD2>(parity, bits(r), all(sign_bit<Lum64f>));  // a ^ (~b & c)
+  const auto cosine_sign = ternary<A ^ (~B & C)>(parity, bits(r), all(sign_bit<Lum64f>));  // a ^ (~b & c)
   auto rc = TakeHalfTurns(a, m);
   if constexpr (is_long) {
     r = TakeThirdPart(r, n);

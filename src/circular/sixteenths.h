@@ -83,7 +83,7 @@ LUM_INLINE Vec<Lum64f> CosineOf(const TableAngle& a, const Sixteenths& r) {
 // The sign bit of an odd half turn; with x, changed where x is negative.
 LUM_INLINE Vec<uint64_t> HalfTurnSign(const Sixteenths& r) { return shift_left<59>(r.shifted) & all(sign_bit<Lum64f>); }
 LUM_INLINE Vec<uint64_t> HalfTurnSign(const Sixteenths& r, Vec<Lum64f> x) {
-  return ternary<0x28>(shift_left<59>(r.shifted), bits(x), all(sign_bit<Lum64f>));  // (a ^ b) & c
+  return ternary<(A ^ B) & C>(shift_left<59>(r.shifted), bits(x), all(sign_bit<Lum64f>));  // (a ^ b) & c
 }
 
 }  // namespace lum::inline LUM_LAYER

@@ -103,7 +103,7 @@ template <class Tier, class T> struct Tangent : Kernel<T> {
     const auto at = lanes.refused;
     const Reduced<T> merged{select(at, wide.hi, ordinary.hi), select(at, wide.lo, ordinary.lo),
                             select(mask_cast<UnsignedOf<T>>(at), wide.k, ordinary.k)};
-    return {SelectNonFinite(x, Tier::Evaluate(merged)), mask_of<T>(0), {.domain = fpclass<0x18>(x)}};
+    return {SelectNonFinite(x, Tier::Evaluate(merged)), mask_of<T>(0), {.domain = fpclass<classes::infinity>(x)}};
   }
   static LumStatus LaneRoutine(T x, T& result) { return CircularOfNonFinite(x, result); }
 };

@@ -69,8 +69,8 @@ struct A24_32f : Float {
 
   // By the reciprocal of the significand: for denormal x, and for x so large that 1/x is denormal or zero.
   static LUM_INLINE Vec<Lum32f> SecondLevel(Vec<Lum32f> x) {
-    const auto m = getmant<0xA>(x);
-    const auto c = rndscale<0x48>(rcp14(m));
+    const auto m = getmant<significand::from_half_to_1 | significand::nan_if_negative>(x);
+    const auto c = rndscale<binary_places(4) | quiet>(rcp14(m));
     const auto k = getexp(x) - getexp(c);  // one less only where c was rounded up to 2
     const auto r = fms(c, m, all(1.0f));
     const auto j = shift_right<19>(bits(c));
@@ -89,10 +89,10 @@ struct A24_32f : Float {
     const auto lo = fma(e, all(-ln2_lo), permute(load(inverse + 16), j));
     Lanes<Lum32f> lanes{Join(hi, lo, r), mask_of<Lum32f>(0)};
     // Every refused x has a special c, too.
-    const auto special = fpclass<0xFF>(c);
+    const auto special = fpclass<classes::not_positive_normal>(c);
     if (any(special)) [[unlikely]] {
       lanes.value = select(special, SecondLevel(x), lanes.value);
-      lanes.refused = fpclass<0xDF>(x);
+      lanes.refused = fpclass<classes::not_positive_finite>(x);
     }
     return lanes;
   }

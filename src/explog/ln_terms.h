@@ -13,7 +13,7 @@ struct LogarithmTerms {
 
 // One part each of ln 2 and the table.
 struct ShortLnTerms {
-  static constexpr int refused_classes = 0x5E;  // a NaN passes through
+  static constexpr int refused_classes = classes::zero | classes::infinity | classes::negative;  // a NaN passes through
   static LUM_INLINE LogarithmTerms Terms(const ReciprocalReduction& a) {
     static constexpr auto rows = table64({
 #include "tables/generated/ln_8.inc"
@@ -46,7 +46,7 @@ struct LnTerms_A50 : ShortLnTerms {
 };
 
 struct LnTerms_A53 {
-  static constexpr int refused_classes = 0xDF;
+  static constexpr int refused_classes = classes::not_positive_finite;
   static LUM_INLINE LogarithmTerms Terms(const ReciprocalReduction& a) {
     static constexpr auto pairs = by_columns<2>(table64({
 #include "tables/generated/ln_8_pairs.inc"

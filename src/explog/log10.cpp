@@ -60,7 +60,7 @@ struct A24_32f : Float {
   }));
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
     constexpr auto shifter = 0x1.8p23f / 32;  // the last bit is worth 1/32
-    const auto m = getmant<0xA>(x);
+    const auto m = getmant<significand::from_half_to_1 | significand::nan_if_negative>(x);
     const auto t = rcp14(m) + all(shifter);
     const auto c = t - all(shifter);       // in [1, 2]
     const auto k = getexp(x) - getexp(c);  // c = 2 is 2 times row 0

@@ -86,7 +86,7 @@ template <int fraction_bits, class T> LUM_INLINE Reciprocal<T> TakeReciprocal(Ve
   // The last bit is worth that of w, so that the sum rounds to nearest and has the row in its low bits.
   constexpr T shifter = (sizeof(T) == 4 ? T(0x1.8p23) : T(0x1.8p52)) / (1 << fraction_bits);
   const auto [s, c] = AddOne(x);
-  const auto m = getmant<0x8>(s);
+  const auto m = getmant<significand::from_1_to_2 | significand::nan_if_negative>(s);
   const auto e = getexp(s);
   const auto t = rcp14(m) + all(shifter);
   return {e, m, t - all(shifter), scalef(c, negate(e)), bits(t)};

@@ -29,7 +29,7 @@ template <class T> LUM_INLINE Sides<T> SidesOf(Vec<T> x) {
 
 // Half the sum with the sign of x.
 template <class T> LUM_INLINE Lanes<T> Finish(Vec<T> x, const Sides<T>& s, Vec<T> sum) {
-  const auto half = as_float(ternary<0xDE>(bits(s.a), bits(all(T(0.5))), bits(x)));
+  const auto half = as_float(ternary<B | (A ^ C)>(bits(s.a), bits(all(T(0.5))), bits(x)));
   return {half * sum, nlt(s.a, all(T(1)))};
 }
 

@@ -44,7 +44,7 @@ template <int first, int last, class T> LUM_INLINE Vec<T> Polynomial(const T* co
 
 // v >= 0 with the sign of x, for a = |x|.
 template <class T> LUM_INLINE Vec<T> WithSignOf(Vec<T> x, Vec<T> a, Vec<T> v) {
-  return as_float(ternary<0xF6>(bits(v), bits(a), bits(x)));
+  return as_float(ternary<A | (B ^ C)>(bits(v), bits(a), bits(x)));
 }
 
 template <bool in_two_parts, int degree, class T> LUM_INLINE Lanes<T> BySegments(const T* columns, Vec<T> x) {
@@ -83,7 +83,7 @@ struct A11_32f : Kernel<Lum32f> {
                           f32(0x3A2FC8E6, 0.0006705656414851546));
     const auto v = rcp14(q) * fma(p, a, a);
     const auto magnitude = select(le(all(5.0f), a), all(1.0f), v);
-    return as_float(ternary<0x96>(bits(magnitude), bits(a), bits(x)));
+    return as_float(ternary<A ^ B ^ C>(bits(magnitude), bits(a), bits(x)));
   }
 };
 

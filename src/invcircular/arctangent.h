@@ -13,8 +13,8 @@ LUM_INLINE Vec<Lum64f> SignificandReciprocal(Vec<Lum64f> m) {
   return fma(w, fma(e, e, e), w);
 }
 template <class T> LUM_INLINE Vec<T> ScaledQuotient(Vec<T> n, Vec<T> d) {
-  const auto n_significand = getmant<0x0>(n);
-  const auto d_significand = getmant<0x0>(d);
+  const auto n_significand = getmant<significand::from_1_to_2>(n);
+  const auto d_significand = getmant<significand::from_1_to_2>(d);
   const auto w = SignificandReciprocal(d_significand);
   const auto q = n_significand * w;
   const auto e = fnma(q, d_significand, n_significand);

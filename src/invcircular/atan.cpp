@@ -67,7 +67,7 @@ template <class T> struct Reduced {
 template <class T> LUM_INLINE Reduced<T> Reduce(Vec<T> x) {
   using G = Grid<T>;
   const auto a = abs(x);
-  const auto r = reduce<0x28>(a);  // exact
+  const auto r = reduce<binary_places(2) | quiet>(a);  // exact
   const auto c = a - r;
   const auto large = le(all(G::large), a);
   const auto n = select(large, all(T(-1)), r);
@@ -120,7 +120,7 @@ template <class T> struct Low : Kernel<T> {
     const auto small = nlt(all(T(1)), abs(x));
     const auto base = select(small, all(T(0)), all(half_pi<T>)) | sign_of(x);
     const auto t = select(small, x, negate(ShortReciprocal(x)));
-    return {fma(t, ShortArctangent(t * t), base), fpclass<0x18>(x)};
+    return {fma(t, ShortArctangent(t * t), base), fpclass<classes::infinity>(x)};
   }
   // Infinities alone come here.
   static void LaneRoutine(T x, T& result) { result = x < 0 ? -half_pi<T> : half_pi<T>; }

@@ -41,7 +41,7 @@ template <> inline constexpr Lum64f pi<Lum64f> = f64(0x400921FB54442D18, 3.14159
 
 // Into the quadrant of (x, y).
 template <class T> LUM_INLINE Vec<T> Place(Vec<T> y, Vec<T> x, Vec<T> r) {
-  return or_sign(y, add(fpclass<0x56>(x), or_sign(x, r), all(pi<T>)));
+  return or_sign(y, add(fpclass<classes::zero | classes::below_zero>(x), or_sign(x, r), all(pi<T>)));
 }
 
 template <class Tier, class T> LUM_STAGE Lanes<T> OneQuotient(VecIn<T> y, VecIn<T> x) {

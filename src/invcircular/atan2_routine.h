@@ -73,8 +73,8 @@ template <class T> LUM_INLINE Lanes<T> Atan2OfSpecial(Vec<T> y, Vec<T> x, const 
   const auto chosen = [&](double of_positive, double of_negative) __attribute__((always_inline)) {
     return select(x_negative, all(static_cast<T>(of_negative)), all(static_cast<T>(of_positive)));
   };
-  const auto y_zero = fpclass<0x06>(y), x_zero = fpclass<0x06>(x);
-  const auto y_infinite = fpclass<0x18>(y), x_infinite = fpclass<0x18>(x), nan = unord(y, x);
+  const auto y_zero = fpclass<classes::zero>(y), x_zero = fpclass<classes::zero>(x);
+  const auto y_infinite = fpclass<classes::infinity>(y), x_infinite = fpclass<classes::infinity>(x), nan = unord(y, x);
   const auto across = (x_zero & ~y_zero) | (y_infinite & ~x_infinite), diagonal = y_infinite & x_infinite;
   auto angle = chosen(positive.along, negative.along);
   angle = select(across, chosen(positive.across, negative.across), angle);

@@ -11,7 +11,7 @@ namespace {
 
 // Zeros, infinities and negative numbers are refused; NaN and denormals run through.
 template <class T> struct InvSqrtKernel : Kernel<T> {
-  static LUM_INLINE Mask<T> Refused(Vec<T> x) { return fpclass<0x5E>(x); }
+  static LUM_INLINE Mask<T> Refused(Vec<T> x) { return fpclass<classes::zero | classes::infinity | classes::negative>(x); }
   static LumStatus LaneRoutine(T x, T& result) {
     constexpr auto infinity = std::numeric_limits<T>::infinity();
     if (x == 0) {
@@ -29,10 +29,10 @@ template <class T> struct InvSqrtKernel : Kernel<T> {
   static constexpr bool second_is_short = true;
   static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) {
     // Of zeros and infinities the estimate is the result.
-    const auto value = select(fpclass<0x1E>(x), rsqrt14(x), lanes.value);
-    return {select(fpclass<0x40>(x), all(std::numeric_limits<T>::quiet_NaN()), value),
+    const auto value = select(fpclass<classes::zero | classes::infinity>(x), rsqrt14(x), lanes.value);
+    return {select(fpclass<classes::negative>(x), all(std::numeric_limits<T>::quiet_NaN()), value),
             mask_of<T>(0),
-            {.domain = fpclass<0x50>(x), .singularity = fpclass<0x06>(x)}};
+            {.domain = fpclass<classes::below_zero>(x), .singularity = fpclass<classes::zero>(x)}};
   }
 };
 

@@ -91,7 +91,7 @@ template <class T> struct Pow3o2Kernel : Kernel<T> {
   static constexpr bool second_is_short = true;
   static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) {
     using L = Limits<T>;
-    const auto is_nan = unord(x, x), negative = fpclass<0x50>(x);
+    const auto is_nan = unord(x, x), negative = fpclass<classes::below_zero>(x);
     const auto vanishes = mask_cast<T>(le(bits(abs(x)), all(L::vanishing)));
     const auto overflows = mask_cast<T>(le(all(L::overflowing), bits(x)));  // or NaN or negative
     auto value = select(overflows, all(std::numeric_limits<T>::infinity()), lanes.value);

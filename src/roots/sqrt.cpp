@@ -14,7 +14,7 @@ namespace {
 
 // Zeros, infinities and negative numbers are refused; NaN and denormals run through.
 template <class T> struct SqrtKernel : Kernel<T> {
-  static LUM_INLINE Mask<T> Refused(Vec<T> x) { return fpclass<0x5E>(x); }
+  static LUM_INLINE Mask<T> Refused(Vec<T> x) { return fpclass<classes::zero | classes::infinity | classes::negative>(x); }
   static LumStatus LaneRoutine(T x, T& result) {
     if (x < 0) {
       result = std::numeric_limits<T>::quiet_NaN();
@@ -25,8 +25,8 @@ template <class T> struct SqrtKernel : Kernel<T> {
   }
   static constexpr bool second_is_short = true;
   static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) {
-    const auto negative = fpclass<0x50>(x);
-    const auto value = select(fpclass<0x0E>(x), x, lanes.value);
+    const auto negative = fpclass<classes::below_zero>(x);
+    const auto value = select(fpclass<classes::zero | classes::plus_infinity>(x), x, lanes.value);
     return {select(negative, all(std::numeric_limits<T>::quiet_NaN()), value), mask_of<T>(0), {.domain = negative}};
   }
 };
