@@ -49,7 +49,7 @@ struct ReciprocalReduction {
   Vec<uint64_t> j;  // in the low bits: the row of c in the tables of 2^(fraction_bits - 1) rows
 };
 template <int fraction_bits> LUM_INLINE ReciprocalReduction ReduceByReciprocal(Vec<Lum64f> x) {
-  constexpr double shifter = 0x1.8p52 / (1 << fraction_bits);  // the last bit is worth that of c
+  constexpr auto shifter = rounding_shifter<Lum64f>(fraction_bits);
   const auto m = getmant<significand::from_1_to_2 | significand::nan_if_negative>(x);
   const auto t = rcp14(m) + all(shifter);  // rounds to nearest; the low bits are c, less its top bit the row
   const auto c = t - all(shifter);         // in [1/2, 1]; below 3/4 doubled, in effect

@@ -4,6 +4,7 @@
 // function. No tier ever reports.
 #include "frame/kernel_frame.h"
 #include "frame/kernels.h"
+#include "hyperbolic/polynomials.h"
 #include "tables/table.h"
 
 namespace lum::inline LUM_LAYER {
@@ -78,9 +79,8 @@ struct A11_32f : Kernel<Lum32f> {
   static LUM_INLINE Vec<Lum32f> VectorPath(Vec<Lum32f> x) {
     const auto a = as_float(and_not(all(sign_bit<Lum32f>), bits(x)));
     const auto u = a * a;
-    const auto q = horner(u, 1.0f, f32(0x3EDEF102, 0.435432493686676), f32(0x3C520A84, 0.012819889932870865));
-    const auto p = horner(u, f32(0xB859E195, -5.19469213031698e-05), f32(0x3DD1C060, 0.1024177074432373),
-                          f32(0x3A2FC8E6, 0.0006705656414851546));
+    const auto q = horner(u, hyperbolic::tanh_A11_denominator);
+    const auto p = horner(u, hyperbolic::tanh_A11_numerator);
     const auto v = rcp14(q) * fma(p, a, a);
     const auto magnitude = select(le(all(5.0f), a), all(1.0f), v);
     return as_float(ternary<A ^ B ^ C>(bits(magnitude), bits(a), bits(x)));

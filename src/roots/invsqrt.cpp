@@ -5,6 +5,7 @@
 
 #include "frame/kernel_frame.h"
 #include "frame/kernels.h"
+#include "roots/polynomials.h"
 
 namespace lum::inline LUM_LAYER {
 namespace {
@@ -67,7 +68,7 @@ struct A26_64f : InvSqrtKernel<Lum64f> {
 
 // s + s d (1/2 + 3/8 d + 5/16 d^2), the last two coefficients adjusted to the range of d.
 LUM_INLINE Vec<Lum64f> Series(Vec<Lum64f> s, Vec<Lum64f> d) {
-  const auto p = horner(d, 0.5, f64(0x3FD8000004600001, 0.3750000040745363), f64(0x3FD4000005E80001, 0.312500005500624));
+  const auto p = horner(d, roots::invsqrt_A50);
   return fma(p, s * d, s);
 }
 struct A50_64f : InvSqrtKernel<Lum64f> {
