@@ -6,9 +6,10 @@ there is a constant:
   after   names of constants of the same format that are taken off first: what is left is a tail
   32f     how many significant bits of binary32 it has, or "all"; it has none of a format that is not given
   64f     the same of binary64
+          A list is that of parts, of which each but the last leaves something to the next; "20 toward zero" cuts a part off
   note    what a reader should know beyond that
 
-A constant is the multiple of its last bit next to the value."""
+A constant is the multiple of its last bit next to the value. It is a template over float and double, parts are an array."""
 
 import argparse
 import struct
@@ -27,12 +28,23 @@ HEADER = ROOT / "src/frame/numbers.h"
 FORMATS = {"32f": ("float", "f32", "<I", "<f"), "64f": ("double", "f64", "<Q", "<d")}
 
 
-def value_of(record, format_, constants):
+def part_of(value, size, format_):
+    """The number of that many bits next to the value."""
+    if size == "all":
+        return binary.to_binary(value, int(format_[:2]))
+    bits, _, mode = str(size).partition(" toward ")
+    return binary.to_significand(value, int(bits), mode or "nearest")
+
+
+def parts_of(record, format_, constants):
     value = binary.exact(polynomials.compiled(record["value"])())
     for name in record.get("after", []):
-        value -= constants[name, format_]
-    width, bits = int(format_[:2]), record[format_]
-    return binary.to_binary(value, width) if bits == "all" else binary.to_significand(value, bits)
+        value -= constants[name, format_][0]
+    sizes, parts = record[format_], []
+    for size in sizes if isinstance(sizes, list) else [sizes]:
+        parts.append(part_of(value, size, format_))
+        value -= parts[-1]
+    return parts
 
 
 def literal(value, format_):
@@ -43,21 +55,31 @@ def literal(value, format_):
     return f"{name}(0x{word:0{width // 4}X}, {struct.unpack(number, struct.pack(code, word))[0]!r})"
 
 
+def described(sizes):
+    return ", ".join(str(size) for size in sizes) + " bits" if isinstance(sizes, list) else f"{sizes} bits"
+
+
 def text():
     lines = ["// Roundings of known numbers, for float and double. What is left of a number after others is a tail.",
              "// Written by tools/make_numbers.py from numbers.toml; do not edit, write it again by `./run generate`.",
              "// clang-format off", "#pragma once", "", '#include "frame/literals.h"', "",
              "namespace lum::inline LUM_LAYER::numbers {", ""]
-    constants: dict[tuple[str, str], Fraction] = {}
+    constants: dict[tuple[str, str], list[Fraction]] = {}
     for name, record in tomllib.loads(DECLARATIONS.read_text()).items():
         after = "".join(f" - {other}<T>" for other in record.get("after", []))
-        sizes = ", ".join(f"{record[f]} bits of {f}" for f in FORMATS if record.get(f, "all") != "all")
-        lines.append(f"// {record['value']}{after}{f', {sizes}' if sizes else ''}{'. ' + record['note'] if 'note' in record else ''}")
-        lines.append(f"template <class T> inline constexpr T {name};")
+        sizes = "".join(f", {described(record[f])} of {f}" for f in FORMATS if record.get(f, "all") != "all")
+        lines.append(f"// {record['value']}{after}{sizes}{'. ' + record['note'] if 'note' in record else ''}")
+        count = {len(record[f]) for f in FORMATS if isinstance(record.get(f), list)}
+        bound = f"[{count.pop()}]" if count else ""
+        if count:
+            sys.exit(f"{DECLARATIONS.name}: {name} has as many parts in one format as in the other")
+        lines.append(f"template <class T> inline constexpr T {name}{bound}{' = {}' if bound else ''};")
         for format_, (type_, *_) in FORMATS.items():
             if format_ in record:
-                constants[name, format_] = value_of(record, format_, constants)
-                lines.append(f"template <> inline constexpr {type_} {name}<{type_}> = {literal(constants[name, format_], format_)};")
+                parts = constants[name, format_] = parts_of(record, format_, constants)
+                literals = ", ".join(literal(part, format_) for part in parts)
+                lines.append(f"template <> inline constexpr {type_} {name}<{type_}>{bound} = "
+                             + (f"{{{literals}}};" if bound else f"{literals};"))
         lines.append("")
     return "\n".join(lines + ["}  // namespace lum::inline LUM_LAYER::numbers", ""])
 

@@ -26,11 +26,11 @@ template <size_t n> consteval Polynomial<double, n> polynomial64(const uint64_t 
   return p;
 }
 
-// Coefficients first to last of p, for schemes that evaluate a polynomial in pieces side by side.
-template <size_t first, size_t last, class T, size_t n>
-constexpr Polynomial<T, last - first + 1> part(const Polynomial<T, n>& p) {
-  Polynomial<T, last - first + 1> piece{};
-  for (size_t i = first; i <= last; ++i) piece.c[i - first] = p.c[i];
+// Coefficients first to last of p, each one or every second one, for schemes that evaluate a polynomial in pieces side by side.
+template <size_t first, size_t last, size_t step = 1, class T, size_t n>
+constexpr Polynomial<T, (last - first) / step + 1> part(const Polynomial<T, n>& p) {
+  Polynomial<T, (last - first) / step + 1> piece{};
+  for (size_t i = first; i <= last; i += step) piece.c[(i - first) / step] = p.c[i];
   return piece;
 }
 
