@@ -219,4 +219,41 @@ template <> inline constexpr double erfinv_series_7<double>[4] = {f64(0x3FB62847
 template <class T> inline constexpr T quantile_series_7[4] = {};
 template <> inline constexpr double quantile_series_7<double>[4] = {f64(0x402F55D0D78FA712, 15.66760896328518), f64(0x407AD513154F2AC8, 429.3171589939561), f64(0x4093B5378186F266, 1261.3042050443123), f64(0x408634C058418482, 710.5939183348239)};
 
+// ln2 / 128, 11, all bits of 32f, 31, all bits of 64f. Products of the first with the count are exact.
+template <class T> inline constexpr T ln2_128th_parts[2] = {};
+template <> inline constexpr float ln2_128th_parts<float>[2] = {f32(0x3BB18000, 0.0054168701171875), f32(0xB5DE8083, -1.6577690757912933e-06)};
+template <> inline constexpr double ln2_128th_parts<double>[2] = {f64(0x3F762E42FF000000, 0.005415212348452769), f64(0xBD5718432A1B0E26, -3.2819649005320973e-13)};
+
+// ln2 / 1024, 31 toward zero, all bits of 64f. Products of the first with the count are exact.
+template <class T> inline constexpr T ln2_1024th_parts[2] = {};
+template <> inline constexpr double ln2_1024th_parts<double>[2] = {f64(0x3F462E42FEC00000, 0.0006769015431018488), f64(0x3D5D1CF79ABC9E3B, 4.137227896298129e-13)};
+
+// ln2 / 256, 34, all bits of 64f. Products of the first with the count are exact.
+template <class T> inline constexpr T ln2_256th_parts[2] = {};
+template <> inline constexpr double ln2_256th_parts<double>[2] = {f64(0x3F662E42FEF80000, 0.002707606173999011), f64(0x3D31CF79ABC9E3B4, 6.327543041662719e-14)};
+
+// pi / 128, 34, 34, all bits of 64f. Products of the first two with the count are exact.
+template <class T> inline constexpr T pi_128th_parts[3] = {};
+template <> inline constexpr double pi_128th_parts<double>[3] = {f64(0x3F9921FB54480000, 0.024543692607039702), f64(0xBD6E973DCB380000, -8.694424493829222e-13), f64(0xBB39CCEBA3F91F19, -2.134164906595704e-23)};
+
+// ln2, 40, all bits of 64f. The first is a multiple of 2^-40.
+template <class T> inline constexpr T ln2_by_2p40_parts[2] = {};
+template <> inline constexpr double ln2_by_2p40_parts<double>[2] = {f64(0x3FE62E42FEFA4000, 0.6931471805601177), f64(0xBD48432A1B0E2634, -1.7239444525614835e-13)};
+
+// ln2, 33, all bits of 64f. Products of the first with exponents are exact, with room for more terms in numbers of 64 bits.
+template <class T> inline constexpr T ln2_33_parts[2] = {};
+template <> inline constexpr double ln2_33_parts<double>[2] = {f64(0x3FE62E42FF000000, 0.6931471806019545), f64(0xBDC718432A1B0E26, -4.2009150726810846e-11)};
+
+// pi / 4, 47, 48, all bits of 64f. For a reduction in numbers of 64 bits.
+template <class T> inline constexpr T quarter_pi_parts_3[3] = {};
+template <> inline constexpr double quarter_pi_parts_3<double>[3] = {f64(0x3FE921FB54442D00, 0.7853981633974456), f64(0x3CE8469898CC5180, 2.6951514290790658e-15), f64(0xB9DFC8F8CBB5BF6C, -6.2684951034662496e-30)};
+
+// pi / 4, 33, 34, 34, 37, all bits of 64f. For a reduction in numbers of 64 bits.
+template <class T> inline constexpr T quarter_pi_parts_5[5] = {};
+template <> inline constexpr double quarter_pi_parts_5<double>[5] = {f64(0x3FE921FB54400000, 0.7853981633670628), f64(0x3DC0B4611A600000, 3.038550253151983e-11), f64(0x3B93198A2E000000, 1.0111331243555832e-21), f64(0x396B839A25200000, 4.2392138301741147e-32), f64(0x37027044533E63A0, 1.0335160549131994e-43)};
+
+// pi / 4, 33, all bits of 64f
+template <class T> inline constexpr T quarter_pi_pair[2] = {};
+template <> inline constexpr double quarter_pi_pair<double>[2] = {f64(0x3FE921FB54400000, 0.7853981633670628), f64(0x3DC0B4611A626331, 3.038550253253096e-11)};
+
 }  // namespace lum::inline LUM_LAYER::numbers
