@@ -5,6 +5,7 @@
 #include <cmath>
 #include <numbers>
 
+#include "accuracy/neighbours.h"
 #include "support/declarations.h"
 
 namespace lum::accuracy {
@@ -16,19 +17,6 @@ constexpr HuntKind kinds[] = {HuntKind::ordinary,   HuntKind::climb,    HuntKind
                               HuntKind::thresholds, HuntKind::ordinary, HuntKind::borders,    HuntKind::climb,
                               HuntKind::ordinary,   HuntKind::hard,     HuntKind::magnitudes, HuntKind::climb,
                               HuntKind::any_bits,   HuntKind::ordinary, HuntKind::thresholds, HuntKind::borders};
-
-// Neighbours in this order are neighbouring numbers; both zeros are 0.
-template <class T> int64_t Ordered(T x) {
-  using Bits = std::conditional_t<sizeof(T) == 4, int32_t, int64_t>;
-  const auto bits = static_cast<int64_t>(std::bit_cast<Bits>(x));
-  return bits >= 0 ? bits : static_cast<int64_t>(std::numeric_limits<Bits>::min()) - bits;
-}
-template <class T> T FromOrdered(int64_t k) {
-  using Bits = std::conditional_t<sizeof(T) == 4, uint32_t, uint64_t>;
-  const auto magnitude = static_cast<Bits>(k < 0 ? -k : k);
-  const T x = std::bit_cast<T>(magnitude);
-  return k < 0 ? -x : x;
-}
 
 }  // namespace
 
@@ -89,9 +77,7 @@ double HuntSource::AnyBits(Random& random) const {
 }
 
 double HuntSource::Away(double x, int64_t steps) const {
-  const double y = is32_ ? static_cast<double>(FromOrdered<float>(Ordered(static_cast<float>(x)) + steps))
-                         : FromOrdered<double>(Ordered(x) + steps);
-  return std::isfinite(y) ? y : x;
+  return is32_ ? static_cast<double>(Neighbour(static_cast<float>(x), steps)) : Neighbour(x, steps);
 }
 
 // The logarithm of the distance is evenly distributed, up to 2^most_bits neighbours.

@@ -1,19 +1,16 @@
 #include "accuracy/hunt_report.h"
 
 #include <fmt/format.h>
-#include <fmt/ostream.h>
 
 #include <algorithm>
 #include <atomic>
 #include <cstdio>
-#include <filesystem>
-#include <fstream>
 #include <limits>
-#include <map>
 #include <mutex>
 #include <stdexcept>
 #include <thread>
 
+#include "accuracy/records.h"
 #include "accuracy/text.h"
 #include "peers.h"
 #include "support/declarations.h"
@@ -39,9 +36,9 @@ std::string Row(const HuntSubject& subject, const std::string& who, const HuntRe
                   r.crossed, r.judged, r.settled, r.left, r.worst.ulp, DecimalOf(entry, r.worst.point),
                   PatternOf(entry, r.worst.point), subject.is_own ? fmt::format("{:g}", subject.bound) : "", r.wrong_class,
                   r.wrong_class != 0 ? DecimalOf(entry, r.wrong_at) : "", d.count);
-  const auto share = [&](double x) { return d.count == 0 ? "" : fmt::format("{:.6g}", x / static_cast<double>(d.count)); };
-  for (const uint64_t within : d.within) text += "," + share(static_cast<double>(within));
-  return text + "," + share(d.sum);
+  const auto share = [&](double x) { return d.count == 0 ? std::string() : fmt::format("{:.6g}", x / static_cast<double>(d.count)); };
+  for (const uint64_t within : d.within) text += fmt::format(",{}", share(static_cast<double>(within)));
+  return fmt::format("{},{}", text, share(d.sum));
 }
 
 // A row's key is its first three fields.
@@ -49,23 +46,6 @@ std::string KeyOf(const std::string& row) {
   size_t end = 0;
   for (int i = 0; i < 3; ++i) end = row.find(',', end) + 1;
   return row.substr(0, end);
-}
-
-// Puts rows into the file in place of the former ones.
-void Record(const std::string& path, const std::vector<std::string>& added) {
-  std::map<std::string, std::string> rows;
-  std::string line;
-  std::ifstream stored(path);
-  std::getline(stored, line);
-  while (std::getline(stored, line)) rows[KeyOf(line)] = line;
-  for (const std::string& row : added) rows[KeyOf(row)] = row;
-  const std::string part = path + ".part";
-  std::ofstream file(part);
-  fmt::print(file, "{}\n", csv_header);
-  for (const auto& [key, text] : rows) fmt::print(file, "{}\n", text);
-  file.close();
-  if (!file) throw std::runtime_error(fmt::format("{}: cannot be written", part));
-  std::filesystem::rename(part, path);
 }
 
 void AddPeers(std::vector<HuntSubject>& subjects, const Export& entry) {
@@ -93,7 +73,7 @@ class Report {
     std::vector<std::string> rows;
     for (size_t i = 0; i < subjects.size(); ++i) AddSubject(group, subjects, results, i, rows);
     std::fflush(stdout);
-    if (!request_.csv.empty()) Record(request_.csv, rows);
+    if (!request_.csv.empty()) UpdateRows(request_.csv, csv_header, rows, KeyOf);
   }
 
  private:

@@ -6,13 +6,14 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
-#include <map>
 
 #include "accuracy/cheap_reference.h"
 #include "accuracy/exhaustive.h"
 #include "accuracy/hunt_report.h"
 #include "accuracy/inputs.h"
 #include "accuracy/measure.h"
+#include "accuracy/property_report.h"
+#include "accuracy/records.h"
 #include "accuracy/text.h"
 
 namespace {
@@ -35,23 +36,6 @@ std::string Row(const Export& entry, const std::string& inputs, const Accuracy& 
 
 std::string KeyOf(const std::string& row) { return row.substr(0, row.find(',', row.find(',') + 1)); }
 
-// Puts a row into the file of results, which has one row an export and kind of inputs, in place of the former one.
-void Record(const std::filesystem::path& path, const std::string& row) {
-  std::map<std::string, std::string> rows;
-  std::string line;
-  std::ifstream stored(path);
-  std::getline(stored, line);
-  while (std::getline(stored, line)) rows[KeyOf(line)] = line;
-  rows[KeyOf(row)] = row;
-  const auto part = path.string() + ".part";
-  std::ofstream file(part);
-  fmt::print(file, "{}\n", csv_header);
-  for (const auto& [key, text] : rows) fmt::print(file, "{}\n", text);
-  file.close();
-  if (!file) throw std::runtime_error(fmt::format("{}: cannot be written", part));
-  std::filesystem::rename(part, path);
-}
-
 void WriteCurve(const std::filesystem::path& directory, const Export& entry, const Accuracy& accuracy) {
   std::filesystem::create_directories(directory);
   std::ofstream file(directory / fmt::format("{}.dat", entry.name));
@@ -63,6 +47,8 @@ struct Options {
   bool exhaustive = false;
   bool hunt = false;
   HuntRequest hunt_request;
+  bool properties = false;
+  PropertyRequest property_request;
   std::vector<std::string> inputs;
   size_t count = 60000;
   std::string csv;
@@ -99,7 +85,7 @@ void PrintRow(const Export& entry, const std::string& inputs, const Accuracy& a)
 
 void Report(const Options& options, const Export& entry, const std::string& inputs, const Accuracy& accuracy) {
   PrintRow(entry, inputs, accuracy);
-  if (!options.csv.empty()) Record(options.csv, Row(entry, inputs, accuracy));
+  if (!options.csv.empty()) UpdateRows(options.csv, csv_header, {Row(entry, inputs, accuracy)}, KeyOf);
 }
 
 // The chosen exports by function and type, those of all tags together.
@@ -139,7 +125,8 @@ void RunOverAll(const Options& options, const Library& library, const Group& gro
   for (size_t i = 0; i < group.size(); ++i) Report(options, *group[i], "all", accuracies[i]);
 }
 
-void Run(const Options& options) {
+// False where properties are not those of the file to compare with.
+bool Run(const Options& options) {
   std::string target = options.target;
   if (target.empty()) target = lum::support::FastestLibrary();
   if (!lum::support::ProcessorRuns(target)) throw std::runtime_error("this processor does not run " + target);
@@ -148,12 +135,14 @@ void Run(const Options& options) {
   if (!library) throw std::runtime_error(error);
   if (options.hunt) {
     HuntGroups(*library, Grouped(Chosen(options)), options.hunt_request);
-    return;
+    return true;
   }
+  if (options.properties) return ReportProperties(*library, Grouped(Chosen(options)), options.property_request);
   for (const Group& group : Grouped(Chosen(options))) {
     if (options.exhaustive) RunOverAll(options, *library, group);
     else RunOverSamples(options, *library, group);
   }
+  return true;
 }
 
 }  // namespace
@@ -170,6 +159,13 @@ int main(int argc, char** argv) {
   app.add_option("--seed", hunt_options.limits.seed, "with --hunt: start of the random numbers")->needs(hunt);
   app.add_flag("--peers", hunt_options.with_peers, "with --hunt: SLEEF and the C library, too")->needs(hunt);
   app.add_option("--hunted", hunt_options.csv, "with --hunt: results file to update");
+  const auto properties = app.add_flag("--properties", options.properties, "symmetries, ranges, monotonicity and exact values");
+  app.add_option("--found", options.property_request.csv, "with --properties: results file to update");
+  app.add_option("--compare", options.property_request.compare, "with --properties: results file that has to hold")
+      ->needs(properties);
+  app.add_option("--share", options.property_request.limits.share_of_all,
+                 "with --properties: one block in so many of all 32f arguments")
+      ->needs(properties);
   app.add_option("--inputs", options.inputs,
                  "kinds of inputs: sample, borders, quarter-turns, unit-circle; all when none is given")
       ->check(CLI::IsMember({"sample", "borders", "quarter-turns", "unit-circle"}))
@@ -181,11 +177,10 @@ int main(int argc, char** argv) {
   app.add_option("--target", options.target, "k0, a2 or p0; the first that the processor runs");
   try {
     app.parse(argc, argv);
-    if (count != 0) options.count = options.hunt_request.limits.count = count;
-    Run(options);
+    if (count != 0) options.count = options.hunt_request.limits.count = options.property_request.limits.count = count;
+    return Run(options) ? 0 : 1;
   } catch (const CLI::Success& request) { return app.exit(request); } catch (const std::exception& problem) {
     fmt::print(stderr, "accuracy: {}\n", problem.what());
     return 2;
   }
-  return 0;
 }
