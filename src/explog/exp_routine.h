@@ -4,6 +4,7 @@
 
 #include <bit>
 #include <cstdint>
+#include <initializer_list>
 #include <limits>
 #include <type_traits>
 
