@@ -61,6 +61,21 @@ class Judge {
     if (top > 0) Keep(top, points.At(top_at));
     if (!open_.empty()) Settle(points, results);
   }
+  void AddToCurve(const HuntPoints& points, const HuntColumn& errors) {
+    for (size_t i = 0; i < hunt_block; ++i) {
+      float& largest = bins_[std::bit_cast<uint64_t>(points.part[0][i]) >> bin_shift];
+      if (errors[i] > static_cast<double>(largest) && errors[i] < infinity) largest = static_cast<float>(errors[i]);
+    }
+  }
+  // Errors larger than the settled ones are those of the values that they were taken against.
+  void FinishCurve() {
+    for (uint64_t k = 0; k < bins_.size(); ++k) {
+      const double x = std::bit_cast<double>((k << bin_shift) + (uint64_t{1} << (bin_shift - 1)));
+      const double ulp = std::min(static_cast<double>(bins_[k]), result_.worst.ulp);
+      if (bins_[k] >= 0 && std::isfinite(x)) result_.curve.push_back({x, ulp});
+    }
+    std::ranges::sort(result_.curve, {}, &Bin::x);
+  }
   void AddToDistribution(const HuntValues& values, const HuntColumn& errors) {
     Distribution& d = result_.distribution;
     for (size_t i = 0; i < hunt_block; ++i) {
@@ -145,10 +160,13 @@ class Judge {
     return std::ldexp(mpfr_get_d(difference_, MPFR_RNDN), digits - 1);
   }
 
+  static constexpr int bin_shift = 49;  // sign, exponent, three bits of the significand
+
   const HuntSubject& subject_;
   Reference exact_;
   size_t parts_;
   HuntResult result_;
+  std::vector<float> bins_ = std::vector<float>(size_t{1} << (64 - bin_shift), -1.0f);
   std::vector<std::pair<double, size_t>> open_;
   std::vector<std::pair<double, Point>> climb_;
   mpfr_t value_[2], difference_, norm_;
@@ -199,12 +217,16 @@ class Search {
       values_.Errors(*results_, errors_);
       judge->Add(*points_, *results_, errors_, doubt);
       (is_exact ? judge->result().judged : judge->result().crossed) += hunt_block;
+      if (is_exact) judge->AddToCurve(*points_, errors_);
       if (is_exact && points_->kind == HuntKind::ordinary) judge->AddToDistribution(values_, errors_);
     }
   }
   std::vector<HuntResult> Results() const {
     std::vector<HuntResult> results;
-    for (const auto& judge : judges_) results.push_back(judge->result());
+    for (const auto& judge : judges_) {
+      judge->FinishCurve();
+      results.push_back(judge->result());
+    }
     return results;
   }
 

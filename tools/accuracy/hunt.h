@@ -37,6 +37,7 @@ struct HuntResult {
   Point wrong_at;
   Worst worst;  // of complex results norm-wise
   Distribution distribution;
+  std::vector<Bin> curve;  // of the judged arguments: the largest error in intervals of the first part
 };
 
 struct HuntLimits {

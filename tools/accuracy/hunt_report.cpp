@@ -1,10 +1,13 @@
 #include "accuracy/hunt_report.h"
 
 #include <fmt/format.h>
+#include <fmt/ostream.h>
 
 #include <algorithm>
 #include <atomic>
 #include <cstdio>
+#include <filesystem>
+#include <fstream>
 #include <limits>
 #include <mutex>
 #include <stdexcept>
@@ -36,7 +39,9 @@ std::string Row(const HuntSubject& subject, const std::string& who, const HuntRe
                   r.crossed, r.judged, r.settled, r.left, r.worst.ulp, DecimalOf(entry, r.worst.point),
                   PatternOf(entry, r.worst.point), subject.is_own ? fmt::format("{:g}", subject.bound) : "", r.wrong_class,
                   r.wrong_class != 0 ? DecimalOf(entry, r.wrong_at) : "", d.count);
-  const auto share = [&](double x) { return d.count == 0 ? std::string() : fmt::format("{:.6g}", x / static_cast<double>(d.count)); };
+  const auto share = [&](double x) {
+    return d.count == 0 ? std::string() : fmt::format("{:.6g}", x / static_cast<double>(d.count));
+  };
   for (const uint64_t within : d.within) text += fmt::format(",{}", share(static_cast<double>(within)));
   return fmt::format("{},{}", text, share(d.sum));
 }
@@ -58,6 +63,12 @@ void AddPeers(std::vector<HuntSubject>& subjects, const Export& entry) {
   if (const support::ScalarLoop loop = support::FindScalarLoop(entry)) {
     subjects.push_back({"libm", &entry, loop, nothing_promised, false});
   }
+}
+
+void WriteCurve(const std::string& folder, std::string_view name, const std::vector<Bin>& curve) {
+  std::filesystem::create_directories(folder);
+  std::ofstream file(std::filesystem::path(folder) / fmt::format("{}.dat", name));
+  for (const Bin& bin : curve) fmt::print(file, "{:.6g} {:.4g}\n", bin.x, bin.ulp);
 }
 
 class Report {
@@ -98,6 +109,8 @@ class Report {
       HuntSubject as = subject;
       if (is_for_all) as.bound = Bound(*entry);
       rows.push_back(Row(as, who, r, request_.limits, count));
+      if (!subject.is_own || request_.curves.empty()) continue;
+      WriteCurve(request_.curves, is_for_all ? entry->name : subject.entry->name, r.curve);
     }
   }
 

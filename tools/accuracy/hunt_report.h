@@ -11,7 +11,8 @@ namespace lum::accuracy {
 struct HuntRequest {
   HuntLimits limits;
   bool with_peers = false;
-  std::string csv;
+  std::string csv;     // results file to update
+  std::string curves;  // folder for the error over the argument, a file an export
 };
 
 // Searches the groups, each the exports of one function and type, on all processors, a group a thread. Prints a line a subject

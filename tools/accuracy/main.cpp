@@ -178,6 +178,7 @@ int main(int argc, char** argv) {
   try {
     app.parse(argc, argv);
     if (count != 0) options.count = options.hunt_request.limits.count = options.property_request.limits.count = count;
+    options.hunt_request.curves = options.curves;
     return Run(options) ? 0 : 1;
   } catch (const CLI::Success& request) { return app.exit(request); } catch (const std::exception& problem) {
     fmt::print(stderr, "accuracy: {}\n", problem.what());
