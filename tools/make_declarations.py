@@ -12,13 +12,13 @@ KIND is one of
   names             a line a name of a function in C, C++ or Python, for the command line tool
   measured          a line an exported name with its largest error and its time, for the command line tool"""
 
-import csv
 import json
 import math
 import sys
 from pathlib import Path
 
 import catalogue
+import measured_data
 
 
 def number(value):
@@ -60,20 +60,13 @@ def names():
 
 def measured():
     """Largest errors over all kinds of inputs, of a complex result as a whole, and times of an element in an array of 4096."""
-    errors = {}
-    with (catalogue.ROOT / "docs/data/accuracy.csv").open() as file:
-        for row in csv.DictReader(file):
-            error = float(row["norm_ulp"] or row["max_ulp"])
-            if row["export"] not in errors or error > errors[row["export"]][0]:
-                errors[row["export"]] = (error, float(row["bound_ulp"]), row["at"])
-    times = {}
-    with (catalogue.ROOT / "docs/data/performance.csv").open() as file:
-        for row in csv.DictReader(file):
-            if row["length"] == "4096":
-                times[row["function"], row["who"]] = float(row["ns"])
+    errors = {export: entry.worst for export, entry in measured_data.accuracy().items() if entry.errors}
+    times = {(function, who): ns for (function, length, who), (ns, _) in measured_data.times().items()
+             if length == measured_data.MAIN_LENGTH}
     for row in catalogue.rows():
         for export, tag in row.exports():
-            error, bound, at = errors.get(export, (-1.0, 0.0, ""))
+            worst = errors.get(export)
+            error, bound, at = (worst.ulp, worst.limit, worst.at) if worst else (-1.0, 0.0, "")
             time = times.get((f"{row.function}_{row.type}", tag or "lumvm"), 0.0)
             scalar = times.get((f"{row.function}_{row.type}", "scalar"), 0.0)
             yield f"{{{json.dumps(export)}, {error!r}, {bound!r}, {json.dumps(at)}, {time!r}, {scalar!r}}},"

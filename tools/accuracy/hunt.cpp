@@ -109,11 +109,12 @@ class Judge {
   // The largest first, so that few have to be settled.
   void Settle(const HuntPoints& points, const std::array<HuntColumn, 2>& results) {
     std::ranges::sort(open_, [](const auto& a, const auto& b) { return !(a.first <= b.first) && b.first == b.first; });
-    const size_t most = support::IsComplex(subject_.entry->output) ? 8 : 24;
-    size_t done = 0;
+    const size_t most = support::IsComplex(subject_.entry->output) ? 8 : 24, most_of_a_class = 4;
+    size_t done = 0, of_a_class = 0;
     for (const auto& [error, i] : open_) {
       if (error <= result_.worst.ulp) break;
-      if (done++ < most) SettleOne(points.At(i), results, i);
+      const bool is_class = !(error < infinity);
+      if (is_class ? of_a_class++ < most_of_a_class : done++ < most) SettleOne(points.At(i), results, i);
       else ++result_.left;
     }
   }

@@ -83,7 +83,7 @@ double HuntSource::Away(double x, int64_t steps) const {
 // The logarithm of the distance is evenly distributed, up to 2^most_bits neighbours.
 double HuntSource::Near(double x, Random& random, int most_bits) const {
   const uint64_t bits = random();
-  const int width = static_cast<int>(bits >> 32) % (most_bits + 1);
+  const uint64_t width = (bits >> 32) % static_cast<uint64_t>(most_bits + 1);
   const auto steps = static_cast<int64_t>(random() & ((uint64_t{1} << width) - 1));
   return Away(x, (bits & 1) != 0 ? -steps : steps);
 }

@@ -46,10 +46,10 @@ std::string Row(const HuntSubject& subject, const std::string& who, const HuntRe
   return fmt::format("{},{}", text, share(d.sum));
 }
 
-// A row's key is its first three fields.
+// A row's key is its first four fields: searches with other seeds add to what is known.
 std::string KeyOf(const std::string& row) {
   size_t end = 0;
-  for (int i = 0; i < 3; ++i) end = row.find(',', end) + 1;
+  for (int i = 0; i < 4; ++i) end = row.find(',', end) + 1;
   return row.substr(0, end);
 }
 
