@@ -125,24 +125,27 @@ concept same_elements = input<R> && input<S> && std::is_same_v<element_of<R>, el
 
 template <contiguous R> std::span<reference_of<R>> view(R& range) { return std::span(range); }
 
+// Out of line, so that calls stay small.
+[[noreturn, gnu::cold, gnu::noinline]] inline void refuse(const char* message) { throw std::invalid_argument(message); }
 inline void require(bool condition, const char* message) {
-  if (!condition) throw std::invalid_argument(message);
+  if (!condition) [[unlikely]] refuse(message);
 }
-template <class T, class U> bool overlap(std::span<T> a, std::span<U> b) {
-  const auto a_first = reinterpret_cast<std::uintptr_t>(a.data()), b_first = reinterpret_cast<std::uintptr_t>(b.data());
-  return a_first < b_first + b.size_bytes() && b_first < a_first + a.size_bytes();
+template <class T, class U> bool apart(std::span<T> a, std::span<U> b) {
+  const auto distance = reinterpret_cast<std::uintptr_t>(b.data()) - reinterpret_cast<std::uintptr_t>(a.data());
+  return distance >= a.size_bytes() && std::uintptr_t{0} - distance >= b.size_bytes();
 }
 // The result may stand in the place of an argument of the same type, and nowhere else in it.
 template <class T, class U> void check_result(std::span<const T> x, std::span<U> y) {
   require(x.size() == y.size(), "lumvm: the sizes of argument and result differ");
   const bool in_place = std::is_same_v<T, U> && static_cast<const void*>(x.data()) == static_cast<const void*>(y.data());
-  require(in_place || !overlap(x, y), "lumvm: the result overlaps an argument in part");
+  require(in_place || apart(x, y), "lumvm: the result overlaps an argument in part");
 }
 
 // call(first, count) over parts of at most 2^30 elements, as a C function takes no more than 2^31 - 1. The status is that of
 // the last part that reported.
 template <class Call> status in_parts(std::size_t size, const Call& call) {
   constexpr std::size_t most = std::size_t{1} << 30;
+  if (size <= most) [[likely]] return status(call(0, static_cast<std::int32_t>(size)));
   LumStatus last = lumStsOk;
   for (std::size_t first = 0; first < size; first += most) {
     const auto count = static_cast<std::int32_t>(size - first < most ? size - first : most);
@@ -187,7 +190,7 @@ template <class F, accuracy a, class Way, class T>
 status run_two(const Way& way, std::span<const T> x, std::span<T> y1, std::span<T> y2) {
   check_result(x, y1);
   check_result(x, y2);
-  require(!overlap(y1, y2), "lumvm: the two results overlap");
+  require(apart(y1, y2), "lumvm: the two results overlap");
   return way(x.size(), [&](std::size_t first, std::int32_t count) {
     return function_of<F, a, T>(c_pointer(x.data() + first), c_pointer(y1.data() + first), c_pointer(y2.data() + first), count);
   });

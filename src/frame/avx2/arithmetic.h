@@ -164,8 +164,8 @@ template <Integer T> LUM_INLINE Mask<T> test_none(Vec<T> a, Vec<T> b) {
 template <Lane T> LUM_INLINE Vec<T> select(Mask<T> m, Vec<T> a, Vec<T> b) {
   return {half::select(m.low, a.low, b.low), half::select(m.high, a.high, b.high)};
 }
-// Per lane m ? a + b : a.
-template <Floating T> LUM_INLINE Vec<T> add(Mask<T> m, Vec<T> a, Vec<T> b) { return select(m, add(a, b), a); }
+// Per lane m ? a + b : a. The sum is sealed, or clang would add zero where the mask has none, which quiets a signalling NaN.
+template <Floating T> LUM_INLINE Vec<T> add(Mask<T> m, Vec<T> a, Vec<T> b) { return select(m, sealed(add(a, b)), a); }
 // Per lane m ? a - b : other.
 template <Floating T> LUM_INLINE Vec<T> sub(Mask<T> m, Vec<T> a, Vec<T> b, Vec<T> other) { return select(m, sub(a, b), other); }
 // Per lane m ? a - b : +0.
