@@ -104,12 +104,13 @@ template <class T> class RealChecks {
   static void CheckRises(const Monotone& m, int direction, const Column& at, const Column& results, size_t run,
                          Finding& finding) {
     const T from = static_cast<T>(m.from), to = static_cast<T>(m.to), sign = static_cast<T>(direction);
-    int64_t back = 0, pairs = 0;
-    for (size_t i = 0; i + 1 < hunt_block; ++i) {
-      const bool is_pair = (i % run != run - 1) & (at[i] >= from) & (at[i] <= to) & (at[i + 1] >= from) & (at[i + 1] <= to) &
-                           (results[i] == results[i]);
-      pairs += is_pair ? 1 : 0;
-      back += is_pair & (results[i + 1] * sign < results[i] * sign) ? 1 : 0;
+    int32_t back = 0, pairs = 0;
+    for (size_t first = 0; first < hunt_block; first += run) {
+      for (size_t i = first; i < first + run - 1; ++i) {
+        const bool is_pair = (at[i] >= from) & (at[i] <= to) & (at[i + 1] >= from) & (at[i + 1] <= to) & (results[i] == results[i]);
+        pairs += is_pair ? 1 : 0;
+        back += is_pair & (results[i + 1] * sign < results[i] * sign) ? 1 : 0;
+      }
     }
     finding.count += static_cast<uint64_t>(pairs);
     if (back == 0) return;
