@@ -37,9 +37,9 @@ def share(found, name):
     return "100 %" if value == 1 else f"{min(100 * value, 99.99):.3g} %" if value < 0.995 else f"{min(100 * value, 99.99):.2f} %"
 
 
-def error_text(figures, limit_at_half):
+def error_text(figures):
     worst = figures.worst
-    text = f"{worst.ulp:.3g}" if worst.ulp < 0.995 or worst.ulp > 1.05 else f"{worst.ulp:.4f}"
+    text = data.ulp_text(worst.ulp)
     return f"**{text}**" if worst.is_beyond else text
 
 
@@ -54,7 +54,7 @@ def accuracy_table(rows, figures):
             mark = " (all)" if any(error.how == "all" for error in entry.errors) else ""
             shares = " | ".join(share(entry.hunt, name) for name in data.SHARES)
             at = f"`{worst.at.replace(' ', ', ')}`" if worst.ulp > 0 else ""
-            lines.append(f"| `{export}` | {error_text(entry, worst.limit)}{mark} | {worst.limit:.3g} | {at} | {shares} |")
+            lines.append(f"| `{export}` | {error_text(entry)}{mark} | {worst.limit:.3g} | {at} | {shares} |")
     return lines
 
 

@@ -48,6 +48,13 @@ class Figures:
         return max(self.errors, key=lambda error: error.ulp)
 
 
+def ulp_text(ulp):
+    """Three digits, or as many as it takes to tell on which side of 1 an error is."""
+    if 0.995 <= ulp < 1.05 and ulp != 1:
+        return next(text for text in (f"{ulp:.{digits}g}" for digits in range(4, 9)) if float(text) != 1 or len(text) > 7)
+    return f"{ulp:.3g}"
+
+
 def read(name):
     path = DATA / name
     if not path.exists():
