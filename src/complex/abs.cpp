@@ -34,7 +34,7 @@ struct A11_32fc : AbsKernel<Lum32fc> {
   static constexpr Variant variant = x87_up_front_variant;
   static LUM_INLINE Lanes<Lum32f> VectorPath(Interleaved<Lum32f> z) {
     const auto s = PlainSquare(split(z));
-    return {s * rsqrt14(s), fpclass<0xBF>(s)};
+    return {s * rsqrt14(s), fpclass<classes::nonfinite | classes::zero | classes::denormal>(s)};
   }
 };
 struct A26_64fc : AbsKernel<Lum64fc> {

@@ -39,7 +39,7 @@ template <class E> struct Low : Quotient<E> {
     const auto t = TermsOf(split(z), split(w));
     const auto r = Reciprocal(t.square);
     const ComplexVec<T> q{t.re * r, t.im * r};
-    return {join(q), IsFar(t) | fpclass<0x99>(q.re) | fpclass<0x99>(q.im)};
+    return {join(q), IsFar(t) | fpclass<classes::nonfinite>(q.re) | fpclass<classes::nonfinite>(q.im)};
   }
 };
 
@@ -55,7 +55,7 @@ struct A24_32fc : Quotient<Lum32fc> {
     const auto low = Widened({widen_low(z.re), widen_low(z.im)}, {widen_low(w.re), widen_low(w.im)});
     const auto high = Widened({widen_high(z.re), widen_high(z.im)}, {widen_high(w.re), widen_high(w.im)});
     const ComplexVec<Lum32f> q{narrow(low.re, high.re), narrow(low.im, high.im)};
-    return {join(q), fpclass<0x99>(q.re) | fpclass<0x99>(q.im)};
+    return {join(q), fpclass<classes::nonfinite>(q.re) | fpclass<classes::nonfinite>(q.im)};
   }
 };
 
@@ -103,7 +103,8 @@ struct A53_64fc : Quotient<Lum64fc> {
     const auto back = z_exponent - w_exponent;
     const ComplexVec<Lum64f> q{scalef(Ratio(re, square, r), back), scalef(Ratio(im, square, r), back)};
     // Where an argument is zero as a whole, its exponent is infinite and the quotient is NaN.
-    return {join(q), IsFar(unscaled_z) | IsFar(unscaled_w) | fpclass<0x99>(q.re) | fpclass<0x99>(q.im)};
+    return {join(q),
+            IsFar(unscaled_z) | IsFar(unscaled_w) | fpclass<classes::nonfinite>(q.re) | fpclass<classes::nonfinite>(q.im)};
   }
 };
 

@@ -16,10 +16,7 @@ struct SineCosine {
 };
 
 // sin r of |r| <= pi/2, for binary32 results.
-LUM_INLINE Vec<Lum64f> SineOf(Vec<Lum64f> r) {
-  const auto q = r * r;
-  return fma(LongFloatSine(q), q * r, r);
-}
+LUM_INLINE Vec<Lum64f> SineOf(Vec<Lum64f> r) { return OddSine(r, circular::sin_A24); }
 
 // Of a - n pi, by way of pi/2 - |r| for the cosine.
 LUM_INLINE SineCosine SineCosineOf(Vec<Lum64f> a, Vec<Lum64f> n) {

@@ -65,8 +65,9 @@ template <class E, bool by_conjugate> struct Product : Kernel<E> {
     const auto product = ProductAsCore(z, w, refused);
     const auto finished = product.is_sure & refused;
     const ComplexVec<T> value{select(finished, product.value.re, first.re), select(finished, product.value.im, first.im)};
-    const auto infinite = fpclass<0x18>(value.re) | fpclass<0x18>(value.im);
-    const auto not_finite = fpclass<0x99>(z.re) | fpclass<0x99>(z.im) | fpclass<0x99>(w.re) | fpclass<0x99>(w.im);
+    const auto infinite = fpclass<classes::infinity>(value.re) | fpclass<classes::infinity>(value.im);
+    const auto not_finite = fpclass<classes::nonfinite>(z.re) | fpclass<classes::nonfinite>(z.im) |
+                            fpclass<classes::nonfinite>(w.re) | fpclass<classes::nonfinite>(w.im);
     return {join(value), refused & ~finished, {.overflow = finished & infinite & ~not_finite}};
   }
   static LumStatus LaneRoutine(const E& z, const E& w, E& result) {
@@ -80,7 +81,7 @@ template <class E, bool by_conjugate> struct Low : Product<E, by_conjugate> {
   static constexpr T cancelled = sizeof(T) == 4 ? T(0x1p-10) : T(0x1p-20);
 
   static LUM_INLINE Mask<T> HasCancelled(Vec<T> products, Vec<T> r) {
-    return nlt(abs(products) * all(cancelled), abs(r)) | fpclass<0x99>(r);
+    return nlt(abs(products) * all(cancelled), abs(r)) | fpclass<classes::nonfinite>(r);
   }
   static LUM_INLINE Lanes<E, ComponentMask<T>> VectorPath(Interleaved<T> z, Interleaved<T> w) {
     const auto low = FactorsOf(z.low, w.low), high = FactorsOf(z.high, w.high);
@@ -100,7 +101,7 @@ template <bool by_conjugate> struct A24_32fc : Product<Lum32fc, by_conjugate> {
   }
   static LUM_INLINE Lanes<Lum32fc, ComponentMask<Lum32f>> VectorPath(Interleaved<Lum32f> z, Interleaved<Lum32f> w) {
     const Interleaved<Lum32f> r{HalfOf(z.low, w.low), HalfOf(z.high, w.high)};
-    return {r, {fpclass<0x99>(r.low), fpclass<0x99>(r.high)}};
+    return {r, {fpclass<classes::nonfinite>(r.low), fpclass<classes::nonfinite>(r.high)}};
   }
 };
 

@@ -20,7 +20,10 @@ template <class T> LUM_INLINE Interleaved<T> Placed(ComplexVec<T> z, Vec<T> larg
 }
 
 // Zero, denormal, infinite and NaN parts.
-template <class T> LUM_INLINE Mask<T> NotNormal(ComplexVec<T> z) { return fpclass<0xBF>(z.re) | fpclass<0xBF>(z.im); }
+template <class T> LUM_INLINE Mask<T> NotNormal(ComplexVec<T> z) {
+  return fpclass<classes::nonfinite | classes::zero | classes::denormal>(z.re) |
+         fpclass<classes::nonfinite | classes::zero | classes::denormal>(z.im);
+}
 
 template <class T> struct ExponentField;
 template <> struct ExponentField<Lum32f> {
@@ -103,10 +106,10 @@ LUM_INLINE Vec<Lum64f> DoubleRoot(Vec<Lum64f> x) {
 
 // Of positive normal numbers, |error| below 2^-27.
 LUM_INLINE Vec<Lum64f> DoubleQuotient(Vec<Lum64f> a, Vec<Lum64f> b) {
-  const auto fraction = getmant<0>(b);
+  const auto fraction = getmant<significand::from_1_to_2>(b);
   const auto estimate = rcp14(fraction);
   const auto reciprocal = fma(fnma(fraction, estimate, all(1.0)), estimate, estimate);
-  return scalef(getmant<0>(a) * reciprocal, getexp(a) - getexp(b));
+  return scalef(getmant<significand::from_1_to_2>(a) * reciprocal, getexp(a) - getexp(b));
 }
 
 struct A24_32fc : SqrtKernel<Lum32fc> {
@@ -122,7 +125,8 @@ struct A24_32fc : SqrtKernel<Lum32fc> {
     const auto z = split(packed);
     const auto x = abs(z.re), y = abs(z.im);
     const auto low = PartsOf(widen_low(x), widen_low(y)), high = PartsOf(widen_high(x), widen_high(y));
-    return {Placed(z, narrow(low.large, high.large), narrow(low.small, high.small)), fpclass<0x99>(z.re) | fpclass<0x99>(z.im)};
+    return {Placed(z, narrow(low.large, high.large), narrow(low.small, high.small)),
+            fpclass<classes::nonfinite>(z.re) | fpclass<classes::nonfinite>(z.im)};
   }
 };
 

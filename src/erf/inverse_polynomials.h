@@ -44,7 +44,7 @@ template <class C, int line, int last, Integer I> LUM_INLINE Vec<Lum32f> FromLin
 
 template <class C, int degree> LUM_INLINE Vec<Lum32f> EvaluatePolynomial(Vec<Lum32f> q, Vec<Lum32f> s, Mask<Lum32f> is_centre) {
   const auto index = shift_right<23>(bits(q));
-  const auto m = getmant<0>(q);
+  const auto m = getmant<significand::from_1_to_2>(q);
   const auto b = select(is_centre, s, all(1.0f));
   if constexpr (degree == exact_degree) {
     const auto v = select(is_centre, s * s, m - Line<C, 0>(index));

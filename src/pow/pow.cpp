@@ -63,8 +63,8 @@ template <class T> struct Reduced { Vec<T> e, m, c; };
 
 // m in [1/2, 1), c in (1, 2].
 template <int fraction_bits, class T> LUM_INLINE Reduced<T> Reduce(Vec<T> x) {
-  const auto m = getmant<0xA>(x);
-  const auto c = rndscale<fraction_bits << 4 | 8>(rcp14(m));
+  const auto m = getmant<significand::from_half_to_1 | significand::nan_if_negative>(x);
+  const auto c = rndscale<binary_places(fraction_bits) | quiet>(rcp14(m));
   return {add(lt(c, all(T(1.5))), getexp(x), all(T(1))), m, c};
 }
 
@@ -112,7 +112,7 @@ template <class T> LUM_INLINE Product<T> MultiplySingle(Vec<T> hi, Vec<T> y) {
 }
 
 template <class T> LUM_INLINE Mask<T> Refused(Vec<T> x, Vec<T> y, Vec<T> p) {
-  return fpclass<0xDF>(x) | fpclass<0x99>(y) | nle(abs(p), all(PowConstants<T>::limit));
+  return fpclass<classes::not_positive_finite>(x) | fpclass<classes::nonfinite>(y) | nle(abs(p), all(PowConstants<T>::limit));
 }
 
 // ---- 2^P
@@ -125,7 +125,7 @@ template <class T> struct Exponent {
 // The bit that is cleared is none of an f below 1; it keeps NaN and huge values of refused lanes out of the polynomial.
 template <int index_bits, class T> LUM_INLINE Exponent<T> SplitExponent(const Product<T>& a, T shifter) {
   const auto n = add<rd>(a.p, all(shifter));
-  const auto f = reduce<index_bits << 4 | 1>(a.p) + a.p_low;
+  const auto f = reduce<binary_places(index_bits) | rd>(a.p) + a.p_low;
   return {f & all(static_cast<UnsignedOf<T>>(~(sign_bit<T> >> 1))), bits(n)};
 }
 
@@ -155,8 +155,8 @@ struct A11_32f : PowKernel<Lum32f> {
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x, Vec<Lum32f> y) {
     using C = PowConstants<Lum32f>;
     // m in [1, 2), c in [1/2, 1].
-    const auto m = getmant<0x8>(x);
-    const auto c = rndscale<0x58>(rcp14(m));
+    const auto m = getmant<significand::from_1_to_2 | significand::nan_if_negative>(x);
+    const auto c = rndscale<binary_places(5) | quiet>(rcp14(m));
     const auto e = add(lt(c, all(0.75f)), getexp(x), all(1.0f));
     const auto r = fms(m, c, all(1.0f));
     const auto q = horner(r, f32(0x3FB8AA3B, 1.4426950216293335), f32(0xBF38AA39, -0.7213473916053772),

@@ -147,14 +147,14 @@ template <class T> LUM_INLINE Vec<T> PowerMagnitude(Vec<T> x, Vec<T> y) {
 
 // The second path for any arguments.
 template <class T> LUM_INLINE Finished<T> PowerSecondPath(Vec<T> x, Vec<T> y, const Lanes<T>& lanes) {
-  constexpr int truncated = 0xB;
-  const auto one = eq(x, all(T(1))) | fpclass<0x06>(y), nan = unord(x, y) & ~one;
+  constexpr int truncated = binary_places(0) | rz | quiet;
+  const auto one = eq(x, all(T(1))) | fpclass<classes::zero>(y), nan = unord(x, y) & ~one;
   const auto whole = eq(rndscale<truncated>(y), y);
   const auto half = zero_unless(whole, y) * all(T(0.5));
   const auto x_negative = mask_cast<T>(sign_mask(bits(x))), y_negative = mask_cast<T>(sign_mask(bits(y)));
   const auto sign = zero_unless(mask_cast<UnsignedOf<T>>(x_negative & ne(rndscale<truncated>(half), half)), all(sign_bit<T>));
   const auto magnitude = abs(x);
-  const auto zero = fpclass<0x06>(x), infinite = fpclass<0x18>(x) | fpclass<0x18>(y);
+  const auto zero = fpclass<classes::zero>(x), infinite = fpclass<classes::infinity>(x) | fpclass<classes::infinity>(y);
   const auto is_unit = eq(magnitude, all(T(1))) & whole;
   const auto fractional = x_negative & ~whole & ~zero & ~infinite;
   const auto settled = one | nan | zero | infinite | is_unit | fractional;

@@ -36,14 +36,14 @@ template <class T> struct PowxGeneral : Kernel<T> {
     }
   }
   // All lanes or none.
-  LUM_INLINE Mask<T> ValueIsNotFinite() const { return fpclass<0x99>(all(value)); }
+  LUM_INLINE Mask<T> ValueIsNotFinite() const { return fpclass<classes::nonfinite>(all(value)); }
 };
 
 // ---- binary32, A11 and A21
 
 // All but the positive normal numbers; the largest of these is among the refused.
 LUM_INLINE Mask<Lum32f> IsRefused(Vec<Lum32f> x) {
-  return fpclass<0xFF>(x) | le(all(f32(0x7F7FFFFF, 3.4028234663852886e+38)), x);
+  return fpclass<classes::not_positive_normal>(x) | le(all(f32(0x7F7FFFFF, 3.4028234663852886e+38)), x);
 }
 
 // |a| is above the number of the pattern, or NaN.
@@ -103,7 +103,7 @@ struct PowxA21_32f : PowxGeneral<Lum32f> {
     const auto ln_hi = gather<Lum32f>(table, row);
     const auto ln_lo = gather<Lum32f>(table + rows, row);
     const auto c = gather<Lum32f>(table + 2 * rows, row);
-    const auto m = getmant<0x0>(x);
+    const auto m = getmant<significand::from_1_to_2>(x);
     const auto m_head = m & all(0x7FFFC000u);
     const auto v = fms(m_head, c, all(1.0f));  // exact
     const auto w = (m - m_head) * c;
@@ -147,7 +147,7 @@ template <class... Coefficients> LUM_INLINE Vec<Lum64f> GatheredLn(Vec<Lum64f> x
 #include "tables/generated/powx_ln_512.inc"
   });
   const auto m = as_float((bits(x) & all(uint64_t{0x000FFFFFFFFFFFFF})) | all(uint64_t{0x3F50000000000000}));  // times 2^-10
-  const auto c = rndscale<0x8>(rcp14(m));  // from 512 to 1024
+  const auto c = rndscale<binary_places(0) | quiet>(rcp14(m));  // from 512 to 1024
   const auto r = fms(c, m, all(1.0));
   const auto row = shift_right<43>(bits(c)) & all(uint64_t{0x3FF});
   const auto e = add(le(c, all(724.0)), getexp(x), all(1.0));
@@ -193,7 +193,7 @@ struct PowxA26_64f : PowxGeneral<Lum64f> {
         all(value) * GatheredLn(x, f64(0xBFDFFFFFFFFFF81F, -0.49999999999988803), f64(0x3FD55555555543C5, 0.33333333333308374),
                                 f64(0xBFD0000148058EE1, -0.2500003054940248));
     constexpr uint32_t limit = 0x4086232A;  // 1022 ln 2
-    return {GatheredExp(t), fpclass<0xFF>(x) | HighWordAbove<limit>(t) | ValueIsNotFinite()};
+    return {GatheredExp(t), fpclass<classes::not_positive_normal>(x) | HighWordAbove<limit>(t) | ValueIsNotFinite()};
   }
 };
 
@@ -221,7 +221,7 @@ LUM_INLINE ShortLog2 GatheredLog2(Vec<Lum64f> x) {
   const auto log_lo = gather<Lum64f>(logarithms + 1025, row);
   const auto e = add(mask_cast<Lum64f>(le(all(uint64_t{512}), row)), getexp(x), all(1.0));
 
-  const auto m = getmant<0x0>(x);
+  const auto m = getmant<significand::from_1_to_2>(x);
   const auto m_head = HighHalf(m);
   const auto p = m * c;
   const auto w = fma(m - m_head, c, fms(m_head, c, p));
@@ -266,7 +266,7 @@ struct PowxA50_64f : PowxGeneral<Lum64f> {
     const auto q = horner(a.g, f64(0x3FE62E42FEFA39EF, 0.6931471805599453), f64(0x3FCEBFBDFF82C58E, 0.2402265069591007),
                           f64(0x3FAC6B08D704A0BF, 0.055504108664821576), f64(0x3F83B2AB6FBA4E77, 0.009618129107628477),
                           f64(0x3F55D87FE78A6731, 0.0013333558146428443));
-    return {fma(a.g * scaled, q, scaled), fpclass<0xFF>(x) | a.out_of_range | ValueIsNotFinite()};
+    return {fma(a.g * scaled, q, scaled), fpclass<classes::not_positive_normal>(x) | a.out_of_range | ValueIsNotFinite()};
   }
 };
 
@@ -281,7 +281,7 @@ struct PowxA53_64f : PowxGeneral<Lum64f> {
     const auto higher = fma(odd, a.g, even) * g2;
     // The leading product joins after the small terms, so that it is not rounded into the sum by itself.
     const auto rest = fma(head * a.g, all(f64(0x3FE62E42FEFA39EF, 0.6931471805599453)), fma(head, higher, tail));
-    return {scalef(rest + head, a.n), fpclass<0xFF>(x) | a.out_of_range | ValueIsNotFinite()};
+    return {scalef(rest + head, a.n), fpclass<classes::not_positive_normal>(x) | a.out_of_range | ValueIsNotFinite()};
   }
 };
 

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <type_traits>
+#include <vector>
 
 #include "lumvm/errors.h"
 #include "lumvm/names.h"
@@ -48,9 +49,10 @@ Engine::Engine(const std::string& layer) : library_(Load(path_)) {
     throw SystemError(fmt::format("{}: not a library of this tool", path_));
   }
   if (!layer.empty() && set_layer(Lower(layer).c_str()) != 0) {
+    std::vector<const char*> there = {"avx512", "avx2", "portable"};
+    std::erase_if(there, [&](const char* name) { return set_layer(name) != 0; });
     throw InputError(
-        fmt::format("no layer {} on this processor; there are avx512, avx2 and portable, as far as it has the instructions",
-                    Quoted(layer)));
+        fmt::format("no layer {}; this library and this processor have {}", Quoted(layer), fmt::join(there, ", ")));
   }
   version_ = get_version();
   layer_ = get_layer();

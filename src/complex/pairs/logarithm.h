@@ -17,9 +17,9 @@ LUM_INLINE LogarithmTerms ReduceLogarithm(HeadTail q) {
 #include "tables/generated/pairs_ln_256.inc"
   });
   constexpr double first_row = 170;
-  const auto m = getmant<0xB>(q.head);
+  const auto m = getmant<significand::from_three_quarters | significand::nan_if_negative>(q.head);
   const auto k = getexp(q.head) - getexp(m);
-  const auto c = rndscale<0x80>(rcp14(m));  // a multiple of 2^-8: c m - 1 has no more bits than m
+  const auto c = rndscale<binary_places(8)>(rcp14(m));  // a multiple of 2^-8: c m - 1 has no more bits than m
   const auto r = ExactSum(fms(m, c, all(1.0)), scalef(q.tail, negate(k)) * c);
   const auto index = bits(fma(c, all(256.0), all(0x1p52 - first_row))) & all(uint64_t{255});
   const auto row = index + index;

@@ -35,7 +35,9 @@ constexpr LayerCode layers[] = {
 #ifdef LUM_HAS_AVX2
     {Layer::avx2, &avx2::entryTable, &avx2::libraryVersion},
 #endif
+#ifdef LUM_HAS_PORTABLE
     {Layer::portable, &portable::entryTable, &portable::libraryVersion},
+#endif
 };
 
 // Without the C library, which nothing else here needs.

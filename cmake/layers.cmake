@@ -1,0 +1,43 @@
+# The layers of vector operations that are built, and of them the libraries: LUM_LIBRARIES, the fastest layer's first.
+# LUM_RUNNABLE_LAYERS are those that the processor here runs.
+if(CMAKE_CROSSCOMPILING)
+  set(LUM_RUNNABLE_LAYERS portable)
+elseif(NOT DEFINED LUM_RUNNABLE_LAYERS)
+  try_run(result compiled ${PROJECT_BINARY_DIR}/layers ${PROJECT_SOURCE_DIR}/cmake/layers.cpp
+          CMAKE_FLAGS -DINCLUDE_DIRECTORIES=${PROJECT_SOURCE_DIR}/src CXX_STANDARD 20 COMPILE_OUTPUT_VARIABLE log
+          RUN_OUTPUT_VARIABLE layers)
+  if(NOT compiled OR NOT result EQUAL 0)
+    message(FATAL_ERROR "the compiler does not work, or makes programs that do not run:\n${log}")
+  endif()
+  string(STRIP "${layers}" layers)
+  string(REPLACE "\n" ";" layers "${layers}")
+  set(LUM_RUNNABLE_LAYERS "${layers}" CACHE INTERNAL "The layers that the processor here runs, the fastest first")
+endif()
+
+set(layers_here portable)
+if(CMAKE_SYSTEM_PROCESSOR MATCHES "x86_64|AMD64" AND NOT LUM_SANITIZE)
+  set(layers_here avx512 avx2 portable)
+endif()
+set(LUM_LAYERS all CACHE STRING
+    "The layers to build: all, native for the fastest one that the processor here runs, or a list of avx512, avx2, portable")
+set(wanted "${LUM_LAYERS}")
+if(wanted STREQUAL all)
+  set(wanted "${layers_here}")
+elseif(wanted STREQUAL native)
+  list(GET LUM_RUNNABLE_LAYERS 0 wanted)
+endif()
+set(LUM_LIBRARIES "")
+foreach(layer IN LISTS layers_here)
+  if(layer IN_LIST wanted)
+    list(REMOVE_ITEM wanted ${layer})
+    string(REPLACE avx512 lumvmk0 library ${layer})
+    string(REPLACE avx2 lumvma2 library ${library})
+    string(REPLACE portable lumvmp0 library ${library})
+    list(APPEND LUM_LIBRARIES ${library})
+  endif()
+endforeach()
+if(wanted OR NOT LUM_LIBRARIES)
+  message(FATAL_ERROR "LUM_LAYERS is '${LUM_LAYERS}'; give all, native, or some of: ${layers_here}")
+endif()
+# What a processor must have for liblumvm: that of its least layer.
+list(GET LUM_LIBRARIES -1 LUM_LEAST_LIBRARY)
