@@ -28,6 +28,7 @@ class Builder {
   std::vector<double> Whole(int most32, int most64) {
     const double last = std::ldexp(1.0, is32_ ? most32 : most64);
     std::vector<double> numbers;
+    numbers.reserve(samples);
     for (int i = 0; i < samples; ++i) numbers.push_back(last <= samples ? 1 + i : 1 + std::floor((last - 1) * random_.Unit()));
     if (last < samples) numbers.resize(static_cast<size_t>(last));
     return numbers;
@@ -122,7 +123,7 @@ Cases PowersOfTen(const Builder& b) {
 using Sets = std::function<std::vector<ExactSet>(Builder&)>;
 
 const std::map<std::string_view, Sets>& RealSets() {
-  const auto fixed = [](std::vector<ExactSet> sets) { return [sets](Builder&) { return sets; }; };
+  const auto fixed = [](const std::vector<ExactSet>& known) { return [known](Builder&) { return known; }; };
   static const std::map<std::string_view, Sets> sets = {
       {"Exp", fixed({{"exp(0) = 1", Zeros(1)}, {"exp(-inf) = 0, exp(inf) = inf", Ends(infinity, 0, infinity)}})},
       {"Expm1", fixed({{"expm1(+-0) = +-0", OddZeros()}, {"expm1(-inf) = -1", One(-infinity, -1)}})},

@@ -107,7 +107,8 @@ template <class T> class RealChecks {
     int32_t back = 0, pairs = 0;
     for (size_t first = 0; first < hunt_block; first += run) {
       for (size_t i = first; i < first + run - 1; ++i) {
-        const bool is_pair = (at[i] >= from) & (at[i] <= to) & (at[i + 1] >= from) & (at[i + 1] <= to) & (results[i] == results[i]);
+        const bool is_pair =
+            (at[i] >= from) & (at[i] <= to) & (at[i + 1] >= from) & (at[i + 1] <= to) & (results[i] == results[i]);
         pairs += is_pair ? 1 : 0;
         back += is_pair & (results[i + 1] * sign < results[i] * sign) ? 1 : 0;
       }
