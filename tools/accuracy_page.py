@@ -74,15 +74,15 @@ OTHERS = """
 ## Beside other libraries
 
 The largest errors known of functions of binary64 (64f), of this library, of SLEEF 3.5.1 (its functions of 0.5, 1, 1.5 and 3.5 ulp for
-AVX-512), and of glibc 2.36: its vector functions, for which its manual allows 4 ulp, and its scalar ones. All were searched
+AVX-512), and of glibc 2.36: its vector functions, which are meant to stay below 4 ulp, and its scalar ones. All were searched
 here, at the same arguments and in the neighbourhoods of the worst of each. *(class)*: some results are infinite, zero or NaN
 where the exact value is not near it. glibc's sine, cosine and tangent lose digits at some huge arguments next to multiples of pi/2,
 as at 1.2853022199154463e+174; its vector functions take them over there.
 
 {table}
 
-Innocente and Zimmermann, *Accuracy of Mathematical Functions in Single, Double, Double Extended, and Quadruple Precision*
-(INRIA, HAL hal-03141101), publish and update largest known errors of a dozen scalar libraries; their figures are not repeated here, as
+Innocente, Zimmermann and others, *Accuracy of Mathematical Functions in Single, Double, Double Extended, and Quadruple Precision*
+(HAL, hal-03141101), publish and update largest known errors of a dozen scalar libraries; their figures are not repeated here, as
 all that are beside ours were measured on one machine by one program.
 """
 
