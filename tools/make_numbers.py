@@ -2,7 +2,7 @@
 """Writes src/frame/numbers.h, the roundings of known numbers, from src/frame/numbers.toml. With --check, compares instead. A table
 there is a constant:
 
-  value   an expression of numbers, + - * / ^, pi, e, ln2, ln10, sqrt()
+  value   an expression of numbers, + - * / ^, pi, ln2, ln10, sqrt() and other functions; or values, a list of them for an array
   after   names of constants of the same format that are taken off first: what is left is a tail
   32f     how many significant bits of binary32 it has, or "all"; it has none of a format that is not given
   64f     the same of binary64
@@ -37,6 +37,8 @@ def part_of(value, size, format_):
 
 
 def parts_of(record, format_, constants):
+    if "values" in record:
+        return [part_of(binary.exact(polynomials.compiled(value)()), record[format_], format_) for value in record["values"]]
     value = binary.exact(polynomials.compiled(record["value"])())
     for name in record.get("after", []):
         value -= constants[name, format_][0]
@@ -68,8 +70,8 @@ def text():
     for name, record in tomllib.loads(DECLARATIONS.read_text()).items():
         after = "".join(f" - {other}<T>" for other in record.get("after", []))
         sizes = "".join(f", {described(record[f])} of {f}" for f in FORMATS if record.get(f, "all") != "all")
-        lines.append(f"// {record['value']}{after}{sizes}{'. ' + record['note'] if 'note' in record else ''}")
-        count = {len(record[f]) for f in FORMATS if isinstance(record.get(f), list)}
+        lines.append(f"// {record.get('value') or ', '.join(record['values'])}{after}{sizes}{'. ' + record['note'] if 'note' in record else ''}")
+        count = {len(record[f]) for f in FORMATS if isinstance(record.get(f), list)} | ({len(record["values"])} if "values" in record else set())
         bound = f"[{count.pop()}]" if count else ""
         if count:
             sys.exit(f"{DECLARATIONS.name}: {name} has as many parts in one format as in the other")

@@ -5,13 +5,15 @@
   form          how the polynomial P takes part, an expression in x and P(...); P(x) where not given: "x + x^3 * P(x^2)".
                 Other polynomials of the family take part by their names, such as the denominator of a quotient
   interval      its two ends
+  parameter     a second variable and its two ends, ["c", "0", "6"], where function and form have one
   over          what the error is divided by, an expression in x; the function itself where not given, 1 for an absolute error
   error         the largest |form - function| / |over| on the interval, of exact arithmetic, rounded up to three digits
   format        of the coefficients: 32f or 64f
   coefficients  the constant term first, by their bits
   note          what a reader of the kernel should know beyond that
 
-Expressions have numbers (hexadecimal ones as 0x1.8p3), + - * / ^, pi, ln2, ln10, and functions of mpmath.
+Expressions have numbers (hexadecimal ones as 0x1.8p3), + - * / ^, pi, ln2, ln10, functions of mpmath, and
+mean_exp(w, v), the integral of exp(-2 w s - v s^2) over s from 0 to 1.
 
 polynomials.py           writes src/<family>/polynomials.h
 polynomials.py --check   compares what it would write with what is there
@@ -30,7 +32,7 @@ import mpmath
 from mpmath import mpf
 
 ROOT = Path(__file__).resolve().parent.parent
-KEYS = {"function", "form", "interval", "over", "error", "format", "coefficients", "note"}
+KEYS = {"function", "form", "interval", "parameter", "over", "error", "format", "coefficients", "note"}
 FUNCTIONS = ("exp", "expm1", "log", "log1p", "sqrt", "cbrt", "sin", "cos", "tan", "asin", "acos", "atan", "sinh", "cosh", "tanh", "asinh",
              "acosh", "atanh", "erf", "erfc", "erfinv", "ncdf")
 NUMBER = re.compile(r"(?<![A-Za-z_0-9.])(0x[0-9a-fA-F.]+p[+-]?\d+|(?:\d+\.?\d*|\.\d+)(?:e[+-]?\d+)?)")
@@ -47,11 +49,25 @@ def number_of(text):
     return mpf(int(whole + fraction, 16)) * mpf(2) ** (int(exponent) - 4 * len(fraction))
 
 
+def mean_exp(w, v):
+    """The integral of exp(-2 w s - v s^2) over s from 0 to 1, by its series, for small w and v."""
+    total, outer, k = mpf(0), mpf(1), 0
+    while k < 2 or abs(outer) > mpf(2) ** -190:
+        inner, m = outer, 0
+        while m < 2 or abs(inner) > mpf(2) ** -190:
+            total += inner / (m + 2 * k + 1)
+            m += 1
+            inner *= -2 * w / m
+        k += 1
+        outer *= -v / k
+    return total
+
+
 def compiled(text, *parameters, **others):
     """An expression as a function of the named parameters; others are names that it may have besides."""
     python = NUMBER.sub(lambda match: f"number_of('{match[0]}')", text).replace("^", "**")
     names = {name: getattr(mpmath, name) for name in FUNCTIONS} | {"pi": +mpmath.pi, "ln2": mpmath.ln2 + 0, "ln10": mpmath.ln10 + 0,
-                                                                   "number_of": number_of} | others
+                                                                   "number_of": number_of, "mean_exp": mean_exp} | others
     return eval(f"lambda {', '.join(parameters)}: {python}", {"__builtins__": {}, **names})
 
 
@@ -78,12 +94,20 @@ class Polynomial:
         return self.record.get("form", "P(x)")
 
     def error(self):
-        """The largest error on the interval: at the ends and where it has its extrema between."""
+        """The largest error on the interval, for each of some values of the parameter where there is one."""
+        if "parameter" not in self.record:
+            return self.error_of({})
+        name, *ends = self.record["parameter"]
+        low, high = (compiled(end)() for end in ends)
+        return max(self.error_of({name: low + (high - low) * i / 4}) for i in range(5))
+
+    def error_of(self, parameter):
+        """The largest error: at the ends and where it has its extrema between."""
         coefficients = [mpf(c) for c in reversed(self.values())]
-        others = {name: self.family[name] for name in set(re.findall(r"\w+", self.form)) & set(self.family)}
-        function = compiled(self.record["function"], "x")
+        others = {name: self.family[name] for name in set(re.findall(r"\w+", self.form)) & set(self.family)} | parameter
+        function = compiled(self.record["function"], "x", **parameter)
         form = compiled(self.form, "x", "P", **others)
-        over = compiled(self.record["over"], "x") if "over" in self.record else function
+        over = compiled(self.record["over"], "x", **parameter) if "over" in self.record else function
 
         def error(x):
             scale = over(x)
@@ -92,7 +116,7 @@ class Polynomial:
             return abs((form(x, lambda t: mpmath.polyval(coefficients, t)) - function(x)) / scale)
 
         low, high = (compiled(end)() for end in self.record["interval"])
-        count = 24 * (len(coefficients) + 2)
+        count = 24 * (len(coefficients) + 2) if not parameter else 48
         points = [low + (high - low) * (1 - mpmath.cos(mpmath.pi * i / count)) / 2 for i in range(count + 1)]
         errors = [error(x) for x in points]
         worst = max(errors)
@@ -156,7 +180,8 @@ def definition(p):
     low, high = p.record["interval"]
     over = p.record.get("over")
     kind = "relative error" if over is None else "error" if over == "1" else f"error over {over}"
-    text = (f"{p.record['function']} = {p.form} for x in [{low}, {high}]: {kind} {p.record['error']} at most."
+    parameter = "{0} in [{1}, {2}] and ".format(*p.record["parameter"]) if "parameter" in p.record else ""
+    text = (f"{p.record['function']} = {p.form} for {parameter}x in [{low}, {high}]: {kind} {p.record['error']} at most."
             + (" " + p.record["note"] if "note" in p.record else ""))
     type_, literal = {32: ("float", "f32"), 64: ("double", "f64")}[p.width]
     words = [f"{literal}({word}, {value!r})," for word, value in zip(p.record["coefficients"], p.values())]

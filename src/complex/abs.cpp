@@ -1,6 +1,6 @@
 // |z|, by an estimate of the reciprocal root of s = x^2 + y^2 and coupled steps. The high tags form s with the errors of both
 // squares. Refused are zeros and numbers whose squares would leave the range; nothing is reported.
-#include "complex/refused.h"
+#include "complex/core_on_lane.h"
 #include "frame/kernels.h"
 #include "roots/coupled_root.h"
 

@@ -4,9 +4,10 @@
 // the sum of the errors, which is little beside |ln z| but may be as much as t itself. Nothing is reported, not even of a zero.
 #include <limits>
 
-#include "complex/refused.h"
+#include "complex/core_on_lane.h"
 #include "explog/ln_terms.h"
 #include "frame/kernels.h"
+#include "frame/numbers.h"
 #include "invcircular/atan2_path.h"
 #include "invcircular/atan2_routine.h"
 
@@ -15,7 +16,7 @@ namespace {
 
 template <class E> struct LnKernel : Kernel<E> {
   static constexpr int vectors = 1;
-  static void LaneRoutine(const E& z, E& result) { CoreOnLane<CoreLog>(z, result); }
+  static void LaneRoutine(const E& z, E& result) { SilentCoreOnLane<CoreLog>(z, result); }
   // Of zero and of infinities: an infinity and the angle of an axis or a diagonal.
   static LUM_INLINE Lanes<E> SecondPath(Packed<E> packed, const Lanes<E>& lanes) {
     using T = Real<E>;
@@ -79,8 +80,8 @@ template <int segment_degree> LUM_STAGE Vec<Lum32f> LogOfModulus(VecIn<Lum32f> x
   const auto m = select(is_near, near_one, getmant<significand::from_three_quarters | significand::nan_if_negative>(s.head));
   const auto r = select(is_near, t, m - all(1.0f));
   const auto k = zero_unless(~is_near, (getexp(s.head) - getexp(m)) + (s.exponent + s.exponent));
-  const auto log = fma(r, SegmentPolynomial<segment_degree>(m, r, Segments<segment_degree>::columns),
-                       k * all(f32(0x3F317218, 0.6931471824645996)));
+  const auto log =
+      fma(r, SegmentPolynomial<segment_degree>(m, r, Segments<segment_degree>::columns), k * all(numbers::ln2<Lum32f>));
   return all(0.5f) * log;
 }
 

@@ -3,7 +3,7 @@
 // others of 32fc take both exactly in binary64; those of 64fc keep the errors of both and refuse numbers near the ends of the
 // range, zeros among them.
 #include "complex/exact_product.h"
-#include "complex/refused.h"
+#include "complex/product_routine.h"
 #include "frame/kernels.h"
 
 namespace lum::inline LUM_LAYER {
@@ -92,12 +92,12 @@ template <class E, bool by_conjugate> struct Low : Product<E, by_conjugate> {
 };
 
 template <bool by_conjugate> struct A24_32fc : Product<Lum32fc, by_conjugate> {
-  static LUM_INLINE Vec<Lum64f> Widened(Vec<Lum64f> z, Vec<Lum64f> w) {
+  static LUM_INLINE Vec<Lum64f> DoubleProduct(Vec<Lum64f> z, Vec<Lum64f> w) {
     const auto f = FactorsOf(z, w);
     return Joined<by_conjugate>(f, f.z_swapped * f.w_im);
   }
   static LUM_INLINE Vec<Lum32f> HalfOf(Vec<Lum32f> z, Vec<Lum32f> w) {
-    return narrow(Widened(widen_low(z), widen_low(w)), Widened(widen_high(z), widen_high(w)));
+    return narrow(DoubleProduct(widen_low(z), widen_low(w)), DoubleProduct(widen_high(z), widen_high(w)));
   }
   static LUM_INLINE Lanes<Lum32fc, ComponentMask<Lum32f>> VectorPath(Interleaved<Lum32f> z, Interleaved<Lum32f> w) {
     const Interleaved<Lum32f> r{HalfOf(z.low, w.low), HalfOf(z.high, w.high)};

@@ -63,6 +63,11 @@ template <Floating T, size_t n> LUM_INLINE Vec<T> horner(VecIn<T> x, const Polyn
   (std::make_index_sequence<n>());
 }
 
+template <Floating T, size_t n> LUM_INLINE Vec<T> horner(VecIn<T> x, const T (&c)[n]) {
+  return [&]<size_t... i>(std::index_sequence<i...>) __attribute__((always_inline)) { return horner(x, c[i]...); }
+  (std::make_index_sequence<n>());
+}
+
 // a + b = sum + error exactly, for any two finite numbers without overflow.
 template <Floating T> struct Sum { Vec<T> sum, error; };
 template <Floating T> LUM_INLINE Sum<T> two_sum(Vec<T> a, Vec<T> b) {

@@ -83,7 +83,7 @@ template <class T> LUM_INLINE VectorPair<T> Log2Pair(Vec<T> given) {
   const auto s = s0 + w;
   const auto errors = (u0 - (s0 - a)) + (w - (s - s0));
   const auto u = u0 + w;
-  return {s, u * C::LogPolynomial(u) + (errors + (row1.lo + row2.lo + row3.lo))};
+  return {s, u * unfused_horner(u, C::log_polynomial) + (errors + (row1.lo + row2.lo + row3.lo))};
 }
 
 // 2^(p.hi + p.lo). A denormal result is counted in units of the smallest positive number by a sum whose last bit is worth that.
@@ -98,7 +98,7 @@ template <class T> LUM_INLINE Vec<T> Exp2Positive(VectorPair<T> p) {
   static constexpr auto table = InRowsOfFour<2>(C::exp2);
   const auto row = gather_rows<T>(table, shift_left<2>(count & all(Word{127})));
   const auto n = shift_right_arithmetic<7>(as_signed(count));
-  const auto correction = row.column0 * (g * C::ExpPolynomial(g)) + row.column1;
+  const auto correction = row.column0 * (g * unfused_horner(g, C::exp_polynomial)) + row.column1;
   const auto v = row.column0 + correction;
 
   const auto exponent = as_signed(BiasedExponents(v)) + n;

@@ -1,4 +1,4 @@
-// Products, quotients and the modulus of complex numbers. Products of binary64 numbers are exact as pairs of Extended numbers,
+// Products and quotients of complex numbers. Products of binary64 numbers are exact as pairs of Extended numbers,
 // whose range no product of two or quotient of such products leaves.
 #include "complex/core/extended_pair.h"
 #include "complex/core/parts.h"
@@ -23,7 +23,7 @@ Lum64f RoundedSum(Extended a, Extended c, Extended b, Extended d) {
   return static_cast<Lum64f>(sum.head == 0 ? a * c + b * d : rounded(sum));
 }
 
-// Of two NaNs the first, however the compiler orders the operands of a sum.
+// a + b; of two NaNs the first, however the compiler orders the operands of a sum.
 Lum64f NonFiniteSum(Lum64f a, Lum64f b) {
   if (IsNan(a)) return a;
   return IsNan(b) ? b : a + b;
@@ -68,17 +68,6 @@ void CoreDiv(ComplexDouble& result, const ComplexDouble& z, const ComplexDouble&
     const ExtendedPair im = divide(SumOfProducts(z.im, w.re, Negated(z.re), w.im), square);
     Finish(result, static_cast<Lum64f>(rounded(re)), static_cast<Lum64f>(rounded(im)));
   }
-}
-
-void CoreAbs(Lum64f& result, const ComplexDouble& z) {
-  if (AnyInfinite(z)) {
-    result = infinity;
-    return;
-  }
-  const Extended x = z.re, y = z.im;
-  Extended root;
-  ExtSqrt(root, x * x + y * y);
-  result = static_cast<Lum64f>(root);
 }
 
 }  // namespace lum::inline LUM_LAYER

@@ -6,7 +6,8 @@
 
 namespace lum::inline LUM_LAYER {
 
-template <OneInputCore core, class E> void CoreOnLane(const E& z, E& result) {
+// For functions that report nothing.
+template <OneInputCore core, class E> void SilentCoreOnLane(const E& z, E& result) {
   const ExtendedPrecision precision;
   ComplexDouble value;
   core(value, Widened(z));
@@ -16,7 +17,7 @@ template <OneInputCore core, class E> void CoreOnLane(const E& z, E& result) {
 // For functions that report overflow.
 template <OneInputCore core, class E> LumStatus ReportingCoreOnLane(const E& z, E& result) {
   const bool can_overflow = CanOverflow(z);
-  CoreOnLane<core>(z, result);
+  SilentCoreOnLane<core>(z, result);
   return can_overflow && HasInfinitePart(result) ? lumStsOverflow : lumStsOk;
 }
 
@@ -26,17 +27,6 @@ template <TwoInputsCore core, class E> LumStatus ReportingCoreOnLane(const E& z,
   core(value, Widened(z), Widened(w));
   result = Narrowed<E>(value);
   return CanOverflow(z) && CanOverflow(w) && HasInfinitePart(result) ? lumStsOverflow : lumStsOk;
-}
-
-// For products and quotients, which report every infinite part that finite arguments give; dividing by zero is not an overflow.
-template <TwoInputsCore core, class E> LumStatus ProductCoreOnLane(const E& z, const E& w, E& result) {
-  const ExtendedPrecision precision;
-  ComplexDouble value;
-  core(value, Widened(z), Widened(w));
-  result = Narrowed<E>(value);
-  if (core == CoreDiv && IsZero(w.re) && IsZero(w.im)) return lumStsOk;
-  const bool are_finite = IsFinite(z.re) && IsFinite(z.im) && IsFinite(w.re) && IsFinite(w.im);
-  return are_finite && HasInfinitePart(result) ? lumStsOverflow : lumStsOk;
 }
 
 }  // namespace lum::inline LUM_LAYER
