@@ -31,8 +31,9 @@ pictures on the page of its family:
   they stand on both sides of every border of the kernels' segments and tables, from the neighbouring number on; pairs are close to one
   another, multiples, or of a given product; and the neighbourhoods of the worst arguments so far are searched again and again. What
   exceeds the limit or all former errors is settled by MPFR or MPC, {settled:.2g} times. Exponents of complex powers are kept
-  small, since their errors grow with them. It is a search and no proof: larger errors may exist
-  that it has not met.
+  small, since their errors grow with them. Of many such arguments in
+  one block of 4096 the largest few are settled; the data count the others, nearly all of them complex results that overflowed, as
+  *left*. It is a search and no proof: larger errors may exist that it has not met.
 - **Samples** of 60,000 arguments by MPFR and MPC alone: *sample*, *borders* of the kernels, *quarter-turns* (of every binade the numbers
   closest to a multiple of pi/2) and the *unit-circle*.
 
