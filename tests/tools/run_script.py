@@ -35,7 +35,7 @@ class Script(unittest.TestCase):
         (self.checkout / "CMakePresets.json").write_text("{}")
         self.program(self.bin / "cmake", CMAKE)
         # All that the script needs, and neither dpkg nor apt-get.
-        for name in ("bash", "sh", "env", "dirname", "cksum", "cut", "sed", "grep", "mkdir", "rm", "touch", "cat", "nproc", "g++", "c++",
+        for name in ("bash", "sh", "env", "dirname", "cksum", "cut", "sed", "grep", "awk", "mkdir", "rm", "touch", "cat", "nproc", "g++", "c++",
                      "ninja", "python3"):
             (self.bin / name).symlink_to(shutil.which(name))
         self.calls = self.path / "calls"
