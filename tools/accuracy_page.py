@@ -31,8 +31,9 @@ pictures on the page of its family:
   they stand on both sides of every border of the kernels' segments and tables, from the neighbouring number on; pairs are close to one
   another, multiples, or of a given product; and the neighbourhoods of the worst arguments so far are searched again and again. What
   exceeds the limit or all former errors is settled by MPFR or MPC, {settled:.2g} times. Exponents of complex powers are kept
-  small, since their errors grow with them. It is a search and no proof: larger errors may exist
-  that it has not met.
+  small, since their errors grow with them. Of many such arguments in
+  one block of 4096 the largest few are settled; the data count the others, nearly all of them complex results that overflowed, as
+  *left*. It is a search and no proof: larger errors may exist that it has not met.
 - **Samples** of 60,000 arguments by MPFR and MPC alone: *sample*, *borders* of the kernels, *quarter-turns* (of every binade the numbers
   closest to a multiple of pi/2) and the *unit-circle*.
 
@@ -74,15 +75,15 @@ OTHERS = """
 ## Beside other libraries
 
 The largest errors known of functions of binary64 (64f), of this library, of SLEEF 3.5.1 (its functions of 0.5, 1, 1.5 and 3.5 ulp for
-AVX-512), and of glibc 2.36: its vector functions, for which its manual allows 4 ulp, and its scalar ones. All were searched
+AVX-512), and of glibc 2.36: its vector functions, which are meant to stay below 4 ulp, and its scalar ones. All were searched
 here, at the same arguments and in the neighbourhoods of the worst of each. *(class)*: some results are infinite, zero or NaN
 where the exact value is not near it. glibc's sine, cosine and tangent lose digits at some huge arguments next to multiples of pi/2,
 as at 1.2853022199154463e+174; its vector functions take them over there.
 
 {table}
 
-Innocente and Zimmermann, *Accuracy of Mathematical Functions in Single, Double, Double Extended, and Quadruple Precision*
-(INRIA, HAL hal-03141101), publish and update largest known errors of a dozen scalar libraries; their figures are not repeated here, as
+Innocente, Zimmermann and others, *Accuracy of Mathematical Functions in Single, Double, Double Extended, and Quadruple Precision*
+(HAL, hal-03141101), publish and update largest known errors of a dozen scalar libraries; their figures are not repeated here, as
 all that are beside ours were measured on one machine by one program.
 """
 

@@ -34,7 +34,7 @@ def share(found, name):
     value = float(found[name])
     if name == "mean_ulp":
         return number(value)
-    return "100 %" if value == 1 else f"{min(100 * value, 99.99):.3g} %" if value < 0.995 else f"{min(100 * value, 99.99):.2f} %"
+    return "100" if value == 1 else f"{min(100 * value, 99.99):.3g}" if value < 0.995 else f"{min(100 * value, 99.99):.2f}"
 
 
 def error_text(figures):
@@ -44,7 +44,7 @@ def error_text(figures):
 
 
 def accuracy_table(rows, figures):
-    lines = ["| name | largest error, ulp | limit | at | ≤ ½ | ≤ 0.51 | ≤ 0.6 | ≤ ¾ | ≤ 1 ulp | mean |", "|---|--:|--:|---|--:|--:|--:|--:|--:|--:|"]
+    lines = ["| name | largest error, ulp | limit | mean | % ≤ ½ | ≤ 0.51 | ≤ 0.6 | ≤ ¾ | ≤ 1 ulp | largest at |", "|---|" + "--:|" * 8 + "---|"]
     for row in rows:
         for export, _ in row.exports():
             entry = figures[export]
@@ -52,9 +52,9 @@ def accuracy_table(rows, figures):
                 continue
             worst = entry.worst
             mark = " (all)" if any(error.how == "all" for error in entry.errors) else ""
-            shares = " | ".join(share(entry.hunt, name) for name in data.SHARES)
+            shares = " | ".join(share(entry.hunt, name) for name in data.SHARES[-1:] + data.SHARES[:-1])
             at = f"`{worst.at.replace(' ', ', ')}`" if worst.ulp > 0 else ""
-            lines.append(f"| `{export}` | {error_text(entry)}{mark} | {worst.limit:.3g} | {at} | {shares} |")
+            lines.append(f"| `{export}` | {error_text(entry)}{mark} | {worst.limit:.3g} | {shares} | {at} |")
     return lines
 
 

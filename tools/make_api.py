@@ -92,7 +92,7 @@ def python_page():
         found = []
         for row in rows:
             exports = [export for export, _ in row.exports()]
-            levels = [f"{errors[export]:.3g}" for export in exports if export in errors]
+            levels = [make_python.measured_data.ulp_text(errors[export]) for export in exports if export in errors]
             if levels:
                 found.append(f"{make_python.DTYPES[row.type]} {', '.join(reversed(levels))}")
         lines.append(f"   Largest errors known, high to low, in ulp: {'; '.join(found)}.\n")

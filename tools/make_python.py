@@ -122,7 +122,7 @@ def docstring(name, aliases, rows, level, errors):
         exports = [export for export, _ in row.exports()]
         export = exports[LEVELS.index(level)] if len(exports) == 3 else exports[0]
         if export in errors:
-            figures.append(f"{DTYPES[row.type]} {errors[export]:.3g}")
+            figures.append(f"{DTYPES[row.type]} {measured_data.ulp_text(errors[export])}")
     lines += [", ".join(figures) + ".", "", "Examples", "--------", ">>> import lumvm"]
     arguments, value = EXAMPLES[name]
     digits = {"low": 3, "mid": 6, "high": 6}[level]

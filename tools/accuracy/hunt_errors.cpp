@@ -101,6 +101,8 @@ void HuntValues::AddPart(const std::array<HuntColumn, 2>& results, size_t part, 
 }
 
 void HuntValues::NormErrors(const std::array<HuntColumn, 2>& results, HuntColumn& errors) const {
+  // Where parts of binary32 round to infinities.
+  const double overflow = is32_ ? 0x1.ffffffp127 : infinity;
   for (size_t i = 0; i < hunt_block; ++i) {
     double square = 0;
     bool is_open = false, is_beyond = false;
@@ -109,7 +111,7 @@ void HuntValues::NormErrors(const std::array<HuntColumn, 2>& results, HuntColumn
       const double d = (result * scale_[part][i] - value) - rest_[part][i];
       square += d * d;
       is_beyond |= !(std::fabs(result) < infinity);
-      is_open |= !(std::fabs(result) < infinity) != !(std::fabs(value) < infinity);
+      is_open |= !(std::fabs(result) < infinity) != !(std::fabs(value) < overflow * scale_[part][i]);
     }
     const double error = is_beyond ? 0 : std::sqrt(square) * inverse_unit_[0][i];
     errors[i] = is_open ? std::numeric_limits<double>::quiet_NaN() : error;
