@@ -7,9 +7,9 @@
 #include <bit>
 #include <cstdint>
 
+#include "circular/large_reduction.h"
 #include "circular/nonfinite.h"
 #include "circular/polynomials.h"
-#include "circular/wide_reduction.h"
 #include "frame/constant.h"
 #include "frame/numbers.h"
 

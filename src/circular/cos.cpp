@@ -3,10 +3,10 @@
 // toward zero; 64f A53 reduces to sixteenths of a half turn with a table. Beyond the threshold of the reduction a second vector
 // path takes the bits of x / (2 pi) from a table of the bits of 1/pi.
 #include "circular/half_turns.h"
+#include "circular/large_reduction.h"
 #include "circular/nonfinite.h"
 #include "circular/polynomials.h"
 #include "circular/sixteenths.h"
-#include "circular/wide_reduction.h"
 #include "frame/kernel_frame.h"
 #include "frame/kernels.h"
 #include "frame/numbers.h"

@@ -13,7 +13,7 @@ template <class T> LumStatus CircularOfNonFinite(T x, T& result) {
   return is_nan ? lumStsOk : lumStsDomain;
 }
 
-// The same of the lanes of a vector, other in those that are finite.
+// The results of CircularOfNonFinite in the lanes of infinities and NaN, other in those that are finite.
 template <class T> LUM_INLINE Vec<T> SelectNonFinite(Vec<T> x, Vec<T> other) {
   const auto is_nan = unord(x, x);
   const auto factor = select(fpclass<classes::nonfinite>(x), x, all(T(1)));

@@ -3,10 +3,10 @@
 // path takes the bits of x / (2 pi) from a table of the bits of 1/pi; 64f A26 has a scalar routine there instead.
 #include "circular/chunk_routine.h"
 #include "circular/half_turns.h"
+#include "circular/large_reduction.h"
 #include "circular/nonfinite.h"
 #include "circular/polynomials.h"
 #include "circular/sixteenths.h"
-#include "circular/wide_reduction.h"
 #include "frame/kernel_frame.h"
 #include "frame/kernels.h"
 #include "frame/numbers.h"

@@ -5,15 +5,15 @@
 
 #include "circular/chunk_routine.h"
 #include "circular/half_turns.h"
+#include "circular/large_reduction.h"
 #include "circular/nonfinite.h"
 #include "circular/quarter_turns.h"
 #include "circular/sixteenths.h"
-#include "circular/wide_reduction.h"
 
 namespace lum::inline LUM_LAYER {
 
-// The results of the wide reduction in the lanes beyond the threshold.
-LUM_INLINE SineAndCosineValues<Lum64f> MergeWide(Vec<Lum64f> x, const SineAndCosineValues<Lum64f>& ordinary) {
+// The results of the large reduction in the lanes beyond the threshold.
+LUM_INLINE SineAndCosineValues<Lum64f> MergeLarge(Vec<Lum64f> x, const SineAndCosineValues<Lum64f>& ordinary) {
   const auto a = ReduceLarge(x);
   return {select(ordinary.refused, SineOf(a.index, a.hi, a.lo) ^ sign_of(x), ordinary.sine),
           select(ordinary.refused, CosineOf(a.index, a.hi, a.lo), ordinary.cosine), fpclass<classes::nonfinite>(x)};
@@ -50,7 +50,7 @@ struct SineAndCosine_A26 {
 struct SineAndCosine_A50 {
   using Element = Lum64f;
   static LUM_INLINE SineAndCosineValues<Lum64f> Ordinary(Vec<Lum64f> x) { return ByHalfTurns<true>(x); }
-  static LUM_INLINE SineAndCosineValues<Lum64f> Large(Vec<Lum64f> x) { return MergeWide(x, Ordinary(x)); }
+  static LUM_INLINE SineAndCosineValues<Lum64f> Large(Vec<Lum64f> x) { return MergeLarge(x, Ordinary(x)); }
 };
 struct SineAndCosine_A53 {
   using Element = Lum64f;
@@ -60,7 +60,7 @@ struct SineAndCosine_A53 {
     const auto angle = AngleOf(r.shifted);
     return {SineOf(angle, r) ^ HalfTurnSign(r, x), CosineOf(angle, r) ^ HalfTurnSign(r), nle(a, all(0x1p24))};
   }
-  static LUM_INLINE SineAndCosineValues<Lum64f> Large(Vec<Lum64f> x) { return MergeWide(x, Ordinary(x)); }
+  static LUM_INLINE SineAndCosineValues<Lum64f> Large(Vec<Lum64f> x) { return MergeLarge(x, Ordinary(x)); }
 };
 
 // The lane routine of either type and tier: in binary32 only infinities and NaN come here.

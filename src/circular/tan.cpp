@@ -1,12 +1,12 @@
 // tan x. With x = k pi/N + r, N = 16 or 32, T = tan(k pi/N) from a table in registers and p = tan r by a polynomial:
 // tan x = (T + p) / (1 - T p). At the pole T is the most negative number, for which the quotient is -1/p without a case of its
 // own, and for k = 0 it is -0, which keeps the sign of a zero. The tiers differ in the tails that they carry of r, T and the
-// quotient. Beyond the threshold the angle from the wide reduction is brought to the same k and r, and the block evaluated
+// quotient. Beyond the threshold the angle from the large reduction is brought to the same k and r, and the block evaluated
 // again.
+#include "circular/large_reduction.h"
 #include "circular/nonfinite.h"
 #include "circular/polynomials.h"
 #include "circular/sixteenths.h"
-#include "circular/wide_reduction.h"
 #include "frame/kernel_frame.h"
 #include "frame/kernels.h"
 #include "frame/numbers.h"
@@ -28,9 +28,9 @@ template <> struct TanConstants<Lum32f> {  // N = 32
   static constexpr auto tails = table32({
 #include "tables/generated/tangent_32_tail.inc"
   });
-  static constexpr auto wide_step = numbers::pi<Lum32f> / 128,
-                        wide_step_tail = numbers::pi_tail<Lum32f> / 128;  // turn/256
-  static constexpr int wide_shift = 2;
+  static constexpr auto large_step = numbers::pi<Lum32f> / 128,
+                        large_step_tail = numbers::pi_tail<Lum32f> / 128;  // turn/256
+  static constexpr int large_shift = 2;
 };
 template <> struct TanConstants<Lum64f> {  // N = 16
   static constexpr auto table = table64({
@@ -39,27 +39,27 @@ template <> struct TanConstants<Lum64f> {  // N = 16
   static constexpr auto tails = table64({
 #include "tables/generated/tangent_16_tail.inc"
   });
-  static constexpr auto wide_step = numbers::pi<Lum64f> / 256,
-                        wide_step_tail = numbers::pi_tail<Lum64f> / 256;  // turn/512
-  static constexpr int wide_shift = 4;
+  static constexpr auto large_step = numbers::pi<Lum64f> / 256,
+                        large_step_tail = numbers::pi_tail<Lum64f> / 256;  // turn/512
+  static constexpr int large_shift = 4;
 };
 
 LUM_INLINE Vec<Lum32f> FromInteger(Vec<uint32_t> m) { return to_float(as_signed(m)); }
 LUM_INLINE Vec<Lum64f> FromInteger(Vec<uint64_t> m) { return to_double(m); }
 
-// The wide reduction, its index rounded to the steps of the table. A tie goes to the side of the remainder.
-template <class T> LUM_INLINE Reduced<T> ReduceWideToTable(Vec<T> x) {
+// The large reduction, its index rounded to the steps of the table. A tie goes to the side of the remainder.
+template <class T> LUM_INLINE Reduced<T> ReduceLargeToTable(Vec<T> x) {
   using C = TanConstants<T>;
   using U = UnsignedOf<T>;
-  constexpr U steps = U{1} << C::wide_shift;
-  const auto a = ReduceWide(x, sign_of(x));
+  constexpr U steps = U{1} << C::large_shift;
+  const auto a = ReduceLarge(x, sign_of(x));
   const auto negative = shift_right_arithmetic<8 * sizeof(T) - 1>(bits(a.hi));  // -1 or 0
   const auto rounded = a.index + all(static_cast<U>(steps / 2)) + negative;
   const auto m = FromInteger(a.index - (rounded & all(static_cast<U>(~(steps - 1)))));
-  const auto product = m * all(C::wide_step);
+  const auto product = m * all(C::large_step);
   const auto r = fast_two_sum(product, a.hi);  // m = 0 is exact, too
-  const auto lo = fma(m, all(C::wide_step_tail), fms(m, all(C::wide_step), product)) + (r.error + a.lo);
-  return {r.sum, lo, shift_right<C::wide_shift>(rounded)};
+  const auto lo = fma(m, all(C::large_step_tail), fms(m, all(C::large_step), product)) + (r.tail + a.lo);
+  return {r.head, lo, shift_right<C::large_shift>(rounded)};
 }
 
 template <class T> LUM_INLINE Vec<T> Entry(const T* table, Vec<UnsignedOf<T>> k) {
@@ -79,16 +79,16 @@ template <class T> LUM_INLINE Vec<T> QuotientWithTails(const Reduced<T>& a, Vec<
   const auto [hi, lo, k] = a;
   const auto t = Entry<T>(TanConstants<T>::table, k), t_tail = Entry<T>(TanConstants<T>::tails, k);
   const auto p = fast_two_sum(hi, c);
-  const auto p_tail = p.error + lo;
-  const auto u = fast_two_sum(t, p.sum);
-  const auto u_tail = (u.error + p_tail) + t_tail;
-  const auto product = t * p.sum;
-  const auto product_tail = fma(t, p_tail, fma(t_tail, p.sum, fms(t, p.sum, product)));
+  const auto p_tail = p.tail + lo;
+  const auto u = fast_two_sum(t, p.head);
+  const auto u_tail = (u.tail + p_tail) + t_tail;
+  const auto product = t * p.head;
+  const auto product_tail = fma(t, p_tail, fma(t_tail, p.head, fms(t, p.head, product)));
   const auto d = two_sum(all(T{1}), negate(product));
-  const auto d_tail = d.error - product_tail;
-  const auto w = Reciprocal(d.sum);
-  const auto q = w * u.sum;
-  const auto z = fma(q, d_tail, fms(d.sum, q, u.sum)) - u_tail;
+  const auto d_tail = d.tail - product_tail;
+  const auto w = Reciprocal(d.head);
+  const auto q = w * u.head;
+  const auto z = fma(q, d_tail, fms(d.head, q, u.head)) - u_tail;
   return fnma(w, z, q);
 }
 
@@ -100,11 +100,11 @@ template <class Tier, class T> struct Tangent : Kernel<T> {
   }
   static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) {
     const auto ordinary = Tier::Reduce(x);
-    auto wide = ReduceWideToTable(x);
-    if constexpr (!Tier::has_tails) wide = {wide.hi + wide.lo, wide.lo, wide.k};
+    auto large = ReduceLargeToTable(x);
+    if constexpr (!Tier::has_tails) large = {large.hi + large.lo, large.lo, large.k};
     const auto at = lanes.refused;
-    const Reduced<T> merged{select(at, wide.hi, ordinary.hi), select(at, wide.lo, ordinary.lo),
-                            select(mask_cast<UnsignedOf<T>>(at), wide.k, ordinary.k)};
+    const Reduced<T> merged{select(at, large.hi, ordinary.hi), select(at, large.lo, ordinary.lo),
+                            select(mask_cast<UnsignedOf<T>>(at), large.k, ordinary.k)};
     return {SelectNonFinite(x, Tier::Evaluate(merged)), mask_of<T>(0), {.domain = fpclass<classes::infinity>(x)}};
   }
   static LumStatus LaneRoutine(T x, T& result) { return CircularOfNonFinite(x, result); }

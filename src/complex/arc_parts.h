@@ -17,7 +17,7 @@ enum class Arc { cosine, sine };
 
 template <Arc arc> LUM_INLINE AngleAndLogarithm InverseParts(Vec<Lum64f> u, Vec<Lum64f> v) {
   const auto one = all(1.0);
-  const auto a = ExactSum(u, negate(one)), b = ExactSum(u, one);
+  const auto a = two_sum(u, negate(one)), b = two_sum(u, one);
   const auto v2 = ExactSquare(v);
   const auto r = SquareRoot(Add(Square(b), v2)), s = SquareRoot(Add(Square(a), v2));
   const auto near = Quotient(v2, Add(r, b));                         // r - b

@@ -15,7 +15,7 @@ struct AtanhValue {
 LUM_INLINE AtanhValue AtanhParts(Vec<Lum64f> x, Vec<Lum64f> y) {
   const auto one = all(1.0);
   const auto ax = abs(x), ay = abs(y);
-  const auto below = ExactSum(one, negate(ax)), above = ExactSum(one, ax);
+  const auto below = two_sum(one, negate(ax)), above = two_sum(one, ax);
   const auto y2 = ExactSquare(y);
   const auto q = Add(Square(below), y2);
   const auto ratio = Quotient({all(4.0) * ax, all(0.0)}, q);

@@ -64,7 +64,7 @@ struct A53_64fc : Quotient<Lum64fc> {
   static LUM_STAGE HeadTail SumOfProducts(VecIn<Lum64f> a, VecIn<Lum64f> c, VecIn<Lum64f> b, VecIn<Lum64f> d) {
     const auto first = a * c, second = b * d;
     const auto sum = two_sum(first, second);
-    return {sum.sum, sum.error + (fms(a, c, first) + fms(b, d, second))};
+    return {sum.head, sum.tail + (fms(a, c, first) + fms(b, d, second))};
   }
   // numerator / denominator, r being near the reciprocal of the denominator.
   static LUM_STAGE Vec<Lum64f> Ratio(const HeadTail& numerator, const HeadTail& denominator, VecIn<Lum64f> r) {

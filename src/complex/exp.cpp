@@ -190,8 +190,8 @@ struct A53_64fc : Kernel<Lum64fc> {
 
   static LUM_INLINE Vec<Lum64f> Product(const Exponential& e, const HeadTail& factor) {
     const auto f = fast_two_sum(factor.head, fma(factor.head + factor.tail, e.excess, factor.tail));
-    const auto product = e.power * f.sum;
-    const auto rest = fma(e.power, f.error, fms(e.power, f.sum, product));
+    const auto product = e.power * f.head;
+    const auto rest = fma(e.power, f.tail, fms(e.power, f.head, product));
     return add(ne(product, all(0.0)), product, rest);  // below the range the rest is a zero of any sign
   }
 

@@ -15,7 +15,7 @@ struct LogarithmValue {
 };
 LUM_INLINE LogarithmValue LogarithmParts(ComplexVec<Lum64f> z) {
   const auto ax = abs(z.re), ay = abs(z.im);
-  const auto square = Add(ExactProduct(ax, ax), ExactProduct(ay, ay));
+  const auto square = Add(two_product(ax, ax), two_product(ay, ay));
   const auto modulus = Scaled(Logarithm(square), 0.5);
   const auto angle = Angle({ay, all(0.0)}, {z.re, all(0.0)});
   // Off the circle the core's square is rounded; near it, its difference from 1 is nearly exact.

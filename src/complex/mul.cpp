@@ -119,7 +119,7 @@ template <bool by_conjugate> struct A53_64fc : Product<Lum64fc, by_conjugate> {
     const auto w_im = f.w_im ^ load(by_conjugate ? odd_signs : even_signs);
     const auto first = f.z * f.w_re, second = f.z_swapped * w_im;
     const auto sum = two_sum(first, second);
-    return sum.sum + (sum.error + (fms(f.z, f.w_re, first) + fms(f.z_swapped, w_im, second)));
+    return sum.head + (sum.tail + (fms(f.z, f.w_re, first) + fms(f.z_swapped, w_im, second)));
   }
   static LUM_INLINE Lanes<Lum64fc, ComponentMask<Lum64f>> VectorPath(Interleaved<Lum64f> z, Interleaved<Lum64f> w) {
     return {{HalfOf(z.low, w.low), HalfOf(z.high, w.high)}, {IsFar(z.low) | IsFar(w.low), IsFar(z.high) | IsFar(w.high)}};

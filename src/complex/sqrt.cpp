@@ -3,6 +3,7 @@
 // parts, or in A24 by binary64. The highest tag of 64fc has the bits of the scalar core.
 #include "complex/core_kernel.h"
 #include "frame/kernels.h"
+#include "frame/lane_format.h"
 #include "roots/coupled_root.h"
 
 namespace lum::inline LUM_LAYER {
@@ -25,15 +26,8 @@ template <class T> LUM_INLINE Mask<T> NotNormal(ComplexVec<T> z) {
          fpclass<classes::nonfinite | classes::zero | classes::denormal>(z.im);
 }
 
-template <class T> struct ExponentField;
-template <> struct ExponentField<Lum32f> {
-  static constexpr int fraction_bits = 23;
-  static constexpr int32_t bias = 127, far = 18;
-};
-template <> struct ExponentField<Lum64f> {
-  static constexpr int fraction_bits = 52;
-  static constexpr int64_t bias = 1023, far = 32;
-};
+// Half exponents further apart than this leave the smaller square without weight.
+template <class T> inline constexpr SignedOf<T> far = sizeof(T) == 4 ? 18 : 32;
 
 // |x| and |y| times 4^-h, h being half the exponent of the larger, or so near it that both squares are in range. A part so much
 // smaller that its square cannot count is zero.
@@ -43,19 +37,19 @@ template <class T> struct ScaledParts {
 };
 
 template <class T> LUM_INLINE Vec<T> PowerOfTwo(Vec<SignedOf<T>> e) {
-  using F = ExponentField<T>;
-  return as_float(shift_left<F::fraction_bits>(e + all(F::bias)));
+  using F = lane::Format<T>;
+  return as_float(shift_left<F::fraction_bits>(e + all(SignedOf<T>{F::bias})));
 }
 
 template <class T> LUM_INLINE ScaledParts<T> Scale(Vec<T> x, Vec<T> y) {
-  using F = ExponentField<T>;
+  using F = lane::Format<T>;
   const auto half_exponent = [](Vec<T> part) __attribute__((always_inline)) {
-    const auto from_one = as_signed(bits(part)) - all(static_cast<SignedOf<T>>(F::bias << F::fraction_bits));
+    const auto from_one = as_signed(bits(part)) - all(static_cast<SignedOf<T>>(SignedOf<T>{F::bias} << F::fraction_bits));
     return shift_right_arithmetic<F::fraction_bits + 1>(from_one);
   };
   const auto hx = half_exponent(x), hy = half_exponent(y);
   const auto d = hx - hy;
-  const auto x_counts = lt(all(static_cast<SignedOf<T>>(-F::far)), d), y_counts = lt(d, all(F::far));
+  const auto x_counts = lt(all(static_cast<SignedOf<T>>(-far<T>)), d), y_counts = lt(d, all(far<T>));
   const auto h = select(x_counts, hx, hy);
   const auto power = PowerOfTwo<T>(all(SignedOf<T>{0}) - (h + h));
   return {zero_unless(mask_cast<T>(x_counts), x * power), zero_unless(mask_cast<T>(y_counts), y * power), h};
@@ -134,7 +128,7 @@ struct A24_32fc : SqrtKernel<Lum32fc> {
 struct SqrtPath {
   static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z) {
     const auto ax = abs(z.re), ay = abs(z.im);
-    const auto modulus = SquareRoot(Add(ExactProduct(ax, ax), ExactProduct(ay, ay)));
+    const auto modulus = SquareRoot(Add(two_product(ax, ax), two_product(ay, ay)));
     const auto large = SquareRoot(Scaled(Add(modulus, ax), 0.5));
     const auto small = Quotient({ay * all(0.5), all(0.0)}, large);
     const auto is_left = lt(z.re, all(0.0));

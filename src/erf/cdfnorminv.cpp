@@ -26,9 +26,9 @@ template <class T> LumStatus FinishRefused(T x, T& result) {
     result = 0;
   } else {
     const double p = x;
-    const DoubleWord y = ErfcInvOfTail(2 * (p < 0.5 ? p : 1 - p));
-    const double head = y.hi * minus_root2;
-    const double rest = scalar_fma(y.hi, minus_root2, -head) + (y.hi * minus_root2_rest + y.lo * minus_root2);
+    const TwoParts<double> y = ErfcInvOfTail(2 * (p < 0.5 ? p : 1 - p));
+    const double head = y.head * minus_root2;
+    const double rest = scalar_fma(y.head, minus_root2, -head) + (y.head * minus_root2_rest + y.tail * minus_root2);
     result = static_cast<T>(p < 0.5 ? head + rest : -(head + rest));
   }
   return lumStsOk;

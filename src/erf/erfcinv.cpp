@@ -22,7 +22,7 @@ template <class T> LumStatus FinishRefused(T x, T& result) {
     result = 0;
   } else {
     const double q = x;
-    result = static_cast<T>(q < 1 ? ErfcInvOfTail(q).hi : -ErfcInvOfTail(2 - q).hi);
+    result = static_cast<T>(q < 1 ? ErfcInvOfTail(q).head : -ErfcInvOfTail(2 - q).head);
   }
   return lumStsOk;
 }

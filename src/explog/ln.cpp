@@ -13,20 +13,8 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
-struct Float : Kernel<Lum32f> {
-  static constexpr bool second_is_short = true;
-  static LUM_INLINE Finished<Lum32f> SecondPath(Vec<Lum32f> x, const Lanes<Lum32f>& lanes) {
-    return LogarithmOfSpecial(x, lanes);
-  }
-  static LumStatus LaneRoutine(Lum32f x, Lum32f& result) { return LnRoutine(x, result); }
-};
-struct Double : Kernel<Lum64f> {
-  static constexpr bool second_is_short = true;
-  static LUM_INLINE Finished<Lum64f> SecondPath(Vec<Lum64f> x, const Lanes<Lum64f>& lanes) {
-    return LogarithmOfSpecial(x, lanes);
-  }
-  static LumStatus LaneRoutine(Lum64f x, Lum64f& result) { return LnRoutine(x, result); }
-};
+using Float = LogarithmKernel<Lum32f, LnRoutine<Lum32f>>;
+using Double = LogarithmKernel<Lum64f, LnRoutine<Lum64f>>;
 
 struct A11_32f : Float {
   static constexpr auto columns = by_columns<3>(table32({

@@ -89,7 +89,7 @@ template <int fraction_bits, class T> LUM_INLINE Reciprocal<T> TakeReciprocal(Ve
 }
 
 // The reduced argument r and what its sum has lost.
-template <class T> LUM_INLINE Sum<T> ReduceInTwoParts(const Reciprocal<T>& a) {
+template <class T> LUM_INLINE TwoParts<Vec<T>> ReduceInTwoParts(const Reciprocal<T>& a) {
   const auto r0 = fms(a.w, a.m, all(T(1)));
   const auto c = a.c * a.w;
   const auto r = r0 + c;
@@ -114,8 +114,8 @@ struct A24_32f : Log1p<Lum32f> {
     const auto r = ReduceInTwoParts(a);
     const auto hi = fma(k, all(numbers::ln2_short<Lum32f>), permute2(load<Lum32f>(pairs), load(pairs + 16), a.j));
     const auto lo = fma(k, all(numbers::ln2_short_tail<Lum32f>), permute2(load(pairs + 32), load(pairs + 48), a.j));
-    const auto p = horner(r.sum, explog::log1p_A24);
-    return JoinPairs(x, hi, lo + r.error, r.sum, p);
+    const auto p = horner(r.head, explog::log1p_A24);
+    return JoinPairs(x, hi, lo + r.tail, r.head, p);
   }
 };
 
@@ -170,7 +170,7 @@ struct A53_64f : Log1p<Lum64f> {
     const auto r = ReduceInTwoParts(a);
     const auto hi = fma(e, all(numbers::ln2_short<Lum64f>), permute2(load<Lum64f>(pairs), load(pairs + 8), a.j));
     const auto lo = fma(e, all(numbers::ln2_rest<Lum64f>), permute2(load(pairs + 16), load(pairs + 24), a.j));
-    return JoinPairs(x, hi, lo + r.error, r.sum, LongPolynomial(r.sum));
+    return JoinPairs(x, hi, lo + r.tail, r.head, LongPolynomial(r.head));
   }
 };
 

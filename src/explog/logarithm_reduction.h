@@ -26,6 +26,13 @@ template <Floating T> LUM_INLINE Finished<T> LogarithmOfSpecial(Vec<T> x, const 
   return {value, lanes.refused & ~(zero | negative | itself), {.domain = negative, .singularity = zero}};
 }
 
+// What the kernels of Ln and Log10 have beside their vector paths.
+template <class T, LumStatus (*routine)(T, T&)> struct LogarithmKernel : Kernel<T> {
+  static constexpr bool second_is_short = true;
+  static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) { return LogarithmOfSpecial(x, lanes); }
+  static LumStatus LaneRoutine(T x, T& result) { return routine(x, result); }
+};
+
 // log(m) / r of m = 1 + r in [3/4, 3/2), by a polynomial of its own for each of sixteen segments. They have no constant term,
 // so log(1) is +0. The columns hold their coefficients, 16 entries each, the highest power first.
 template <int degree> LUM_INLINE Vec<Lum32f> SegmentPolynomial(Vec<Lum32f> m, Vec<Lum32f> r, const Lum32f* columns) {
@@ -49,7 +56,7 @@ struct ReciprocalReduction {
   Vec<uint64_t> j;  // in the low bits: the row of c in the tables of 2^(fraction_bits - 1) rows
 };
 template <int fraction_bits> LUM_INLINE ReciprocalReduction ReduceByReciprocal(Vec<Lum64f> x) {
-  constexpr auto shifter = rounding_shifter<Lum64f>(fraction_bits);
+  constexpr auto shifter = rounding_shifter<Lum64f>() / (1 << fraction_bits);  // the last bit is worth that of c
   const auto m = getmant<significand::from_1_to_2 | significand::nan_if_negative>(x);
   const auto t = rcp14(m) + all(shifter);  // rounds to nearest; the low bits are c, less its top bit the row
   const auto c = t - all(shifter);         // in [1/2, 1]; below 3/4 doubled, in effect

@@ -36,7 +36,7 @@ template <class T, class Positive> LumStatus LogarithmRoutine(T x, T& result, Po
 
 // The sum with a significand of [1, 2) has its last place worth 1/64: 64 times that number in its low seven bits, less the 64
 // that the low bits of the shifter take off.
-template <class T> inline constexpr T index_shifter = (sizeof(T) == 4 ? T(0x1p17) : T(0x1p46)) + 1;
+template <class T> inline constexpr T shifter_to_index = (sizeof(T) == 4 ? T(0x1p17) : T(0x1p46)) + 1;
 
 // ln x = hi + lo + ln(1 + v + w) of a positive finite x, w small against v and the first sum exact. With x = 2^e m and a short
 // reciprocal c of m to six bits:  hi + lo = e ln 2 - ln c,  v + w = c m - 1, below 2^-6.6.
@@ -56,7 +56,7 @@ inline LnParts SplitLn(double x) {
   e += static_cast<double>(static_cast<int64_t>(word >> 52) - 1023);
   const auto m = std::bit_cast<double>((word & 0x000FFFFFFFFFFFFF) | 0x3FF0000000000000);
 
-  const size_t i = std::bit_cast<uint64_t>(m + index_shifter<Lum64f>) & 0x7F;
+  const size_t i = std::bit_cast<uint64_t>(m + shifter_to_index<Lum64f>) & 0x7F;
   const double c = table[3 * i], hi = table[3 * i + 1], lo = table[3 * i + 2];
   const double ln2_hi = table[3 * 64 + 1], ln2_lo = table[3 * 64 + 2];
 
@@ -85,7 +85,7 @@ template <> struct Log10Constants<Lum32f> {
   });
   static constexpr auto denormal_scale = 0x1p40f;
   static constexpr float denormal_exponent = -40;
-  static constexpr auto index_shifter = index_shifter<Lum32f>;
+  static constexpr auto index_shifter = shifter_to_index<Lum32f>;
   static constexpr auto head_shifter = 0x1p13f;  // ten fraction bits
   static constexpr auto scale = numbers::log10_e_short<Lum32f>;
   static constexpr uint32_t short_mask = 0xFFFFC000;
@@ -97,7 +97,7 @@ template <> struct Log10Constants<Lum64f> {
   });
   static constexpr auto denormal_scale = 0x1p60;
   static constexpr double denormal_exponent = -60;
-  static constexpr auto index_shifter = index_shifter<Lum64f>;
+  static constexpr auto index_shifter = shifter_to_index<Lum64f>;
   static constexpr auto head_shifter = 0x1p23;  // 29 fraction bits
   static constexpr auto scale = numbers::log10_e_short<Lum64f>;
   static constexpr uint64_t short_mask = 0xFFFFFFFFFFFFFF00;

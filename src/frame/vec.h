@@ -20,7 +20,7 @@
 //   lookup       permute(table, index)  permute2(low, high, index)
 //                gather(base, index)  gather(mask, base, index, old)  gather_rows(base, index)
 //   moves        deinterleave(a, b)  interleave(even, odd)  swap_pairs(v)  duplicate_even(v)  duplicate_odd(v)
-//   formulas     horner(x, c0, c1, ...)  horner(x, polynomial)  two_sum(a, b)  fast_two_sum(a, b)
+//   formulas     horner(x, c0, c1, ...)  horner(x, polynomial)  two_sum  fast_two_sum  two_product(a, b)
 //
 // R is the rounding: rn (to nearest even, the default), rd, ru, rz. No operation raises a floating-point flag that a caller
 // sees.

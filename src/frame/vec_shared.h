@@ -6,6 +6,7 @@
 
 #include "frame/literals.h"
 #include "frame/polynomial.h"
+#include "frame/two_parts.h"
 
 namespace lum {
 inline namespace LUM_LAYER {
@@ -68,17 +69,21 @@ template <Floating T, size_t n> LUM_INLINE Vec<T> horner(VecIn<T> x, const T (&c
   (std::make_index_sequence<n>());
 }
 
-// a + b = sum + error exactly, for any two finite numbers without overflow.
-template <Floating T> struct Sum { Vec<T> sum, error; };
-template <Floating T> LUM_INLINE Sum<T> two_sum(Vec<T> a, Vec<T> b) {
+// a + b exactly, for any two finite numbers without overflow.
+template <Floating T> LUM_INLINE TwoParts<Vec<T>> two_sum(Vec<T> a, Vec<T> b) {
   const auto s = a + b;
   const auto b_part = s - a;
   return {s, (a - (s - b_part)) + (b - b_part)};
 }
-// The same for |a| >= |b|.
-template <Floating T> LUM_INLINE Sum<T> fast_two_sum(Vec<T> a, Vec<T> b) {
+// a + b exactly, for |a| >= |b| or a = 0.
+template <Floating T> LUM_INLINE TwoParts<Vec<T>> fast_two_sum(Vec<T> a, Vec<T> b) {
   const auto s = a + b;
   return {s, b - (s - a)};
+}
+// a b exactly, for products that neither overflow nor come near the smallest numbers.
+template <Floating T> LUM_INLINE TwoParts<Vec<T>> two_product(Vec<T> a, Vec<T> b) {
+  const auto product = a * b;
+  return {product, fms(a, b, product)};
 }
 
 }  // namespace LUM_LAYER

@@ -105,10 +105,10 @@ template <class T> struct High : Routine<T> {
   static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) {
     const auto s = SidesOf(x);
     const auto r = two_sum(s.p.r, negate(s.q.r));
-    const auto head = two_sum(DifferenceHi(s), r.sum);
+    const auto head = two_sum(DifferenceHi(s), r.head);
     const auto p_rest = fma(s.p.r * s.p.r, LogRatio(s.p.r), DifferenceLo(s));
     const auto rest = fnma(s.q.r * s.q.r, LogRatio(s.q.r), p_rest);
-    return Finish(x, s, head.sum + (head.error + (r.error + rest)));
+    return Finish(x, s, head.head + (head.tail + (r.tail + rest)));
   }
 };
 

@@ -8,9 +8,9 @@
 
 #include "explog/polynomials.h"
 #include "frame/constant.h"
-#include "frame/double_word.h"
 #include "frame/literals.h"
 #include "frame/numbers.h"
+#include "frame/two_parts.h"
 #include "frame/types.h"
 #include "hyperbolic/polynomials.h"
 #include "tables/table.h"
@@ -49,29 +49,29 @@ inline double HalfExponential(double m) {
 
 // With m = n ln 2 + q:  2^(n-1) + 2^(-n-1), the difference of the two, and q.
 struct SumAndDifference {
-  DoubleWord sum, difference;
+  TwoParts<double> sum, difference;
   double q;
 };
 inline SumAndDifference HalfPowers(double m) {
   const auto [count, q] = ReduceBySixtyFourths(m);
   const auto i = static_cast<size_t>(count & 63);
   const double up = PowerOfTwo((count >> 6) - 1), down = PowerOfTwo(-(count >> 6) - 2);
-  const DoubleWord plus{exp2_64_split[2 * i] * up, exp2_64_split[2 * i + 1] * up};
-  const DoubleWord minus{exp2_64_split[2 * (64 - i)] * down, exp2_64_split[2 * (64 - i) + 1] * down};
-  const DoubleWord sum = ExactSum(plus.hi, minus.hi);
-  const DoubleWord difference = ExactSum(plus.hi, -minus.hi);
-  return {{sum.hi, sum.lo + (plus.lo + minus.lo)}, {difference.hi, difference.lo + (plus.lo - minus.lo)}, q};
+  const TwoParts<double> plus{exp2_64_split[2 * i] * up, exp2_64_split[2 * i + 1] * up};
+  const TwoParts<double> minus{exp2_64_split[2 * (64 - i)] * down, exp2_64_split[2 * (64 - i) + 1] * down};
+  const TwoParts<double> sum = two_sum(plus.head, minus.head);
+  const TwoParts<double> difference = two_sum(plus.head, -minus.head);
+  return {{sum.head, sum.tail + (plus.tail + minus.tail)}, {difference.head, difference.tail + (plus.tail - minus.tail)}, q};
 }
 
 // base cosh q + factor sinh q for |q| up to ln(2)/128.
-inline double Turn(const DoubleWord& base, const DoubleWord& factor, double q) {
+inline double Turn(const TwoParts<double>& base, const TwoParts<double>& factor, double q) {
   const double q2 = q * q;
   const double sinh_rest = q * (q2 * (1.0 / 6 + q2 * (1.0 / 120)));
   const double cosh_rest = q2 * (0.5 + q2 * (1.0 / 24 + q2 * (1.0 / 720)));
-  const DoubleWord product = ExactProduct(factor.hi, q);
-  const DoubleWord head = ExactSum(base.hi, product.hi);
-  const double rest = (factor.hi * sinh_rest + base.hi * cosh_rest) + (factor.lo * q + base.lo);
-  return head.hi + (head.lo + (product.lo + rest));
+  const TwoParts<double> product = two_product(factor.head, q);
+  const TwoParts<double> head = two_sum(base.head, product.head);
+  const double rest = (factor.head * sinh_rest + base.head * cosh_rest) + (factor.tail * q + base.tail);
+  return head.head + (head.tail + (product.tail + rest));
 }
 
 // From here on e^-m is below half a unit of the last place.

@@ -65,7 +65,7 @@ template <bool compensated, class T> LUM_INLINE Vec<T> LongLogarithm(Vec<T> head
   const auto p = fma(LogRatio(r), r * r, low);
   if constexpr (compensated) {
     const auto s = fast_two_sum(t, r);
-    return s.sum + (s.error + p);
+    return s.head + (s.tail + p);
   } else {
     return t + (r + p);
   }

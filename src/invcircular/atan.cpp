@@ -104,8 +104,8 @@ template <class T> struct High : TableTier<T> {
     const auto base_tail = select(u.large, all(numbers::pi_tail<T> / 2), Lookup(G::tail, u.sum));
     const auto head = fast_two_sum(base, t);
     const auto s = t * t;
-    const auto low = fma(t * s, Cubic(s), (base_tail + t_error) + head.error);
-    return xor_sign(x, head.sum + low);
+    const auto low = fma(t * s, Cubic(s), (base_tail + t_error) + head.tail);
+    return xor_sign(x, head.head + low);
   }
 };
 

@@ -144,7 +144,7 @@ template <class T, SignedOf<T> low, SignedOf<T> high> struct High {
     const auto s = t * t;
     const auto low_part = fma(t * s, IntervalPolynomial(s), t_error);
     const auto head = fast_two_sum(Lookup(tables.head, i), xor_sign(x, t));
-    const auto r = head.sum + (head.error + (Lookup(tables.tail, i) + xor_sign(x, low_part)));
+    const auto r = head.head + (head.tail + (Lookup(tables.tail, i) + xor_sign(x, low_part)));
     return {or_sign(y, r), IsSpecial<T, low, high>(ay, ax)};
   }
 };

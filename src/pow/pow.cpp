@@ -76,14 +76,12 @@ template <int row_bits, class T> LUM_INLINE Vec<UnsignedOf<T>> RowOf(Vec<T> c) {
   return shift_right<PowConstants<T>::fraction_bits - row_bits>(bits(c));
 }
 
-template <class T> struct LogRow { Vec<T> hi, lo; };
-
-LUM_INLINE LogRow<Lum32f> PairOf(Vec<Lum32f> c) {
+LUM_INLINE TwoParts<Vec<Lum32f>> PairOf(Vec<Lum32f> c) {
   const Lum32f* pairs = PowConstants<Lum32f>::pairs_32;
   const auto j = RowOf<5>(c);
   return {permute2(load(pairs), load(pairs + 16), j), permute2(load(pairs + 32), load(pairs + 48), j)};
 }
-LUM_INLINE LogRow<Lum64f> PairOf(Vec<Lum64f> c) {
+LUM_INLINE TwoParts<Vec<Lum64f>> PairOf(Vec<Lum64f> c) {
   const Lum64f* pairs = PowConstants<Lum64f>::pairs_32;
   const auto j = RowOf<5>(c);
   const auto first_half = mask_cast<Lum64f>(test_none(bits(c), all(uint64_t{0x0008000000000000})));
@@ -176,10 +174,10 @@ struct A21_32f : PowKernel<Lum32f> {
     const auto r = fms(m, c, all(1.0f));
     const auto row = PairOf(c);
     const auto k = all(numbers::log2_e<Lum32f>);
-    const auto b = row.hi + e;
+    const auto b = row.head + e;
     const auto s = fma(k, r, b);
     const auto s_error = fms(k, r, s - b);
-    const auto q = fma(horner(r, pow::log2_A21), r, row.lo);
+    const auto q = fma(horner(r, pow::log2_A21), r, row.tail);
     const auto product = MultiplyPair(s, q, s_error, y);
     const auto a = SplitExponent<4>(product, C::exp_shifter_16);
     const auto head = permute(load<Lum32f>(C::exp_head), a.n);
@@ -206,8 +204,8 @@ struct A24_32f : PowKernel<Lum32f> {
     const auto r = fms(m, c, all(1.0f));
     const auto row = PairOf(c);
     const auto c2 = -numbers::log2_e<Lum32f> / 2;
-    const auto terms = SumExactTerms(r, row.hi + e, numbers::log2_e<Lum32f>, c2);
-    const auto q = fma(horner(r, pow::log2_A24), r, fma(all(c2), terms.r2_error, row.lo));
+    const auto terms = SumExactTerms(r, row.head + e, numbers::log2_e<Lum32f>, c2);
+    const auto q = fma(horner(r, pow::log2_A24), r, fma(all(c2), terms.r2_error, row.tail));
     const auto product = MultiplyPair(terms.sum, q, terms.errors, y);
     const auto a = SplitExponent<5>(product, C::exp_shifter_32);
     const auto head = permute2(load<Lum32f>(exp_head_32), load(exp_head_32 + 16), a.n);
@@ -245,8 +243,8 @@ struct A50_64f : PowKernel<Lum64f> {
     const auto r = fms(m, c, all(1.0));
     const auto row = PairOf(c);
     const auto c2 = -numbers::log2_e<Lum64f> / 2;
-    const auto terms = SumExactTerms(r, row.hi + e, numbers::log2_e<Lum64f>, c2);
-    const auto q = fma(horner(r, pow::log2_A50), r, fma(all(c2), terms.r2_error, row.lo));
+    const auto terms = SumExactTerms(r, row.head + e, numbers::log2_e<Lum64f>, c2);
+    const auto q = fma(horner(r, pow::log2_A50), r, fma(all(c2), terms.r2_error, row.tail));
     const auto product = MultiplyPair(terms.sum, q, terms.errors, y);
     const auto a = SplitExponent<4>(product, C::exp_shifter_16);
     const auto head = permute2(load<Lum64f>(C::exp_head), load(C::exp_head + 8), a.n);
@@ -262,14 +260,14 @@ struct A53_64f : PowKernel<Lum64f> {
     const auto row = PairOf(c);
     // The series in v starts with K v - K v^2, so that the second term is -v times the first: one step each, with its error.
     const auto k = all(2 * numbers::log2_e<Lum64f>);
-    const auto b = row.hi + e;
+    const auto b = row.head + e;
     const auto s = fma(k, v, b);
     const auto d = s - b;
     const auto d_error = fms(k, v, d);
     const auto s2 = fnma(v, d, s);
     const auto s2_error = fnms(v, d, s2 - s);
     const auto errors = fnma(v, d_error, d_error) + s2_error;
-    const auto q = fma(horner(v, pow::log2_A53), v, row.lo);
+    const auto q = fma(horner(v, pow::log2_A53), v, row.tail);
     const auto product = MultiplyPair(s2, q, errors, y);
     const auto a = SplitExponent<4>(product, C::exp_shifter_16);
     const auto head = permute2(load<Lum64f>(C::exp_head), load(C::exp_head + 8), a.n);

@@ -11,6 +11,7 @@
 #include "frame/lane_format.h"
 #include "frame/literals.h"
 #include "frame/numbers.h"
+#include "frame/two_parts.h"
 #include "frame/types.h"
 #include "pow/polynomials.h"
 #include "tables/table.h"
@@ -37,7 +38,6 @@ template <> struct PowerConstants<Lum32f> {
   static constexpr uint32_t index_mask[3] = {0x780000, 0x1E0000, 0x7C000};
   static constexpr uint32_t exponent_origin = 0x3F380000;
   static constexpr auto scale = numbers::log2_e_short<Lum32f>;
-  static constexpr auto splitter = 0x1p12f + 1;
   static constexpr auto exp_shifter = rounding_shifter<Lum32f>(7);
   static constexpr int denormal_exponent = 64;
   static constexpr int overflowing_exponents = 265, vanishing_exponents = 193;
@@ -63,7 +63,6 @@ template <> struct PowerConstants<Lum64f> {
   static constexpr uint64_t index_mask[3] = {0x000FC00000000000, 0x0000FC0000000000, 0x00000FF000000000};
   static constexpr uint64_t exponent_origin = 0x3FE7C00000000000;
   static constexpr auto scale = numbers::log2_e_short<Lum64f>;
-  static constexpr auto splitter = 0x1p27 + 1;
   static constexpr auto exp_shifter = rounding_shifter<Lum64f>(7);
   static constexpr int denormal_exponent = 200;
   static constexpr int overflowing_exponents = 2057, vanishing_exponents = 1985;
@@ -71,9 +70,6 @@ template <> struct PowerConstants<Lum64f> {
   static constexpr auto& log_polynomial = pow::routine_log2_64f;
   static constexpr auto& exp_polynomial = pow::routine_exp2_64f;
 };
-
-// An unevaluated sum, |lo| small against |hi|.
-template <class T> struct ScalarPair { T hi, lo; };
 
 template <class T> struct PowerFormat {
   using Word = std::conditional_t<sizeof(T) == 4, uint32_t, uint64_t>;
@@ -88,12 +84,6 @@ template <class T> struct PowerFormat {
   static int BiasedExponent(T x) { return static_cast<int>(Magnitude(x) >> fraction_bits); }
   // 2^n of a normal result.
   static T PowerOfTwo(int n) { return std::bit_cast<T>(static_cast<Word>(n + bias) << fraction_bits); }
-  // x as two numbers of half as many bits each.
-  static ScalarPair<T> Split(T x) {
-    const T t = PowerConstants<T>::splitter * x;
-    const T head = t - (t - x);
-    return {head, x - head};
-  }
 };
 
 enum class Parity { fractional, odd, even };
@@ -114,7 +104,7 @@ template <class T> Parity ParityOf(T y) {
 // log2 x of a positive finite x = 2^e m: |error| about 2^-40 in binary32, 2^-77 in binary64, and as small relative to a result
 // next to zero. Three short factors bring m to scale (1 + d), scale next to 1/ln 2, so that u = scale d is nearly the logarithm
 // of what is left. Their product is exact, and so is u as a pair.
-template <class T> ScalarPair<T> Log2Pair(T x) {
+template <class T> TwoParts<T> Log2Pair(T x) {
   using F = PowerFormat<T>;
   using C = PowerConstants<T>;
   int exponent_correction = 0;
@@ -139,10 +129,10 @@ template <class T> ScalarPair<T> Log2Pair(T x) {
                      exponent_correction);
 
   const T u0 = z3 - C::scale;  // exact
-  const auto factor = F::Split(row1[0] * row2[0] * row3[0]);
-  const auto [m_head, m_tail] = F::Split(m);
+  const auto factor = split(row1[0] * row2[0] * row3[0]);
+  const auto [m_head, m_tail] = split(m);
   // What the rounded products have lost.
-  const T w = ((m_head * factor.hi - z3) + (m_head * factor.lo + m_tail * factor.hi)) + m_tail * factor.lo;
+  const T w = ((m_head * factor.head - z3) + (m_head * factor.tail + m_tail * factor.head)) + m_tail * factor.tail;
 
   const T a = e + row1[1] + row2[1] + row3[1];  // exact; 0 or larger than u0
   const T s0 = a + u0;
@@ -152,15 +142,15 @@ template <class T> ScalarPair<T> Log2Pair(T x) {
   return {s, u * unfused_horner(u, C::log_polynomial) + (errors + (row1[2] + row2[2] + row3[2]))};
 }
 
-// 2^(p.hi + p.lo) times sign, |p| up to 2^11: one rounding also of a denormal result.
-template <class T> T Exp2Signed(ScalarPair<T> p, T sign) {
+// 2^(p.head + p.tail) times sign, |p| up to 2^11: one rounding also of a denormal result.
+template <class T> T Exp2Signed(TwoParts<T> p, T sign) {
   using F = PowerFormat<T>;
   using C = PowerConstants<T>;
   constexpr T huge = std::numeric_limits<T>::max();
   constexpr T tiny = std::numeric_limits<T>::min();
-  const T shifted = p.hi + C::exp_shifter;
+  const T shifted = p.head + C::exp_shifter;
   const int count = static_cast<int>(static_cast<typename F::Signed>(F::Bits(shifted) - F::Bits(C::exp_shifter)));
-  const T g = (p.hi - (shifted - C::exp_shifter)) + p.lo;
+  const T g = (p.head - (shifted - C::exp_shifter)) + p.tail;
   const T* row = C::exp2 + 2 * (count & 127);
   const int n = count >> 7;
   const T correction = row[0] * (g * unfused_horner(g, C::exp_polynomial)) + row[1];
@@ -175,7 +165,7 @@ template <class T> T Exp2Signed(ScalarPair<T> p, T sign) {
   // Few bits are left: a second rounding does no harm.
   if (exponent < -9) return sign * (v * up) * down;
   // The head is no longer than the result; the rest alone is rounded.
-  const T head = F::Split(v).hi;
+  const T head = split(v).head;
   const T tail = (row[0] - head) + correction;
   return sign * ((head * up) * down + (tail * up) * down);
 }
@@ -185,17 +175,17 @@ template <class T> T PowerMagnitude(T x, T y, T sign) {
   using F = PowerFormat<T>;
   using C = PowerConstants<T>;
   const auto log = Log2Pair(x);
-  const int exponents = F::BiasedExponent(log.hi) + F::BiasedExponent(y);
+  const int exponents = F::BiasedExponent(log.head) + F::BiasedExponent(y);
   if (exponents >= C::overflowing_exponents) {
-    const T h = (log.hi < 0) == (y < 0) ? std::numeric_limits<T>::max() : std::numeric_limits<T>::min();
+    const T h = (log.head < 0) == (y < 0) ? std::numeric_limits<T>::max() : std::numeric_limits<T>::min();
     return sign * h * h;
   }
   if (exponents < C::vanishing_exponents) return sign * (T(1) + std::numeric_limits<T>::min());
 
-  const T h = log.hi + log.lo;
-  const T head = F::Split(h).hi;
-  const T tail = (log.lo - (h - log.hi)) + (h - head);
-  const auto [y_head, y_tail] = F::Split(y);
+  const T h = log.head + log.tail;
+  const T head = split(h).head;
+  const T tail = (log.tail - (h - log.head)) + (h - head);
+  const auto [y_head, y_tail] = split(y);
   const T a = head * y_head;  // exact
   const T b = tail * y + head * y_tail;
   const T p = a + b;

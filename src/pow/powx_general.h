@@ -190,7 +190,7 @@ struct PowxA26_64f : PowxGeneral<Lum64f> {
 
 // ---- Base 2 in binary64: A50 and A53
 
-// H + low = log2 x, H short, low its rest.
+// head + tail = log2 x, the head short.
 struct ShortLog2 {
   Vec<Lum64f> head, tail;
 };

@@ -8,35 +8,27 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
-// c^p of the reciprocals c, and what the rounded entries leave.
-constexpr auto head_32f = table32({
-#include "tables/generated/invcbrt_32_head.inc"
-});
-constexpr auto head_64f = table64({
-#include "tables/generated/invcbrt_64_head.inc"
-});
-constexpr auto tail_32f = table32({
-#include "tables/generated/invcbrt_32_tail.inc"
-});
-constexpr auto tail_64f = table64({
-#include "tables/generated/invcbrt_64_tail.inc"
-});
-
-struct Scheme {
+struct Data {
   static constexpr auto power = Power::minus_one_third;
-  template <class T> static consteval const auto& head() { return of_type<T>(head_32f, head_64f); }
-  template <class T> static consteval const auto& tail() { return of_type<T>(tail_32f, tail_64f); }
-  template <Tier tier> static LUM_INLINE Vec<Lum32f> polynomial(Vec<Lum32f> r) {
-    if constexpr (tier == Tier::low) return horner(r, roots::invcbrt_A11);
-    else if constexpr (tier == Tier::mid) return horner(r, roots::invcbrt_A21);
-    else return horner(r, roots::invcbrt_A24);
-  }
-  template <Tier tier> static LUM_INLINE Vec<Lum64f> polynomial(Vec<Lum64f> r) {
-    const auto square = r * r;
-    if constexpr (tier == Tier::low) return horner_of_pairs(r, square, roots::invcbrt_A26);
-    else return horner_of_pairs(r, square, roots::invcbrt_A50);
-  }
+  static constexpr auto head_32f = table32({
+#include "tables/generated/invcbrt_32_head.inc"
+  });
+  static constexpr auto head_64f = table64({
+#include "tables/generated/invcbrt_64_head.inc"
+  });
+  static constexpr auto tail_32f = table32({
+#include "tables/generated/invcbrt_32_tail.inc"
+  });
+  static constexpr auto tail_64f = table64({
+#include "tables/generated/invcbrt_64_tail.inc"
+  });
+  static constexpr auto& low_32f = roots::invcbrt_A11;
+  static constexpr auto& mid_32f = roots::invcbrt_A21;
+  static constexpr auto& high_32f = roots::invcbrt_A24;
+  static constexpr auto& low_64f = roots::invcbrt_A26;
+  static constexpr auto& high_64f = roots::invcbrt_A50;
 };
+using Scheme = ThirdsScheme<Data>;
 
 template <class T, Tier tier> struct InvCbrtKernel : Kernel<T> {
   static constexpr int vectors = thirds_vectors<T, tier>;

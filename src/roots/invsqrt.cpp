@@ -29,7 +29,7 @@ template <class T> struct InvSqrtKernel : Kernel<T> {
   }
   static constexpr bool second_is_short = true;
   static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) {
-    // Of zeros and infinities the estimate is the result.
+    // For zeros and infinities the estimate is the result.
     const auto value = select(fpclass<classes::zero | classes::infinity>(x), rsqrt14(x), lanes.value);
     return {select(fpclass<classes::negative>(x), all(std::numeric_limits<T>::quiet_NaN()), value),
             mask_of<T>(0),

@@ -8,34 +8,27 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
-// c^p of the reciprocals c, and what the rounded entries leave.
-constexpr auto head_32f = table32({
-#include "tables/generated/pow2o3_32_head.inc"
-});
-constexpr auto head_64f = table64({
-#include "tables/generated/pow2o3_64_head.inc"
-});
-constexpr auto tail_32f = table32({
-#include "tables/generated/pow2o3_32_tail.inc"
-});
-constexpr auto tail_64f = table64({
-#include "tables/generated/pow2o3_64_tail.inc"
-});
-
-struct Scheme {
+struct Data {
   static constexpr auto power = Power::two_thirds;
-  template <class T> static consteval const auto& head() { return of_type<T>(head_32f, head_64f); }
-  template <class T> static consteval const auto& tail() { return of_type<T>(tail_32f, tail_64f); }
-  template <Tier tier> static LUM_INLINE Vec<Lum32f> polynomial(Vec<Lum32f> r) {
-    if constexpr (tier == Tier::low) return horner(r, roots::pow2o3_A11);
-    else return horner(r, roots::pow2o3_A21);
-  }
-  template <Tier tier> static LUM_INLINE Vec<Lum64f> polynomial(Vec<Lum64f> r) {
-    const auto square = r * r;
-    if constexpr (tier == Tier::low) return horner_of_pairs(r, square, roots::pow2o3_A26);
-    else return horner_of_pairs(r, square, roots::pow2o3_A50);
-  }
+  static constexpr auto head_32f = table32({
+#include "tables/generated/pow2o3_32_head.inc"
+  });
+  static constexpr auto head_64f = table64({
+#include "tables/generated/pow2o3_64_head.inc"
+  });
+  static constexpr auto tail_32f = table32({
+#include "tables/generated/pow2o3_32_tail.inc"
+  });
+  static constexpr auto tail_64f = table64({
+#include "tables/generated/pow2o3_64_tail.inc"
+  });
+  static constexpr auto& low_32f = roots::pow2o3_A11;
+  static constexpr auto& mid_32f = roots::pow2o3_A21;
+  static constexpr auto& high_32f = roots::pow2o3_A21;
+  static constexpr auto& low_64f = roots::pow2o3_A26;
+  static constexpr auto& high_64f = roots::pow2o3_A50;
 };
+using Scheme = ThirdsScheme<Data>;
 
 template <class T, Tier tier> struct Pow2o3Kernel : Kernel<T> {
   static constexpr int vectors = thirds_vectors<T, tier>;

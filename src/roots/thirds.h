@@ -107,9 +107,25 @@ LUM_INLINE Vec<T> horner_of_pairs(Vec<T> x, Vec<T> square, const Polynomial<T, n
   }
 }
 
-// The tiers. F gives the power, the tables of c^power as F::head<T>() and F::tail<T>(), and p = ((1 + r)^power - 1) / r as
-// F::polynomial<tier>(r).
 enum class Tier { low, mid, high };
+
+// A power by what its Data hold: the power, the tables of c^power as head and tail of either type, and the polynomials
+// ((1 + r)^power - 1) / r as low_32f, mid_32f, high_32f, low_64f and high_64f, the last of the middle tier, too.
+template <class Data> struct ThirdsScheme {
+  static constexpr auto power = Data::power;
+  template <class T> static consteval const auto& head() { return of_type<T>(Data::head_32f, Data::head_64f); }
+  template <class T> static consteval const auto& tail() { return of_type<T>(Data::tail_32f, Data::tail_64f); }
+  template <Tier tier> static LUM_INLINE Vec<Lum32f> polynomial(Vec<Lum32f> r) {
+    if constexpr (tier == Tier::low) return horner(r, Data::low_32f);
+    else if constexpr (tier == Tier::mid) return horner(r, Data::mid_32f);
+    else return horner(r, Data::high_32f);
+  }
+  template <Tier tier> static LUM_INLINE Vec<Lum64f> polynomial(Vec<Lum64f> r) {
+    const auto square = r * r;
+    if constexpr (tier == Tier::low) return horner_of_pairs(r, square, Data::low_64f);
+    else return horner_of_pairs(r, square, Data::high_64f);
+  }
+};
 
 // Vectors in a block: the constants of the longest path leave registers for one stream alone.
 template <class T, Tier tier> inline constexpr int thirds_vectors = std::is_same_v<T, Lum64f>&& tier == Tier::high ? 1 : 2;

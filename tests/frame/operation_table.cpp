@@ -56,9 +56,9 @@ template <Lane T> void put(Outcome& outcome, Pair<T> pair) {
   write(outcome.vector[0], pair.even);
   write(outcome.vector[1], pair.odd);
 }
-template <Floating T> void put(Outcome& outcome, Sum<T> sum) {
-  write(outcome.vector[0], sum.sum);
-  write(outcome.vector[1], sum.error);
+template <Floating T> void put(Outcome& outcome, TwoParts<Vec<T>> sum) {
+  write(outcome.vector[0], sum.head);
+  write(outcome.vector[1], sum.tail);
 }
 void put(Outcome& outcome, uint32_t bits) { std::memcpy(outcome.vector[0].bytes, &bits, sizeof bits); }
 void put(Outcome& outcome, bool truth) { put(outcome, static_cast<uint32_t>(truth)); }
@@ -168,6 +168,7 @@ template <Floating T> void add_floating(Builder& table) {
   table.add<V>("horner" + t, [](V a) { return horner(a, T(1.25), T(-0.3), T(0.7), T(3)); });
   table.add_arithmetic<V, V>("two_sum" + t, [](V a, V b) { return two_sum(a, b); });
   table.add_arithmetic<V, V>("fast_two_sum" + t, [](V a, V b) { return fast_two_sum(a, b); });
+  table.add_arithmetic<V, V>("two_product" + t, [](V a, V b) { return two_product(a, b); });
   table.add<V, V>("unord" + t, [](V a, V b) { return unord(a, b); });
   table.add<V, V>("deinterleave" + t, [](V a, V b) { return deinterleave(a, b); });
   table.add<V, V>("interleave" + t, [](V a, V b) { return interleave(a, b); });

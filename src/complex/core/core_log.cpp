@@ -1,6 +1,7 @@
 // The natural and the decimal logarithm: ln |z| + i arg z, and that times log10 e.
 #include <algorithm>
 
+#include "complex/core/extended_pair.h"
 #include "complex/core/parts.h"
 
 namespace lum::inline LUM_LAYER {
@@ -10,21 +11,6 @@ Extended Angle(Lum64f y, Lum64f x) {
   Extended angle;
   ExtAtan2(angle, y, x);
   return angle;
-}
-
-// A number as an unevaluated sum.
-struct HeadTail {
-  Extended head, tail;
-};
-
-// The square of a binary64 number, exactly: Dekker's product, from halves of at most 32 bits.
-HeadTail ExactSquare(Extended a) {
-  constexpr Extended splitter = 0x1p33L + 1;
-  const Extended scaled = a * splitter;
-  const Extended high = scaled - (scaled - a);
-  const Extended low = a - high;
-  const Extended square = a * a;
-  return {square, ((high * high - square) + 2 * high * low) + low * low};
 }
 
 // ln |z| of finite parts. Near the unit circle the logarithm is as small as |z|^2 - 1, which is therefore formed exactly.
@@ -37,8 +23,8 @@ Extended LogOfModulus(Lum64f x, Lum64f y) {
     ExtLog(logarithm, square);
     return logarithm / 2;
   }
-  const HeadTail a = ExactSquare(large);
-  const HeadTail b = ExactSquare(small);
+  const ExtendedPair a = two_product(large, large);
+  const ExtendedPair b = two_product(small, small);
   const Extended sum = a.head + b.head;
   const Extended error = b.head - (sum - a.head);  // exact: a.head is the larger
   ExtLog1p(logarithm, (((sum - 1) + error) + a.tail) + b.tail);

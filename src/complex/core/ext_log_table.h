@@ -32,10 +32,10 @@ inline ExtendedPair LogByTable(int n, ExtendedPair m) {
   return {count * ln2_head + row.head, small + r};
 }
 
-// The same of a normal number x.head > 0 and a tail beyond its last place.
+// The logarithm of a normal number x.head > 0 and a tail beyond its last place.
 inline ExtendedPair LogByTable(ExtendedPair x) {
   const int n = exponent_field(x.head) - extended_bias;
-  return LogByTable(n, {significand(x.head), x.tail == 0 ? 0 : x.tail * power_of_two(-n)});
+  return LogByTable(n, {significand_of(x.head), x.tail == 0 ? 0 : x.tail * power_of_two(-n)});
 }
 
 }  // namespace lum::inline LUM_LAYER

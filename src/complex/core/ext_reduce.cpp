@@ -9,8 +9,8 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
-constexpr int direct_limit = 0x401c;      // exponent field of the last direct range, below 2^30
-constexpr int three_part_limit = 0x400f;  // below 2^17: k has 18 bits
+constexpr int direct_limit = field_of(29);      // exponent field of the last direct range, below 2^30
+constexpr int three_part_limit = field_of(16);  // below 2^17: k has 18 bits
 
 constexpr Extended four_over_pi = 1.2732395447351628;
 // pi/4 as sums.
@@ -73,9 +73,9 @@ struct Accumulator {
 
 // x times 4/pi modulo 8, x > 0.
 Accumulator OctantsOf(Extended x, int exponent) {
-  // Of a wider format the tail reaches further down and remainders are smaller: the pieces start earlier and end later.
+  // In a wider format the tail reaches further down and remainders are smaller: the pieces start earlier and end later.
   constexpr int further = (extended_digits - 64 + 30) / 31;
-  const int beyond = exponent > 0x4021 ? exponent - 0x4021 : 0;
+  const int beyond = exponent > field_of(34) ? exponent - field_of(34) : 0;
   const int row = (beyond * 0x4211) >> 19;  // beyond / 31
   const int last = row + (beyond - 31 * row >= 17 ? 8 : 7) + further;
   const Extended scaled = x * constant_power_of_two(-217);

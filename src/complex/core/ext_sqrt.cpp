@@ -26,7 +26,7 @@ Extended Root(const Extended& x, int step) {
   // The significand rounded to eight fractional bits; past the end it falls on the first row of the other half.
   const size_t nearest = static_cast<size_t>(((fields(x).significand >> 54) + 1) >> 1) - 256;
   const Extended g = seeds.entries[nearest + (odd != 0 ? 256 : 0)];
-  const Extended m = significand(x), t = odd != 0 ? 2 * m : m;
+  const Extended m = significand_of(x), t = odd != 0 ? 2 * m : m;
   const ExtendedPair parts = SplitForSeed(t);
   const Extended w = (g * g * parts.head - 1) + g * g * parts.tail;  // exact but for the last product and sum
   Extended p = 0;

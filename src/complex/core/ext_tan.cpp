@@ -25,7 +25,7 @@ ExtendedPair ShortTangent(const ExtendedPair& x) { return odd_sum(x, ratio(1, 3)
 // r - k pi/64. The first product is exact, and so is its difference from r, which lies between its neighbours.
 ExtendedPair SubtractAngle(const ExtendedPair& r, int k) {
   const Extended rest = r.head - k * (numbers::quarter_pi_pair<double>[0] / 16);
-  const ExtendedPair sum = two_sum(rest, -(k * (numbers::quarter_pi_pair<double>[1] / 16)));
+  const ExtendedPair sum = two_sum(rest, Extended{-(k * (numbers::quarter_pi_pair<double>[1] / 16))});
   return {sum.head, sum.tail + r.tail};
 }
 
@@ -49,10 +49,10 @@ Extended TanByTable(const Extended& x) {
 
 Extended TanOf(const Extended& x) {
   const int exponent = exponent_field(x);
-  if (exponent < 0x3fb4) return inexact_identity(x);
-  if (exponent <= 0x3feb) return odd_series<1>(series, x);
-  if (exponent <= 0x3ff2) return odd_series<2>(series, x);
-  if (exponent <= 0x3ff4) return odd_series<3>(series, x);
+  if (exponent < field_of(-75)) return inexact_identity(x);
+  if (exponent <= field_of(-20)) return odd_series<1>(series, x);
+  if (exponent <= field_of(-13)) return odd_series<2>(series, x);
+  if (exponent <= field_of(-11)) return odd_series<3>(series, x);
   if (exponent == extended_special) return x - x;
   return TanByTable(x);
 }

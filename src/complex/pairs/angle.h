@@ -24,8 +24,8 @@ LUM_INLINE HeadTail Angle(HeadTail y, HeadTail x) {
   const auto t = fma(ratio, all(128.0), all(shifter));
   const auto c = (t - all(shifter)) * all(0x1p-7);
 
-  const auto back = ExactProduct(c, l.head);
-  const auto numerator = ExactSum(s.head - back.head, fnma(c, l.tail, s.tail) - back.tail);  // the first difference is exact
+  const auto back = two_product(c, l.head);
+  const auto numerator = two_sum(s.head - back.head, fnma(c, l.tail, s.tail) - back.tail);  // the first difference is exact
   const auto denominator = fma(c, s.head, l.head);
   const auto rest = fma(c, s.tail, l.tail) + fma(c, s.head, l.head - denominator);
   auto u = Quotient(numerator, {denominator, rest});
@@ -40,8 +40,8 @@ LUM_INLINE HeadTail Angle(HeadTail y, HeadTail x) {
   const auto row = select(mask_cast<uint64_t>(falls), start - k, start + k);
   const auto head = gather<Lum64f>(table, row + row), tail = gather<Lum64f>(table + 1, row + row);
   u = Select(falls, -u, u);
-  const auto sum = Normalised(head, u.head);
-  return Normalised(sum.head, sum.tail + (tail + u.tail));
+  const auto sum = fast_two_sum(head, u.head);
+  return fast_two_sum(sum.head, sum.tail + (tail + u.tail));
 }
 
 }  // namespace lum::inline LUM_LAYER

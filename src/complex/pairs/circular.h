@@ -35,12 +35,12 @@ LUM_INLINE CircularPair SineCosineOf(Vec<Lum64f> y) {
   const auto cosine_rest = fnma(r, r_tail, q * horner(q, complex::pairs_cosine));
   const auto row = gather_rows<Lum64f>(table, shift_left<2>(bits(t) & all(uint64_t{255})));
   const HeadTail s{row.column0, row.column1}, c{row.column2, row.column3};
-  const auto for_sine = ExactProduct(c.head, r), for_cosine = ExactProduct(s.head, r);
-  const auto sine = Normalised(s.head, for_sine.head), cosine = Normalised(c.head, negate(for_cosine.head));
+  const auto for_sine = two_product(c.head, r), for_cosine = two_product(s.head, r);
+  const auto sine = fast_two_sum(s.head, for_sine.head), cosine = fast_two_sum(c.head, negate(for_cosine.head));
   const auto sine_tail = fma(c.tail, r, s.tail + (sine.tail + for_sine.tail));
   const auto cosine_tail = fnma(s.tail, r, c.tail + (cosine.tail - for_cosine.tail));
-  return {XorSign(y, Normalised(sine.head, fma(s.head, cosine_rest, fma(c.head, sine_rest, sine_tail)))),
-          Normalised(cosine.head, fma(c.head, cosine_rest, fnma(s.head, sine_rest, cosine_tail))),
+  return {XorSign(y, fast_two_sum(sine.head, fma(s.head, cosine_rest, fma(c.head, sine_rest, sine_tail)))),
+          fast_two_sum(cosine.head, fma(c.head, cosine_rest, fnma(s.head, sine_rest, cosine_tail))),
           lt(abs(r), all(0x1p-19)) & ne(k, all(0.0))};
 }
 

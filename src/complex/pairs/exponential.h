@@ -38,9 +38,9 @@ LUM_INLINE HeadTail Exponential(Vec<Lum64f> x) {
   const auto [power, unused, r] = ReduceExponent(x);
   const auto series = horner(r.head, complex::pairs_exp);
   const auto rest = fma(r.head * r.head, series, r.tail);
-  const auto product = ExactProduct(power.head, r.head);
-  const auto sum = Normalised(power.head, product.head);
-  return Normalised(sum.head, sum.tail + (product.tail + fma(power.head, rest, fma(power.tail, r.head, power.tail))));
+  const auto product = two_product(power.head, r.head);
+  const auto sum = fast_two_sum(power.head, product.head);
+  return fast_two_sum(sum.head, sum.tail + (product.tail + fma(power.head, rest, fma(power.tail, r.head, power.tail))));
 }
 
 struct SinhCosh {
@@ -55,12 +55,12 @@ LUM_INLINE SinhCosh HyperbolicPair(Vec<Lum64f> x) {
   const auto q = r.head * r.head;
   const auto sinh_rest = fma(r.head * q, horner(q, complex::pairs_sinh), r.tail);
   const auto cosh_rest = fma(r.head, r.tail, q * horner(q, complex::pairs_cosh));
-  const auto for_sinh = ExactProduct(c.head, r.head), for_cosh = ExactProduct(s.head, r.head);
-  const auto sinh = Normalised(s.head, for_sinh.head), cosh = Normalised(c.head, for_cosh.head);
+  const auto for_sinh = two_product(c.head, r.head), for_cosh = two_product(s.head, r.head);
+  const auto sinh = fast_two_sum(s.head, for_sinh.head), cosh = fast_two_sum(c.head, for_cosh.head);
   const auto sinh_tail = fma(c.tail, r.head, s.tail + (sinh.tail + for_sinh.tail));
   const auto cosh_tail = fma(s.tail, r.head, c.tail + (cosh.tail + for_cosh.tail));
-  return {XorSign(x, Normalised(sinh.head, fma(s.head, cosh_rest, fma(c.head, sinh_rest, sinh_tail)))),
-          Normalised(cosh.head, fma(c.head, cosh_rest, fma(s.head, sinh_rest, cosh_tail)))};
+  return {XorSign(x, fast_two_sum(sinh.head, fma(s.head, cosh_rest, fma(c.head, sinh_rest, sinh_tail)))),
+          fast_two_sum(cosh.head, fma(c.head, cosh_rest, fma(s.head, sinh_rest, cosh_tail)))};
 }
 
 }  // namespace lum::inline LUM_LAYER

@@ -16,11 +16,11 @@ namespace lum::inline LUM_LAYER {
 
 // Row e, for the exponent field e of x: three words with (1/pi) 2^(e - 884) modulo 2^192, or 2^(e - 55) modulo 2^96.
 // One more word, since rows are read four words at a time.
-inline constexpr Table<uint64_t, 3 * 2048 + 1> WideReductionTable64 = {{
-#include "tables/generated/wide_reduction_64.inc"
+inline constexpr Table<uint64_t, 3 * 2048 + 1> LargeReductionTable64 = {{
+#include "tables/generated/large_reduction_64.inc"
 }};
-inline constexpr Table<uint32_t, 3 * 256 + 1> WideReductionTable32 = {{
-#include "tables/generated/wide_reduction_32.inc"
+inline constexpr Table<uint32_t, 3 * 256 + 1> LargeReductionTable32 = {{
+#include "tables/generated/large_reduction_32.inc"
 }};
 // Row i, for the angle of i/512 turn: tail and head of the cosine, head and tail of the sine. The head of the cosine is a power
 // of 2, so that its products are exact.
@@ -32,17 +32,17 @@ inline constexpr auto AngleTable256 = table32({
 #include "tables/generated/angles_256.inc"
 });
 
-template <class T> struct WideConstants;
-template <> struct WideConstants<Lum64f> {
-  static constexpr const uint64_t* table = WideReductionTable64;
+template <class T> struct LargeConstants;
+template <> struct LargeConstants<Lum64f> {
+  static constexpr const uint64_t* table = LargeReductionTable64;
   static constexpr int fraction_bits = 52;
   static constexpr uint64_t one = 0x3FF0000000000000, mid_unit = 0x3CB0000000000000, low_unit = 0x3970000000000000;
   static constexpr auto shifter = rounding_shifter<Lum64f>(9);  // the last bit of the sum is worth 1/512
   static constexpr auto turn = 2 * numbers::pi<Lum64f>, turn_tail = 2 * numbers::pi_tail<Lum64f>;
   static constexpr uint64_t quarter = 128, index_mask = 511;
 };
-template <> struct WideConstants<Lum32f> {
-  static constexpr const uint32_t* table = WideReductionTable32;
+template <> struct LargeConstants<Lum32f> {
+  static constexpr const uint32_t* table = LargeReductionTable32;
   static constexpr int fraction_bits = 23;
   static constexpr uint32_t one = 0x3F800000, mid_unit = 0x34000000, low_unit = 0x28800000;
   static constexpr auto shifter = rounding_shifter<Lum32f>(8);  // the last bit of the sum is worth 1/256
@@ -60,7 +60,7 @@ LUM_INLINE Vec<uint32_t> LimbProduct(Vec<uint32_t> a, Vec<uint32_t> b) { return 
 template <class U> struct TurnBits { Vec<U> high, low; };
 
 template <class T> LUM_INLINE TurnBits<UnsignedOf<T>> TurnsOf(Vec<T> x) {
-  using C = WideConstants<T>;
+  using C = LargeConstants<T>;
   using U = UnsignedOf<T>;
   constexpr int half = 4 * sizeof(T);
   constexpr U limb_mask = (U{1} << half) - 1;
@@ -87,13 +87,13 @@ template <class T> LUM_INLINE TurnBits<UnsignedOf<T>> TurnsOf(Vec<T> x) {
 
 // x = whole turns + index (turn/512 or turn/256) + hi + lo, |hi| up to half a step of the index. With a negative x the index is
 // negative, in two's complement; sign is the sign bit of x, or zero to reduce |x|.
-template <class T> struct WideAngle {
+template <class T> struct LargeAngle {
   Vec<UnsignedOf<T>> index;
   Vec<T> hi, lo;
 };
 
-template <class T> LUM_STAGE WideAngle<T> ReduceWide(VecIn<T> x, VecIn<UnsignedOf<T>> sign) {
-  using C = WideConstants<T>;
+template <class T> LUM_STAGE LargeAngle<T> ReduceLarge(VecIn<T> x, VecIn<UnsignedOf<T>> sign) {
+  using C = LargeConstants<T>;
   using U = UnsignedOf<T>;
   constexpr int width = 8 * sizeof(T), p = C::fraction_bits, rest = 2 * (width - p);
   constexpr U fraction_mask = (U{1} << p) - 1;
@@ -143,13 +143,13 @@ LUM_STAGE Vec<Lum32f> SineOf(VecIn<uint32_t> index, VecIn<Lum32f> hi, VecIn<Lum3
 }
 // The cosine is the sine a quarter of a turn further.
 template <class T> LUM_INLINE Vec<T> CosineOf(Vec<UnsignedOf<T>> index, Vec<T> hi, Vec<T> lo) {
-  using C = WideConstants<T>;
+  using C = LargeConstants<T>;
   return SineOf((index + all(C::quarter)) & all(C::index_mask), hi, lo);
 }
 
 // sin x and cos x by way of |x|, the sign of the sine still to be applied (64f); with the sign of x (32f).
-LUM_INLINE WideAngle<Lum64f> ReduceLarge(Vec<Lum64f> x) { return ReduceWide(x, all(uint64_t{0})); }
-LUM_INLINE WideAngle<Lum32f> ReduceLarge(Vec<Lum32f> x) { return ReduceWide(x, sign_of(x)); }
+LUM_INLINE LargeAngle<Lum64f> ReduceLarge(Vec<Lum64f> x) { return ReduceLarge(x, all(uint64_t{0})); }
+LUM_INLINE LargeAngle<Lum32f> ReduceLarge(Vec<Lum32f> x) { return ReduceLarge(x, sign_of(x)); }
 
 template <class T> LUM_INLINE Vec<T> LargeSine(Vec<T> x) {
   const auto a = ReduceLarge(x);
