@@ -84,7 +84,7 @@ struct A50_64f : Double {
   static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
     using C = HalfTurn<Lum64f>;
     const auto a = abs(x);
-    const auto t = fma<rz>(a, all(C::inverse), all(0x1p52));              // n = floor(|x| / pi) in the low bits
+    const auto t = fma_floor(a, all(C::inverse), all(0x1p52));            // n = floor(|x| / pi) in the low bits
     const auto m = t - all(f64(0x432FFFFFFFFFFFFF, 4503599627370495.5));  // n + 1/2
     const auto r2 = fma(m, all(C::part2), fms(m, all(C::part1), a));      // from the odd multiple of pi/2 down
     const auto q = r2 * r2;

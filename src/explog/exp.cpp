@@ -45,8 +45,8 @@ template <class T> struct Reduced {
 
 template <int ln2_parts, class T> LUM_INLINE Reduced<T> Reduce(Vec<T> x) {
   using C = ExpConstants<T>;
-  const auto t = fma<rz>(x, all(C::log2e), all(C::shifter));  // toward zero of a positive sum: a floor
-  const auto n = t - all(C::shifter);                         // exact
+  const auto t = fma_floor(x, all(C::log2e), all(C::shifter));
+  const auto n = t - all(C::shifter);  // exact
   auto r = fnma(n, all(C::ln2_hi), x);
   if constexpr (ln2_parts == 2) r = fnma(n, all(C::ln2_lo), r);
   return {n, r, bits(t), le(all(C::threshold), abs(x))};
@@ -95,7 +95,7 @@ struct A11_32f : Float {
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
     const auto a = Reduce<1>(x);
     const auto p = horner(a.r, 1.0f, f32(0x3F82CC37, 1.0218571424484253));
-    return {p * scalef(Head(a), a.n), a.refused};
+    return {p * scalef_normal(Head(a), a.n), a.refused};
   }
 };
 
@@ -103,7 +103,7 @@ struct A21_32f : Float {
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
     const auto a = Reduce<2>(x);
     const auto u = fma(a.r * a.r, QuadraticPart(a.r), a.r);
-    const auto s = scalef(Head(a), a.n);
+    const auto s = scalef_normal(Head(a), a.n);
     return {fma(u, s, s), a.refused};
   }
 };
@@ -112,7 +112,7 @@ struct A24_32f : ByDouble<Lum32f> {
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
     const auto a = Reduce<2>(x);
     const auto u = fma(QuadraticPart(a.r), a.r * a.r, Tail(a) + a.r);
-    const auto s = scalef(Head(a), a.n);
+    const auto s = scalef_normal(Head(a), a.n);
     return {fma(u, s, s), a.refused};
   }
 };
@@ -127,7 +127,7 @@ struct A26_64f : Double {
     const auto p = horner(a.r, f64(0x3FEFFFFFE7109A30, 0.9999999535546689), f64(0x3FE000090EE70BF8, 0.5000043192925423),
                           f64(0x3FC550BF0B8C5804, 0.16652668060186226), f64(0x3FA646AE66C82C5D, 0.04350800518667406));
     const auto head = Head(a);
-    return {scalef(fma(p, head * a.r, head), a.n), a.refused};
+    return {scalef_normal(fma(p, head * a.r, head), a.n), a.refused};
   }
 };
 
@@ -135,7 +135,7 @@ struct A50_64f : Double {
   static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
     const auto a = Reduce<2>(x);
     const auto head = Head(a);
-    return {scalef(fma(LongPolynomial(a.r), head * a.r, head), a.n), a.refused};
+    return {scalef_normal(fma(LongPolynomial(a.r), head * a.r, head), a.n), a.refused};
   }
 };
 
@@ -144,7 +144,7 @@ struct A53_64f : Double {
     const auto a = Reduce<2>(x);
     const auto head = Head(a);
     const auto u = fma(LongPolynomial(a.r), a.r, Tail(a));
-    return {scalef(fma(u, head, head), a.n), a.refused};
+    return {scalef_normal(fma(u, head, head), a.n), a.refused};
   }
 };
 

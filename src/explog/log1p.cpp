@@ -86,9 +86,8 @@ template <int fraction_bits, class T> LUM_INLINE Reciprocal<T> TakeReciprocal(Ve
   // The last bit is worth that of w, so that the sum rounds to nearest and has the row in its low bits.
   constexpr T shifter = (sizeof(T) == 4 ? T(0x1.8p23) : T(0x1.8p52)) / (1 << fraction_bits);
   const auto [s, c] = AddOne(x);
-  const auto m = getmant<0x8>(s);
-  const auto e = getexp(s);
-  const auto t = rcp14(m) + all(shifter);
+  const auto [m, e] = parts<0x8>(s);
+  const auto t = shifted_rcp14<fraction_bits, 0>(m);
   return {e, m, t - all(shifter), scalef(c, negate(e)), bits(t)};
 }
 
@@ -114,7 +113,7 @@ struct A24_32f : Log1p<Lum32f> {
   }));
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
     const auto a = TakeReciprocal<6>(x);
-    const auto k = (a.e - all(1.0f)) - getexp(a.w);
+    const auto k = (a.e - all(1.0f)) - getexp_normal(a.w);
     const auto r = ReduceInTwoParts(a);
     const auto hi = fma(k, all(f32(0x3F317200, 0.693145751953125)), permute2(load<Lum32f>(pairs), load(pairs + 16), a.j));
     const auto lo = fma(k, all(f32(0x35BFBE8E, 1.428606765330187e-06)), permute2(load(pairs + 32), load(pairs + 48), a.j));

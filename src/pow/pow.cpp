@@ -63,9 +63,9 @@ template <class T> struct Reduced { Vec<T> e, m, c; };
 
 // m in [1/2, 1), c in (1, 2].
 template <int fraction_bits, class T> LUM_INLINE Reduced<T> Reduce(Vec<T> x) {
-  const auto m = getmant<0xA>(x);
-  const auto c = rndscale<fraction_bits << 4 | 8>(rcp14(m));
-  return {add(lt(c, all(T(1.5))), getexp(x), all(T(1))), m, c};
+  const auto [m, e] = parts<0xA>(x);
+  const auto c = rounded_rcp14<fraction_bits, 2>(m);
+  return {add(lt(c, all(T(1.5))), e, all(T(1))), m, c};
 }
 
 // The number in the top fraction bits of c: the row of the table.
@@ -90,25 +90,12 @@ LUM_INLINE LogRow<Lum64f> PairOf(Vec<Lum64f> c) {
   return {entry(pairs), entry(pairs + 32)};
 }
 
-// ---- The product with y
-
-// P = p + p_low, what is left of the exponent behind it.
-template <class T> struct Product { Vec<T> p, p_low; };
+// ---- The product with y, the exponent of 2
 
 // (s + q + rest) y, for |q| small against |s| and rest against q.
-template <class T> LUM_INLINE Product<T> MultiplyPair(Vec<T> s, Vec<T> q, Vec<T> rest, Vec<T> y) {
+template <class T> LUM_INLINE ProductParts<T> MultiplyPair(Vec<T> s, Vec<T> q, Vec<T> rest, Vec<T> y) {
   const auto hi = s + q;
-  const auto lo = (q - (hi - s)) + rest;
-  const auto p1 = mul<rz>(hi, y);
-  const auto p2 = fma<rz>(lo, y, fms<rz>(hi, y, p1));
-  const auto p = add<rz>(p1, p2);
-  return {p, p2 - (p - p1)};
-}
-
-// hi y, whose first part is the sum of both rounded toward zero.
-template <class T> LUM_INLINE Product<T> MultiplySingle(Vec<T> hi, Vec<T> y) {
-  const auto p1 = mul<rz>(hi, y);
-  return {p1, fms<rz>(hi, y, p1)};
+  return mul_toward_zero(hi, (q - (hi - s)) + rest, y);
 }
 
 template <class T> LUM_INLINE Mask<T> Refused(Vec<T> x, Vec<T> y, Vec<T> p) {
@@ -123,9 +110,9 @@ template <class T> struct Exponent {
 };
 
 // The bit that is cleared is none of an f below 1; it keeps NaN and huge values of refused lanes out of the polynomial.
-template <int index_bits, class T> LUM_INLINE Exponent<T> SplitExponent(const Product<T>& a, T shifter) {
-  const auto n = add<rd>(a.p, all(shifter));
-  const auto f = reduce<index_bits << 4 | 1>(a.p) + a.p_low;
+template <int index_bits, class T> LUM_INLINE Exponent<T> SplitExponent(const ProductParts<T>& a, T shifter) {
+  const auto [n, rest] = split_floor<index_bits>(a.head, all(shifter));
+  const auto f = rest + a.tail;
   return {f & all(static_cast<UnsignedOf<T>>(~(sign_bit<T> >> 1))), bits(n)};
 }
 
@@ -155,17 +142,17 @@ struct A11_32f : PowKernel<Lum32f> {
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x, Vec<Lum32f> y) {
     using C = PowConstants<Lum32f>;
     // m in [1, 2), c in [1/2, 1].
-    const auto m = getmant<0x8>(x);
-    const auto c = rndscale<0x58>(rcp14(m));
-    const auto e = add(lt(c, all(0.75f)), getexp(x), all(1.0f));
+    const auto [m, exponent] = parts<0x8>(x);
+    const auto c = rounded_rcp14<5, 0>(m);
+    const auto e = add(lt(c, all(0.75f)), exponent, all(1.0f));
     const auto r = fms(m, c, all(1.0f));
     const auto q = horner(r, f32(0x3FB8AA3B, 1.4426950216293335), f32(0xBF38AA39, -0.7213473916053772),
                           f32(0x3EF65D69, 0.48118141293525696), f32(0xBEB8D89E, -0.36102765798568726));
-    const auto product = MultiplySingle(fma<rz>(q, r, e + permute(load<Lum32f>(C::rows_16), RowOf<4>(c))), y);
+    const auto product = mul_toward_zero(fma<rz>(q, r, e + permute(load<Lum32f>(C::rows_16), RowOf<4>(c))), y);
     const auto a = SplitExponent<4>(product, C::exp_shifter_16);
     const auto head = permute(load<Lum32f>(C::exp_head), a.n);
     const auto u = horner(a.f, f32(0x3F317CC0, 0.6933097839355469), f32(0x3E760A40, 0.24027347564697266));
-    return {Scale<4>(fma(head * a.f, u, head), a), Refused(x, y, product.p)};
+    return {Scale<4>(fma(head * a.f, u, head), a), Refused(x, y, product.head)};
   }
 };
 
@@ -188,7 +175,7 @@ struct A21_32f : PowKernel<Lum32f> {
     const auto head = permute(load<Lum32f>(C::exp_head), a.n);
     const auto u = horner(a.f, f32(0x3F317222, 0.6931477785110474), f32(0x3E75F16C, 0.24017876386642456),
                           f32(0x3D6854CB, 0.05672148987650871));
-    return {Scale<4>(fma(head * a.f, u, head), a), Refused(x, y, product.p)};
+    return {Scale<4>(fma(head * a.f, u, head), a), Refused(x, y, product.head)};
   }
 };
 
@@ -221,7 +208,7 @@ struct A24_32f : PowKernel<Lum32f> {
     const auto tail = permute2(load<Lum32f>(exp_tail_32), load(exp_tail_32 + 16), a.n);
     const auto u = horner(a.f, f32(0x3F317219, 0.6931472420692444), f32(0x3E75FAD6, 0.24021467566490173),
                           f32(0x3D65D28E, 0.056109003722667694));
-    return {Scale<5>(fma(head, fma(u, a.f, tail), head), a), Refused(x, y, product.p)};
+    return {Scale<5>(fma(head, fma(u, a.f, tail), head), a), Refused(x, y, product.head)};
   }
 };
 
@@ -238,12 +225,12 @@ struct A26_64f : PowKernel<Lum64f> {
     const auto q2 = horner(r, f64(0x3FDEC709DC4A43C9, 0.48089834702210205), f64(0xBFD71546C21A4D60, -0.3606736083540536));
     const auto q4 = horner(r, f64(0x3FD2776B43A8C495, 0.2885387573943004), f64(0xBFCED12FE625DE19, -0.24075888383571067));
     const auto q = fma(fma(all(f64(0x3FCA6D10104C2777, 0.20645333095336202)), r2, q4), r2 * r2, fma(q2, r2, q0));
-    const auto product = MultiplySingle(fma<rz>(q, r, b), y);
+    const auto product = mul_toward_zero(fma<rz>(q, r, b), y);
     const auto a = SplitExponent<4>(product, C::exp_shifter_16);
     const auto head = permute2(load<Lum64f>(C::exp_head), load(C::exp_head + 8), a.n);
     const auto u = horner(a.f, f64(0x3FE62E444056BF23, 0.6931477791422122), f64(0x3FCEBE2D518E7C49, 0.24017874223952365),
                           f64(0x3FAD0A9942A3D753, 0.05672148645855537));
-    return {Scale<4>(fma(head * a.f, u, head), a), Refused(x, y, product.p)};
+    return {Scale<4>(fma(head * a.f, u, head), a), Refused(x, y, product.head)};
   }
 };
 
@@ -264,7 +251,7 @@ struct A50_64f : PowKernel<Lum64f> {
     const auto product = MultiplyPair(terms.sum, q, terms.errors, y);
     const auto a = SplitExponent<4>(product, C::exp_shifter_16);
     const auto head = permute2(load<Lum64f>(C::exp_head), load(C::exp_head + 8), a.n);
-    return {Scale<4>(fma(head * a.f, LongExpPolynomial(a.f), head), a), Refused(x, y, product.p)};
+    return {Scale<4>(fma(head * a.f, LongExpPolynomial(a.f), head), a), Refused(x, y, product.head)};
   }
 };
 
@@ -294,7 +281,7 @@ struct A53_64f : PowKernel<Lum64f> {
     const auto a = SplitExponent<4>(product, C::exp_shifter_16);
     const auto head = permute2(load<Lum64f>(C::exp_head), load(C::exp_head + 8), a.n);
     const auto tail = permute2(load<Lum64f>(exp_tail_16), load(exp_tail_16 + 8), a.n);
-    return {Scale<4>(fma(head, fma(LongExpPolynomial(a.f), a.f, tail), head), a), Refused(x, y, product.p)};
+    return {Scale<4>(fma(head, fma(LongExpPolynomial(a.f), a.f, tail), head), a), Refused(x, y, product.head)};
   }
 };
 

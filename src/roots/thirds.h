@@ -17,14 +17,14 @@ template <> struct ThirdsConstants<Lum32f> {
   static constexpr auto shifter = f32(0x4B400000, 12582912.0);  // 1.5 * 2^23
   static constexpr auto third = f32(0x3EAAAAAB, 0.3333333432674408);
   static constexpr auto offset = f32(0x4A800000, 4194304.0);  // a third of the shifter
-  static constexpr int grid = 0x58;                           // reciprocals are multiples of 2^-5
+  static constexpr int grid = 5;                              // reciprocals are multiples of 2^-5
   static constexpr int index_shift = 19;  // down to their last bit: the index of 1 follows on those below it
 };
 template <> struct ThirdsConstants<Lum64f> {
   static constexpr auto shifter = f64(0x4338000000000000, 6755399441055744.0);  // 1.5 * 2^52
   static constexpr auto third = f64(0x3FD5555555555556, 0.33333333333333337);
   static constexpr auto offset = f64(0x4320000000000000, 2251799813685248.0);
-  static constexpr int grid = 0x48;
+  static constexpr int grid = 4;
   static constexpr int index_shift = 49;
 };
 
@@ -73,8 +73,7 @@ template <class T> struct ThirdsReduced {
 // down finds q; for the negative power it falls below -e / 3 by as little, and is rounded up.
 template <Power power, class T> LUM_INLINE ThirdsReduced<T> ReduceThirds(Vec<T> x) {
   using C = ThirdsConstants<T>;
-  const auto m = getmant<0x0>(x);
-  const auto e = getexp(x);
+  const auto [m, e] = parts<0x0>(x);
   const auto E = (power == Power::two_thirds ? e + e : e) + all(C::shifter);
   Vec<T> q, j;
   if constexpr (power == Power::minus_one_third) {
@@ -84,7 +83,7 @@ template <Power power, class T> LUM_INLINE ThirdsReduced<T> ReduceThirds(Vec<T> 
     q = rndscale<0x9>(fma(E, all(C::third), all(-C::offset)));
     j = fnma(q, all(T(3)), E);
   }
-  const auto c = rndscale<C::grid>(rcp14(m));
+  const auto c = rounded_rcp14<C::grid, 0>(m);
   return {q, j, c, fms(m, c, all(T(1)))};
 }
 
