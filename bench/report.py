@@ -4,10 +4,13 @@
 report.py BUILD [FUNCTION...]                 measure, all functions when none is named
 report.py BUILD --compare BASE [FUNCTION...]  measure this build and another one side by side, and write nothing
 report.py BUILD --refused [FUNCTION...]       measure arrays with refused lanes, and write docs/refused-lanes.md and its data
+report.py BUILD --library NAME [FUNCTION...]  measure the library of a layer, a2 or p0, against the peers for its instructions,
+                                              and write docs/performance-NAME.md and its data
 
 BUILD is a build folder; BASE a build folder or a library file."""
 
 import argparse
+import re
 import shutil
 import subprocess
 import sys
@@ -57,6 +60,34 @@ Names of which a peer is the faster one, with its time over ours:
 {behind}
 
 [What the figures mean](notes/speed.md).
+"""
+
+
+LIBRARIES = {"a2": "the library for AVX2 and FMA", "p0": "the portable library, built for any x86-64 processor"}
+LIBRARY_PAGE = """<!-- Written by `./run bench --library {library}` (bench/report.py) from docs/data/performance-{library}.csv; do not edit. -->
+# Performance of {what}
+
+Nanoseconds and ticks of the time stamp counter an element at length {length}, and ns of a call of one element, measured as
+[those of the AVX-512 library](performance.md) are, against functions for the same instructions. *ratio* is the time of the
+fastest peer of the same accuracy class over ours, *scalar* that of a loop over the standard library's function.
+
+Measured on {machine}. To repeat: `./run bench --library {library}` (or `./run bench --library {library} Exp`).
+
+## Overview
+
+The highest tags: ns an element and, in parentheses, the time of the scalar loop and of the best peer over ours.
+
+{table}
+
+Names of which a peer is the faster one, with its time over ours:
+
+{behind}
+
+## All names
+
+| name | ns | ticks | ratio | scalar | one |
+|---|---|---|---|---|---|
+{names}
 """
 
 
@@ -126,6 +157,16 @@ def table(row, stored, floors):
     return lines
 
 
+def write_library_page(library, stored):
+    rows, behind = overview(stored)
+    # The column of floors is that of another library.
+    names = [re.sub(r"^((?:\|[^|]*){3})\|[^|]*", r"\1", line) for row in catalogue.rows() for line in table(row, stored, {})]
+    page = LIBRARY_PAGE.format(library=library, what=LIBRARIES[library], length=MAIN_LENGTH, machine=machine(),
+                               table="\n".join(rows), behind="\n".join(f"- {name}" for name in behind) or "none",
+                               names="\n".join(names))
+    (catalogue.ROOT / f"docs/performance-{library}.md").write_text(page)
+
+
 def draw(row, stored):
     """Time over length, one line a candidate."""
     name = f"{row.function}_{row.type}"
@@ -176,6 +217,7 @@ def main():
     mode = parser.add_mutually_exclusive_group()
     mode.add_argument("--compare", type=Path, metavar="BASE")
     mode.add_argument("--refused", action="store_true")
+    mode.add_argument("--library", choices=LIBRARIES)
     mode.add_argument("--lengths", help="lengths of the arrays, separated by commas")
     arguments = parser.parse_intermixed_args()  # functions may stand behind options
     if arguments.refused:
@@ -188,6 +230,14 @@ def main():
             return 2
         extra = ["--base", str(base.resolve()), "--lengths", f"1,{MAIN_LENGTH}"]
         print_comparison(run_benchmarks(arguments.build, arguments.functions, extra, PARTS))
+        return 0
+    if arguments.library:
+        rows = []
+        for function in arguments.functions or dict.fromkeys(row.function for row in catalogue.rows()):
+            extra = ["--library", arguments.library, "--lengths", f"1,{MAIN_LENGTH}"]
+            rows += run_benchmarks(arguments.build, [function], extra, PARTS)
+        data = catalogue.ROOT / f"docs/data/performance-{arguments.library}.csv"
+        write_library_page(arguments.library, merged(rows, data, PARTS))
         return 0
     # A function at a time: all candidates of one interleave, and the arrays of all would not fit into memory.
     rows = []
