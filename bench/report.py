@@ -4,6 +4,8 @@
 report.py BUILD [FUNCTION...]                 measure, all functions when none is named
 report.py BUILD --compare BASE [FUNCTION...]  measure this build and another one side by side, and write nothing
 report.py BUILD --refused [FUNCTION...]       measure arrays with refused lanes, and write docs/refused-lanes.md and its data
+report.py BUILD --library NAME [FUNCTION...]  measure the library of a layer, a2 or p0, against the peers for its instructions,
+                                              and write docs/performance-NAME.md and its data
 
 BUILD is a build folder; BASE a build folder or a library file."""
 
@@ -65,6 +67,34 @@ Names of which a peer is the faster one, with its time over ours:
 """
 
 
+LIBRARIES = {"a2": "the library for AVX2 and FMA", "p0": "the portable library, built for any x86-64 processor"}
+LIBRARY_PAGE = """<!-- Written by `./run bench --library {library}` (bench/report.py) from docs/data/performance-{library}.csv; do not edit. -->
+# Performance of {what}
+
+Nanoseconds and ticks of the time stamp counter an element at length {length}, and ns of a call of one element, measured as
+[those of the AVX-512 library](performance.md) are, against functions for the same instructions. *best peer* is the time of the
+fastest peer of the same accuracy class over ours, *C library loop* that of a loop over the standard library's function.
+
+Measured on {machine}. To repeat: `./run bench --library {library}` (or `./run bench --library {library} Exp`).
+
+## Overview
+
+The highest tags: ns an element and, in parentheses, the time of the scalar loop and of the best peer over ours.
+
+{table}
+
+Names of which a peer is the faster one, with its time over ours:
+
+{behind}
+
+## All names
+
+| name | ns | ticks | best peer | C library loop | one element |
+|---|--:|--:|--:|--:|--:|
+{names}
+"""
+
+
 def print_comparison(rows):
     base = {(r["function"], r["length"], r["who"][5:]): float(r["ns"]) for r in rows if r["who"].startswith("base:")}
     print(f"{'function':<16} {'tag':<6} {'length':>9} {'ns here':>10} {'ns base':>10} {'base/here':>10}")
@@ -107,6 +137,28 @@ def write_page():
     catalogue.write_if_changed(PAGE, text)
 
 
+def write_library_page(library):
+    stored = data.times(f"performance-{library}.csv")
+    rows, behind = overview(stored)
+    names = []
+    for row in catalogue.rows():
+        figures, single = data.at_length(row, stored), data.at_length(row, stored, 1)
+        for export, tag in row.exports():
+            who = tag or "lumvm"
+            if who not in figures:
+                continue
+            ns = figures[who]
+            ticks = stored[f"{row.function}_{row.type}", data.MAIN_LENGTH, who][1]
+            peer = data.best_peer(figures, tag in data.EXACT_TAGS)
+            names.append(f"| `{export}` | {ns:.3g} | {ticks:.3g} | {f'{peer[1] / ns:.2f} ({peer[0]})' if peer else ''} | "
+                         f"{figures['scalar'] / ns:.1f} | {single[who]:.3g} |" if "scalar" in figures else
+                         f"| `{export}` | {ns:.3g} | {ticks:.3g} | | | {single[who]:.3g} |")
+    page = LIBRARY_PAGE.format(library=library, what=LIBRARIES[library], length=data.MAIN_LENGTH, machine=machine(),
+                               table="\n".join(rows), behind="\n".join(f"- {name}" for name in behind) or "none",
+                               names="\n".join(names))
+    catalogue.write_if_changed(catalogue.ROOT / f"docs/performance-{library}.md", page)
+
+
 def write_floors(build):
     """What the loops must take by the execution ports, by exported name; the file stays as it is where llvm-mca is missing."""
     if not shutil.which("llvm-mca"):
@@ -133,6 +185,7 @@ def main():
     mode = parser.add_mutually_exclusive_group()
     mode.add_argument("--compare", type=Path, metavar="BASE")
     mode.add_argument("--refused", action="store_true")
+    mode.add_argument("--library", choices=LIBRARIES)
     mode.add_argument("--lengths", help="lengths of the arrays, separated by commas")
     mode.add_argument("--pages", action="store_true", help="measure nothing, write the page anew")
     arguments = parser.parse_intermixed_args()  # functions may stand behind options
@@ -149,6 +202,14 @@ def main():
             return 2
         extra = ["--base", str(base.resolve()), "--lengths", f"1,{data.MAIN_LENGTH}"]
         print_comparison(run_benchmarks(arguments.build, arguments.functions, extra, PARTS))
+        return 0
+    if arguments.library:
+        rows = []
+        for function in arguments.functions or dict.fromkeys(row.function for row in catalogue.rows()):
+            extra = ["--library", arguments.library, "--lengths", f"1,{data.MAIN_LENGTH}"]
+            rows += run_benchmarks(arguments.build, [function], extra, PARTS)
+        merged(rows, catalogue.ROOT / f"docs/data/performance-{arguments.library}.csv", PARTS)
+        write_library_page(arguments.library)
         return 0
     # A function at a time: all candidates of one interleave, and the arrays of all would not fit into memory.
     rows = []

@@ -98,9 +98,9 @@ def accuracy():
     return figures
 
 
-def times():
+def times(file="performance.csv"):
     """Nanoseconds and ticks an element by function and type, length, and who."""
-    return {(row["function"], int(row["length"]), row["who"]): (float(row["ns"]), float(row["ticks"])) for row in read("performance.csv")}
+    return {(row["function"], int(row["length"]), row["who"]): (float(row["ns"]), float(row["ticks"])) for row in read(file)}
 
 
 def floors():

@@ -86,7 +86,7 @@ struct A50_64f : Double {
     constexpr auto& pi_parts = numbers::pi_parts<Lum64f>;
 
     const auto a = abs(x);
-    const auto t = fma<rz>(a, all(numbers::inverse_pi<Lum64f>), all(0x1p52));  // n = floor(|x| / pi) in the low bits
+    const auto t = fma_floor(a, all(numbers::inverse_pi<Lum64f>), all(0x1p52));  // n = floor(|x| / pi) in the low bits
     const auto m = t - all(0x1p52 - 0.5);                                      // n + 1/2
     const auto r2 = fma(m, all(pi_parts[1]), fms(m, all(pi_parts[0]), a));     // from the odd multiple of pi/2 down
     const auto q = r2 * r2;

@@ -24,7 +24,7 @@ template <class E> struct AbsKernel : Kernel<E, Real<E>> {
 };
 
 template <class T> LUM_INLINE Roots<T> RootsOf(Vec<T> s) {
-  const auto start = Start(s, rsqrt14(s));
+  const auto start = Start(s, rsqrt14_normal(s));
   if constexpr (sizeof(T) == 4) return start;
   else return CoupledStep(start);
 }
@@ -34,14 +34,14 @@ struct A11_32fc : AbsKernel<Lum32fc> {
   static constexpr Variant variant = x87_up_front_variant;
   static LUM_INLINE Lanes<Lum32f> VectorPath(Interleaved<Lum32f> z) {
     const auto s = PlainSquare(split(z));
-    return {s * rsqrt14(s), fpclass<classes::nonfinite | classes::zero | classes::denormal>(s)};
+    return {s * rsqrt14_normal(s), fpclass<classes::nonfinite | classes::zero | classes::denormal>(s)};
   }
 };
 struct A26_64fc : AbsKernel<Lum64fc> {
   static LUM_INLINE Lanes<Lum64f> VectorPath(Interleaved<Lum64f> packed) {
     const auto z = split(packed);
     const auto s = PlainSquare(z);
-    return {CoupledStep(Start(s, rsqrt14(s))).g, IsFar(z)};
+    return {CoupledStep(Start(s, rsqrt14_normal(s))).g, IsFar(z)};
   }
 };
 

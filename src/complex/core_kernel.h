@@ -51,8 +51,15 @@ LUM_INLINE RoundedPart RoundedAsCore(HeadTail part, Vec<Lum64f> error) {
   return {or_sign(part.head, above), ne(above, below)};
 }
 
+// Where registers do not hold a path's intermediate vectors, all calls share one copy of it and of its stack.
+template <class Path, class... Z> [[gnu::noinline]] PathValue CalledPath(const Z&... z) { return Path::Of(z...); }
+template <class Path, class... Z> LUM_INLINE PathValue PathOfVector(const Z&... z) {
+  if constexpr (streams_fit_registers) return Path::Of(z...);
+  else return CalledPath<Path>(z...);
+}
+
 template <class Path, class... Inputs> LUM_INLINE Lanes<Lum64fc> RoundedPath(const Inputs&... packed) {
-  const auto value = Path::Of(split(packed)...);
+  const auto value = PathOfVector<Path>(split(packed)...);
   const auto re = RoundedAsCore(value.re, value.re_error), im = RoundedAsCore(value.im, value.im_error);
   return {join(ComplexVec<Lum64f>{re.value, im.value}), value.refused | re.refused | im.refused};
 }
@@ -74,15 +81,8 @@ LUM_INLINE NarrowedPart NarrowedAsCore(Vec<Lum64f> low, Vec<Lum64f> high) {
 LUM_INLINE ComplexVec<Lum64f> WidenLow(ComplexVec<Lum32f> z) { return {widen_low(z.re), widen_low(z.im)}; }
 LUM_INLINE ComplexVec<Lum64f> WidenHigh(ComplexVec<Lum32f> z) { return {widen_high(z.re), widen_high(z.im)}; }
 
-// Where registers do not hold a path's intermediate vectors, both halves share one copy of it and of its stack.
-template <class Path, class... Z> [[gnu::noinline]] PathValue CalledPath(const Z&... z) { return Path::Of(z...); }
-template <class Path, class... Z> LUM_INLINE PathValue PathOfHalf(const Z&... z) {
-  if constexpr (streams_fit_registers) return Path::Of(z...);
-  else return CalledPath<Path>(z...);
-}
-
 template <class Path, class... Inputs> LUM_INLINE Lanes<Lum32fc> NarrowedPath(const Inputs&... packed) {
-  const auto low = PathOfHalf<Path>(WidenLow(split(packed))...), high = PathOfHalf<Path>(WidenHigh(split(packed))...);
+  const auto low = PathOfVector<Path>(WidenLow(split(packed))...), high = PathOfVector<Path>(WidenHigh(split(packed))...);
   const auto re = NarrowedAsCore(low.re.head, high.re.head), im = NarrowedAsCore(low.im.head, high.im.head);
   return {join(ComplexVec<Lum32f>{re.value, im.value}), join(low.refused, high.refused) | re.refused | im.refused};
 }

@@ -90,7 +90,7 @@ struct A53_64fc : Quotient<Lum64fc> {
     return far(z.re) | far(z.im);
   }
 
-  static LUM_INLINE Lanes<Lum64fc> VectorPath(Interleaved<Lum64f> packed_z, Interleaved<Lum64f> packed_w) {
+  static LUM_INLINE Lanes<Lum64fc> QuotientOf(const Interleaved<Lum64f>& packed_z, const Interleaved<Lum64f>& packed_w) {
     const auto unscaled_z = split(packed_z), unscaled_w = split(packed_w);
     const auto [z, z_exponent] = Scale(unscaled_z);
     const auto [w, w_exponent] = Scale(unscaled_w);
@@ -105,6 +105,14 @@ struct A53_64fc : Quotient<Lum64fc> {
     // Where an argument is zero as a whole, its exponent is infinite and the quotient is NaN.
     return {join(q),
             IsFar(unscaled_z) | IsFar(unscaled_w) | fpclass<classes::nonfinite>(q.re) | fpclass<classes::nonfinite>(q.im)};
+  }
+  // Where registers do not hold the intermediate vectors, all calls share one copy of it and of its stack.
+  [[gnu::noinline]] static Lanes<Lum64fc> CalledQuotientOf(const Interleaved<Lum64f>& z, const Interleaved<Lum64f>& w) {
+    return QuotientOf(z, w);
+  }
+  static LUM_INLINE Lanes<Lum64fc> VectorPath(Interleaved<Lum64f> z, Interleaved<Lum64f> w) {
+    if constexpr (vectors_fit_registers && !streams_fit_registers) return CalledQuotientOf(z, w);
+    else return QuotientOf(z, w);
   }
 };
 

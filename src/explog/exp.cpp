@@ -46,7 +46,7 @@ template <class T> struct Reduced {
 
 template <int ln2_parts, class T> LUM_INLINE Reduced<T> Reduce(Vec<T> x) {
   using C = ExpConstants<T>;
-  const auto t = fma<rz>(x, all(numbers::log2_e<T>), all(C::shifter));  // toward zero of a positive sum: a floor
+  const auto t = fma_floor(x, all(numbers::log2_e<T>), all(C::shifter));
   const auto n = t - all(C::shifter);                                   // exact
   auto r = fnma(n, all(numbers::ln2<T>), x);
   if constexpr (ln2_parts == 2) r = fnma(n, all(numbers::ln2_tail<T>), r);
@@ -83,7 +83,7 @@ struct A11_32f : Float {
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
     const auto a = Reduce<1>(x);
     const auto p = horner(a.r, explog::exp_A11);
-    return {p * scalef(Head(a), a.n), a.refused};
+    return {p * scalef_normal(Head(a), a.n), a.refused};
   }
 };
 
@@ -91,7 +91,7 @@ struct A21_32f : Float {
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
     const auto a = Reduce<2>(x);
     const auto u = fma(a.r * a.r, horner(a.r, explog::exp_A21), a.r);
-    const auto s = scalef(Head(a), a.n);
+    const auto s = scalef_normal(Head(a), a.n);
     return {fma(u, s, s), a.refused};
   }
 };
@@ -100,7 +100,7 @@ struct A24_32f : ByDouble<Lum32f> {
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
     const auto a = Reduce<2>(x);
     const auto u = fma(horner(a.r, explog::exp_A21), a.r * a.r, Tail(a) + a.r);
-    const auto s = scalef(Head(a), a.n);
+    const auto s = scalef_normal(Head(a), a.n);
     return {fma(u, s, s), a.refused};
   }
 };
@@ -114,7 +114,7 @@ struct A26_64f : Double {
     const auto a = Reduce<1>(x);
     const auto p = horner(a.r, explog::exp_A26);
     const auto head = Head(a);
-    return {scalef(fma(p, head * a.r, head), a.n), a.refused};
+    return {scalef_normal(fma(p, head * a.r, head), a.n), a.refused};
   }
 };
 
@@ -122,7 +122,7 @@ struct A50_64f : Double {
   static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
     const auto a = Reduce<2>(x);
     const auto head = Head(a);
-    return {scalef(fma(horner(a.r, explog::exp_A50), head * a.r, head), a.n), a.refused};
+    return {scalef_normal(fma(horner(a.r, explog::exp_A50), head * a.r, head), a.n), a.refused};
   }
 };
 
@@ -131,7 +131,7 @@ struct A53_64f : Double {
     const auto a = Reduce<2>(x);
     const auto head = Head(a);
     const auto u = fma(horner(a.r, explog::exp_A50), a.r, Tail(a));
-    return {scalef(fma(u, head, head), a.n), a.refused};
+    return {scalef_normal(fma(u, head, head), a.n), a.refused};
   }
 };
 

@@ -65,8 +65,8 @@ struct A24_32f : Float {
 
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
     // Rounded to four fraction bits by integer arithmetic, which may carry into the exponent.
-    const auto c = as_float((bits(rcp14(x)) + all(0x00040000u)) & all(0xFFF80000u));
-    const auto e = getexp(c);
+    const auto c = rcp14_halves_up<4>(x);
+    const auto e = getexp_normal(c);  // of special lanes another one holds
     const auto r = fms(c, x, all(1.0f));
     const auto j = shift_right<19>(bits(c));
     const auto hi = fma(e, all(-numbers::ln2_short<Lum32f>), permute(load<Lum32f>(inverse), j));

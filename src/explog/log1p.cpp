@@ -82,9 +82,8 @@ template <class T> struct Reciprocal {
 template <int fraction_bits, class T> LUM_INLINE Reciprocal<T> TakeReciprocal(Vec<T> x) {
   constexpr T shifter = rounding_shifter<T>(fraction_bits);  // the sum has the row in its low bits
   const auto [s, c] = AddOne(x);
-  const auto m = getmant<significand::from_1_to_2 | significand::nan_if_negative>(s);
-  const auto e = getexp(s);
-  const auto t = rcp14(m) + all(shifter);
+  const auto [m, e] = parts<significand::from_1_to_2 | significand::nan_if_negative>(s);
+  const auto t = shifted_rcp14<fraction_bits, 0>(m);
   return {e, m, t - all(shifter), scalef(c, negate(e)), bits(t)};
 }
 
@@ -110,7 +109,7 @@ struct A24_32f : Log1p<Lum32f> {
   }));
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
     const auto a = TakeReciprocal<6>(x);
-    const auto k = (a.e - all(1.0f)) - getexp(a.w);
+    const auto k = (a.e - all(1.0f)) - getexp_normal(a.w);
     const auto r = ReduceInTwoParts(a);
     const auto hi = fma(k, all(numbers::ln2_short<Lum32f>), permute2(load<Lum32f>(pairs), load(pairs + 16), a.j));
     const auto lo = fma(k, all(numbers::ln2_short_tail<Lum32f>), permute2(load(pairs + 32), load(pairs + 48), a.j));

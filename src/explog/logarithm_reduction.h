@@ -44,9 +44,9 @@ template <int degree> LUM_INLINE Vec<Lum32f> SegmentPolynomial(Vec<Lum32f> m, Ve
 
 // log(x), to the base of the polynomials and of the logarithm of 2 that is given.
 template <int degree> LUM_INLINE Vec<Lum32f> SegmentLogarithm(Vec<Lum32f> x, const Lum32f* columns, Lum32f log_of_2) {
-  const auto m = getmant<significand::from_three_quarters | significand::nan_if_negative>(x);
+  const auto [m, e] = parts<significand::from_three_quarters | significand::nan_if_negative>(x);
   const auto r = m - all(1.0f);
-  const auto k = getexp(x) - getexp(m);
+  const auto k = e - getexp_normal(m);
   return fma(r, SegmentPolynomial<degree>(m, r, columns), k * all(log_of_2));
 }
 
@@ -57,11 +57,11 @@ struct ReciprocalReduction {
 };
 template <int fraction_bits> LUM_INLINE ReciprocalReduction ReduceByReciprocal(Vec<Lum64f> x) {
   constexpr auto shifter = rounding_shifter<Lum64f>() / (1 << fraction_bits);  // the last bit is worth that of c
-  const auto m = getmant<significand::from_1_to_2 | significand::nan_if_negative>(x);
-  const auto t = rcp14(m) + all(shifter);  // rounds to nearest; the low bits are c, less its top bit the row
+  const auto [m, e] = parts<significand::from_1_to_2 | significand::nan_if_negative>(x);
+  const auto t = shifted_rcp14<fraction_bits, 0>(m);  // rounds to nearest; the low bits are c, less its top bit the row
   const auto c = t - all(shifter);         // in [1/2, 1]; below 3/4 doubled, in effect
   const auto r = fms(c, m, all(1.0));
-  return {r, add(lt(c, all(0.75)), getexp(x), all(1.0)), bits(t)};
+  return {r, add(lt(c, all(0.75)), e, all(1.0)), bits(t)};
 }
 
 }  // namespace lum::inline LUM_LAYER

@@ -17,8 +17,8 @@
 //   hides_refused: the processor would stop at denormal numbers that the first path makes of refused arguments, so the loop
 //   over
 //     both paths has the fill in their place.
-//   second_in_all_layers: the lane routine knows only what the second path leaves. Otherwise a layer whose vectors do not fit
-//     into registers has the routine alone, which is faster there.
+//   second_in_all_layers: the lane routine knows only what the second path leaves. Otherwise the portable layer has the
+//     routine alone, which is faster there.
 // A kernel with a parameter has it as a data member; all others are empty.
 #pragma once
 
@@ -124,9 +124,31 @@ template <class K, int n, class Result>
 [[gnu::noinline]] auto CalledSecondPath(const K& kernel, const Inputs<K, n>& x, const Result& r) {
   return SecondPathOf<K, n>(kernel, x, r);
 }
+// Lanes with NaNs in several places, of which the result is that of the first: where operations do not order them, the lane
+// routine does.
+template <class K, int n> LUM_INLINE auto SeveralNans(const Inputs<K, n>& x) {
+  const auto is_nan = [](auto v) { return unord(v, v); };
+  if constexpr (is_complex<typename K::Input>) {
+    const auto z = split(x[0]), w = split(x[n - 1]);
+    const auto re = is_nan(z.re), im = is_nan(z.im);
+    if constexpr (n == 1) return re & im;
+    else return (re & im) | (is_nan(w.re) & is_nan(w.im)) | ((re | im) & (is_nan(w.re) | is_nan(w.im)));
+  } else if constexpr (n == 1) {
+    return mask_of<Real<typename K::Input>>(0);
+  } else {
+    return is_nan(x[0]) & is_nan(x[1]);
+  }
+}
 template <class K, int n, class Result> LUM_INLINE auto ComputeSecond(const K& kernel, const Inputs<K, n>& x, const Result& r) {
-  if constexpr (vectors_fit_registers) return SecondPathOf<K, n>(kernel, x, r);
-  else return CalledSecondPath<K, n>(kernel, x, r);
+  if constexpr (!vectors_fit_registers) {
+    return CalledSecondPath<K, n>(kernel, x, r);
+  } else if constexpr (orders_nans || !requires { ~r.refused; }) {
+    return SecondPathOf<K, n>(kernel, x, r);
+  } else {
+    auto second = SecondPathOf<K, n>(kernel, x, r);
+    second.refused = second.refused | (r.refused & SeveralNans<K, n>(x));
+    return second;
+  }
 }
 template <class K>
 concept HasSecondPath = (has_second_paths || K::second_in_all_layers) && requires {

@@ -78,6 +78,15 @@ LUM_INLINE double scalef_doubt(double a, double b) {
   return from_bits<double>(doubtful);
 }
 
+// The same where the result is a normal number and floor(b) the exponent of one; a NaN a stays.
+template <Floating T> LUM_INLINE T scalef_normal(T a, T b) {
+  using F = Format<T>;
+  constexpr T shifter = T(1.5) * static_cast<T>(F::hidden) + T(F::bias);
+  const T nearest = b + shifter;
+  const auto down = mask_where<T>(nearest - shifter > b);  // minus one where b was rounded up
+  return a * from_bits<T>(static_cast<typename F::Bits>((to_bits(nearest) + down) << F::fraction_bits));
+}
+
 // x rounded to a multiple of 2^-M, M in imm bits 4-7. Adding the power of two whose last bit is worth 2^-M rounds a smaller
 // magnitude to nearest even; the directed modes step back when that went the wrong way. Larger magnitudes are on the grid.
 template <int imm, Floating T> LUM_INLINE T rndscale(T x) {

@@ -74,14 +74,14 @@ requires is_complex<E> LUM_INLINE Packed<E> LoadElements(int count, const E* p, 
   const auto mask = FirstComponents<T>(count);
   return {load(mask.low, parts, all(fill)), load(mask.high, parts + lanes_of<T>, all(fill))};
 }
-template <Lane T> LUM_INLINE void StoreElements(int count, T* p, Vec<T> x) { store(first_lanes<T>(count), p, x); }
+template <Lane T> LUM_INLINE void StoreElements(int count, T* p, Vec<T> x) { store_first(count, p, x); }
 template <class E>
 requires is_complex<E> LUM_INLINE void StoreElements(int count, E* p, Packed<E> x) {
   using T = Real<E>;
   auto* parts = &p->re;
-  const auto mask = FirstComponents<T>(count);
-  store(mask.low, parts, x.low);
-  store(mask.high, parts + lanes_of<T>, x.high);
+  constexpr int lanes = lanes_of<T>;
+  store_first(std::min(2 * count, lanes), parts, x.low);
+  store_first(std::max(2 * count - lanes, 0), parts + lanes, x.high);
 }
 
 }  // namespace lum::inline LUM_LAYER

@@ -31,7 +31,7 @@ template <Floating T> LUM_INLINE Parts<T> parts(T x) {
   return {(b << shift) & F::fraction, 1 - F::bias - shift};
 }
 // The line at t = ten bits of place after the number of the segment.
-LUM_INLINE uint32_t on_line(const Line& line, int scale_bits, uint32_t t) {
+LUM_INLINE constexpr uint32_t on_line(const Line& line, int scale_bits, uint32_t t) {
   return ((line.a << scale_bits) + 512 * line.b - line.b * (t & 1023)) >> 9;
 }
 

@@ -13,6 +13,7 @@
 #pragma GCC diagnostic ignored "-Wsign-conversion"
 #include "frame/avx2/arithmetic.h"
 #include "frame/avx2/base.h"
+#include "frame/avx2/estimates.h"
 #include "frame/avx2/integers.h"
 #include "frame/avx2/moves.h"
 #pragma GCC diagnostic pop

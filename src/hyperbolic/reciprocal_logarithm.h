@@ -14,7 +14,7 @@ namespace lum::inline LUM_LAYER {
 // The columns hi and lo of ln(1 + i/N): his are short, so that sums of them and of multiples of ln2_head are exact.
 template <class T> struct LogTable;
 template <> struct LogTable<Lum32f> {
-  static constexpr uint32_t half_step = 0x00020000, kept = 0xFFFC0000;  // five fraction bits of w
+  static constexpr int reciprocal_bits = 5;
   static constexpr int index_shift = 18;
 
   static constexpr auto single = table32({
@@ -25,7 +25,7 @@ template <> struct LogTable<Lum32f> {
   }));
 };
 template <> struct LogTable<Lum64f> {
-  static constexpr uint64_t half_step = 0x0000800000000000, kept = 0xFFFF000000000000;  // four fraction bits
+  static constexpr int reciprocal_bits = 4;
   static constexpr int index_shift = 48;
 
   static constexpr auto single = table64({
@@ -37,10 +37,7 @@ template <> struct LogTable<Lum64f> {
 };
 
 // 1/x rounded to N steps a power of 2 by integer arithmetic, which may carry into the exponent.
-template <class T> LUM_INLINE Vec<T> ShortReciprocalOf(Vec<T> x) {
-  using L = LogTable<T>;
-  return as_float((bits(rcp14(x)) + all(L::half_step)) & all(L::kept));
-}
+template <class T> LUM_INLINE Vec<T> ShortReciprocalOf(Vec<T> x) { return rcp14_halves_up<LogTable<T>::reciprocal_bits>(x); }
 // w (head + tail) - 1. The first step is exact but for one rounding.
 template <class T> LUM_INLINE Vec<T> Residue(Vec<T> w, Vec<T> head, Vec<T> tail) {
   return fma(w, tail, fms(w, head, all(T(1))));

@@ -54,7 +54,7 @@ template <int terms> LUM_INLINE Vec<Lum64f> RootSeries(Vec<Lum64f> e) {
 }
 
 // An estimate of 1 / sqrt y to 14 bits, zero for y = 0.
-template <class T> LUM_INLINE Vec<T> RootSeed(Vec<T> y) { return zero_unless(nlt(y, all(smallest_y<T>)), rsqrt14(y)); }
+template <class T> LUM_INLINE Vec<T> RootSeed(Vec<T> y) { return zero_unless(nlt(y, all(smallest_y<T>)), rsqrt14_normal(y)); }
 
 // s = 2 sqrt y = g - h p.
 template <class T> struct Root { Vec<T> g, h, p; };

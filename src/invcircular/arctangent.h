@@ -8,19 +8,19 @@
 namespace lum::inline LUM_LAYER {
 
 // n / d to nearly the last place, by significands and exponents, so that no size of n and d matters.
-LUM_INLINE Vec<Lum32f> SignificandReciprocal(Vec<Lum32f> m) { return rcp14(m); }
+LUM_INLINE Vec<Lum32f> SignificandReciprocal(Vec<Lum32f> m) { return rcp14_normal(m); }
 LUM_INLINE Vec<Lum64f> SignificandReciprocal(Vec<Lum64f> m) {
-  const auto w = rcp14(m);
+  const auto w = rcp14_normal(m);
   const auto e = fnma(m, w, all(1.0));
   return fma(w, fma(e, e, e), w);
 }
 template <class T> LUM_INLINE Vec<T> ScaledQuotient(Vec<T> n, Vec<T> d) {
-  const auto n_significand = getmant<significand::from_1_to_2>(n);
-  const auto d_significand = getmant<significand::from_1_to_2>(d);
+  const auto [n_significand, n_exponent] = parts<significand::from_1_to_2>(n);
+  const auto [d_significand, d_exponent] = parts<significand::from_1_to_2>(d);
   const auto w = SignificandReciprocal(d_significand);
   const auto q = n_significand * w;
   const auto e = fnma(q, d_significand, n_significand);
-  return scalef(fma(e, w, q), getexp(n) - getexp(d));
+  return scalef(fma(e, w, q), n_exponent - d_exponent);
 }
 
 // 1 / d to the accuracy of the low tiers.

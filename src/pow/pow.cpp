@@ -66,9 +66,9 @@ template <class T> struct Reduced { Vec<T> e, m, c; };
 
 // m in [1/2, 1), c in (1, 2].
 template <int fraction_bits, class T> LUM_INLINE Reduced<T> Reduce(Vec<T> x) {
-  const auto m = getmant<significand::from_half_to_1 | significand::nan_if_negative>(x);
-  const auto c = rndscale<binary_places(fraction_bits) | quiet>(rcp14(m));
-  return {add(lt(c, all(T(1.5))), getexp(x), all(T(1))), m, c};
+  const auto [m, e] = parts<significand::from_half_to_1 | significand::nan_if_negative>(x);
+  const auto c = rounded_rcp14<fraction_bits, 2>(m);
+  return {add(lt(c, all(T(1.5))), e, all(T(1))), m, c};
 }
 
 // The number in the top fraction bits of c: the row of the table.
@@ -91,25 +91,12 @@ LUM_INLINE TwoParts<Vec<Lum64f>> PairOf(Vec<Lum64f> c) {
   return {entry(pairs), entry(pairs + 32)};
 }
 
-// ---- The product with y
-
-// P = p + p_low, what is left of the exponent behind it.
-template <class T> struct Product { Vec<T> p, p_low; };
+// ---- The product with y, the exponent of 2
 
 // (s + q + rest) y, for |q| small against |s| and rest against q.
-template <class T> LUM_INLINE Product<T> MultiplyPair(Vec<T> s, Vec<T> q, Vec<T> rest, Vec<T> y) {
+template <class T> LUM_INLINE ProductParts<T> MultiplyPair(Vec<T> s, Vec<T> q, Vec<T> rest, Vec<T> y) {
   const auto hi = s + q;
-  const auto lo = (q - (hi - s)) + rest;
-  const auto p1 = mul<rz>(hi, y);
-  const auto p2 = fma<rz>(lo, y, fms<rz>(hi, y, p1));
-  const auto p = add<rz>(p1, p2);
-  return {p, p2 - (p - p1)};
-}
-
-// hi y, whose first part is the sum of both rounded toward zero.
-template <class T> LUM_INLINE Product<T> MultiplySingle(Vec<T> hi, Vec<T> y) {
-  const auto p1 = mul<rz>(hi, y);
-  return {p1, fms<rz>(hi, y, p1)};
+  return mul_toward_zero(hi, (q - (hi - s)) + rest, y);
 }
 
 template <class T> LUM_INLINE Mask<T> Refused(Vec<T> x, Vec<T> y, Vec<T> p) {
@@ -124,9 +111,9 @@ template <class T> struct Exponent {
 };
 
 // The bit that is cleared is none of an f below 1; it keeps NaN and huge values of refused lanes out of the polynomial.
-template <int index_bits, class T> LUM_INLINE Exponent<T> SplitExponent(const Product<T>& a, T shifter) {
-  const auto n = add<rd>(a.p, all(shifter));
-  const auto f = reduce<binary_places(index_bits) | rd>(a.p) + a.p_low;
+template <int index_bits, class T> LUM_INLINE Exponent<T> SplitExponent(const ProductParts<T>& a, T shifter) {
+  const auto [n, rest] = split_floor<index_bits>(a.head, all(shifter));
+  const auto f = rest + a.tail;
   return {f & all(static_cast<UnsignedOf<T>>(~(sign_bit<T> >> 1))), bits(n)};
 }
 
@@ -154,16 +141,16 @@ struct A11_32f : PowKernel<Lum32f> {
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x, Vec<Lum32f> y) {
     using C = PowConstants<Lum32f>;
     // m in [1, 2), c in [1/2, 1].
-    const auto m = getmant<significand::from_1_to_2 | significand::nan_if_negative>(x);
-    const auto c = rndscale<binary_places(5) | quiet>(rcp14(m));
-    const auto e = add(lt(c, all(0.75f)), getexp(x), all(1.0f));
+    const auto [m, exponent] = parts<significand::from_1_to_2 | significand::nan_if_negative>(x);
+    const auto c = rounded_rcp14<5, 0>(m);
+    const auto e = add(lt(c, all(0.75f)), exponent, all(1.0f));
     const auto r = fms(m, c, all(1.0f));
     const auto q = horner(r, pow::log2_A11);
-    const auto product = MultiplySingle(fma<rz>(q, r, e + permute(load<Lum32f>(C::rows_16), RowOf<4>(c))), y);
+    const auto product = mul_toward_zero(fma<rz>(q, r, e + permute(load<Lum32f>(C::rows_16), RowOf<4>(c))), y);
     const auto a = SplitExponent<4>(product, C::exp_shifter_16);
     const auto head = permute(load<Lum32f>(C::exp_head), a.n);
     const auto u = horner(a.f, pow::exp2_A11);
-    return {Scale<4>(fma(head * a.f, u, head), a), Refused(x, y, product.p)};
+    return {Scale<4>(fma(head * a.f, u, head), a), Refused(x, y, product.head)};
   }
 };
 
@@ -182,7 +169,7 @@ struct A21_32f : PowKernel<Lum32f> {
     const auto a = SplitExponent<4>(product, C::exp_shifter_16);
     const auto head = permute(load<Lum32f>(C::exp_head), a.n);
     const auto u = horner(a.f, pow::exp2_A21);
-    return {Scale<4>(fma(head * a.f, u, head), a), Refused(x, y, product.p)};
+    return {Scale<4>(fma(head * a.f, u, head), a), Refused(x, y, product.head)};
   }
 };
 
@@ -211,7 +198,7 @@ struct A24_32f : PowKernel<Lum32f> {
     const auto head = permute2(load<Lum32f>(exp_head_32), load(exp_head_32 + 16), a.n);
     const auto tail = permute2(load<Lum32f>(exp_tail_32), load(exp_tail_32 + 16), a.n);
     const auto u = horner(a.f, pow::exp2_A24);
-    return {Scale<5>(fma(head, fma(u, a.f, tail), head), a), Refused(x, y, product.p)};
+    return {Scale<5>(fma(head, fma(u, a.f, tail), head), a), Refused(x, y, product.head)};
   }
 };
 
@@ -228,11 +215,11 @@ struct A26_64f : PowKernel<Lum64f> {
     const auto q2 = horner(r, part<2, 3>(pow::log2_A26));
     const auto q4 = horner(r, part<4, 5>(pow::log2_A26));
     const auto q = fma(fma(all(pow::log2_A26.c[6]), r2, q4), r2 * r2, fma(q2, r2, q0));
-    const auto product = MultiplySingle(fma<rz>(q, r, b), y);
+    const auto product = mul_toward_zero(fma<rz>(q, r, b), y);
     const auto a = SplitExponent<4>(product, C::exp_shifter_16);
     const auto head = permute2(load<Lum64f>(C::exp_head), load(C::exp_head + 8), a.n);
     const auto u = horner(a.f, pow::exp2_A26);
-    return {Scale<4>(fma(head * a.f, u, head), a), Refused(x, y, product.p)};
+    return {Scale<4>(fma(head * a.f, u, head), a), Refused(x, y, product.head)};
   }
 };
 
@@ -248,7 +235,7 @@ struct A50_64f : PowKernel<Lum64f> {
     const auto product = MultiplyPair(terms.sum, q, terms.errors, y);
     const auto a = SplitExponent<4>(product, C::exp_shifter_16);
     const auto head = permute2(load<Lum64f>(C::exp_head), load(C::exp_head + 8), a.n);
-    return {Scale<4>(fma(head * a.f, LongExpPolynomial(a.f), head), a), Refused(x, y, product.p)};
+    return {Scale<4>(fma(head * a.f, LongExpPolynomial(a.f), head), a), Refused(x, y, product.head)};
   }
 };
 
@@ -272,7 +259,7 @@ struct A53_64f : PowKernel<Lum64f> {
     const auto a = SplitExponent<4>(product, C::exp_shifter_16);
     const auto head = permute2(load<Lum64f>(C::exp_head), load(C::exp_head + 8), a.n);
     const auto tail = permute2(load<Lum64f>(exp_tail_16), load(exp_tail_16 + 8), a.n);
-    return {Scale<4>(fma(head, fma(LongExpPolynomial(a.f), a.f, tail), head), a), Refused(x, y, product.p)};
+    return {Scale<4>(fma(head, fma(LongExpPolynomial(a.f), a.f, tail), head), a), Refused(x, y, product.head)};
   }
 };
 

@@ -26,15 +26,20 @@ template <class T> struct PowxGeneral : Kernel<T> {
   // The steps of PowerRoutine over vectors.
 
   LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) const {
+    // Of two NaNs the element's is the result, which only a layer that orders them gives.
+    auto in_doubt = mask_of<T>(0);
+    if constexpr (!orders_nans) in_doubt = unord(x, x) & unord(all(value), all(value)) & lanes.refused;
     if constexpr (std::is_same_v<T, Lum64f>) {
-      return PowerSecondPath(x, all(value), lanes);
+      auto r = PowerSecondPath(x, all(value), lanes);
+      r.refused = r.refused | in_doubt;
+      return r;
     } else {
       const auto half = [&](Vec<Lum64f> wide, Mask<Lum64f> refused) __attribute__((always_inline)) {
         return PowerSecondPath(wide, widen_low(all(value)), Lanes<Lum64f>{all(1.0), refused});
       };
       const auto low = half(widen_low(x), low_half(lanes.refused)), high = half(widen_high(x), high_half(lanes.refused));
       return {select(lanes.refused, narrow(low.value, high.value), lanes.value),
-              mask_of<T>(0),
+              in_doubt,
               {.domain = join(low.reports.domain, high.reports.domain)}};
     }
   }

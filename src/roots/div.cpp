@@ -53,10 +53,10 @@ template <class T, int terms> struct ByReciprocal : DivKernel<T> {
 // Significands in [1, 2) and exponents apart. Infinities and zeros come out of the difference of the exponents.
 template <class T> struct BySignificands : DivKernel<T> {
   static LUM_INLINE Lanes<T> VectorPath(Vec<T> x, Vec<T> y) {
-    const auto xm = getmant<significand::from_1_to_2>(x);
-    const auto ym = getmant<significand::from_1_to_2>(y);
-    const auto d = getexp(x) - getexp(y);
-    const auto r0 = rcp14(ym);
+    const auto [xm, xe] = parts<significand::from_1_to_2>(x);
+    const auto [ym, ye] = parts<significand::from_1_to_2>(y);
+    const auto d = xe - ye;
+    const auto r0 = rcp14_normal(ym);
     const auto q = xm * r0;
     auto r = r0;
     if constexpr (std::is_same_v<T, Lum64f>) {

@@ -123,14 +123,14 @@ struct A11_32f : HypotKernel<Lum32f> {
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> a, Vec<Lum32f> b) {
     const auto s = PlainSquares(a, b);
     const auto above_smallest = bits(s) - all(0x00800000u);
-    return {s * rsqrt14(s), mask_cast<Lum32f>(nlt(above_smallest, all(0x7F000000u)))};
+    return {s * rsqrt14_normal(s), mask_cast<Lum32f>(nlt(above_smallest, all(0x7F000000u)))};
   }
 };
 
 template <class T, int steps, bool residual_step> struct Plain : HypotKernel<T> {
   static LUM_INLINE Lanes<T> VectorPath(Vec<T> a, Vec<T> b) {
     const auto s = PlainSquares(a, b);
-    auto r = Start(s, rsqrt14(s));
+    auto r = Start(s, rsqrt14_normal(s));
     for (int i = 0; i < steps; ++i) r = CoupledStep(r);
     if constexpr (residual_step) return {HeronStep(s, r), OutOfRange(a, b)};
     else return {r.g, OutOfRange(a, b)};
@@ -140,7 +140,7 @@ template <class T, int steps, bool residual_step> struct Plain : HypotKernel<T> 
 template <class T, int steps> struct Exact : HypotKernel<T> {
   static LUM_INLINE Lanes<T> VectorPath(Vec<T> a, Vec<T> b) {
     const auto s = ExactSquares(a, b);
-    auto r = Start(s.head, rsqrt14(s.head));
+    auto r = Start(s.head, rsqrt14_normal(s.head));
     for (int i = 0; i < steps; ++i) r = CoupledStep(r);
     const auto d = fnma(r.g, r.g, s.head);
     return {fma(d + s.tail, r.h, r.g), OutOfRange(a, b)};

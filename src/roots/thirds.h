@@ -17,14 +17,14 @@ template <> struct ThirdsConstants<Lum32f> {
   static constexpr auto shifter = rounding_shifter<Lum32f>();
   static constexpr auto third = 1 / 3.0f;
   static constexpr auto offset = shifter / 3;            // a third of the shifter
-  static constexpr int grid = binary_places(5) | quiet;  // reciprocals are multiples of 2^-5
+  static constexpr int grid = 5;  // reciprocals are multiples of 2^-5
   static constexpr int index_shift = 19;                 // down to their last bit: the index of 1 follows on those below it
 };
 template <> struct ThirdsConstants<Lum64f> {
   static constexpr auto shifter = rounding_shifter<Lum64f>();
   static constexpr auto third = 0x1.5555555555556p-2;  // rounded up, as that of binary32 is by itself
   static constexpr auto offset = shifter / 3;
-  static constexpr int grid = binary_places(4) | quiet;
+  static constexpr int grid = 4;
   static constexpr int index_shift = 49;
 };
 
@@ -73,8 +73,7 @@ template <class T> struct ThirdsReduced {
 // down finds q; for the negative power it falls below -e / 3 by as little, and is rounded up.
 template <Power power, class T> LUM_INLINE ThirdsReduced<T> ReduceThirds(Vec<T> x) {
   using C = ThirdsConstants<T>;
-  const auto m = getmant<significand::from_1_to_2>(x);
-  const auto e = getexp(x);
+  const auto [m, e] = parts<significand::from_1_to_2>(x);
   const auto E = (power == Power::two_thirds ? e + e : e) + all(C::shifter);
   Vec<T> q, j;
   if constexpr (power == Power::minus_one_third) {
@@ -84,7 +83,7 @@ template <Power power, class T> LUM_INLINE ThirdsReduced<T> ReduceThirds(Vec<T> 
     q = rndscale<binary_places(0) | rd | quiet>(fma(E, all(C::third), all(-C::offset)));
     j = fnma(q, all(T(3)), E);
   }
-  const auto c = rndscale<C::grid>(rcp14(m));
+  const auto c = rounded_rcp14<C::grid, 0>(m);
   return {q, j, c, fms(m, c, all(T(1)))};
 }
 

@@ -134,6 +134,63 @@ template <Floating T> void add_significand(Builder& table) {
   });
 }
 
+// a with an exponent from -8 to 7.
+template <Floating T> Vec<T> moderate(Vec<T> a) {
+  using U = UnsignedOf<T>;
+  constexpr int fraction_bits = sizeof(T) == 4 ? 23 : 52;
+  constexpr U bias = sizeof(T) == 4 ? 127 : 1023;
+  constexpr U kept = static_cast<U>(sign_bit<T> | ((U{16} << fraction_bits) - 1));
+  return as_float(bits(a & all(kept)) + all(static_cast<U>((bias - 8) << fraction_bits)));
+}
+
+// The operations with a condition, on operands for which it holds.
+template <Floating T> void add_conditional(Builder& table) {
+  using V = Vec<T>;
+  const auto t = type_name<T>();
+  constexpr T shifter = sizeof(T) == 4 ? T(0x1.8p19) : T(0x1.8p49);
+  table.add<V, V>("fma_floor" + t, [](V a, V b) { return fma_floor(moderate(a), moderate(b), all(shifter)); });
+  table.add<V>("fma_floor of NaN and small numbers" + t,
+               [](V a) { return fma_floor(select(le(all(T(1)), abs(a)), moderate(a), a), all(T(1.44269504)), all(shifter)); });
+  table.add<V>("rcp14_normal" + t, [](V a) { return rcp14_normal(moderate(a)); });
+  table.add<V>("rsqrt14_normal" + t, [](V a) { return rsqrt14_normal(abs(moderate(a))); });
+  table.add<V>("getexp_normal" + t, [](V a) { return getexp_normal(moderate(a)); });
+  for_each_immediate<0x0, 0x1, 0x2, 0x3, 0x4, 0x8, 0xA, 0xB>([&](auto imm, const std::string& text) {
+    table.add<V>("getmant_normal" + text + t, [](V a) { return getmant_normal<decltype(imm)::value>(abs(moderate(a))); });
+    table.add<V>("parts" + text + t, [](V a) {
+      const auto [significand, exponent] = parts<decltype(imm)::value>(a);
+      return Pair<T>{significand, exponent};
+    });
+  });
+  table.add<V, V>("scalef_normal" + t, [](V a, V b) { return scalef_normal(moderate(a), moderate(b) * all(T(0.25))); });
+  table.add<V, V>("mul_toward_zero" + t, [](V a, V b) {
+    const auto [head, tail] = mul_toward_zero(moderate(a), moderate(b));
+    return Pair<T>{head, tail};
+  });
+  table.add<V, V, V>("mul_toward_zero with a tail" + t, [](V a, V b, V c) {
+    const auto x = moderate(a);
+    const auto [head, tail] = mul_toward_zero(x, x * moderate(b) * all(T(0x1p-20)), moderate(c));
+    return Pair<T>{head, tail};
+  });
+  // The sign of a zero is open.
+  table.add<V>("split_floor<4>" + t, [](V a) {
+    const auto [sum, rest] =
+        split_floor<4>(select(lt(abs(a), all(T(1))), a, moderate(a)), all(sizeof(T) == 4 ? T(0x1.8p19) : T(0x1.8p48)));
+    return Pair<T>{sum, rest + all(T(0))};
+  });
+  for_each_immediate<4, 5>([&](auto imm, const std::string& text) {
+    constexpr int grid = decltype(imm)::value;
+    table.add<V>("rounded_rcp14" + text + " of [1,2)" + t,
+                 [](V a) { return zero_unless(ord(a, a), rounded_rcp14<grid, 0>(getmant<0>(a))); });
+    table.add<V>("rounded_rcp14" + text + " of [1/2,1)" + t,
+                 [](V a) { return zero_unless(ord(a, a), rounded_rcp14<grid, 2>(getmant<2>(a))); });
+    table.add<V>("shifted_rcp14" + text + " of [1,2)" + t,
+                 [](V a) { return zero_unless(ord(a, a), shifted_rcp14<grid, 0>(getmant<4>(a))); });
+    table.add<V>("shifted_rcp14" + text + " of [1/2,1)" + t,
+                 [](V a) { return zero_unless(lt(getmant<6>(a), all(T(1))), shifted_rcp14<grid, 2>(getmant<6>(a))); });
+    table.add<V>("rcp14_halves_up" + text + t, [](V a) { return rcp14_halves_up<grid>(a); });
+  });
+}
+
 template <Floating T> void add_floating(Builder& table) {
   using V = Vec<T>;
   using U = Vec<UnsignedOf<T>>;
@@ -143,6 +200,7 @@ template <Floating T> void add_floating(Builder& table) {
   add_rounded<T, ru>(table, "<ru>");
   add_rounded<T, rz>(table, "<rz>");
   add_significand<T>(table);
+  add_conditional<T>(table);
   table.add_arithmetic<V, V>("operator+" + t, [](V a, V b) { return a + b; });
   table.add_arithmetic<V, V>("operator-" + t, [](V a, V b) { return a - b; });
   table.add_arithmetic<V, V>("operator*" + t, [](V a, V b) { return a * b; });
@@ -199,6 +257,12 @@ template <Lane T> void add_common(Builder& table) {
     T lanes[lanes_of<T>];
     store(lanes, old);
     store(m, lanes, a);
+    return load(lanes);
+  });
+  table.add<V, V, Count<T>>("store_first" + t, [](V a, V old, Count<T> count) {
+    T lanes[lanes_of<T>];
+    store(lanes, old);
+    store_first(count.value, lanes, a);
     return load(lanes);
   });
   table.add<Count<T>>("first_lanes" + t, [](Count<T> count) { return first_lanes<T>(count.value); });

@@ -2,7 +2,7 @@
 """Checks the loops over full blocks of all kernels in a library: hot_loops.py LIBRARY [--write]
 
 Such a loop holds its constants in registers: it has no vector access to the stack, no load or broadcast of a constant, and no
-call. Where the 32 registers are too few, or g++ forms a constant in the loop, loop_budget.csv says how many instructions of
+call. Where the 32 registers of AVX-512, or the 16 of AVX2, are too few, or g++ forms a constant in the loop, the library's budget says how many instructions of
 which kind a kernel's loops have; the count is compared exactly, so that a loop that grows worse is seen, and one that grows
 better is written down. --write writes the budget anew."""
 
@@ -17,7 +17,7 @@ sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "tools"))
 import catalogue
 from block_loops import block_loops, frame_registers, kernel_code
 
-BUDGET = Path(__file__).with_name("loop_budget.csv")
+BUDGETS = {"k0": Path(__file__).with_name("loop_budget.csv"), "a2": Path(__file__).with_name("loop_budget_a2.csv")}
 BUDGET_HEADING = "# Written by `tests/surface/hot_loops.py LIBRARY --write`: what the loops over full blocks have that they should not.\n"
 
 VECTOR = re.compile(r"\b[xyz]mm\d+|[XYZ]MMWORD")
@@ -51,15 +51,15 @@ def findings(name, code):
     return Counter(kind for way in ways for i in way if (kind := complaint(i, stack)))
 
 
-def read_budget():
-    with BUDGET.open() as file:
+def read_budget(path):
+    with path.open() as file:
         rows = csv.DictReader(line for line in file if not line.startswith("#"))
         return {(r["kernel"], r["kind"]): int(r["count"]) for r in rows}
 
 
-def write_budget(found):
+def write_budget(path, found):
     lines = [f"{kernel},{kind},{count}\n" for (kernel, kind), count in sorted(found.items())]
-    catalogue.write_if_changed(BUDGET, BUDGET_HEADING + "kernel,kind,count\n" + "".join(lines))
+    catalogue.write_if_changed(path, BUDGET_HEADING + "kernel,kind,count\n" + "".join(lines))
 
 
 def main():
@@ -67,6 +67,9 @@ def main():
     parser.add_argument("library")
     parser.add_argument("--write", action="store_true")
     arguments = parser.parse_args()
+    budget_file = next((path for name, path in BUDGETS.items() if f"lumvm{name}" in arguments.library), None)
+    if budget_file is None:
+        parser.error(f"{arguments.library}: there is no budget for this library")
     by_name = kernel_code(arguments.library)
     found = {}
     for name in kernels():
@@ -75,9 +78,9 @@ def main():
         else:
             found.update({(name, kind): count for kind, count in findings(name, by_name[name]).items()})
     if arguments.write:
-        write_budget(found)
+        write_budget(budget_file, found)
         return 0
-    budget = read_budget()
+    budget = read_budget(budget_file)
     wrong = [f"{kernel}: {kind}, {found.get((kernel, kind), 0)} times, the budget is {budget.get((kernel, kind), 0)}"
              for kernel, kind in sorted(found.keys() | budget.keys()) if found.get((kernel, kind)) != budget.get((kernel, kind))]
     print("\n".join(wrong + [f"{len(kernels())} kernels, {sum(budget.values())} instructions in the budget, {len(wrong)} complaints"]))

@@ -61,6 +61,14 @@ else()
   endforeach()
 endif()
 
+# The loops of the AVX2 library, by a budget of its own.
+if("lumvma2" IN_LIST LUM_LIBRARIES AND CMAKE_BUILD_TYPE STREQUAL "Release" AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  add_test(NAME surface.hot_loops_a2
+           COMMAND ${Python3_EXECUTABLE} ${CMAKE_CURRENT_SOURCE_DIR}/surface/hot_loops.py $<TARGET_FILE:lumvma2>)
+else()
+  add_skipped_test(surface.hot_loops_a2 "not an optimised build for AVX2 by g++")
+endif()
+
 # The binary interface, read from the stubs with debugging information.
 add_library(lumvm_abi SHARED ${PROJECT_SOURCE_DIR}/src/frame/entries.cpp ${PROJECT_SOURCE_DIR}/src/frame/version.cpp
                              surface/abi_table.cpp)

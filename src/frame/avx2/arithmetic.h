@@ -2,6 +2,7 @@
 #pragma once
 
 #include "frame/avx2/base.h"
+#include "frame/avx2/estimates.h"
 
 namespace lum {
 inline namespace avx2 {
@@ -61,6 +62,36 @@ template <int R = rn, Floating T> LUM_INLINE Vec<T> fnms(Vec<T> a, Vec<T> b, Vec
   if constexpr (R != rn) return directed_fma<R, true, true>(a, b, c);
   else return {half::fnms(a.low, b.low, c.low), half::fnms(a.high, b.high, c.high)};
 }
+// fma<rz>(a, b, c) for c = 1.5 * 2^k and |a b| up to 2^(k-2), so that it is the floor of a b, and c behind it. A product that
+// is negative is no denormal number. Of other lanes any value, a NaN of a one.
+template <Floating T> LUM_INLINE Vec<T> fma_floor(Vec<T> a, Vec<T> b, Vec<T> c) {
+  return {half::fma_floor(a.low, b.low, c.low), half::fma_floor(a.high, b.high, c.high)};
+}
+// A product as the sum of two numbers.
+template <Floating T> struct ProductParts { Vec<T> head, tail; };
+// a b rounded toward zero, and what is left of it, exactly: of products that are finite and whose lowest bit is in the range.
+template <Floating T> LUM_INLINE ProductParts<T> mul_toward_zero(Vec<T> a, Vec<T> b) {
+  const auto low = half::mul_toward_zero(a.low, b.low), high = half::mul_toward_zero(a.high, b.high);
+  if (any(half::is_small_product(low.head, a.low, b.low) | half::is_small_product(high.head, a.high, b.high))) [[unlikely]] {
+    const auto head = mul<rz>(a, b);
+    return {head, fms<rz>(a, b, head)};
+  }
+  return {{low.head, high.head}, {low.tail, high.tail}};
+}
+// (a + a_tail) b, each step toward zero, for a tail that is zero or from 2^-212 (float: 2^-96) to 2^-8 of a.
+template <Floating T> LUM_INLINE ProductParts<T> mul_toward_zero(Vec<T> a, Vec<T> a_tail, Vec<T> b) {
+  Vec<T> head, tail;
+  const auto low = half::mul_toward_zero(a.low, a_tail.low, b.low), high = half::mul_toward_zero(a.high, a_tail.high, b.high);
+  head = {low.head, high.head};
+  tail = {low.tail, high.tail};
+  if (any(half::is_small_product(low.head, a.low, b.low) | half::is_small_product(high.head, a.high, b.high))) [[unlikely]] {
+    const auto first = mul<rz>(a, b);
+    const auto second = fma<rz>(a_tail, b, fms<rz>(a, b, first));
+    head = add<rz>(first, second);
+    tail = second - (head - first);
+  }
+  return {head, tail};
+}
 // a b - c in even lanes, a b + c in odd ones, with one rounding.
 template <Floating T> LUM_INLINE Vec<T> fmaddsub(Vec<T> a, Vec<T> b, Vec<T> c) {
   if constexpr (is32<T>)
@@ -82,49 +113,92 @@ template <Floating T> LUM_INLINE Vec<T> max(Vec<T> a, Vec<T> b) {
   else return {{_mm256_max_pd(a.low.v, b.low.v)}, {_mm256_max_pd(a.high.v, b.high.v)}};
 }
 // 1 / a with a relative error below 2^-14; a zero gives an infinity and an infinity a zero, of its sign.
-template <Floating T> LUM_INLINE Vec<T> rcp14(Vec<T> a) { return {half::rcp14(a.low), half::rcp14(a.high)}; }
+template <Floating T> LUM_INLINE Vec<T> rcp14(Vec<T> a) { return half::rcp14(a); }
 // 1 / sqrt a with a relative error below 2^-14; a zero gives an infinity of its sign, a negative number the default NaN.
-template <Floating T> LUM_INLINE Vec<T> rsqrt14(Vec<T> a) { return {half::rsqrt14(a.low), half::rsqrt14(a.high)}; }
+template <Floating T> LUM_INLINE Vec<T> rsqrt14(Vec<T> a) { return half::rsqrt14(a); }
+// Of numbers that are normal and have a normal reciprocal; in other lanes any value.
+template <Floating T> LUM_INLINE Vec<T> rcp14_normal(Vec<T> a) { return half::rcp14_normal(a); }
+// Of positive normal numbers; in other lanes any value.
+template <Floating T> LUM_INLINE Vec<T> rsqrt14_normal(Vec<T> a) { return half::rsqrt14_normal(a); }
 
 // ---- Exponent, significand, rounding to a grid
 
-// Zeros, denormal numbers, infinities and NaN.
-template <Floating T> LUM_INLINE Mask<T> not_normal(Vec<T> a) {
-  using F = lane::Format<T>;
-  return {half::bits_outside(half::magnitude(a.low), F::hidden, F::infinity),
-          half::bits_outside(half::magnitude(a.high), F::hidden, F::infinity)};
-}
-
 // floor(log2 |a|), also of denormals; -infinity for a zero, +infinity for an infinity.
 template <Floating T> LUM_INLINE Vec<T> getexp(Vec<T> a) {
-  Vec<T> r{half::getexp_of_normal(a.low), half::getexp_of_normal(a.high)};
-  if (any(not_normal(a))) [[unlikely]]
-    r = {half::getexp(a.low), half::getexp(a.high)};
-  return r;
+  auto low = half::getexp_of_normal(a.low).v, high = half::getexp_of_normal(a.high).v;
+  if (half::any_not_normal(a)) [[unlikely]] {
+    low = half::getexp(a.low).v;
+    high = half::getexp(a.high).v;
+  }
+  return {{low}, {high}};
 }
 // The significand of a in the interval of imm bits 0-1: 0 [1,2), 1 [1/2,2), 2 [1/2,1), 3 [3/4,3/2); bits 2-3: 0 keeps the sign,
 // 1 clears it, 2 gives the default NaN for a negative number.
 template <int imm, Floating T> LUM_INLINE Vec<T> getmant(Vec<T> a) {
-  Vec<T> r{half::getmant_of_normal<imm>(a.low), half::getmant_of_normal<imm>(a.high)};
-  auto special = not_normal(a);
-  if constexpr ((imm & 8) != 0) special = special | lt(a, all(T{0}));
-  if (any(special)) [[unlikely]]
-    r = {half::getmant<imm>(a.low), half::getmant<imm>(a.high)};
-  return r;
+  auto low = half::getmant_of_normal<imm>(a.low).v, high = half::getmant_of_normal<imm>(a.high).v;
+  if ((imm & 8) != 0 ? half::any_not_positive_normal(a) : half::any_not_normal(a)) [[unlikely]] {
+    low = half::getmant<imm>(a.low).v;
+    high = half::getmant<imm>(a.high).v;
+  }
+  return {{low}, {high}};
+}
+// getexp and getmant of normal numbers; of others any value.
+template <Floating T> LUM_INLINE Vec<T> getexp_normal(Vec<T> a) {
+  return {half::getexp_of_normal(a.low), half::getexp_of_normal(a.high)};
+}
+template <int imm, Floating T> LUM_INLINE Vec<T> getmant_normal(Vec<T> a) {
+  return {half::getmant_of_normal<imm>(a.low), half::getmant_of_normal<imm>(a.high)};
+}
+// Both of a number.
+template <Floating T> struct Parts { Vec<T> significand, exponent; };
+template <int imm, Floating T> LUM_INLINE Parts<T> parts(Vec<T> a) {
+  auto low = half::getmant_of_normal<imm>(a.low).v, high = half::getmant_of_normal<imm>(a.high).v;
+  auto low_exponent = half::getexp_of_normal(a.low).v, high_exponent = half::getexp_of_normal(a.high).v;
+  if ((imm & 8) != 0 ? half::any_not_positive_normal(a) : half::any_not_normal(a)) [[unlikely]] {
+    low = half::getmant<imm>(a.low).v;
+    high = half::getmant<imm>(a.high).v;
+    low_exponent = half::getexp(a.low).v;
+    high_exponent = half::getexp(a.high).v;
+  }
+  return {{{low}, {high}}, {{low_exponent}, {high_exponent}}};
 }
 // a 2^floor(b) with one rounding, gradual underflow included.
 template <int R = rn, Floating T> LUM_INLINE Vec<T> scalef(Vec<T> a, Vec<T> b) {
   if constexpr (R != rn) return by_lane<[](T x, T y) { return lane::exact_scalef<R>(x, y); }>(a, b);
   else return {half::scalef(a.low, b.low), half::scalef(a.high, b.high)};
 }
+// The same where the result is a normal number and floor(b) that of one, or a NaN; in other lanes any value.
+template <Floating T> LUM_INLINE Vec<T> scalef_normal(Vec<T> a, Vec<T> b) {
+  return {half::scalef_by_normal(a.low, half::round<1>(b.low)), half::scalef_by_normal(a.high, half::round<1>(b.high))};
+}
 // a rounded to a multiple of 2^-M, M in imm bits 4-7; bits 0-1: 0 nearest even, 1 down, 2 up, 3 toward zero; bit 2: the
 // environment's rounding, which kernels have set to nearest.
 template <int imm, Floating T> LUM_INLINE Vec<T> rndscale(Vec<T> a) {
   return {half::rndscale<imm>(a.low), half::rndscale<imm>(a.high)};
 }
+// rcp14(m) rounded to a multiple of 2^-grid, for m of the interval that getmant's immediate names: 0 [1,2) or 2 [1/2,1), of
+// either sign. Of a NaN any value.
+template <int grid, int interval, Floating T> LUM_INLINE Vec<T> rounded_rcp14(Vec<T> m) {
+  static_assert(interval == 0 || interval == 2);
+  return half::short_rcp14 < interval == 0 ? grid - 1 : grid, true > (m);
+}
+// The same of a positive m plus the number whose last bit is worth 2^-grid, 3 * 2^(fraction bits - 1) times as large.
+template <int grid, int interval, Floating T> LUM_INLINE Vec<T> shifted_rcp14(Vec<T> m) {
+  static_assert(interval == 0 || interval == 2);
+  return half::shifted_rcp14<grid, interval>(m);
+}
+// rcp14(a) with its significand rounded to the given fraction bits, halves up; a carry goes into the exponent.
+template <int kept, Floating T> LUM_INLINE Vec<T> rcp14_halves_up(Vec<T> a) { return half::rcp14_halves_up<kept>(a); }
 // a - rndscale<imm>(a), the exact remainder.
 template <int imm, Floating T> LUM_INLINE Vec<T> reduce(Vec<T> a) {
   return {half::reduce<imm>(a.low), half::reduce<imm>(a.high)};
+}
+// a + c rounded down, for c = 1.5 * 2^k and a bit more and |a| up to 2^(k-2), so that it is the floor of a on the grid whose
+// step is the sum's last bit, 2^-grid; and the rest of a above that floor, rounded down, a zero of either sign.
+template <Floating T> struct FloorAndRest { Vec<T> sum, rest; };
+template <int grid, Floating T> LUM_INLINE FloorAndRest<T> split_floor(Vec<T> a, Vec<T> c) {
+  const auto low = half::split_floor(a.low, c.low), high = half::split_floor(a.high, c.high);
+  return {{low.sum, high.sum}, {low.rest, high.rest}};
 }
 
 // ---- Comparison and classification

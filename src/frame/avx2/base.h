@@ -2,7 +2,7 @@
 // a part of frame/vec_avx2.h, which silences the compilers' complaints about their own intrinsics.
 #pragma once
 
-#include "frame/avx2/registers.h"
+#include "frame/avx2/directed.h"
 
 namespace lum {
 inline namespace avx2 {
@@ -17,9 +17,9 @@ template <Lane T> using VecIn = Vec<T>;
 template <Lane T> struct Mask { half::HalfMask<T> low, high; };
 
 inline constexpr bool vectors_fit_registers = true;
-// Its sums and products are written in order by no instruction, so that a second path and a lane routine could take different
-// ones of two NaNs.
-inline constexpr bool has_second_paths = false;
+inline constexpr bool has_second_paths = true;
+// The compilers may exchange the operands of sums and products, so that of two NaNs the other one is taken.
+inline constexpr bool orders_nans = false;
 inline constexpr bool streams_fit_registers = false;
 
 // ---- Make, load, store
@@ -47,6 +47,13 @@ template <Lane T> LUM_INLINE void store(T* p, Vec<T> a) {
 template <Lane T> LUM_INLINE void store(Mask<T> mask, T* p, Vec<T> a) {
   half::store(mask.low, p, a.low);
   half::store(mask.high, p + Half<T>::lanes, a.high);
+}
+// Writes the first count lanes, 0 <= count <= lanes, and touches no other memory.
+template <Lane T> LUM_INLINE void store_first(int count, T* p, Vec<T> a) {
+  constexpr int lanes = Half<T>::lanes;
+  if (count < lanes) return half::store_first(count, p, a.low);
+  half::store(p, a.low);
+  if (count > lanes) half::store_first(count - lanes, p + lanes, a.high);
 }
 
 // ---- Reinterpretation

@@ -50,6 +50,23 @@ template <int R = rn, Floating T> LUM_INLINE Vec<T> fnms(Vec<T> a, Vec<T> b, Vec
   if constexpr (is32<T>) return {_mm512_fnmsub_round_ps(a.v, b.v, c.v, suppressed<R>)};
   else return {_mm512_fnmsub_round_pd(a.v, b.v, c.v, suppressed<R>)};
 }
+// fma<rz>(a, b, c) for c = 1.5 * 2^k and |a b| up to 2^(k-2), so that it is the floor of a b, and c behind it. A product that
+// is negative is no denormal number. Of other lanes any value, a NaN of a one.
+template <Floating T> LUM_INLINE Vec<T> fma_floor(Vec<T> a, Vec<T> b, Vec<T> c) { return fma<rz>(a, b, c); }
+// A product as the sum of two numbers.
+template <Floating T> struct ProductParts { Vec<T> head, tail; };
+// a b rounded toward zero, and what is left of it, exactly: of products that are finite and whose lowest bit is in the range.
+template <Floating T> LUM_INLINE ProductParts<T> mul_toward_zero(Vec<T> a, Vec<T> b) {
+  const auto head = mul<rz>(a, b);
+  return {head, fms<rz>(a, b, head)};
+}
+// (a + a_tail) b, each step toward zero, for a tail that is zero or from 2^-212 (float: 2^-96) to 2^-8 of a.
+template <Floating T> LUM_INLINE ProductParts<T> mul_toward_zero(Vec<T> a, Vec<T> a_tail, Vec<T> b) {
+  const auto first = mul<rz>(a, b);
+  const auto second = fma<rz>(a_tail, b, fms<rz>(a, b, first));
+  const auto head = add<rz>(first, second);
+  return {head, second - (head - first)};
+}
 // a b - c in even lanes, a b + c in odd ones, with one rounding.
 template <Floating T> LUM_INLINE Vec<T> fmaddsub(Vec<T> a, Vec<T> b, Vec<T> c) {
   if constexpr (is32<T>) return {_mm512_fmaddsub_round_ps(a.v, b.v, c.v, suppressed<rn>)};
@@ -82,6 +99,10 @@ template <Floating T> LUM_INLINE Vec<T> rsqrt14(Vec<T> a) {
   if constexpr (is32<T>) return {_mm512_rsqrt14_ps(a.v)};
   else return {_mm512_rsqrt14_pd(a.v)};
 }
+// Of numbers that are normal and have a normal reciprocal; in other lanes any value.
+template <Floating T> LUM_INLINE Vec<T> rcp14_normal(Vec<T> a) { return rcp14(a); }
+// Of positive normal numbers; in other lanes any value.
+template <Floating T> LUM_INLINE Vec<T> rsqrt14_normal(Vec<T> a) { return rsqrt14(a); }
 
 // ---- Exponent, significand, rounding to a grid
 
@@ -98,21 +119,52 @@ template <int imm, Floating T> LUM_INLINE Vec<T> getmant(Vec<T> a) {
   if constexpr (is32<T>) return {_mm512_getmant_round_ps(a.v, interval, sign, _MM_FROUND_NO_EXC)};
   else return {_mm512_getmant_round_pd(a.v, interval, sign, _MM_FROUND_NO_EXC)};
 }
+// getexp and getmant of normal numbers; of others any value.
+template <Floating T> LUM_INLINE Vec<T> getexp_normal(Vec<T> a) { return getexp(a); }
+template <int imm, Floating T> LUM_INLINE Vec<T> getmant_normal(Vec<T> a) { return getmant<imm>(a); }
+// Both of a number.
+template <Floating T> struct Parts { Vec<T> significand, exponent; };
+template <int imm, Floating T> LUM_INLINE Parts<T> parts(Vec<T> a) { return {getmant<imm>(a), getexp(a)}; }
 // a 2^floor(b) with one rounding, gradual underflow included.
 template <int R = rn, Floating T> LUM_INLINE Vec<T> scalef(Vec<T> a, Vec<T> b) {
   if constexpr (is32<T>) return {_mm512_scalef_round_ps(a.v, b.v, suppressed<R>)};
   else return {_mm512_scalef_round_pd(a.v, b.v, suppressed<R>)};
 }
+// The same where the result is a normal number and floor(b) that of one, or a NaN; in other lanes any value.
+template <Floating T> LUM_INLINE Vec<T> scalef_normal(Vec<T> a, Vec<T> b) { return scalef(a, b); }
 // a rounded to a multiple of 2^-M, M in imm bits 4-7; bits 0-1: 0 nearest even, 1 down, 2 up, 3 toward zero; bit 2: the
 // environment's rounding, which kernels have set to nearest.
 template <int imm, Floating T> LUM_INLINE Vec<T> rndscale(Vec<T> a) {
   if constexpr (is32<T>) return {_mm512_roundscale_round_ps(a.v, imm, _MM_FROUND_NO_EXC)};
   else return {_mm512_roundscale_round_pd(a.v, imm, _MM_FROUND_NO_EXC)};
 }
+// rcp14(m) rounded to a multiple of 2^-grid, for m of the interval that getmant's immediate names: 0 [1,2) or 2 [1/2,1), of
+// either sign. Of a NaN any value.
+template <int grid, int interval, Floating T> LUM_INLINE Vec<T> rounded_rcp14(Vec<T> m) {
+  static_assert(interval == 0 || interval == 2);
+  return rndscale<grid << 4 | 8>(rcp14(m));
+}
+// The same of a positive m plus the number whose last bit is worth 2^-grid, 3 * 2^(fraction bits - 1) times as large.
+template <int grid, int interval, Floating T> LUM_INLINE Vec<T> shifted_rcp14(Vec<T> m) {
+  static_assert(interval == 0 || interval == 2);
+  return rcp14(m) + all((is32<T> ? T(0x1.8p23) : T(0x1.8p52)) / (1 << grid));
+}
+// rcp14(a) with its significand rounded to the given fraction bits, halves up; a carry goes into the exponent.
+template <int kept, Floating T> LUM_INLINE Vec<T> rcp14_halves_up(Vec<T> a) {
+  using Bits = UnsignedOf<T>;
+  constexpr Bits half_step = Bits{1} << ((is32<T> ? 23 : 52) - kept - 1);
+  return as_float((bits(rcp14(a)) + all(half_step)) & all(static_cast<Bits>(~(2 * half_step - 1))));
+}
 // a - rndscale<imm>(a), the exact remainder.
 template <int imm, Floating T> LUM_INLINE Vec<T> reduce(Vec<T> a) {
   if constexpr (is32<T>) return {_mm512_reduce_round_ps(a.v, imm, _MM_FROUND_NO_EXC)};
   else return {_mm512_reduce_round_pd(a.v, imm, _MM_FROUND_NO_EXC)};
+}
+// a + c rounded down, for c = 1.5 * 2^k and a bit more and |a| up to 2^(k-2), so that it is the floor of a on the grid whose
+// step is the sum's last bit, 2^-grid; and the rest of a above that floor, rounded down, a zero of either sign.
+template <Floating T> struct FloorAndRest { Vec<T> sum, rest; };
+template <int grid, Floating T> LUM_INLINE FloorAndRest<T> split_floor(Vec<T> a, Vec<T> c) {
+  return {add<rd>(a, c), reduce<grid << 4 | 1>(a)};
 }
 
 // ---- Comparison and classification

@@ -28,6 +28,7 @@ template <Lane T> struct Mask { typename MaskBitsOf<lanes_of<T>>::Type k; };
 template <class T> inline constexpr bool is32 = sizeof(T) == 4;
 inline constexpr bool vectors_fit_registers = true;
 inline constexpr bool has_second_paths = true;
+inline constexpr bool orders_nans = true;
 inline constexpr bool streams_fit_registers = true;
 
 // ---- Make, load, store
@@ -67,6 +68,11 @@ template <Lane T> LUM_INLINE void store(Mask<T> mask, T* p, Vec<T> a) {
   else if constexpr (std::same_as<T, double>) _mm512_mask_storeu_pd(p, mask.k, a.v);
   else if constexpr (is32<T>) _mm512_mask_storeu_epi32(p, mask.k, a.v);
   else _mm512_mask_storeu_epi64(p, mask.k, a.v);
+}
+// Writes the first count lanes, 0 <= count <= lanes, and touches no other memory.
+template <Lane T> LUM_INLINE void store_first(int count, T* p, Vec<T> a) {
+  const Mask<T> first{static_cast<decltype(Mask<T>::k)>((1u << count) - 1u)};
+  store(first, p, a);
 }
 
 // ---- Reinterpretation

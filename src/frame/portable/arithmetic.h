@@ -29,6 +29,18 @@ LUM_INLINE Vec<T> each_lane_with_care(Quick quick, Doubt doubt, const Vec<T>& fi
   [&doubts, &redone](Vec<T> a, Operands... others) { redo_lanes<careful>(redone, doubts, a, others...); }(first, rest...);
   return redone;
 }
+// The result that quick(i) gives in every lane, with careful(a, b, ...) where that is a NaN: for operations that are one
+// instruction of the processor, but for the choice among NaNs. The copies are as above.
+template <auto careful, Floating T, class Quick, class... Operands>
+LUM_INLINE Vec<T> each_lane_but_nans(Quick quick, const Vec<T>& first, const Operands&... rest) {
+  const Vec<T> r = each_lane<T>(quick);
+  const Mask<T> nans = each_mask_lane<T>([&](int i) { return lane::is_nan(r.lane[i]); });
+  if (none(nans)) [[likely]]
+    return r;
+  Vec<T> redone = r;
+  [&nans, &redone](Vec<T> a, Operands... others) { redo_lanes<careful>(redone, nans, a, others...); }(first, rest...);
+  return redone;
+}
 
 template <int R = rn, Floating T> LUM_INLINE Vec<T> add(const Vec<T>& a, const Vec<T>& b) {
   return each_lane<T>([&](int i) { return lane::add<R>(a.lane[i], b.lane[i]); });
@@ -36,10 +48,16 @@ template <int R = rn, Floating T> LUM_INLINE Vec<T> add(const Vec<T>& a, const V
 template <int R = rn, Floating T> LUM_INLINE Vec<T> sub(const Vec<T>& a, const Vec<T>& b) {
   return each_lane<T>([&](int i) { return lane::sub<R>(a.lane[i], b.lane[i]); });
 }
-template <int R = rn, Floating T> [[gnu::noinline]] Vec<T> mul(const Vec<T>& a, const Vec<T>& b) {
+template <int R = rn, Floating T> [[gnu::noinline]] Vec<T> called_mul(const Vec<T>& a, const Vec<T>& b) {
   return each_lane_with_care<lane::careful_mul<R, T>>([&](int i) { return lane::quick_mul<R>(a.lane[i], b.lane[i]); },
                                                       [&](int i, T r) { return lane::mul_doubt<R>(a.lane[i], b.lane[i], r); },
                                                       a, b);
+}
+template <int R = rn, Floating T> LUM_INLINE Vec<T> mul(const Vec<T>& a, const Vec<T>& b) {
+  const auto quick = [&](int i) { return a.lane[i] * b.lane[i]; };
+  if constexpr (R != rn || !lane::processor_has_fma) return called_mul<R>(a, b);
+  else if constexpr (lane::processor_gives_these_nans) return each_lane<T>(quick);
+  else return each_lane_but_nans<lane::careful_mul<rn, T>>(quick, a, b);
 }
 template <int R = rn, Floating T> [[gnu::noinline]] Vec<T> div(const Vec<T>& a, const Vec<T>& b) {
   return each_lane<T>([&](int i) { return lane::div<R>(a.lane[i], b.lane[i]); });
@@ -48,13 +66,25 @@ template <int R = rn, Floating T> [[gnu::noinline]] Vec<T> sqrt(const Vec<T>& a)
   return each_lane<T>([&](int i) { return lane::sqrt<R>(a.lane[i]); });
 }
 // +-(a b) +- c with one rounding.
+template <bool negate_product, bool negate_addend, Floating T>
+LUM_INLINE Vec<T> native_fma(const Vec<T>& a, const Vec<T>& b, const Vec<T>& c) {
+  const auto quick = [&](int i) {
+    return lane::quick_fma<rn>(negate_product ? -a.lane[i] : a.lane[i], b.lane[i], negate_addend ? -c.lane[i] : c.lane[i]);
+  };
+  return each_lane_but_nans<lane::careful_fma<rn, negate_product, negate_addend, T>>(quick, a, b, c);
+}
 template <int R, bool negate_product, bool negate_addend, Floating T>
-[[gnu::noinline]] Vec<T> signed_fma(const Vec<T>& a, const Vec<T>& b, const Vec<T>& c) {
+[[gnu::noinline]] Vec<T> called_fma(const Vec<T>& a, const Vec<T>& b, const Vec<T>& c) {
   const auto quick = [&](int i) {
     return lane::quick_fma<R>(negate_product ? -a.lane[i] : a.lane[i], b.lane[i], negate_addend ? -c.lane[i] : c.lane[i]);
   };
   return each_lane_with_care<lane::careful_fma<R, negate_product, negate_addend, T>>(
       quick, [&](int i, T r) { return lane::fma_doubt<R>(a.lane[i], b.lane[i], c.lane[i], r); }, a, b, c);
+}
+template <int R, bool negate_product, bool negate_addend, Floating T>
+LUM_INLINE Vec<T> signed_fma(const Vec<T>& a, const Vec<T>& b, const Vec<T>& c) {
+  if constexpr (R == rn && lane::processor_has_fma) return native_fma<negate_product, negate_addend>(a, b, c);
+  else return called_fma<R, negate_product, negate_addend>(a, b, c);
 }
 // a b + c with one rounding.
 template <int R = rn, Floating T> LUM_INLINE Vec<T> fma(const Vec<T>& a, const Vec<T>& b, const Vec<T>& c) {
@@ -71,6 +101,31 @@ template <int R = rn, Floating T> LUM_INLINE Vec<T> fnma(const Vec<T>& a, const 
 // -(a b) - c with one rounding.
 template <int R = rn, Floating T> LUM_INLINE Vec<T> fnms(const Vec<T>& a, const Vec<T>& b, const Vec<T>& c) {
   return signed_fma<R, true, true>(a, b, c);
+}
+// fma<rz>(a, b, c) for c = 1.5 * 2^k and |a b| up to 2^(k-2), so that it is the floor of a b, and c behind it. A product that
+// is negative is no denormal number. Of other lanes any value, a NaN of a one.
+template <Floating T> LUM_INLINE Vec<T> fma_floor(const Vec<T>& a, const Vec<T>& b, const Vec<T>& c) {
+  if constexpr (!lane::processor_has_fma) return fma<rz>(a, b, c);
+  const auto s = fma(a, b, c);
+  // The difference from c is exact, and one unit down is right where the sum was rounded up.
+  return each_lane<T>([&](int i) {
+    const T error = lane::quick_fma<rn>(a.lane[i], b.lane[i], c.lane[i] - s.lane[i]);
+    return lane::from_bits<T>(lane::to_bits(s.lane[i]) + lane::mask_where<T>(error < 0));
+  });
+}
+// A product as the sum of two numbers.
+template <Floating T> struct ProductParts { Vec<T> head, tail; };
+// a b rounded toward zero, and what is left of it, exactly: of products that are finite and whose lowest bit is in the range.
+template <Floating T> LUM_INLINE ProductParts<T> mul_toward_zero(const Vec<T>& a, const Vec<T>& b) {
+  const auto head = mul<rz>(a, b);
+  return {head, fms<rz>(a, b, head)};
+}
+// (a + a_tail) b, each step toward zero, for a tail that is zero or from 2^-212 (float: 2^-96) to 2^-8 of a.
+template <Floating T> LUM_INLINE ProductParts<T> mul_toward_zero(const Vec<T>& a, const Vec<T>& a_tail, const Vec<T>& b) {
+  const auto first = mul<rz>(a, b);
+  const auto second = fma<rz>(a_tail, b, fms<rz>(a, b, first));
+  const auto head = add<rz>(first, second);
+  return {head, second - (head - first)};
 }
 // c with the sign of the even or of the odd lanes changed.
 template <int odd, Floating T> LUM_INLINE Vec<T> negate_every_other(const Vec<T>& c) {
@@ -113,6 +168,10 @@ template <Floating T> [[gnu::noinline]] Vec<T> rcp14(const Vec<T>& a) {
 template <Floating T> [[gnu::noinline]] Vec<T> rsqrt14(const Vec<T>& a) {
   return each_lane<T>([&](int i) { return lane::rsqrt14(a.lane[i]); });
 }
+// Of numbers that are normal and have a normal reciprocal; in other lanes any value.
+template <Floating T> LUM_INLINE Vec<T> rcp14_normal(const Vec<T>& a) { return rcp14(a); }
+// Of positive normal numbers; in other lanes any value.
+template <Floating T> LUM_INLINE Vec<T> rsqrt14_normal(const Vec<T>& a) { return rsqrt14(a); }
 
 // ---- Exponent, significand, rounding to a grid
 
@@ -125,20 +184,54 @@ template <Floating T> [[gnu::noinline]] Vec<T> getexp(const Vec<T>& a) {
 template <int imm, Floating T> [[gnu::noinline]] Vec<T> getmant(const Vec<T>& a) {
   return each_lane<T>([&](int i) { return lane::getmant<imm>(a.lane[i]); });
 }
+// getexp and getmant of normal numbers; of others any value.
+template <Floating T> LUM_INLINE Vec<T> getexp_normal(const Vec<T>& a) { return getexp(a); }
+template <int imm, Floating T> LUM_INLINE Vec<T> getmant_normal(const Vec<T>& a) { return getmant<imm>(a); }
+// Both of a number.
+template <Floating T> struct Parts { Vec<T> significand, exponent; };
+template <int imm, Floating T> LUM_INLINE Parts<T> parts(const Vec<T>& a) { return {getmant<imm>(a), getexp(a)}; }
 // a 2^floor(b) with one rounding, gradual underflow included.
 template <int R = rn, Floating T> [[gnu::noinline]] Vec<T> scalef(const Vec<T>& a, const Vec<T>& b) {
   return each_lane_with_care<lane::exact_scalef<R, T>>([&](int i) { return lane::quick_scalef<R>(a.lane[i], b.lane[i]); },
                                                        [&](int i, T) { return lane::scalef_doubt(a.lane[i], b.lane[i]); }, a,
                                                        b);
 }
+// The same where the result is a normal number and floor(b) that of one, or a NaN; in other lanes any value.
+template <Floating T> LUM_INLINE Vec<T> scalef_normal(const Vec<T>& a, const Vec<T>& b) {
+  if constexpr (!lane::processor_has_fma) return scalef(a, b);
+  return each_lane<T>([&](int i) { return lane::scalef_normal(a.lane[i], b.lane[i]); });
+}
 // a rounded to a multiple of 2^-M, M in imm bits 4-7; bits 0-1: 0 nearest even, 1 down, 2 up, 3 toward zero; bit 2: the
 // environment's rounding, which kernels have set to nearest.
 template <int imm, Floating T> [[gnu::noinline]] Vec<T> rndscale(const Vec<T>& a) {
   return each_lane<T>([&](int i) { return lane::rndscale<imm>(a.lane[i]); });
 }
+// rcp14(m) rounded to a multiple of 2^-grid, for m of the interval that getmant's immediate names: 0 [1,2) or 2 [1/2,1), of
+// either sign. Of a NaN any value.
+template <int grid, int interval, Floating T> LUM_INLINE Vec<T> rounded_rcp14(const Vec<T>& m) {
+  static_assert(interval == 0 || interval == 2);
+  return rndscale<grid << 4 | 8>(rcp14(m));
+}
+// The same of a positive m plus the number whose last bit is worth 2^-grid, 3 * 2^(fraction bits - 1) times as large.
+template <int grid, int interval, Floating T> LUM_INLINE Vec<T> shifted_rcp14(const Vec<T>& m) {
+  static_assert(interval == 0 || interval == 2);
+  return rcp14(m) + all((is32<T> ? T(0x1.8p23) : T(0x1.8p52)) / (1 << grid));
+}
+// rcp14(a) with its significand rounded to the given fraction bits, halves up; a carry goes into the exponent.
+template <int kept, Floating T> LUM_INLINE Vec<T> rcp14_halves_up(const Vec<T>& a) {
+  using Bits = UnsignedOf<T>;
+  constexpr Bits half_step = Bits{1} << ((is32<T> ? 23 : 52) - kept - 1);
+  return as_float((bits(rcp14(a)) + all(half_step)) & all(static_cast<Bits>(~(2 * half_step - 1))));
+}
 // a - rndscale<imm>(a), the exact remainder.
 template <int imm, Floating T> [[gnu::noinline]] Vec<T> reduce(const Vec<T>& a) {
   return each_lane<T>([&](int i) { return lane::reduce<imm>(a.lane[i]); });
+}
+// a + c rounded down, for c = 1.5 * 2^k and a bit more and |a| up to 2^(k-2), so that it is the floor of a on the grid whose
+// step is the sum's last bit, 2^-grid; and the rest of a above that floor, rounded down, a zero of either sign.
+template <Floating T> struct FloorAndRest { Vec<T> sum, rest; };
+template <int grid, Floating T> LUM_INLINE FloorAndRest<T> split_floor(const Vec<T>& a, const Vec<T>& c) {
+  return {add<rd>(a, c), reduce<grid << 4 | 1>(a)};
 }
 
 // ---- Comparison and classification

@@ -25,6 +25,7 @@ template <Lane T> struct alignas(16) Mask {
 template <class T> inline constexpr bool is32 = sizeof(T) == 4;
 inline constexpr bool vectors_fit_registers = false;
 inline constexpr bool has_second_paths = false;
+inline constexpr bool orders_nans = false;
 inline constexpr bool streams_fit_registers = false;
 
 // The vector of value(i) in lane i.
@@ -74,6 +75,10 @@ template <Lane T> LUM_INLINE void store(T* p, const Vec<T>& a) { std::memcpy(p, 
 template <Lane T> LUM_INLINE void store(const Mask<T>& mask, T* p, const Vec<T>& a) {
   for (int i = 0; i < lanes_of<T>; ++i)
     if (mask.bits_of(i)) std::memcpy(p + i, &a.lane[i], sizeof(T));
+}
+// Writes the first count lanes, 0 <= count <= lanes, and touches no other memory.
+template <Lane T> LUM_INLINE void store_first(int count, T* p, const Vec<T>& a) {
+  std::memcpy(p, &a, static_cast<size_t>(count) * sizeof(T));
 }
 
 // ---- Reinterpretation

@@ -1,0 +1,238 @@
+// 1/x and 1/sqrt(x) to 14 bits, and the former rounded to few bits, without a gather: tables stand in registers. All of it is
+// work on the top words of lanes, so that the two registers of a vector of doubles are one of words here. A part of
+// frame/vec_avx2.h.
+#pragma once
+
+#include "frame/avx2/base.h"
+
+namespace lum {
+inline namespace avx2 {
+namespace half {
+
+// ---- The top words of lanes
+
+// Of a float all of it, of a double the upper half. Words of both registers of doubles stand in the order of the instruction,
+// and of_top_words puts them back.
+template <Floating T> struct TopWord {
+  static constexpr int fraction_bits = lane::Format<T>::fraction_bits - (is32<T> ? 0 : 32);
+  static constexpr uint32_t fraction = (1u << fraction_bits) - 1;
+  static constexpr uint32_t bias = lane::Format<T>::bias;
+  static constexpr uint32_t hidden = 1u << fraction_bits;
+};
+using Word = Half<uint32_t>;
+LUM_INLINE Word upper_words(Vec<double> a) {
+  return {_mm256_castps_si256(_mm256_shuffle_ps(_mm256_castpd_ps(a.low.v), _mm256_castpd_ps(a.high.v), 0xDD))};
+}
+LUM_INLINE Word lower_words(Vec<double> a) {
+  return {_mm256_castps_si256(_mm256_shuffle_ps(_mm256_castpd_ps(a.low.v), _mm256_castpd_ps(a.high.v), 0x88))};
+}
+LUM_INLINE Vec<double> of_words(Word lower, Word upper) {
+  return {from_raw<double>(_mm256_unpacklo_epi32(lower.v, upper.v)), from_raw<double>(_mm256_unpackhi_epi32(lower.v, upper.v))};
+}
+// f(top words, whether bits below them are set) of every lane, as numbers with nothing below their top words.
+template <class F> LUM_INLINE Vec<float> by_top_words(Vec<float> a, F f) {
+  const Word zero = all(0u);
+  return {from_raw<float>(f(Word{raw(a.low)}, zero).v), from_raw<float>(f(Word{raw(a.high)}, zero).v)};
+}
+template <class F> LUM_INLINE Vec<double> by_top_words(Vec<double> a, F f) {
+  return of_words(all(0u), f(upper_words(a), lower_words(a)));
+}
+
+// Lanes whose top words as numbers are not from low to high - 1. Numbers below low wrap around; the top bit is turned over by
+// the subtraction for the signed comparison.
+LUM_INLINE HalfMask<uint32_t> words_outside(Word w, uint32_t low, uint32_t high) {
+  const Half<int32_t> moved{(w - all(low ^ 0x80000000u)).v};
+  return {greater(moved, all(static_cast<int32_t>((high - low - 1) ^ 0x80000000u))).v};
+}
+LUM_INLINE bool any_outside(Vec<float> a, uint32_t low, uint32_t high) {
+  return any(words_outside({raw(a.low)}, low, high) | words_outside({raw(a.high)}, low, high));
+}
+LUM_INLINE bool any_outside(Vec<double> a, uint32_t low, uint32_t high) {
+  return any(words_outside(upper_words(a), low, high));
+}
+
+// ---- Tables of words
+
+LUM_INLINE Word word_of(const uint32_t* table, Word index) {
+  return {_mm256_permutevar8x32_epi32(_mm256_load_si256(reinterpret_cast<const __m256i*>(table)), index.v)};
+}
+// The entry of 2^n words that the n bits of w from `place` on name.
+template <int n, int place> LUM_INLINE Word entry(const uint32_t* table, Word w, Word index) {
+  if constexpr (n == 3) {
+    return word_of(table, index);
+  } else {
+    const HalfMask<uint32_t> upper{shift_left<32 - place - n>(w).v};
+    return select(upper, entry<n - 1, place>(table + (1 << (n - 1)), w, index), entry<n - 1, place>(table, w, index));
+  }
+}
+template <int n, int place> LUM_INLINE Word entry(const uint32_t* table, Word w) {
+  return entry<n, place>(table, w, shift_right<place>(w));
+}
+
+// ---- Estimates to 14 bits
+
+// The lines of reciprocal_estimates.h: the constant and the slope in one word. The significand at place j of a segment is
+// (constant * 2^scale - slope * j) >> 9.
+struct alignas(32) Lines {
+  uint32_t word[64];
+  constexpr Lines(const lane::Line (&lines)[64], int scale, int swapped) : word{} {
+    for (int i = 0; i < 64; ++i) {
+      const lane::Line& from = lines[i ^ swapped];
+      word[i] = (from.a + (512 >> scale) * from.b) << 10 | from.b;
+    }
+  }
+};
+inline constexpr Lines reciprocal_lines{lane::reciprocal_lines, 8, 0};
+// An odd exponent field belongs to an even exponent.
+inline constexpr Lines reciprocal_root_lines{lane::reciprocal_root_lines, 7, 32};
+
+// The significand for the bits of w below place + 6, in 16 fraction bits.
+template <int scale, int place> LUM_INLINE Word on_line(const Lines& table, Word w) {
+  const Word line = entry<6, place>(table.word, w);
+  const Word j = shift_right<place - 10>(w) & all(1023u);
+  const Word down{_mm256_madd_epi16((line & all(1023u)).v, j.v)};
+  return shift_right<9>(shift_left<scale>(shift_right<10>(line)) - down);
+}
+
+template <Floating T> LUM_INLINE Vec<T> rcp14_normal(Vec<T> a) {
+  using F = TopWord<T>;
+  constexpr int fb = F::fraction_bits;
+  return by_top_words(
+      a, [](Word w, Word below) __attribute__((always_inline)) {
+        const Word significand = shift_left<fb - 16>(on_line<8, fb - 6>(reciprocal_lines, w));
+        const auto is_power = eq((w & all(F::fraction)) | below, all(0u));
+        const Word field = all((2 * F::bias - 2) << fb) - (w & all(~F::fraction));
+        return field + select(is_power, all(2 * F::hidden), significand);
+      });
+}
+template <Floating T> LUM_INLINE Vec<T> rsqrt14_normal(Vec<T> a) {
+  using F = TopWord<T>;
+  constexpr int fb = F::fraction_bits;
+  return by_top_words(
+      a, [](Word w, Word below) __attribute__((always_inline)) {
+        const Word significand = shift_left<fb - 16>(on_line<7, fb - 5>(reciprocal_root_lines, w));
+        // Of the fraction and the exponent's last bit only the latter is set.
+        const auto is_power = eq(((w ^ all(F::hidden)) & all(2 * F::hidden - 1)) | below, all(0u));
+        const Word half_field = shift_right<1>(w + all(F::hidden)) & all(~F::fraction);
+        return all((F::bias - 2 + (F::bias + 1) / 2) << fb) - half_field + select(is_power, all(2 * F::hidden), significand);
+      });
+}
+
+// ---- Estimates rounded to few bits
+
+// The estimate of 1/m, m in [1, 2), rounded to a multiple of 2^-n, or of 2^-17 halves of it up, steps down as m rises, at most
+// once in each of 2^n equal parts of the interval: its count of 2^-n at the start of a part, and how far into the interval that
+// holds, in one word from which the fraction of m is subtracted.
+template <int n, int fraction_bits, bool halves_to_even> struct alignas(32) Steps {
+  uint32_t word[1 << n];
+  static constexpr uint32_t count(uint32_t place) {  // of m with the first 16 fraction bits `place` and others behind them
+    const uint32_t significand = lane::on_line(lane::reciprocal_lines[place >> 10], 8, place);
+    const uint32_t half = 1u << (16 - n), whole = significand >> (17 - n), rest = significand & (2 * half - 1);
+    return whole + (rest > half || (rest == half && (!halves_to_even || whole % 2 != 0)) ? 1 : 0);
+  }
+  static constexpr bool has_one_step_at_most(uint32_t part) {
+    return count(((part + 1) << (16 - n)) - 1) + 1 >= count(part << (16 - n));
+  }
+  constexpr Steps() : word{} {
+    for (uint32_t part = 0; part < (1u << n); ++part) {
+      const uint32_t first = part << (16 - n), end = (part + 1) << (16 - n);
+      uint32_t same = first;
+      while (same < end && count(same) == count(first)) ++same;
+      word[part] = (count(first) << fraction_bits) + (same << (fraction_bits - 16)) - 1;
+    }
+  }
+};
+template <int n, int fraction_bits, bool halves_to_even> inline constexpr Steps<n, fraction_bits, halves_to_even> steps;
+template <int n, int fraction_bits, bool halves_to_even> constexpr bool steps_are_apart() {
+  for (uint32_t part = 0; part < (1u << n); ++part)
+    if (!Steps<n, fraction_bits, halves_to_even>::has_one_step_at_most(part)) return false;
+  return true;
+}
+
+// The count of 2^-n, in the bits above the fraction; below it anything.
+template <int n, int fraction_bits, bool halves_to_even> LUM_INLINE Word stepped(Word w) {
+  static_assert(steps_are_apart<n, fraction_bits, halves_to_even>());
+  const Word start = entry<n, fraction_bits - n>(steps<n, fraction_bits, halves_to_even>.word, w);
+  return start - (w & all((1u << fraction_bits) - 1));
+}
+
+// ---- What every lane is given
+
+// Zeros, denormal numbers, infinities and NaN, and negative numbers.
+template <Floating T> LUM_INLINE bool any_not_positive_normal(Vec<T> a) {
+  using F = TopWord<T>;
+  return any_outside(a, F::hidden, (2 * F::bias + 1) << F::fraction_bits);
+}
+template <Floating T> LUM_INLINE bool any_not_normal(Vec<T> a) {
+  return any_not_positive_normal(Vec<T>{magnitude(a.low), magnitude(a.high)});
+}
+// Whether a lane is not normal or has no normal reciprocal.
+template <Floating T> LUM_INLINE bool any_without_normal_reciprocal(Vec<T> a) {
+  using F = TopWord<T>;
+  return any_outside(Vec<T>{magnitude(a.low), magnitude(a.high)}, F::hidden, (2 * F::bias - 1) << F::fraction_bits);
+}
+// Where such a lane is found the registers are computed one by one: g++ sends a pair of them through memory when it comes from
+// two sides of a branch.
+template <Floating T> LUM_INLINE Vec<T> rcp14(Vec<T> a) {
+  constexpr auto one = [](T x) { return lane::rcp14(x); };
+  const auto r = half::rcp14_normal(a);
+  auto low = r.low.v, high = r.high.v;
+  if (any_without_normal_reciprocal(a)) [[unlikely]] {
+    low = each_lane<one>(a.low).v;
+    high = each_lane<one>(a.high).v;
+  }
+  return {{low}, {high}};
+}
+template <Floating T> LUM_INLINE Vec<T> rsqrt14(Vec<T> a) {
+  constexpr auto one = [](T x) { return lane::rsqrt14(x); };
+  const auto r = half::rsqrt14_normal(a);
+  auto low = r.low.v, high = r.high.v;
+  if (any_not_positive_normal(a)) [[unlikely]] {
+    low = each_lane<one>(a.low).v;
+    high = each_lane<one>(a.high).v;
+  }
+  return {{low}, {high}};
+}
+
+// rcp14(a) with its significand rounded to the given fraction bits.
+template <int kept, bool halves_to_even, Floating T> LUM_INLINE Vec<T> short_rcp14(Vec<T> a) {
+  using F = TopWord<T>;
+  constexpr int fb = F::fraction_bits;
+  return by_top_words(
+      a, [](Word w, Word) __attribute__((always_inline)) {
+        const Word count = shift_right<fb>(stepped<kept + 1, fb, halves_to_even>(w));
+        const Word field = all((2 * F::bias - 2) << fb) - (w & all(~F::fraction));
+        return field + shift_left<fb - kept>(count);
+      });
+}
+template <int grid, int interval> LUM_INLINE Vec<float> shifted_rcp14(Vec<float> m) {
+  constexpr int fb = 23;
+  constexpr auto shifter = std::bit_cast<uint32_t>(0x1.8p23f / (1 << grid));
+  return by_top_words(
+      m, [](Word w, Word) __attribute__((always_inline)) {
+        return all(shifter) + shift_right<fb>(stepped < interval == 0 ? grid : grid + 1, fb, true > (w));
+      });
+}
+template <int grid, int interval> LUM_INLINE Vec<double> shifted_rcp14(Vec<double> m) {
+  constexpr int fb = TopWord<double>::fraction_bits;
+  constexpr auto shifter = static_cast<uint32_t>(std::bit_cast<uint64_t>(0x1.8p52 / (1 << grid)) >> 32);
+  const Word w = upper_words(m);
+  return of_words(shift_right<fb>(stepped < interval == 0 ? grid : grid + 1, fb, true > (w)), all(shifter));
+}
+template <int kept, Floating T> LUM_INLINE Vec<T> rcp14_halves_up(Vec<T> a) {
+  constexpr auto one = [](T x) {
+    constexpr auto half_step = UnsignedOf<T>{1} << (lane::Format<T>::fraction_bits - kept - 1);
+    return lane::from_bits<T>((lane::to_bits(lane::rcp14(x)) + half_step) & ~(2 * half_step - 1));
+  };
+  const auto r = half::short_rcp14<kept, false>(a);
+  auto low = r.low.v, high = r.high.v;
+  if (any_without_normal_reciprocal(a)) [[unlikely]] {
+    low = each_lane<one>(a.low).v;
+    high = each_lane<one>(a.high).v;
+  }
+  return {{low}, {high}};
+}
+
+}  // namespace half
+}  // namespace avx2
+}  // namespace lum
