@@ -32,24 +32,24 @@ PARTS = ["function", "length", "who"]
 INTRODUCTION = """<!-- Written by `./run bench` (bench/report.py) from docs/data/performance.csv; do not edit. -->
 # Performance
 
-Nanoseconds an element at arguments of everyday size, one thread; all candidates of a function run interleaved in one process. Each
-function has its figures for all tags and a picture of its time over the length on the page of its family:
+Nanoseconds an element at arguments of everyday size, one thread; all candidates of a function run interleaved in one process.
+Each function has its figures for all tags and a picture of its time over the length on the page of its family:
 
 {families}
 
-There, *ns* and *ticks* (of the time stamp counter) are those of an element in an array of {length}, *one element* is a call of one.
-*best peer* is the time of the fastest peer of the same accuracy class over ours: at A24 and A53 SLEEF's functions of 1 ulp, at the
-other tags the faster of those, SLEEF's of 3.5 ulp and glibc's vector functions of 4 ulp. Where no peer has the function, *composed* is
-the well-known rational function or formula on a peer's logarithm or erfc, and *plain* the formula of a complex product, vectorised by
-the compiler with -ffast-math: neither cares for special values or the last digits. *C library loop* is the time of a loop over the
-standard library's function over ours. *floor* is what the loop must take by the processor's execution ports alone (llvm-mca, Ice Lake
-server model, in core cycles; the time stamp counter runs at another frequency).
+There, *ns* and *ticks* (of the time stamp counter) are those of an element in an array of {length}, *one element* is a call of
+one. *best peer* is the time of the fastest peer of the same accuracy class over ours: at A24 and A53 SLEEF's functions of 1
+ulp, at the other tags the faster of those, SLEEF's of 3.5 ulp and glibc's vector functions of 4 ulp. Where no peer has the
+function, *composed* is the well-known rational function or formula on a peer's logarithm or erfc, and *plain* the formula of a
+complex product, vectorised by the compiler with -ffast-math: neither cares for special values or the last digits. *C library
+loop* is the time of a loop over the standard library's function over ours. *floor* is what the loop must take by the
+processor's execution ports alone (llvm-mca, Ice Lake server model, in core cycles; the time stamp counter runs at another
+frequency).
 
 Arguments that the vector paths refuse have [a page of their own](refused-lanes.md).
 
-Measured on {machine}. To repeat: `./run bench` (or `./run bench Exp`); `./run bench --compare BUILD Exp` sets two builds side by side.
-[data/performance.csv](data/performance.csv) has all figures.
-"""
+Measured on {machine}. To repeat: `./run bench` (or `./run bench Exp`); `./run bench --compare BUILD Exp` sets two builds side
+by side. [data/performance.csv](data/performance.csv) has all figures."""
 
 
 OVERVIEW = """

@@ -14,28 +14,28 @@ PEERS = ("sleef_u05", "sleef_u10", "sleef_u15", "sleef_u35", "libmvec", "libm")
 INTRODUCTION = """<!-- Written by tools/accuracy_page.py from docs/data; do not edit. -->
 # Accuracy
 
-Errors are measured against MPFR (real functions) and MPC (complex ones), in units in the last place (ulp) of the exact value. The
-*limit* is what the tag promises: below 1 ulp at A24 and A53 (up to 1.01 for Tanh 64f A53), half a unit of the last promised bit at the
-others. For complex results it holds for the error of the whole number relative to its modulus. Each function has its figures and
-pictures on the page of its family:
+Errors are measured against MPFR (real functions) and MPC (complex ones), in units in the last place (ulp) of the exact value.
+The *limit* is what the tag promises: below 1 ulp at A24 and A53 (up to 1.01 for Tanh 64f A53), half a unit of the last promised
+bit at the others. For complex results it holds for the error of the whole number relative to its modulus. Each function has its
+figures and pictures on the page of its family:
 
 {families}
 
 ## How it is measured
 
-- **All arguments** of functions of one 32f input: 2^32 each. The C library's binary64 functions settle what is clear, MPFR the rest.
-  Marked *(all)* on the pages.
-- **A wide search** of the others, {crossed:.2g} results of low and middle tags against the high tag and {judged:.2g} against values of at least
-  eight more bits: 32f functions of two inputs and 32fc against the library's own 64f and 64fc functions, 64f and 64fc against the C
-  library's long double. Arguments are evenly distributed over the ordinary interval, over all magnitudes, and over all bit patterns;
-  they stand on both sides of every border of the kernels' segments and tables, from the neighbouring number on; pairs are close to one
-  another, multiples, or of a given product; and the neighbourhoods of the worst arguments so far are searched again and again. What
-  exceeds the limit or all former errors is settled by MPFR or MPC, {settled:.2g} times. Exponents of complex powers are kept
-  small, since their errors grow with them. Of many such arguments in
-  one block of 4096 the largest few are settled; the data count the others, nearly all of them complex results that overflowed, as
-  *left*. It is a search and no proof: larger errors may exist that it has not met.
-- **Samples** of 60,000 arguments by MPFR and MPC alone: *sample*, *borders* of the kernels, *quarter-turns* (of every binade the numbers
-  closest to a multiple of pi/2) and the *unit-circle*.
+- **All arguments** of functions of one 32f input: 2^32 each. The C library's binary64 functions settle what is clear, MPFR the
+  rest. Marked *(all)* on the pages.
+- **A wide search** of the others, {crossed:.2g} results of low and middle tags against the high tag and {judged:.2g} against
+  values of at least eight more bits: 32f functions of two inputs and 32fc against the library's own 64f and 64fc functions, 64f
+  and 64fc against the C library's long double. Arguments are evenly distributed over the ordinary interval, over all
+  magnitudes, and over all bit patterns; they stand on both sides of every border of the kernels' segments and tables, from the
+  neighbouring number on; pairs are close to one another, multiples, or of a given product; and the neighbourhoods of the worst
+  arguments so far are searched again and again. What exceeds the limit or all former errors is settled by MPFR or MPC,
+  {settled:.2g} times. Exponents of complex powers are kept small, since their errors grow with them. Of many such arguments in
+  one block of 4096 the largest few are settled; the data count the others, nearly all of them complex results that overflowed,
+  as *left*. It is a search and no proof: larger errors may exist that it has not met.
+- **Samples** of 60,000 arguments by MPFR and MPC alone: *sample*, *borders* of the kernels, *quarter-turns* (of every binade
+  the numbers closest to a multiple of pi/2) and the *unit-circle*.
 
 To repeat them:
 
@@ -44,19 +44,21 @@ To repeat them:
     ./run accuracy                                 # the samples of all functions
     ./run accuracy --exhaustive                    # all arguments of one 32f input: an hour or more
 
-The committed search is that of seeds 1, 2 and 3, with 31, 34 and 45 seconds a function and type on two cores that others used, too (4
-for exact functions; 8 for complex ones from seed 2, and none from seed 3, nor of other libraries). That of seed 1 was made by a former
-state of the program, which looked for neighbours in wider surroundings. [data/hunt.csv](data/hunt.csv) has counts, seed and arguments of the wide search, [data/accuracy.csv](data/accuracy.csv) those of the others.
-The shares of results within ½, 0.51, 0.6, ¾ and 1 ulp and the mean error are those of evenly distributed arguments of the ordinary
-interval, the same for all tags of a function; the values that they are measured against blur them by 2^-10 ulp. What else holds for all
-arguments, such as symmetry and monotonicity, is in [properties](properties.md).
+The committed search has three seeds: 1 with 31 seconds a function and type (4 for exact ones), 2 with 34 (20 for powers and 32f
+functions of two inputs, 8 for complex ones), and 3 with 45 for 64f alone and without other libraries, on two cores that others
+used, too. That of seed 1 was made by a former state of the program, which looked for neighbours in wider surroundings. [data/hunt.csv](data/hunt.csv)
+has counts, seeds and arguments of the wide search, [data/accuracy.csv](data/accuracy.csv) those of the others. The shares of results
+within ½, 0.51, 0.6, ¾ and 1 ulp and the mean error are those of evenly distributed arguments of the ordinary interval, the same
+for all tags of a function; the values that they are measured against blur them by 2^-10 ulp. What else holds for all arguments,
+such as symmetry and monotonicity, is in [properties](properties.md).
 
-In the pictures an error is the largest one in an interval of the argument, relative to the tag's limit: a line must stay below 1.
+In the pictures an error is the largest one in an interval of the argument, relative to the tag's limit: a line must stay below
+1.
 
 ## Overview
 
-The largest error of each tag, low, middle and high, in ulp; of complex results as a whole. **Bold** is beyond the limit: the tag's
-bits do not hold for all arguments of these, and [the list below](#beyond-the-limit) says where.
+The largest error of each tag, low, middle and high, in ulp; of complex results as a whole. **Bold** is beyond the limit: the
+tag's bits do not hold for all arguments of these, and [the list below](#beyond-the-limit) says where.
 
 """
 
@@ -64,8 +66,8 @@ BEYOND = """
 ## Beyond the limit
 
 Of complex Pow and Powx the product of exponent and logarithm is rounded, which takes digits from very large and very small
-results. Powx with the exponents -2, -3 and -4 gives a zero or a number of few digits
-where the power itself leaves the range and its reciprocal is denormal.
+results. Powx with the exponents -2, -3 and -4 gives a zero or a number of few digits where the power itself leaves the range
+and its reciprocal is denormal.
 
 | name | found by | error | limit | at |
 |---|---|---|---|---|
@@ -74,18 +76,17 @@ where the power itself leaves the range and its reciprocal is denormal.
 OTHERS = """
 ## Beside other libraries
 
-The largest errors known of functions of binary64 (64f), of this library, of SLEEF 3.5.1 (its functions of 0.5, 1, 1.5 and 3.5 ulp for
-AVX-512), and of glibc 2.36: its vector functions, which are meant to stay below 4 ulp, and its scalar ones. All were searched
-here, at the same arguments and in the neighbourhoods of the worst of each. *(class)*: some results are infinite, zero or NaN
-where the exact value is not near it. glibc's sine, cosine and tangent lose digits at some huge arguments next to multiples of pi/2,
-as at 1.2853022199154463e+174; its vector functions take them over there.
+The largest errors known of functions of binary64 (64f), of this library, of SLEEF 3.5.1 (its functions of 0.5, 1, 1.5 and 3.5
+ulp for AVX-512), and of glibc 2.36: its vector functions, which are meant to stay below 4 ulp, and its scalar ones. All were
+searched here, at the same arguments and in the neighbourhoods of the worst of each. *(class)*: some results are infinite, zero
+or NaN where the exact value is not near it. glibc's sine, cosine and tangent lose digits at some huge arguments next to
+multiples of pi/2, as at 1.2853022199154463e+174; its vector functions take them over there.
 
 {table}
 
-Innocente, Zimmermann and others, *Accuracy of Mathematical Functions in Single, Double, Double Extended, and Quadruple Precision*
-(HAL, hal-03141101), publish and update largest known errors of a dozen scalar libraries; their figures are not repeated here, as
-all that are beside ours were measured on one machine by one program.
-"""
+Innocente, Zimmermann and others, *Accuracy of Mathematical Functions in Single, Double, Double Extended, and Quadruple
+Precision* (HAL, hal-03141101), publish and update largest known errors of a dozen scalar libraries; their figures are not
+repeated here, as all that are beside ours were measured on one machine by one program."""
 
 
 def families():

@@ -12,13 +12,13 @@ PAGE = catalogue.ROOT / "docs/properties.md"
 INTRODUCTION = """<!-- Written by tools/properties_page.py from docs/data/properties.csv; do not edit. -->
 # Properties
 
-What holds of the results beside their error: that a sine is odd to the last bit, that no sine exceeds 1, that a cube root never falls,
-that `pow(x, 1)` is x. A cell says
+What holds of the results beside their error: that a sine is odd to the last bit, that no sine exceeds 1, that a cube root never
+falls, that `pow(x, 1)` is x. A cell says
 
 - **all**: it holds for all 2^32 arguments of a function of one 32f input, or for all cases of the line,
 - **yes**: a search of {least:.1g} to {most:.1g} arguments (or pairs of neighbours) has found no violation; it is no proof,
-- otherwise the share of violations and, behind it, the largest one, in representable numbers: `2e-6, 1` is a result in half a million
-  that is off by one number. Of lines of exact values it is the number of cases that fail.
+- otherwise the share of violations and, behind it, the largest one, in representable numbers: `2e-6, 1` is a result in half a
+  million that is off by one number. Of lines of exact values it is the number of cases that fail.
 
 Tags stand in the order low, middle, high: A11, A21, A24 of 32f, A26, A50, A53 of 64f. Functions of one tag have one cell.
 
@@ -26,9 +26,8 @@ At the high tags everything on this page holds but
 
 {high}
 
-To repeat: `./run accuracy --properties` (an hour on two cores; `--share 256` takes one block in 256 of all 32f arguments). The test
-`tools.properties` holds the library to [the data](data/properties.csv) with a part of the arguments.
-"""
+To repeat: `./run accuracy --properties` (an hour on two cores; `--share 256` takes one block in 256 of all 32f arguments). The
+test `tools.properties` holds the library to [the data](data/properties.csv) with a part of the arguments."""
 
 KINDS = [
     ("symmetry", "Symmetry", "Bit for bit, signs of zeros included but where the line says otherwise; a NaN is like any other."),
