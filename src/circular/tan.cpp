@@ -4,10 +4,12 @@
 // quotient. Beyond the threshold the angle from the wide reduction is brought to the same k and r, and the block evaluated
 // again.
 #include "circular/nonfinite.h"
+#include "circular/polynomials.h"
 #include "circular/sixteenths.h"
 #include "circular/wide_reduction.h"
 #include "frame/kernel_frame.h"
 #include "frame/kernels.h"
+#include "frame/numbers.h"
 
 namespace lum::inline LUM_LAYER {
 namespace {
@@ -26,8 +28,8 @@ template <> struct TanConstants<Lum32f> {  // N = 32
   static constexpr auto tails = table32({
 #include "tables/generated/tangent_32_tail.inc"
   });
-  static constexpr auto wide_step = f32(0x3CC90FDB, 0.02454369328916073),
-                        wide_step_tail = f32(0xB03BBD2E, -6.829904419802801e-10);  // turn/256
+  static constexpr auto wide_step = numbers::pi<Lum32f> / 128,
+                        wide_step_tail = numbers::pi_tail<Lum32f> / 128;  // turn/256
   static constexpr int wide_shift = 2;
 };
 template <> struct TanConstants<Lum64f> {  // N = 16
@@ -37,8 +39,8 @@ template <> struct TanConstants<Lum64f> {  // N = 16
   static constexpr auto tails = table64({
 #include "tables/generated/tangent_16_tail.inc"
   });
-  static constexpr auto wide_step = f64(0x3F8921FB54442D18, 0.01227184630308513),
-                        wide_step_tail = f64(0x3C21A62633145C07, 4.783776559169348e-19);  // turn/512
+  static constexpr auto wide_step = numbers::pi<Lum64f> / 256,
+                        wide_step_tail = numbers::pi_tail<Lum64f> / 256;  // turn/512
   static constexpr int wide_shift = 4;
 };
 
@@ -103,7 +105,7 @@ template <class Tier, class T> struct Tangent : Kernel<T> {
     const auto at = lanes.refused;
     const Reduced<T> merged{select(at, wide.hi, ordinary.hi), select(at, wide.lo, ordinary.lo),
                             select(mask_cast<UnsignedOf<T>>(at), wide.k, ordinary.k)};
-    return {SelectNonFinite(x, Tier::Evaluate(merged)), mask_of<T>(0), {.domain = fpclass<0x18>(x)}};
+    return {SelectNonFinite(x, Tier::Evaluate(merged)), mask_of<T>(0), {.domain = fpclass<classes::infinity>(x)}};
   }
   static LumStatus LaneRoutine(T x, T& result) { return CircularOfNonFinite(x, result); }
 };
@@ -112,16 +114,17 @@ struct CountOf32nds {
   Vec<Lum32f> n, shifted;
 };
 LUM_INLINE CountOf32nds Nearest32nds(Vec<Lum32f> x) {
-  constexpr auto shifter = f32(0x4B400000, 12582912.0);
-  const auto t = fma(x, all(f32(0x4122F983, 10.18591594696045)), all(shifter));
+  constexpr auto shifter = rounding_shifter<Lum32f>();
+  const auto t = fma(x, all(32 * numbers::inverse_pi<Lum32f>), all(shifter));
   return {t - all(shifter), t};
 }
-constexpr auto part1_of_32nd = f32(0x3DC90FDA, 0.09817476570606232);
 
 LUM_INLINE Reduced<Lum32f> Reduce32f(Vec<Lum32f> x) {
+  constexpr auto& parts = numbers::thirty_second_pi_parts<Lum32f>;
+
   const auto [n, shifted] = Nearest32nds(x);
-  const auto r = fnma(n, all(f32(0x31A22168, 4.718618384913498e-09)), fnma(n, all(part1_of_32nd), x));
-  return {fnma(n, all(f32(0x25C234C5, 3.368939345921399e-16)), r), all(0.0f), bits(shifted)};
+  const auto r = fnma(n, all(parts[1]), fnma(n, all(parts[0]), x));
+  return {fnma(n, all(parts[2]), r), all(0.0f), bits(shifted)};
 }
 
 struct A11_32f : Tangent<A11_32f, Lum32f> {
@@ -130,15 +133,13 @@ struct A11_32f : Tangent<A11_32f, Lum32f> {
   static LUM_INLINE Reduced<Lum32f> Reduce(Vec<Lum32f> x) { return Reduce32f(x); }
   static LUM_STAGE Vec<Lum32f> Evaluate(const Reduced<Lum32f>& a) {
     const auto t = TangentOf(a);
-    const auto p = fma(all(f32(0x3EAAAAA6, 0.33333319425582886)) * a.hi, a.hi * a.hi, a.hi);
+    const auto p = fma(horner(a.hi, circular::tan_A11) * a.hi, a.hi * a.hi, a.hi);
     return (t + p) * rcp14(fnma(t, p, all(1.0f)));  // the reciprocal's 14 bits are enough
   }
 };
 
 // (tan r - r) / r^3 of s = r^2, |r| <= pi/64.
-LUM_INLINE Vec<Lum32f> TangentSeries(Vec<Lum32f> s) {
-  return horner(s, f32(0x3EAAAAA6, 0.33333319425582886), f32(0x3E08B888, 0.13351643085479736));
-}
+LUM_INLINE Vec<Lum32f> TangentSeries(Vec<Lum32f> s) { return horner(s, circular::tan_A21); }
 
 struct A21_32f : Tangent<A21_32f, Lum32f> {
   static constexpr float threshold = 8256;
@@ -165,9 +166,9 @@ struct A24_32f : Tangent<A24_32f, Lum32f> {
   static constexpr bool has_tails = true;
   static LUM_INLINE Reduced<Lum32f> Reduce(Vec<Lum32f> x) {
     const auto [n, shifted] = Nearest32nds(x);
-    // The second part has so few bits that n times it is exact.
-    const auto part2 = all(f32(0x31A22000, 4.718458512797952e-09)), part3 = all(f32(0x2A34611A, 1.602090042660681e-13));
-    const auto r1 = fnma(n, all(part1_of_32nd), x);
+    constexpr auto& parts = numbers::thirty_second_pi_exact_parts<Lum32f>;
+    const auto part2 = all(parts[1]), part3 = all(parts[2]);
+    const auto r1 = fnma(n, all(parts[0]), x);
     const auto r2 = fnma(n, part2, r1);
     const auto error2 = fnma(n, part2, r1 - r2);
     const auto hi = fnma(n, part3, r2);
@@ -182,12 +183,9 @@ struct A24_32f : Tangent<A24_32f, Lum32f> {
 // The coefficients from r^5 up to r^9; A50 and A53 have one more.
 template <bool is_long> LUM_INLINE Vec<Lum64f> TangentSeries(Vec<Lum64f> s) {
   if constexpr (is_long) {
-    return horner(s, f64(0x3FD55555555555DC, 0.3333333333333408), f64(0x3FC11111110B0802, 0.13333333332235503),
-                  f64(0x3FABA1BA489D25CA, 0.053968259204860994), f64(0x3F9664AB664EFBA9, 0.021868398780266727),
-                  f64(0x3F825CCCC7C9FA5D, 0.008966064307285021));
+    return horner(s, circular::tan_A50);
   } else {
-    return horner(s, f64(0x3FD55555555555DC, 0.3333333333333408), f64(0x3FC11111110B0802, 0.13333333332235503),
-                  f64(0x3FABA1BA489D25CA, 0.053968259204860994), f64(0x3F9664AB664EFBA9, 0.021868398780266727));
+    return horner(s, circular::tan_A26);
   }
 }
 
@@ -196,12 +194,12 @@ template <bool is_long> struct OneWord_64f : Tangent<OneWord_64f<is_long>, Lum64
   static constexpr bool has_tails = false;
   static constexpr int vectors = 4;
   static LUM_INLINE Reduced<Lum64f> Reduce(Vec<Lum64f> x) {
-    constexpr auto shifter = f64(0x4338000000000000, 0x1.8p52);
-    const auto t = fma(x, all(f64(0x40145F306DC9C883, 5.092958178940651)), all(shifter));
+    constexpr auto shifter = rounding_shifter<Lum64f>();
+    constexpr auto& pi_parts = numbers::pi_parts<Lum64f>;
+    const auto t = fma(x, all(16 * numbers::inverse_pi<Lum64f>), all(shifter));
     const auto n = t - all(shifter);
-    const auto r = fnma(n, all(f64(0x3C61A62633145C06, 7.654042494670956e-18)),
-                        fnma(n, all(f64(0x3FC921FB54442D18, 0.19634954084936207)), x));
-    return {fnma(n, all(f64(0x391C1CD129024E09, 1.3535708424023925e-33)), r), all(0.0), bits(t)};
+    const auto r = fnma(n, all(pi_parts[1] / 16), fnma(n, all(pi_parts[0] / 16), x));
+    return {fnma(n, all(pi_parts[2] / 16), r), all(0.0), bits(t)};
   }
   static LUM_STAGE Vec<Lum64f> Evaluate(const Reduced<Lum64f>& a) {
     const auto t = TangentOf(a);

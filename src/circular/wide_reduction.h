@@ -6,6 +6,8 @@
 
 #include <cstdint>
 
+#include "circular/polynomials.h"
+#include "frame/numbers.h"
 #include "frame/types.h"
 #include "frame/vec.h"
 #include "tables/table.h"
@@ -35,17 +37,16 @@ template <> struct WideConstants<Lum64f> {
   static constexpr const uint64_t* table = WideReductionTable64;
   static constexpr int fraction_bits = 52;
   static constexpr uint64_t one = 0x3FF0000000000000, mid_unit = 0x3CB0000000000000, low_unit = 0x3970000000000000;
-  static constexpr auto shifter = f64(0x42A8000000000000, 0x1.8p43);  // the last bit of the sum is worth 1/512
-  static constexpr auto turn = f64(0x401921FB54442D18, 6.283185307179586),
-                        turn_tail = f64(0x3CB1A62633145C07, 2.4492935982947064e-16);
+  static constexpr auto shifter = rounding_shifter<Lum64f>(9);  // the last bit of the sum is worth 1/512
+  static constexpr auto turn = 2 * numbers::pi<Lum64f>, turn_tail = 2 * numbers::pi_tail<Lum64f>;
   static constexpr uint64_t quarter = 128, index_mask = 511;
 };
 template <> struct WideConstants<Lum32f> {
   static constexpr const uint32_t* table = WideReductionTable32;
   static constexpr int fraction_bits = 23;
   static constexpr uint32_t one = 0x3F800000, mid_unit = 0x34000000, low_unit = 0x28800000;
-  static constexpr auto shifter = f32(0x47400000, 49152.0);  // the last bit of the sum is worth 1/256
-  static constexpr auto turn = f32(0x40C90FDB, 6.2831854820251465), turn_tail = f32(0xB43BBD2E, -1.7484555314695172e-07);
+  static constexpr auto shifter = rounding_shifter<Lum32f>(8);  // the last bit of the sum is worth 1/256
+  static constexpr auto turn = 2 * numbers::pi<Lum32f>, turn_tail = 2 * numbers::pi_tail<Lum32f>;
   static constexpr uint32_t quarter = 64, index_mask = 255;
 };
 
@@ -122,10 +123,8 @@ LUM_STAGE Vec<Lum64f> SineOf(VecIn<uint64_t> index, VecIn<Lum64f> hi, VecIn<Lum6
   const auto error = fma(cos_tail, hi, p - result) + fma(cos_head, hi, sin_head - p);
   const auto q = hi * hi;
   const auto cosine = cos_tail + cos_head;
-  const auto sine_part =
-      (fma(all(f64(0x3F81110FABB3551C, 0.008333322932609515)), q, all(f64(0xBFC5555555554448, -0.1666666666665455))) * q) * hi;
-  const auto cosine_part =
-      horner(q, -0.5, f64(0x3FA5555555554CCF, 0.041666666666651524), f64(0xBF56C16AB163B2D7, -0.0013888875887985619)) * q;
+  const auto sine_part = (horner(q, circular::large_sine_64f) * q) * hi;
+  const auto cosine_part = horner(q, circular::large_cosine_64f) * q;
   const auto sum = fma(cosine_part, sin_head, fma(sine_part, cosine, error));
   const auto slope = fnma(hi, sin_head, cosine);
   return result + (sum + fma(lo, slope, sin_tail));
@@ -134,13 +133,12 @@ LUM_STAGE Vec<Lum32f> SineOf(VecIn<uint32_t> index, VecIn<Lum32f> hi, VecIn<Lum3
   const auto [cos_tail, sin_head, sin_tail, cos_head] = gather_rows<Lum32f>(AngleTable256, shift_left<2>(index));
   const auto slope = fnma(sin_head, hi, cos_tail + cos_head);
   const auto q = hi * hi;
-  const auto cosine_part = fma(all(f32(0x3D2AAA7C, 0.04166649281978607)), q, all(-0.5f)) * q;
+  const auto cosine_part = horner(q, circular::large_cosine_32f) * q;
   const auto t = fma(sin_head, cosine_part, fma(slope, lo, sin_tail));
   const auto h = fma(cos_head, hi, sin_head);
   const auto result = fma(cos_tail, hi, h);
   const auto error = fma(cos_tail, hi, h - result) + fma(cos_head, hi, sin_head - h);
-  const auto sine_part =
-      (fma(all(f32(0x3C08885C, 0.008333291858434677)), q, all(f32(0xBE2AAAAB, -0.1666666716337204))) * q) * hi;
+  const auto sine_part = (horner(q, circular::large_sine_32f) * q) * hi;
   return result + (t + fma(slope, sine_part, error));
 }
 // The cosine is the sine a quarter of a turn further.

@@ -33,9 +33,13 @@ LUM_INLINE ShortSum SumWithOneProduct(Vec<Lum64f> a, Vec<Lum64f> c, Vec<Lum64f> 
   const auto first = a * c, second = b * d;
   return {first + second, fms(a, c, first) + fms(b, d, second)};
 }
-LUM_INLINE Mask<Lum64f> EitherZero(Vec<Lum64f> a, Vec<Lum64f> b) { return fpclass<0x06>(a) | fpclass<0x06>(b); }
+LUM_INLINE Mask<Lum64f> EitherZero(Vec<Lum64f> a, Vec<Lum64f> b) {
+  return fpclass<classes::zero>(a) | fpclass<classes::zero>(b);
+}
 
-LUM_INLINE Mask<Lum64f> IsNotFinite(ComplexVec<Lum64f> z) { return fpclass<0x99>(z.re) | fpclass<0x99>(z.im); }
+LUM_INLINE Mask<Lum64f> IsNotFinite(ComplexVec<Lum64f> z) {
+  return fpclass<classes::nonfinite>(z.re) | fpclass<classes::nonfinite>(z.im);
+}
 
 // Which of two NaNs the core's products give depends on how they were compiled.
 template <class T> LUM_INLINE Mask<T> HaveTwoNans(ComplexVec<T> z, ComplexVec<T> w) {
@@ -49,7 +53,7 @@ LUM_INLINE CorePart PartWithOneProduct(Vec<Lum64f> a, Vec<Lum64f> c, Vec<Lum64f>
   const auto rounded = RoundedTwice(s.sum, s.tail, all(0.0));
   const auto magnitude = abs(s.sum);
   const auto in_range = le(all(0x1p-900), magnitude) & rounded.is_sure;
-  const auto is_plain = fpclass<0x18>(s.sum) | (first_zero & second_zero);  // an infinity or an exact zero
+  const auto is_plain = fpclass<classes::infinity>(s.sum) | (first_zero & second_zero);  // an infinity or an exact zero
   return {select(is_plain, s.sum, rounded.value), (first_zero | second_zero) & (in_range | is_plain)};
 }
 
@@ -60,7 +64,8 @@ LUM_INLINE CorePart PartOfTwoProducts(Vec<Lum64f> a, Vec<Lum64f> c, Vec<Lum64f> 
   const auto middle = two_sum(heads.error, tails.sum);
   const auto s = two_sum(heads.sum, middle.sum);
   const auto residue = abs(middle.error) + abs(tails.error);
-  const auto zero = fpclass<0x06>(s.sum) & fpclass<0x06>(heads.sum);  // of two zeros the sum of the heads has the sign
+  const auto zero =
+      fpclass<classes::zero>(s.sum) & fpclass<classes::zero>(heads.sum);  // of two zeros the sum of the heads has the sign
   return RoundedTwice(select(zero, heads.sum, s.sum), s.error, residue + residue);
 }
 
@@ -69,7 +74,7 @@ LUM_INLINE CorePart PartOfTwoProducts(Vec<Lum64f> a, Vec<Lum64f> c, Vec<Lum64f> 
 LUM_INLINE CoreProduct ProductOfScaled(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w) {
   const auto z_exponent = getexp(max(abs(z.re), abs(z.im))), w_exponent = getexp(max(abs(w.re), abs(w.im)));
   const auto far = [](Vec<Lum64f> x, Vec<Lum64f> exponent) __attribute__((always_inline)) {
-    return lt(getexp(x), exponent - all(240.0)) & ~fpclass<0x06>(x);
+    return lt(getexp(x), exponent - all(240.0)) & ~fpclass<classes::zero>(x);
   };
   const auto is_far = far(z.re, z_exponent) | far(z.im, z_exponent) | far(w.re, w_exponent) | far(w.im, w_exponent);
   const auto down = [&](Vec<Lum64f> x, Vec<Lum64f> exponent) __attribute__((always_inline)) {

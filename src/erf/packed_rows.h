@@ -11,12 +11,12 @@ template <class T> struct PackedFormat;
 template <> struct PackedFormat<Lum32f> {
   static constexpr int tail_shift = 26;
   static constexpr uint32_t exponent_field = 0x7F800000, slope_field = 0x03FFFFFF;
-  static constexpr auto tail_base = f32(0x3C800000, 0.015625);  // its last place is a tail's unit
+  static constexpr auto tail_base = 0x1p-6f;  // its last place is a tail's unit
 };
 template <> struct PackedFormat<Lum64f> {
   static constexpr int tail_shift = 55;
   static constexpr uint64_t exponent_field = 0x7FF0000000000000, slope_field = 0x007FFFFFFFFFFFFF;
-  static constexpr auto tail_base = f64(0x3F60000000000000, 0.001953125);
+  static constexpr auto tail_base = 0x1p-9;
 };
 
 template <class T> struct Unpacked {

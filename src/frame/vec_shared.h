@@ -2,7 +2,10 @@
 // error-free sums, and constants checked at compile time.
 #pragma once
 
+#include <utility>
+
 #include "frame/literals.h"
+#include "frame/polynomial.h"
 
 namespace lum {
 inline namespace LUM_LAYER {
@@ -34,11 +37,11 @@ template <Floating T> LUM_INLINE Vec<UnsignedOf<T>> sign_of(Vec<T> a) { return b
 
 // v with its sign bit set where that of x is.
 template <Floating T> LUM_INLINE Vec<T> or_sign(Vec<T> x, Vec<T> v) {
-  return as_float(ternary<0xF8>(bits(v), bits(x), all(sign_bit<T>)));
+  return as_float(ternary<A | (B & C)>(bits(v), bits(x), all(sign_bit<T>)));
 }
 // v with its sign turned over where x is negative.
 template <Floating T> LUM_INLINE Vec<T> xor_sign(Vec<T> x, Vec<T> v) {
-  return as_float(ternary<0x78>(bits(v), bits(x), all(sign_bit<T>)));
+  return as_float(ternary<A ^ (B & C)>(bits(v), bits(x), all(sign_bit<T>)));
 }
 
 // c0 + x (c1 + x (c2 + ...)), one fused step a coefficient. The portable loop has no more than two vectors in memory at a time,
@@ -53,6 +56,16 @@ template <Floating T, class... Rest> LUM_INLINE Vec<T> horner(VecIn<T> x, T c0, 
     for (size_t i = sizeof...(rest); i-- > 0;) p = fma(p, x, all(c[i]));
     return p;
   }
+}
+
+template <Floating T, size_t n> LUM_INLINE Vec<T> horner(VecIn<T> x, const Polynomial<T, n>& p) {
+  return [&]<size_t... i>(std::index_sequence<i...>) __attribute__((always_inline)) { return horner(x, p.c[i]...); }
+  (std::make_index_sequence<n>());
+}
+
+template <Floating T, size_t n> LUM_INLINE Vec<T> horner(VecIn<T> x, const T (&c)[n]) {
+  return [&]<size_t... i>(std::index_sequence<i...>) __attribute__((always_inline)) { return horner(x, c[i]...); }
+  (std::make_index_sequence<n>());
 }
 
 // a + b = sum + error exactly, for any two finite numbers without overflow.

@@ -17,7 +17,7 @@ template <class T> struct Routine : Kernel<T> {
 template <class Series, class T> LUM_INLINE Lanes<T> Finish(Vec<T> x, Vec<T> a, Vec<T> x2, Vec<T> log) {
   const auto series = fma(a, x2 * Series::Of(x2), a);
   const auto v = select(lt(a, all(T(Series::asinh_bound))), series, log);
-  return {as_float(ternary<0x96>(bits(v), bits(a), bits(x))), nle(a, all(std::numeric_limits<T>::max()))};
+  return {as_float(ternary<A ^ B ^ C>(bits(v), bits(a), bits(x))), nle(a, all(std::numeric_limits<T>::max()))};
 }
 
 template <class T, class Series, class Ratio> struct Low : Routine<T> {

@@ -6,10 +6,12 @@
 #include <cmath>
 #include <cstdint>
 
+#include "frame/constant.h"
 #include "frame/double_word.h"
 #include "frame/kernel_frame.h"
 #include "frame/lane_format.h"
 #include "invcircular/atan2_constants.h"
+#include "invcircular/polynomials.h"
 
 namespace lum::inline LUM_LAYER {
 
@@ -46,10 +48,10 @@ inline DoubleWord ScalarAngle(double y, double x) {
   const DoubleWord td = ExactProduct(t, d.hi);
   const double rest = ((n.hi - td.hi) - td.lo) + (n.lo - cx.lo) - t * (d.lo + cy.lo);
   const double s = t * t;
-  double p = 0;
-  for (size_t k = C::polynomial_size; k-- > 0;) p = p * s + C::polynomial[k];
-  const DoubleWord head = ExactSum(C::heads[i], t);
-  return {head.hi, head.lo + (C::tails[i] + rest / d.hi + t * s * p)};
+  const double p = unfused_horner(s, invcircular::atan2_A53);
+
+  const DoubleWord head = ExactSum(C::angles.heads[i], t);
+  return {head.hi, head.lo + (C::angles.tails[i] + rest / d.hi + t * s * p)};
 }
 
 // The angles of the axes and of the diagonals.
@@ -60,10 +62,10 @@ template <bool x_negative> consteval AxisAngles AnglesOfAxes() {
   using C = IntervalConstants<Lum64f>;
   const auto angle = [](double hi, double lo) {
     if (!x_negative) return hi + lo;
-    const DoubleWord head = ExactSum(C::pi, -hi);
-    return head.hi + (head.lo + (C::pi_tail - lo));
+    const DoubleWord head = ExactSum(numbers::pi_beside_angles_parts<Lum64f>[0], -hi);
+    return head.hi + (head.lo + (numbers::pi_beside_angles_parts<Lum64f>[1] - lo));
   };
-  return {angle(0, 0), angle(C::heads[2], C::tails[2]), angle(C::heads[4], C::tails[4])};
+  return {angle(0, 0), angle(C::angles.heads[2], C::angles.tails[2]), angle(C::angles.heads[4], C::angles.tails[4])};
 }
 
 // The second path of the arctangent of two arguments. Numbers near the ends of the exponent range remain.
@@ -73,8 +75,8 @@ template <class T> LUM_INLINE Lanes<T> Atan2OfSpecial(Vec<T> y, Vec<T> x, const 
   const auto chosen = [&](double of_positive, double of_negative) __attribute__((always_inline)) {
     return select(x_negative, all(static_cast<T>(of_negative)), all(static_cast<T>(of_positive)));
   };
-  const auto y_zero = fpclass<0x06>(y), x_zero = fpclass<0x06>(x);
-  const auto y_infinite = fpclass<0x18>(y), x_infinite = fpclass<0x18>(x), nan = unord(y, x);
+  const auto y_zero = fpclass<classes::zero>(y), x_zero = fpclass<classes::zero>(x);
+  const auto y_infinite = fpclass<classes::infinity>(y), x_infinite = fpclass<classes::infinity>(x), nan = unord(y, x);
   const auto across = (x_zero & ~y_zero) | (y_infinite & ~x_infinite), diagonal = y_infinite & x_infinite;
   auto angle = chosen(positive.along, negative.along);
   angle = select(across, chosen(positive.across, negative.across), angle);
@@ -91,14 +93,14 @@ template <class T> T Atan2Magnitude(double ay, double ax, bool x_negative) {
   if (ay == 0) {
     r = {0, 0};
   } else if (ax == 0) {
-    r = {C::heads[4], C::tails[4]};
+    r = {C::angles.heads[4], C::angles.tails[4]};
   } else if (ay == beyond || ax == beyond) {
-    if (ay == ax) r = {C::heads[2], C::tails[2]};
-    else if (ay == beyond) r = {C::heads[4], C::tails[4]};
+    if (ay == ax) r = {C::angles.heads[2], C::angles.tails[2]};
+    else if (ay == beyond) r = {C::angles.heads[4], C::angles.tails[4]};
   } else {
     const ScaledNumber y = Scale(ay), x = Scale(ax);
     const int difference = y.exponent - x.exponent;
-    if (difference > 60) r = {C::heads[4], C::tails[4]};
+    if (difference > 60) r = {C::angles.heads[4], C::angles.tails[4]};
     else if (difference < -60 && !x_negative) return static_cast<T>(ay / ax);  // also where it is denormal
     else if (difference >= -60) {
       const auto scale = std::bit_cast<double>(static_cast<uint64_t>(1023 + difference) << 52);
@@ -106,8 +108,8 @@ template <class T> T Atan2Magnitude(double ay, double ax, bool x_negative) {
     }
   }
   if (!x_negative) return static_cast<T>(r.hi + r.lo);
-  const DoubleWord head = ExactSum(C::pi, -r.hi);
-  return static_cast<T>(head.hi + (head.lo + (C::pi_tail - r.lo)));
+  const DoubleWord head = ExactSum(numbers::pi_beside_angles_parts<Lum64f>[0], -r.hi);
+  return static_cast<T>(head.hi + (head.lo + (numbers::pi_beside_angles_parts<Lum64f>[1] - r.lo)));
 }
 
 template <class T> void Atan2Routine(T y, T x, T& result) {

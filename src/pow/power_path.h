@@ -83,7 +83,7 @@ template <class T> LUM_INLINE VectorPair<T> Log2Pair(Vec<T> given) {
   const auto s = s0 + w;
   const auto errors = (u0 - (s0 - a)) + (w - (s - s0));
   const auto u = u0 + w;
-  return {s, u * C::LogPolynomial(u) + (errors + (row1.lo + row2.lo + row3.lo))};
+  return {s, u * unfused_horner(u, C::log_polynomial) + (errors + (row1.lo + row2.lo + row3.lo))};
 }
 
 // 2^(p.hi + p.lo). A denormal result is counted in units of the smallest positive number by a sum whose last bit is worth that.
@@ -98,7 +98,7 @@ template <class T> LUM_INLINE Vec<T> Exp2Positive(VectorPair<T> p) {
   static constexpr auto table = InRowsOfFour<2>(C::exp2);
   const auto row = gather_rows<T>(table, shift_left<2>(count & all(Word{127})));
   const auto n = shift_right_arithmetic<7>(as_signed(count));
-  const auto correction = row.column0 * (g * C::ExpPolynomial(g)) + row.column1;
+  const auto correction = row.column0 * (g * unfused_horner(g, C::exp_polynomial)) + row.column1;
   const auto v = row.column0 + correction;
 
   const auto exponent = as_signed(BiasedExponents(v)) + n;
@@ -147,14 +147,14 @@ template <class T> LUM_INLINE Vec<T> PowerMagnitude(Vec<T> x, Vec<T> y) {
 
 // The second path for any arguments.
 template <class T> LUM_INLINE Finished<T> PowerSecondPath(Vec<T> x, Vec<T> y, const Lanes<T>& lanes) {
-  constexpr int truncated = 0xB;
-  const auto one = eq(x, all(T(1))) | fpclass<0x06>(y), nan = unord(x, y) & ~one;
+  constexpr int truncated = binary_places(0) | rz | quiet;
+  const auto one = eq(x, all(T(1))) | fpclass<classes::zero>(y), nan = unord(x, y) & ~one;
   const auto whole = eq(rndscale<truncated>(y), y);
   const auto half = zero_unless(whole, y) * all(T(0.5));
   const auto x_negative = mask_cast<T>(sign_mask(bits(x))), y_negative = mask_cast<T>(sign_mask(bits(y)));
   const auto sign = zero_unless(mask_cast<UnsignedOf<T>>(x_negative & ne(rndscale<truncated>(half), half)), all(sign_bit<T>));
   const auto magnitude = abs(x);
-  const auto zero = fpclass<0x06>(x), infinite = fpclass<0x18>(x) | fpclass<0x18>(y);
+  const auto zero = fpclass<classes::zero>(x), infinite = fpclass<classes::infinity>(x) | fpclass<classes::infinity>(y);
   const auto is_unit = eq(magnitude, all(T(1))) & whole;
   const auto fractional = x_negative & ~whole & ~zero & ~infinite;
   const auto settled = one | nan | zero | infinite | is_unit | fractional;

@@ -78,8 +78,8 @@ LUM_INLINE Vec<Lum32f> OfFinite(Vec<Lum32f> a, Vec<Lum32f> b) {
 template <class T> struct HypotKernel : Kernel<T> {
   static constexpr bool second_is_short = true;
   static LUM_INLINE Lanes<T> SecondPath(Vec<T> a, Vec<T> b, const Lanes<T>& lanes) {
-    const auto infinite = fpclass<0x18>(a) | fpclass<0x18>(b), nan = unord(a, b);
-    const auto zero = fpclass<0x06>(a) & fpclass<0x06>(b);
+    const auto infinite = fpclass<classes::infinity>(a) | fpclass<classes::infinity>(b), nan = unord(a, b);
+    const auto zero = fpclass<classes::zero>(a) & fpclass<classes::zero>(b);
     const auto finite = lanes.refused & ~(infinite | nan | zero);
     auto value = select(lanes.refused & nan, a + b, lanes.value);
     value = select(lanes.refused & zero, all(T(0)), value);

@@ -15,7 +15,7 @@ constexpr std::array<Extended, 7> series = {-1.0L / 2,    3.0L / 8,      -5.0L /
 
 // t as a head with 22 bits less than the format has, and the rest.
 ExtendedPair SplitForSeed(Extended t) {
-  const Extended scaled = t * f64(0x4150000040000000, 4194305.0);
+  const Extended scaled = t * (0x1p22 + 1);
   const Extended head = scaled - (scaled - t);
   return {head, t - head};
 }

@@ -86,4 +86,7 @@ LUM_INLINE HeadTail SquareRoot(HeadTail a) {
   return {g, (fnma(g, g, a.head) + a.tail) * h};
 }
 
+// x^2 exactly.
+LUM_INLINE HeadTail ExactSquare(Vec<Lum64f> x) { return ExactProduct(x, x); }
+
 }  // namespace lum::inline LUM_LAYER

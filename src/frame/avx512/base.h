@@ -41,12 +41,6 @@ template <Lane T> LUM_INLINE Vec<T> all(T x) {
   else return {_mm512_set1_epi64(static_cast<int64_t>(x))};
 }
 
-// The lane numbers 0, 1, 2, ...
-template <Integer T> LUM_INLINE Vec<T> iota() {
-  if constexpr (is32<T>) return {_mm512_setr_epi32(0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15)};
-  else return {_mm512_setr_epi64(0, 1, 2, 3, 4, 5, 6, 7)};
-}
-
 // A whole vector from memory of any alignment.
 template <Lane T> LUM_INLINE Vec<T> load(const T* p) {
   if constexpr (std::same_as<T, float>) return {_mm512_loadu_ps(p)};
@@ -92,7 +86,6 @@ template <Integer64 T> LUM_INLINE Vec<double> as_float(Vec<T> a) { return {_mm51
 template <Integer T> LUM_INLINE Vec<SignedOf<T>> as_signed(Vec<T> a) { return {a.v}; }
 template <Integer T> LUM_INLINE Vec<UnsignedOf<T>> as_unsigned(Vec<T> a) { return {a.v}; }
 // The lanes of one width seen as lanes of the other, the low half first.
-template <Integer32 T> LUM_INLINE Vec<uint64_t> as_lanes64(Vec<T> a) { return {a.v}; }
 template <Integer64 T> LUM_INLINE Vec<uint32_t> as_lanes32(Vec<T> a) { return {a.v}; }
 
 // ---- Masks

@@ -55,11 +55,6 @@ template <Lane T> LUM_INLINE Vec<T> all(T x) {
   return each_lane<T>([&](int) { return x; });
 }
 
-// The lane numbers 0, 1, 2, ...
-template <Integer T> LUM_INLINE Vec<T> iota() {
-  return each_lane<T>([&](int i) { return static_cast<T>(i); });
-}
-
 // A whole vector from memory of any alignment.
 template <Lane T> LUM_INLINE Vec<T> load(const T* p) {
   Vec<T> r;
@@ -94,10 +89,6 @@ template <Integer64 T> LUM_INLINE Vec<double> as_float(const Vec<T>& a) { return
 template <Integer T> LUM_INLINE Vec<SignedOf<T>> as_signed(const Vec<T>& a) { return std::bit_cast<Vec<SignedOf<T>>>(a); }
 template <Integer T> LUM_INLINE Vec<UnsignedOf<T>> as_unsigned(const Vec<T>& a) { return std::bit_cast<Vec<UnsignedOf<T>>>(a); }
 // The lanes of one width seen as lanes of the other, the low half first.
-template <Integer32 T> LUM_INLINE Vec<uint64_t> as_lanes64(const Vec<T>& a) {
-  return each_lane<uint64_t>(
-      [&](int i) { return static_cast<uint32_t>(a.lane[2 * i]) | uint64_t{static_cast<uint32_t>(a.lane[2 * i + 1])} << 32; });
-}
 template <Integer64 T> LUM_INLINE Vec<uint32_t> as_lanes32(const Vec<T>& a) {
   return each_lane<uint32_t>(
       [&](int i) { return static_cast<uint32_t>(static_cast<uint64_t>(a.lane[i / 2]) >> (i % 2 ? 32 : 0)); });
