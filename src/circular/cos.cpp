@@ -87,8 +87,8 @@ struct A50_64f : Double {
 
     const auto a = abs(x);
     const auto t = fma_floor(a, all(numbers::inverse_pi<Lum64f>), all(0x1p52));  // n = floor(|x| / pi) in the low bits
-    const auto m = t - all(0x1p52 - 0.5);                                      // n + 1/2
-    const auto r2 = fma(m, all(pi_parts[1]), fms(m, all(pi_parts[0]), a));     // from the odd multiple of pi/2 down
+    const auto m = t - all(0x1p52 - 0.5);                                        // n + 1/2
+    const auto r2 = fma(m, all(pi_parts[1]), fms(m, all(pi_parts[0]), a));       // from the odd multiple of pi/2 down
     const auto q = r2 * r2;
     const auto r = fma(m, all(pi_parts[2]), r2) ^ ParitySign(t);
     const auto p = horner(q, circular::cos_A50);

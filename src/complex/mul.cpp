@@ -65,7 +65,7 @@ template <class E, bool by_conjugate> struct Product : Kernel<E> {
     const auto product = ProductAsCore(z, w, refused);
     auto finished = product.is_sure & refused;
     // A NaN may be one of several, which only a layer that orders them gives right.
-    if constexpr (!orders_nans) finished = finished & ord(product.value.re, product.value.im);
+    if constexpr (!orders_nans) finished = finished & ~unord(product.value.re, product.value.im);
     const ComplexVec<T> value{select(finished, product.value.re, first.re), select(finished, product.value.im, first.im)};
     const auto infinite = fpclass<classes::infinity>(value.re) | fpclass<classes::infinity>(value.im);
     const auto not_finite = fpclass<classes::nonfinite>(z.re) | fpclass<classes::nonfinite>(z.im) |

@@ -47,7 +47,7 @@ template <class T> struct Reduced {
 template <int ln2_parts, class T> LUM_INLINE Reduced<T> Reduce(Vec<T> x) {
   using C = ExpConstants<T>;
   const auto t = fma_floor(x, all(numbers::log2_e<T>), all(C::shifter));
-  const auto n = t - all(C::shifter);                                   // exact
+  const auto n = t - all(C::shifter);  // exact
   auto r = fnma(n, all(numbers::ln2<T>), x);
   if constexpr (ln2_parts == 2) r = fnma(n, all(numbers::ln2_tail<T>), r);
   return {n, r, bits(t), le(all(C::threshold), abs(x))};

@@ -49,8 +49,8 @@ struct A24_32f : Float {
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
     constexpr auto shifter = rounding_shifter<Lum32f>(5);
     const auto [m, e] = parts<significand::from_half_to_1 | significand::nan_if_negative>(x);
-    const auto t = shifted_rcp14<5, 2>(m);
-    const auto c = t - all(shifter);       // in [1, 2]
+    const auto t = shifted_rcp14<5, significand::from_half_to_1>(m);
+    const auto c = t - all(shifter);      // in [1, 2]
     const auto k = e - getexp_normal(c);  // c = 2 is 2 times row 0
     const auto r = fms(c, m, all(1.0f));
     const auto j = bits(t);

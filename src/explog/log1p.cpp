@@ -83,7 +83,7 @@ template <int fraction_bits, class T> LUM_INLINE Reciprocal<T> TakeReciprocal(Ve
   constexpr T shifter = rounding_shifter<T>(fraction_bits);  // the sum has the row in its low bits
   const auto [s, c] = AddOne(x);
   const auto [m, e] = parts<significand::from_1_to_2 | significand::nan_if_negative>(s);
-  const auto t = shifted_rcp14<fraction_bits, 0>(m);
+  const auto t = shifted_rcp14<fraction_bits, significand::from_1_to_2>(m);
   return {e, m, t - all(shifter), scalef(c, negate(e)), bits(t)};
 }
 

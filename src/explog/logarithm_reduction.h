@@ -58,8 +58,9 @@ struct ReciprocalReduction {
 template <int fraction_bits> LUM_INLINE ReciprocalReduction ReduceByReciprocal(Vec<Lum64f> x) {
   constexpr auto shifter = rounding_shifter<Lum64f>() / (1 << fraction_bits);  // the last bit is worth that of c
   const auto [m, e] = parts<significand::from_1_to_2 | significand::nan_if_negative>(x);
-  const auto t = shifted_rcp14<fraction_bits, 0>(m);  // rounds to nearest; the low bits are c, less its top bit the row
-  const auto c = t - all(shifter);         // in [1/2, 1]; below 3/4 doubled, in effect
+  const auto t = shifted_rcp14<fraction_bits, significand::from_1_to_2>(
+      m);                           // rounds to nearest; the low bits are c, less its top bit the row
+  const auto c = t - all(shifter);  // in [1/2, 1]; below 3/4 doubled, in effect
   const auto r = fms(c, m, all(1.0));
   return {r, add(lt(c, all(0.75)), e, all(1.0)), bits(t)};
 }

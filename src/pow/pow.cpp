@@ -67,7 +67,7 @@ template <class T> struct Reduced { Vec<T> e, m, c; };
 // m in [1/2, 1), c in (1, 2].
 template <int fraction_bits, class T> LUM_INLINE Reduced<T> Reduce(Vec<T> x) {
   const auto [m, e] = parts<significand::from_half_to_1 | significand::nan_if_negative>(x);
-  const auto c = rounded_rcp14<fraction_bits, 2>(m);
+  const auto c = rounded_rcp14<fraction_bits, significand::from_half_to_1>(m);
   return {add(lt(c, all(T(1.5))), e, all(T(1))), m, c};
 }
 
@@ -142,7 +142,7 @@ struct A11_32f : PowKernel<Lum32f> {
     using C = PowConstants<Lum32f>;
     // m in [1, 2), c in [1/2, 1].
     const auto [m, exponent] = parts<significand::from_1_to_2 | significand::nan_if_negative>(x);
-    const auto c = rounded_rcp14<5, 0>(m);
+    const auto c = rounded_rcp14<5, significand::from_1_to_2>(m);
     const auto e = add(lt(c, all(0.75f)), exponent, all(1.0f));
     const auto r = fms(m, c, all(1.0f));
     const auto q = horner(r, pow::log2_A11);

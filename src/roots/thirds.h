@@ -16,9 +16,9 @@ template <class T> struct ThirdsConstants;
 template <> struct ThirdsConstants<Lum32f> {
   static constexpr auto shifter = rounding_shifter<Lum32f>();
   static constexpr auto third = 1 / 3.0f;
-  static constexpr auto offset = shifter / 3;            // a third of the shifter
-  static constexpr int grid = 5;  // reciprocals are multiples of 2^-5
-  static constexpr int index_shift = 19;                 // down to their last bit: the index of 1 follows on those below it
+  static constexpr auto offset = shifter / 3;  // a third of the shifter
+  static constexpr int grid = 5;               // reciprocals are multiples of 2^-5
+  static constexpr int index_shift = 19;       // down to their last bit: the index of 1 follows on those below it
 };
 template <> struct ThirdsConstants<Lum64f> {
   static constexpr auto shifter = rounding_shifter<Lum64f>();
@@ -83,7 +83,7 @@ template <Power power, class T> LUM_INLINE ThirdsReduced<T> ReduceThirds(Vec<T> 
     q = rndscale<binary_places(0) | rd | quiet>(fma(E, all(C::third), all(-C::offset)));
     j = fnma(q, all(T(3)), E);
   }
-  const auto c = rounded_rcp14<C::grid, 0>(m);
+  const auto c = rounded_rcp14<C::grid, significand::from_1_to_2>(m);
   return {q, j, c, fms(m, c, all(T(1)))};
 }
 
