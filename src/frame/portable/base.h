@@ -76,10 +76,10 @@ template <Lane T> LUM_INLINE void store(const Mask<T>& mask, T* p, const Vec<T>&
   for (int i = 0; i < lanes_of<T>; ++i)
     if (mask.bits_of(i)) std::memcpy(p + i, &a.lane[i], sizeof(T));
 }
-// Writes the first count lanes, 0 <= count <= lanes, and touches no other memory.
-template <Lane T> LUM_INLINE void store_first(int count, T* p, const Vec<T>& a) {
-  std::memcpy(p, &a, static_cast<size_t>(count) * sizeof(T));
-}
+template <Lane T> LUM_INLINE Mask<T> first_lanes(int count);
+// Writes the first count lanes, 0 <= count <= lanes, and touches no other memory. Not by one copy of that size, which would be
+// a call of the C library.
+template <Lane T> LUM_INLINE void store_first(int count, T* p, const Vec<T>& a) { store(first_lanes<T>(count), p, a); }
 
 // ---- Reinterpretation
 
