@@ -4,7 +4,7 @@
 //
 //   types        Vec<T>, T one of float, double, int32_t, uint32_t, int64_t, uint64_t: 512 bits; Mask<T>: one bit a lane
 //   make         all(x)  load(p)  load(mask, p, fill)  store(p, v)  store(mask, p, v)
-//                store_first(count, p, v)  first_lanes<T>(count)  mask_of<T>(bits)
+//                first_lanes<T>(count)  store_first(count, p, v)  mask_of<T>(bits)
 //   arithmetic   + - *  add<R> sub<R> mul<R> div<R>(a, b)  sqrt<R>(a)  fma fms fnma fnms<R>(a, b, c)
 //                fmaddsub fmsubadd(a, b, c)  min(a, b)  max(a, b)  abs(a)  negate(a)  rcp14(a)  rsqrt14(a)
 //   significand  getexp(a)  getmant<imm>(a)  parts<imm>(a)  scalef<R>(a, b)  rndscale<imm>(a)

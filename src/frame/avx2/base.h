@@ -48,13 +48,6 @@ template <Lane T> LUM_INLINE void store(Mask<T> mask, T* p, Vec<T> a) {
   half::store(mask.low, p, a.low);
   half::store(mask.high, p + Half<T>::lanes, a.high);
 }
-// Writes the first count lanes, 0 <= count <= lanes, and touches no other memory.
-template <Lane T> LUM_INLINE void store_first(int count, T* p, Vec<T> a) {
-  constexpr int lanes = Half<T>::lanes;
-  if (count < lanes) return half::store_first(count, p, a.low);
-  half::store(p, a.low);
-  if (count > lanes) half::store_first(count - lanes, p + lanes, a.high);
-}
 
 // ---- Reinterpretation
 
@@ -75,6 +68,13 @@ template <Integer64 T> LUM_INLINE Vec<uint32_t> as_lanes32(Vec<T> a) { return {{
 // The low `count` lanes, 0 <= count <= lanes.
 template <Lane T> LUM_INLINE Mask<T> first_lanes(int count) {
   return {half::first_lanes<T>(count, 0), half::first_lanes<T>(count, Half<T>::lanes)};
+}
+// Writes the first count lanes, 0 <= count <= lanes, and touches no other memory.
+template <Lane T> LUM_INLINE void store_first(int count, T* p, Vec<T> a) {
+  constexpr int lanes = Half<T>::lanes;
+  if (count < lanes) return half::store_first(count, p, a.low);
+  half::store(p, a.low);
+  if (count > lanes) half::store_first(count - lanes, p + lanes, a.high);
 }
 template <Lane T> LUM_INLINE Mask<T> mask_of(uint32_t lane_bits) {
   return {half::mask_of<T>(lane_bits, 0), half::mask_of<T>(lane_bits, Half<T>::lanes)};

@@ -69,11 +69,6 @@ template <Lane T> LUM_INLINE void store(Mask<T> mask, T* p, Vec<T> a) {
   else if constexpr (is32<T>) _mm512_mask_storeu_epi32(p, mask.k, a.v);
   else _mm512_mask_storeu_epi64(p, mask.k, a.v);
 }
-// Writes the first count lanes, 0 <= count <= lanes, and touches no other memory.
-template <Lane T> LUM_INLINE void store_first(int count, T* p, Vec<T> a) {
-  const Mask<T> first{static_cast<decltype(Mask<T>::k)>((1u << count) - 1u)};
-  store(first, p, a);
-}
 
 // ---- Reinterpretation
 
@@ -92,6 +87,8 @@ template <Integer64 T> LUM_INLINE Vec<uint32_t> as_lanes32(Vec<T> a) { return {a
 
 // The low `count` lanes, 0 <= count <= lanes.
 template <Lane T> LUM_INLINE Mask<T> first_lanes(int count) { return {static_cast<decltype(Mask<T>::k)>((1u << count) - 1u)}; }
+// Writes the first count lanes, 0 <= count <= lanes, and touches no other memory.
+template <Lane T> LUM_INLINE void store_first(int count, T* p, Vec<T> a) { store(first_lanes<T>(count), p, a); }
 template <Lane T> LUM_INLINE Mask<T> mask_of(uint32_t lane_bits) { return {static_cast<decltype(Mask<T>::k)>(lane_bits)}; }
 template <Lane T> LUM_INLINE uint32_t to_bits(Mask<T> m) { return m.k; }
 // The mask of lanes of one type as that of another type with as many lanes.

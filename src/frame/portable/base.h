@@ -76,10 +76,6 @@ template <Lane T> LUM_INLINE void store(const Mask<T>& mask, T* p, const Vec<T>&
   for (int i = 0; i < lanes_of<T>; ++i)
     if (mask.bits_of(i)) std::memcpy(p + i, &a.lane[i], sizeof(T));
 }
-template <Lane T> LUM_INLINE Mask<T> first_lanes(int count);
-// Writes the first count lanes, 0 <= count <= lanes, and touches no other memory. Not by one copy of that size, which would be
-// a call of the C library.
-template <Lane T> LUM_INLINE void store_first(int count, T* p, const Vec<T>& a) { store(first_lanes<T>(count), p, a); }
 
 // ---- Reinterpretation
 
@@ -100,6 +96,9 @@ template <Integer64 T> LUM_INLINE Vec<uint32_t> as_lanes32(const Vec<T>& a) {
 template <Lane T> LUM_INLINE Mask<T> first_lanes(int count) {
   return each_mask_lane<T>([&](int i) { return i < count; });
 }
+// Writes the first count lanes, 0 <= count <= lanes, and touches no other memory. Not by one copy of that size, which would be
+// a call of the C library.
+template <Lane T> LUM_INLINE void store_first(int count, T* p, const Vec<T>& a) { store(first_lanes<T>(count), p, a); }
 template <Lane T> LUM_INLINE Mask<T> mask_of(uint32_t lane_bits) {
   return each_mask_lane<T>([&](int i) { return (lane_bits & (1u << i)) != 0; });
 }
