@@ -26,7 +26,7 @@ template <> struct Grid<Lum32f> {
 };
 template <> struct Grid<Lum64f> {
   static constexpr auto shifter = rounding_shifter<Lum64f>(2);
-  static constexpr auto upper_half = shifter + 16 / 4;
+  static constexpr auto upper_half = shifter + 4;  // row 16
   static constexpr auto large = 7.875;
   static constexpr auto clamp = 0x1p128;
 
