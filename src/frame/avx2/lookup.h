@@ -56,15 +56,26 @@ template <Lane T> LUM_INLINE HalfMask<T> unseen_full_mask() {
   asm("" : "+x"(full));
   return {full};
 }
+// By the assembler, which sees where the index is: qemu-user 7.2, the one of Debian 12, takes ymm4 for "no index", as its
+// number is in other addresses, and reads at a wrong place. There index and mask, which a gather leaves zero, change places.
+// What is read is a constant table: the result depends on the operands alone.
+#define LUM_GATHER(instruction, scale)                                                                                 \
+  asm(".ifc %t[index],%%ymm4\n\t"                                                                                      \
+      "vpxor %t[mask],%%ymm4,%%ymm4\n\tvpxor %%ymm4,%t[mask],%t[mask]\n\tvpxor %t[mask],%%ymm4,%%ymm4\n\t" instruction \
+      " %%ymm4,(%[base],%t[mask]," scale                                                                               \
+      "),%t[result]\n\tvmovdqa %t[mask],%%ymm4\n\t"                                                                    \
+      ".else\n\t" instruction " %t[mask],(%[base],%t[index]," scale "),%t[result]\n\t.endif"                           \
+      : [result] "+&x"(result), [mask] "+&x"(mask)                                                                     \
+      : [index] "x"(index), [base] "r"(base))
 template <Lane T> LUM_INLINE Half<T> gather(HalfMask<T> m, const T* base, __m256i index, Half<T> old) {
-  constexpr int scale = sizeof(T);
-  if constexpr (std::same_as<T, float>) return {_mm256_mask_i32gather_ps(old.v, base, index, _mm256_castsi256_ps(m.v), scale)};
-  else if constexpr (std::same_as<T, double>)
-    return {_mm256_mask_i64gather_pd(old.v, base, index, _mm256_castsi256_pd(m.v), scale)};
-  else if constexpr (is32<T>)
-    return {_mm256_mask_i32gather_epi32(old.v, reinterpret_cast<const int*>(base), index, m.v, scale)};
-  else return {_mm256_mask_i64gather_epi64(old.v, reinterpret_cast<const long long*>(base), index, m.v, scale)};
+  __m256i result = raw(old), mask = m.v;
+  if constexpr (std::same_as<T, float>) LUM_GATHER("vgatherdps", "4");
+  else if constexpr (std::same_as<T, double>) LUM_GATHER("vgatherqpd", "8");
+  else if constexpr (is32<T>) LUM_GATHER("vpgatherdd", "4");
+  else LUM_GATHER("vpgatherqq", "8");
+  return from_raw<T>(result);
 }
+#undef LUM_GATHER
 
 // Loads of whole rows and a transposition, which is much faster than four gathers.
 template <Lane T> struct HalfColumns { Half<T> column0, column1, column2, column3; };
