@@ -171,11 +171,11 @@ Point BorderPoints::Next(Generator& g) const {
 }
 
 std::vector<Point> PointsAtBorders(const Export& entry, size_t count) {
-  const BorderPoints borders(entry);
+  const BorderPoints there(entry);
   Generator g(entry, 5);
   std::vector<Point> points;
-  for (const Border& border : borders.own_) {
-    const size_t share = std::max<size_t>(8, count / borders.own_.size());
+  for (const Border& border : there.own_) {
+    const size_t share = std::max<size_t>(8, count / there.own_.size());
     for (size_t i = 0; i < share; ++i) {
       const Point p = PointAt(entry, border, g, i);
       if (IsFinite(p)) points.push_back(p);
