@@ -180,13 +180,14 @@ template <Floating T> void add_conditional(Builder& table) {
   for_each_immediate<4, 5>([&](auto imm, const std::string& text) {
     constexpr int grid = decltype(imm)::value;
     table.add<V>("rounded_rcp14" + text + " of [1,2)" + t,
-                 [](V a) { return zero_unless(~unord(a, a), rounded_rcp14<grid, 0>(getmant<0>(a))); });
+                 [](V a) { return zero_unless(~unord(a, a), rounded_rcp14<grid, 0>(lum::getmant<0>(a))); });
     table.add<V>("rounded_rcp14" + text + " of [1/2,1)" + t,
-                 [](V a) { return zero_unless(~unord(a, a), rounded_rcp14<grid, 2>(getmant<2>(a))); });
+                 [](V a) { return zero_unless(~unord(a, a), rounded_rcp14<grid, 2>(lum::getmant<2>(a))); });
     table.add<V>("shifted_rcp14" + text + " of [1,2)" + t,
-                 [](V a) { return zero_unless(~unord(a, a), shifted_rcp14<grid, 0>(getmant<4>(a))); });
-    table.add<V>("shifted_rcp14" + text + " of [1/2,1)" + t,
-                 [](V a) { return zero_unless(lt(getmant<6>(a), all(T(1))), shifted_rcp14<grid, 2>(getmant<6>(a))); });
+                 [](V a) { return zero_unless(~unord(a, a), shifted_rcp14<grid, 0>(lum::getmant<4>(a))); });
+    table.add<V>("shifted_rcp14" + text + " of [1/2,1)" + t, [](V a) {
+      return zero_unless(lt(lum::getmant<6>(a), all(T(1))), shifted_rcp14<grid, 2>(lum::getmant<6>(a)));
+    });
     table.add<V>("rcp14_halves_up" + text + t, [](V a) { return rcp14_halves_up<grid>(a); });
   });
 }
