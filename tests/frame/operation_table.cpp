@@ -143,6 +143,20 @@ template <Floating T> Vec<T> moderate(Vec<T> a) {
   return as_float(bits(a & all(kept)) + all(static_cast<U>((bias - 8) << fraction_bits)));
 }
 
+// Estimates rounded to a grid. Not in a generic lambda, in which clang++ 14 does not find getmant.
+template <int grid, Floating T> void add_rounded_estimates(Builder& table, const std::string& text, const std::string& t) {
+  using V = Vec<T>;
+  table.add<V>("rounded_rcp14" + text + " of [1,2)" + t,
+               [](V a) { return zero_unless(~unord(a, a), rounded_rcp14<grid, 0>(getmant<0>(a))); });
+  table.add<V>("rounded_rcp14" + text + " of [1/2,1)" + t,
+               [](V a) { return zero_unless(~unord(a, a), rounded_rcp14<grid, 2>(getmant<2>(a))); });
+  table.add<V>("shifted_rcp14" + text + " of [1,2)" + t,
+               [](V a) { return zero_unless(~unord(a, a), shifted_rcp14<grid, 0>(getmant<4>(a))); });
+  table.add<V>("shifted_rcp14" + text + " of [1/2,1)" + t,
+               [](V a) { return zero_unless(lt(getmant<6>(a), all(T(1))), shifted_rcp14<grid, 2>(getmant<6>(a))); });
+  table.add<V>("rcp14_halves_up" + text + t, [](V a) { return rcp14_halves_up<grid>(a); });
+}
+
 // The operations with a condition, on operands for which it holds.
 template <Floating T> void add_conditional(Builder& table) {
   using V = Vec<T>;
@@ -177,19 +191,8 @@ template <Floating T> void add_conditional(Builder& table) {
         split_floor<4>(select(lt(abs(a), all(T(1))), a, moderate(a)), all(sizeof(T) == 4 ? T(0x1.8p19) : T(0x1.8p48)));
     return Pair<T>{sum, rest + all(T(0))};
   });
-  for_each_immediate<4, 5>([&](auto imm, const std::string& text) {
-    constexpr int grid = decltype(imm)::value;
-    table.add<V>("rounded_rcp14" + text + " of [1,2)" + t,
-                 [](V a) { return zero_unless(~unord(a, a), rounded_rcp14<grid, 0>(lum::getmant<0>(a))); });
-    table.add<V>("rounded_rcp14" + text + " of [1/2,1)" + t,
-                 [](V a) { return zero_unless(~unord(a, a), rounded_rcp14<grid, 2>(lum::getmant<2>(a))); });
-    table.add<V>("shifted_rcp14" + text + " of [1,2)" + t,
-                 [](V a) { return zero_unless(~unord(a, a), shifted_rcp14<grid, 0>(lum::getmant<4>(a))); });
-    table.add<V>("shifted_rcp14" + text + " of [1/2,1)" + t, [](V a) {
-      return zero_unless(lt(lum::getmant<6>(a), all(T(1))), shifted_rcp14<grid, 2>(lum::getmant<6>(a)));
-    });
-    table.add<V>("rcp14_halves_up" + text + t, [](V a) { return rcp14_halves_up<grid>(a); });
-  });
+  for_each_immediate<4, 5>(
+      [&](auto imm, const std::string& text) { add_rounded_estimates<decltype(imm)::value, T>(table, text, t); });
 }
 
 template <Floating T> void add_floating(Builder& table) {
