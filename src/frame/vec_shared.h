@@ -15,6 +15,15 @@ template <Floating T> LUM_INLINE Vec<T> operator+(Vec<T> a, Vec<T> b) { return a
 template <Floating T> LUM_INLINE Vec<T> operator-(Vec<T> a, Vec<T> b) { return sub(a, b); }
 template <Floating T> LUM_INLINE Vec<T> operator*(VecIn<T> a, VecIn<T> b) { return mul(a, b); }
 
+// The predicates' codes are the same for floating-point and integer comparisons.
+template <Lane T> LUM_INLINE Mask<T> eq(VecIn<T> a, VecIn<T> b) { return compare<0>(a, b); }
+template <Lane T> LUM_INLINE Mask<T> lt(VecIn<T> a, VecIn<T> b) { return compare<1>(a, b); }
+template <Lane T> LUM_INLINE Mask<T> le(VecIn<T> a, VecIn<T> b) { return compare<2>(a, b); }
+template <Lane T> LUM_INLINE Mask<T> ne(VecIn<T> a, VecIn<T> b) { return compare<4>(a, b); }
+template <Lane T> LUM_INLINE Mask<T> nlt(VecIn<T> a, VecIn<T> b) { return compare<5>(a, b); }
+template <Lane T> LUM_INLINE Mask<T> nle(VecIn<T> a, VecIn<T> b) { return compare<6>(a, b); }
+template <Floating T> LUM_INLINE Mask<T> unord(VecIn<T> a, VecIn<T> b) { return compare<3>(a, b); }
+
 // A number as its bits are. Clang would see a changed sign through the pattern and take it into the fused operation behind,
 // which gives a NaN the other sign; the empty statement hides it.
 template <Floating T> LUM_INLINE Vec<T> sealed(Vec<T> a) {

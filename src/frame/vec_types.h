@@ -1,4 +1,4 @@
-// What both layers of vector operations start from: the types of a lane, and the rounding of an operation.
+// What all layers of vector operations start from: the types of a lane, and the rounding of an operation.
 #pragma once
 
 #include <bit>

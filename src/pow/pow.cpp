@@ -94,7 +94,7 @@ LUM_INLINE TwoParts<Vec<Lum64f>> PairOf(Vec<Lum64f> c) {
 // ---- The product with y, the exponent of 2
 
 // (s + q + rest) y, for |q| small against |s| and rest against q.
-template <class T> LUM_INLINE ProductParts<T> MultiplyPair(Vec<T> s, Vec<T> q, Vec<T> rest, Vec<T> y) {
+template <class T> LUM_INLINE TwoParts<Vec<T>> MultiplyPair(Vec<T> s, Vec<T> q, Vec<T> rest, Vec<T> y) {
   const auto hi = s + q;
   return mul_toward_zero(hi, (q - (hi - s)) + rest, y);
 }
@@ -111,7 +111,7 @@ template <class T> struct Exponent {
 };
 
 // The bit that is cleared is none of an f below 1; it keeps NaN and huge values of refused lanes out of the polynomial.
-template <int index_bits, class T> LUM_INLINE Exponent<T> SplitExponent(const ProductParts<T>& a, T shifter) {
+template <int index_bits, class T> LUM_INLINE Exponent<T> SplitExponent(const TwoParts<Vec<T>>& a, T shifter) {
   const auto [n, rest] = split_floor<index_bits>(a.head, all(shifter));
   const auto f = rest + a.tail;
   return {f & all(static_cast<UnsignedOf<T>>(~(sign_bit<T> >> 1))), bits(n)};

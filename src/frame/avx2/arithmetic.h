@@ -67,10 +67,8 @@ template <int R = rn, Floating T> LUM_INLINE Vec<T> fnms(Vec<T> a, Vec<T> b, Vec
 template <Floating T> LUM_INLINE Vec<T> fma_floor(Vec<T> a, Vec<T> b, Vec<T> c) {
   return {half::fma_floor(a.low, b.low, c.low), half::fma_floor(a.high, b.high, c.high)};
 }
-// A product as the sum of two numbers.
-template <Floating T> struct ProductParts { Vec<T> head, tail; };
 // a b rounded toward zero, and what is left of it, exactly: of products that are finite and whose lowest bit is in the range.
-template <Floating T> LUM_INLINE ProductParts<T> mul_toward_zero(Vec<T> a, Vec<T> b) {
+template <Floating T> LUM_INLINE TwoParts<Vec<T>> mul_toward_zero(Vec<T> a, Vec<T> b) {
   const auto low = half::mul_toward_zero(a.low, b.low), high = half::mul_toward_zero(a.high, b.high);
   if (any(half::is_small_product(low.head, a.low, b.low) | half::is_small_product(high.head, a.high, b.high))) [[unlikely]] {
     const auto head = mul<rz>(a, b);
@@ -79,7 +77,7 @@ template <Floating T> LUM_INLINE ProductParts<T> mul_toward_zero(Vec<T> a, Vec<T
   return {{low.head, high.head}, {low.tail, high.tail}};
 }
 // (a + a_tail) b, each step toward zero, for a tail that is zero or from 2^-212 (float: 2^-96) to 2^-8 of a.
-template <Floating T> LUM_INLINE ProductParts<T> mul_toward_zero(Vec<T> a, Vec<T> a_tail, Vec<T> b) {
+template <Floating T> LUM_INLINE TwoParts<Vec<T>> mul_toward_zero(Vec<T> a, Vec<T> a_tail, Vec<T> b) {
   Vec<T> head, tail;
   const auto low = half::mul_toward_zero(a.low, a_tail.low, b.low), high = half::mul_toward_zero(a.high, a_tail.high, b.high);
   head = {low.head, high.head};
@@ -209,14 +207,6 @@ template <int predicate, Floating T> LUM_INLINE Mask<T> compare(Vec<T> a, Vec<T>
 template <int predicate, Integer T> LUM_INLINE Mask<T> compare(Vec<T> a, Vec<T> b) {
   return {half::compare<predicate>(a.low, b.low), half::compare<predicate>(a.high, b.high)};
 }
-// The predicates' codes are the same for floating-point and integer comparisons (0 eq, 1 lt, 2 le, 4 ne, 5 nlt, 6 nle).
-template <Lane T> LUM_INLINE Mask<T> eq(Vec<T> a, Vec<T> b) { return compare<0>(a, b); }
-template <Lane T> LUM_INLINE Mask<T> lt(Vec<T> a, Vec<T> b) { return compare<1>(a, b); }
-template <Lane T> LUM_INLINE Mask<T> le(Vec<T> a, Vec<T> b) { return compare<2>(a, b); }
-template <Lane T> LUM_INLINE Mask<T> ne(Vec<T> a, Vec<T> b) { return compare<4>(a, b); }
-template <Lane T> LUM_INLINE Mask<T> nlt(Vec<T> a, Vec<T> b) { return compare<5>(a, b); }
-template <Lane T> LUM_INLINE Mask<T> nle(Vec<T> a, Vec<T> b) { return compare<6>(a, b); }
-template <Floating T> LUM_INLINE Mask<T> unord(Vec<T> a, Vec<T> b) { return compare<3>(a, b); }
 
 // Lanes whose class is in the set imm: bit 0 quiet NaN, 1 +0, 2 -0, 3 +infinity, 4 -infinity, 5 denormal, 6 negative finite
 // other than -0, 7 signalling NaN.

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "frame/avx2/significand.h"
+#include "frame/two_parts.h"
 
 namespace lum {
 inline namespace avx2 {
@@ -37,9 +38,8 @@ template <Floating T> LUM_INLINE HalfMask<T> product_doubt(Half<T> product, Half
   return outside & ~(eq(product, all(T{0})) & (eq(a, all(T{0})) | eq(b, all(T{0}))));
 }
 
-template <Floating T> struct HalfSum { Half<T> sum, error; };
 // a + b = sum + error, for finite numbers without overflow.
-template <Floating T> LUM_INLINE HalfSum<T> two_sum(Half<T> a, Half<T> b) {
+template <Floating T> LUM_INLINE TwoParts<Half<T>> two_sum(Half<T> a, Half<T> b) {
   const auto s = a + b;
   const auto b_part = s - a;
   return {s, (a - (s - b_part)) + (b - b_part)};
@@ -72,8 +72,8 @@ LUM_INLINE Half<T> directed_fma(Half<T> a, Half<T> b, Half<T> c) {
     return each_lane<[](T l, T m, T n) { return lane::careful_fma<R, negate_product, negate_addend>(l, m, n); }>(a, b, c);
   }
   const auto low = two_sum(z, fms(x, b, p));
-  const auto high = two_sum(p, low.sum);
-  return directed<R>(s, ((high.sum - s) + high.error) + low.error);
+  const auto high = two_sum(p, low.head);
+  return directed<R>(s, ((high.head - s) + high.tail) + low.tail);
 }
 
 // The sum lies within a binade of c, so that its difference from c is exact, and the error's sign is right: one unit down where
@@ -89,19 +89,18 @@ template <Floating T> LUM_INLINE HalfMask<T> is_small_product(Half<T> product, H
   const auto small = lt(magnitude(product), all(is32<T> ? T(0x1p-40) : T(0x1p-300)));
   return small & ~(eq(a, all(T{0})) | eq(b, all(T{0})));
 }
-template <Floating T> struct HalfProduct { Half<T> head, tail; };
-template <Floating T> LUM_INLINE HalfProduct<T> mul_toward_zero(Half<T> a, Half<T> b) {
+template <Floating T> LUM_INLINE TwoParts<Half<T>> mul_toward_zero(Half<T> a, Half<T> b) {
   const auto nearest = a * b;
   const auto head = directed<rz>(nearest, fms(a, b, nearest));
   return {head, fms(a, b, head)};
 }
-template <Floating T> LUM_INLINE HalfProduct<T> mul_toward_zero(Half<T> a, Half<T> a_tail, Half<T> b) {
+template <Floating T> LUM_INLINE TwoParts<Half<T>> mul_toward_zero(Half<T> a, Half<T> a_tail, Half<T> b) {
   const auto first = mul_toward_zero(a, b);
   const auto nearest = fma(a_tail, b, first.tail);
   const auto p = a_tail * b;
   const auto low = two_sum(first.tail, fms(a_tail, b, p));
-  const auto high = two_sum(p, low.sum);
-  const auto second = directed<rz>(nearest, ((high.sum - nearest) + high.error) + low.error);
+  const auto high = two_sum(p, low.head);
+  const auto second = directed<rz>(nearest, ((high.head - nearest) + high.tail) + low.tail);
   const auto sum = first.head + second;
   const auto head = directed<rz>(sum, second - (sum - first.head));
   return {head, second - (head - first.head)};

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "frame/avx512/base.h"
+#include "frame/two_parts.h"
 
 namespace lum {
 inline namespace avx512 {
@@ -53,15 +54,13 @@ template <int R = rn, Floating T> LUM_INLINE Vec<T> fnms(Vec<T> a, Vec<T> b, Vec
 // fma<rz>(a, b, c) for c = 1.5 * 2^k and |a b| up to 2^(k-2), so that it is the floor of a b, and c behind it. A product that
 // is negative is no denormal number. Of other lanes any value, a NaN of a one.
 template <Floating T> LUM_INLINE Vec<T> fma_floor(Vec<T> a, Vec<T> b, Vec<T> c) { return fma<rz>(a, b, c); }
-// A product as the sum of two numbers.
-template <Floating T> struct ProductParts { Vec<T> head, tail; };
 // a b rounded toward zero, and what is left of it, exactly: of products that are finite and whose lowest bit is in the range.
-template <Floating T> LUM_INLINE ProductParts<T> mul_toward_zero(Vec<T> a, Vec<T> b) {
+template <Floating T> LUM_INLINE TwoParts<Vec<T>> mul_toward_zero(Vec<T> a, Vec<T> b) {
   const auto head = mul<rz>(a, b);
   return {head, fms<rz>(a, b, head)};
 }
 // (a + a_tail) b, each step toward zero, for a tail that is zero or from 2^-212 (float: 2^-96) to 2^-8 of a.
-template <Floating T> LUM_INLINE ProductParts<T> mul_toward_zero(Vec<T> a, Vec<T> a_tail, Vec<T> b) {
+template <Floating T> LUM_INLINE TwoParts<Vec<T>> mul_toward_zero(Vec<T> a, Vec<T> a_tail, Vec<T> b) {
   const auto first = mul<rz>(a, b);
   const auto second = fma<rz>(a_tail, b, fms<rz>(a, b, first));
   const auto head = add<rz>(first, second);
@@ -179,14 +178,6 @@ template <int predicate, Integer T> LUM_INLINE Mask<T> compare(Vec<T> a, Vec<T> 
   else if constexpr (std::same_as<T, int64_t>) return {_mm512_cmp_epi64_mask(a.v, b.v, predicate)};
   else return {_mm512_cmp_epu64_mask(a.v, b.v, predicate)};
 }
-// The predicates' codes are the same for floating-point and integer comparisons (0 eq, 1 lt, 2 le, 4 ne, 5 nlt, 6 nle).
-template <Lane T> LUM_INLINE Mask<T> eq(Vec<T> a, Vec<T> b) { return compare<0>(a, b); }
-template <Lane T> LUM_INLINE Mask<T> lt(Vec<T> a, Vec<T> b) { return compare<1>(a, b); }
-template <Lane T> LUM_INLINE Mask<T> le(Vec<T> a, Vec<T> b) { return compare<2>(a, b); }
-template <Lane T> LUM_INLINE Mask<T> ne(Vec<T> a, Vec<T> b) { return compare<4>(a, b); }
-template <Lane T> LUM_INLINE Mask<T> nlt(Vec<T> a, Vec<T> b) { return compare<5>(a, b); }
-template <Lane T> LUM_INLINE Mask<T> nle(Vec<T> a, Vec<T> b) { return compare<6>(a, b); }
-template <Floating T> LUM_INLINE Mask<T> unord(Vec<T> a, Vec<T> b) { return compare<3>(a, b); }
 
 // Lanes whose class is in the set imm: bit 0 quiet NaN, 1 +0, 2 -0, 3 +infinity, 4 -infinity, 5 denormal, 6 negative finite
 // other than -0, 7 signalling NaN.

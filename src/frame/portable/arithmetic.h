@@ -4,6 +4,7 @@
 #include "frame/lane_significand.h"
 #include "frame/portable/base.h"
 #include "frame/reciprocal_estimates.h"
+#include "frame/two_parts.h"
 
 namespace lum {
 inline namespace portable {
@@ -113,15 +114,13 @@ template <Floating T> LUM_INLINE Vec<T> fma_floor(const Vec<T>& a, const Vec<T>&
     return lane::from_bits<T>(lane::to_bits(s.lane[i]) + lane::mask_where<T>(error < 0));
   });
 }
-// A product as the sum of two numbers.
-template <Floating T> struct ProductParts { Vec<T> head, tail; };
 // a b rounded toward zero, and what is left of it, exactly: of products that are finite and whose lowest bit is in the range.
-template <Floating T> LUM_INLINE ProductParts<T> mul_toward_zero(const Vec<T>& a, const Vec<T>& b) {
+template <Floating T> LUM_INLINE TwoParts<Vec<T>> mul_toward_zero(const Vec<T>& a, const Vec<T>& b) {
   const auto head = mul<rz>(a, b);
   return {head, fms<rz>(a, b, head)};
 }
 // (a + a_tail) b, each step toward zero, for a tail that is zero or from 2^-212 (float: 2^-96) to 2^-8 of a.
-template <Floating T> LUM_INLINE ProductParts<T> mul_toward_zero(const Vec<T>& a, const Vec<T>& a_tail, const Vec<T>& b) {
+template <Floating T> LUM_INLINE TwoParts<Vec<T>> mul_toward_zero(const Vec<T>& a, const Vec<T>& a_tail, const Vec<T>& b) {
   const auto first = mul<rz>(a, b);
   const auto second = fma<rz>(a_tail, b, fms<rz>(a, b, first));
   const auto head = add<rz>(first, second);
@@ -273,14 +272,6 @@ template <int predicate, Integer T> LUM_INLINE Mask<T> compare(const Vec<T>& a, 
     else return true;
   });
 }
-// The predicates' codes are the same for floating-point and integer comparisons (0 eq, 1 lt, 2 le, 4 ne, 5 nlt, 6 nle).
-template <Lane T> LUM_INLINE Mask<T> eq(const Vec<T>& a, const Vec<T>& b) { return compare<0>(a, b); }
-template <Lane T> LUM_INLINE Mask<T> lt(const Vec<T>& a, const Vec<T>& b) { return compare<1>(a, b); }
-template <Lane T> LUM_INLINE Mask<T> le(const Vec<T>& a, const Vec<T>& b) { return compare<2>(a, b); }
-template <Lane T> LUM_INLINE Mask<T> ne(const Vec<T>& a, const Vec<T>& b) { return compare<4>(a, b); }
-template <Lane T> LUM_INLINE Mask<T> nlt(const Vec<T>& a, const Vec<T>& b) { return compare<5>(a, b); }
-template <Lane T> LUM_INLINE Mask<T> nle(const Vec<T>& a, const Vec<T>& b) { return compare<6>(a, b); }
-template <Floating T> LUM_INLINE Mask<T> unord(const Vec<T>& a, const Vec<T>& b) { return compare<3>(a, b); }
 
 // Lanes whose class is in the set imm: bit 0 quiet NaN, 1 +0, 2 -0, 3 +infinity, 4 -infinity, 5 denormal, 6 negative finite
 // other than -0, 7 signalling NaN.
