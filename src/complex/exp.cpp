@@ -148,7 +148,7 @@ struct A53_64fc : Kernel<Lum64fc> {
 #include "tables/generated/exp2_64_pairs.inc"
     });
     constexpr auto shifter = rounding_shifter<Lum64f>();
-    const auto t = fma(x, all(f64(0x40571547652B82FE, 92.33248261689366)), all(shifter));
+    const auto t = fma(x, all(64 * numbers::log2_e<Lum64f>), all(shifter));
     const auto n = t - all(shifter);
     const auto r = fnma(n, all(numbers::ln2_short_tail<Lum64f> / 64), fnma(n, all(numbers::ln2_short<Lum64f> / 64), x));
     const auto q = horner(r, explog::exp_routine_64f);
