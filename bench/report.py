@@ -18,6 +18,7 @@ from pathlib import Path
 sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "tools"))
 import accuracy_page
 import catalogue
+import function_pages
 import measured_data as data
 import port_bound
 import refused_lanes
@@ -89,8 +90,6 @@ Names of which a peer is the faster one, with its time over ours:
 
 ## All names
 
-| name | ns | ticks | best peer | C library loop | one element |
-|---|--:|--:|--:|--:|--:|
 {names}
 """
 
@@ -140,22 +139,9 @@ def write_page():
 def write_library_page(library):
     stored = data.times(f"performance-{library}.csv")
     rows, behind = overview(stored)
-    names = []
-    for row in catalogue.rows():
-        figures, single = data.at_length(row, stored), data.at_length(row, stored, 1)
-        for export, tag in row.exports():
-            who = tag or "lumvm"
-            if who not in figures:
-                continue
-            ns = figures[who]
-            ticks = stored[f"{row.function}_{row.type}", data.MAIN_LENGTH, who][1]
-            peer = data.best_peer(figures, tag in data.EXACT_TAGS)
-            names.append(f"| `{export}` | {ns:.3g} | {ticks:.3g} | {f'{peer[1] / ns:.2f} ({peer[0]})' if peer else ''} | "
-                         f"{figures['scalar'] / ns:.1f} | {single[who]:.3g} |" if "scalar" in figures else
-                         f"| `{export}` | {ns:.3g} | {ticks:.3g} | | | {single[who]:.3g} |")
     page = LIBRARY_PAGE.format(library=library, what=LIBRARIES[library], length=data.MAIN_LENGTH, machine=machine(),
                                table="\n".join(rows), behind="\n".join(f"- {name}" for name in behind) or "none",
-                               names="\n".join(names))
+                               names="\n".join(function_pages.speed_table(catalogue.rows(), stored)))
     catalogue.write_if_changed(catalogue.ROOT / f"docs/performance-{library}.md", page)
 
 

@@ -58,8 +58,10 @@ def accuracy_table(rows, figures):
     return lines
 
 
-def speed_table(rows, stored, floors):
-    lines = ["| name | ns | ticks | floor | best peer | C library loop | one element |", "|---|--:|--:|--:|--:|--:|--:|"]
+def speed_table(rows, stored, floors=None):
+    """Lines of a table; without the column of floors where none are given."""
+    floor_head, floor_line = (" floor |", "--:|") if floors is not None else ("", "")
+    lines = [f"| name | ns | ticks |{floor_head} best peer | C library loop | one element |", f"|---|--:|--:|{floor_line}--:|--:|--:|"]
     for row in rows:
         figures = data.at_length(row, stored)
         single = data.at_length(row, stored, 1)
@@ -71,8 +73,8 @@ def speed_table(rows, stored, floors):
             against = f"{peer[1] / figures[who]:.2f} × ({data.peer_name(peer[0])})" if peer else ""
             scalar = f"{figures['scalar'] / figures[who]:.1f} ×" if "scalar" in figures else ""
             ticks = stored[f"{row.function}_{row.type}", data.MAIN_LENGTH, who][1]
-            floor = f"{floors[export]:.2f}" if export in floors else ""
-            lines.append(f"| `{export}` | {figures[who]:.3g} | {ticks:.3g} | {floor} | {against} | {scalar} | {single.get(who, 0):.3g} ns |")
+            floor = "" if floors is None else f" {floors[export]:.2f} |" if export in floors else "  |"
+            lines.append(f"| `{export}` | {figures[who]:.3g} | {ticks:.3g} |{floor} {against} | {scalar} | {single.get(who, 0):.3g} ns |")
     return lines if len(lines) > 2 else []
 
 
