@@ -1,7 +1,7 @@
 // Prints the layers that this processor runs, the fastest first, for the build to choose among them.
 #include <cstdio>
 
-#include "../src/frame/dispatch/processor.cpp"
+#include "frame/dispatch/processor.cpp"
 
 int main() {
   for (const lum::Layer layer : lum::all_layers) {
