@@ -16,6 +16,13 @@
 #include <xmmintrin.h>
 #endif
 
+// A function once more for processors with AVX2, where the loader can choose.
+#if defined(__x86_64__) && defined(__GNUC__) && !defined(__clang__)
+#define LUM_PYTHON_CLONES __attribute__((target_clones("avx2", "default")))
+#else
+#define LUM_PYTHON_CLONES
+#endif
+
 namespace lum::python {
 
 // How an infinity that comes from finite arguments is to be understood, and when results are looked at.
@@ -95,22 +102,25 @@ template <class In, class Out> int FlagsOf(Kind kind, const In* x, const In* y, 
   return kind.can_underflow && HasVanished(result) ? FE_UNDERFLOW : 0;
 }
 
-// By the exponents, in one pass that the compiler makes of vector operations.
-template <class Out> bool AllFinite(const Out* results, npy_intp n) {
-  using Bits = std::conditional_t<sizeof(Part<Out>) == 4, uint32_t, uint64_t>;
+// By the exponents, in one pass that the compiler makes of vector operations: with one more, an exponent of ones carries into the
+// sign. (64-bit comparisons are none of SSE2's instructions.)
+template <class Bits, class Number> [[gnu::always_inline]] inline bool AllFiniteBits(const Number* numbers, npy_intp n) {
   constexpr Bits exponent = sizeof(Bits) == 4 ? static_cast<Bits>(0x7F800000) : static_cast<Bits>(0x7FF0000000000000);
+  constexpr Bits one = exponent & (~exponent + 1);
   Bits found = 0;
-  for (npy_intp i = 0; i < n * parts_of<Out>; ++i) {
+  for (npy_intp i = 0; i < n; ++i) {
     Bits bits;
-    std::memcpy(&bits, reinterpret_cast<const char*>(results) + static_cast<size_t>(i) * sizeof bits, sizeof bits);
-    found |= static_cast<Bits>((bits & exponent) == exponent);
+    std::memcpy(&bits, numbers + i, sizeof bits);
+    found |= (bits & exponent) + one;
   }
-  return found == 0;
+  return (found & ~(~Bits{0} >> 1)) == 0;
 }
+LUM_PYTHON_CLONES static bool AllFinite(const float* numbers, npy_intp n) { return AllFiniteBits<uint32_t>(numbers, n); }
+LUM_PYTHON_CLONES static bool AllFinite(const double* numbers, npy_intp n) { return AllFiniteBits<uint64_t>(numbers, n); }
 
 template <class In, class Out>
 int FlagsOfBlock(Kind kind, LumStatus status, const In* x, const In* y, const Out* results, npy_intp n) {
-  if (status <= 0 && (!kind.looks_at_all || AllFinite(results, n))) return 0;
+  if (status <= 0 && (!kind.looks_at_all || AllFinite(reinterpret_cast<const Part<Out>*>(results), n * parts_of<Out>))) return 0;
   int flags = 0;
   for (npy_intp i = 0; i < n; ++i) flags |= FlagsOf(kind, x + i, y == nullptr ? nullptr : y + i, results[i]);
   return flags;
@@ -135,7 +145,7 @@ class KeptFlags {
 
 // Blocks of these many elements go through buffers; contiguous arrays go in runs that stay in the first cache.
 inline constexpr npy_intp buffered = 256;
-template <class T> inline constexpr npy_intp run_length = 32768 / static_cast<npy_intp>(sizeof(T));
+template <class T> inline constexpr npy_intp run_length = 16384 / static_cast<npy_intp>(sizeof(T));
 
 template <class T> void Gather(T* buffer, const char* from, npy_intp step, npy_intp n) {
   if (step == static_cast<npy_intp>(sizeof(T))) {
@@ -268,6 +278,19 @@ template <class T, bool exchanged> void TwoOutputs(char** args, const npy_intp* 
   KeptFlags flags;
   const bool entangled =
       Entangled<T, T>(args[0], steps[0], first, first_step, n) || Entangled<T, T>(args[0], steps[0], second, second_step, n);
+  const bool contiguous = steps[0] == sizeof(T) && first_step == sizeof(T) && second_step == sizeof(T) && args[0] != first &&
+                          args[0] != second && !Entangled<T, T>(first, first_step, second, second_step, n);
+  if (contiguous && !entangled) {
+    for (npy_intp i = 0; i < n; i += run_length<T>) {
+      const npy_intp count = n - i < run_length<T> ? n - i : run_length<T>;
+      const auto* from = reinterpret_cast<const T*>(args[0]) + i;
+      auto *to1 = reinterpret_cast<T*>(first) + i, *to2 = reinterpret_cast<T*>(second) + i;
+      const LumStatus status = call(from, to1, to2, static_cast<int32_t>(count));
+      flags.Ask(FlagsOfBlock<T, T>(function.kind, status, from, nullptr, to1, count) |
+                FlagsOfBlock<T, T>(function.kind, status, from, nullptr, to2, count));
+    }
+    return;
+  }
   const npy_intp block = entangled ? 1 : buffered;
   T arguments[buffered], results1[buffered], results2[buffered];
   for (npy_intp i = 0; i < n; i += block) {
