@@ -145,7 +145,7 @@ template <class T, class U> void check_result(std::span<const T> x, std::span<U>
 // the last part that reported.
 template <class Call> status in_parts(std::size_t size, const Call& call) {
   constexpr std::size_t most = std::size_t{1} << 30;
-  if (size <= most) [[likely]] return status(call(0, static_cast<std::int32_t>(size)));
+  if (size - 1 < most) [[likely]] return status(call(0, static_cast<std::int32_t>(size)));
   LumStatus last = lumStsOk;
   for (std::size_t first = 0; first < size; first += most) {
     const auto count = static_cast<std::int32_t>(size - first < most ? size - first : most);

@@ -7,17 +7,18 @@ KIND is one of
   scalar_loops      a loop over the C++ library's function to compare with
   references        MPFR's and MPC's functions
   cheap_references  binary64 functions of a 32f input
+  long_references   long double functions of the inputs of 64f and 64fc
   cpp_calls         a line an exported name with its function of lumvm.hpp, for a test
   names             a line a name of a function in C, C++ or Python, for the command line tool
   measured          a line an exported name with its largest error and its time, for the command line tool"""
 
-import csv
 import json
 import math
 import sys
 from pathlib import Path
 
 import catalogue
+import measured_data
 
 
 def number(value):
@@ -59,20 +60,13 @@ def names():
 
 def measured():
     """Largest errors over all kinds of inputs, of a complex result as a whole, and times of an element in an array of 4096."""
-    errors = {}
-    with (catalogue.ROOT / "docs/data/accuracy.csv").open() as file:
-        for row in csv.DictReader(file):
-            error = float(row["norm_ulp"] or row["max_ulp"])
-            if row["export"] not in errors or error > errors[row["export"]][0]:
-                errors[row["export"]] = (error, float(row["bound_ulp"]), row["at"])
-    times = {}
-    with (catalogue.ROOT / "docs/data/performance.csv").open() as file:
-        for row in csv.DictReader(file):
-            if row["length"] == "4096":
-                times[row["function"], row["who"]] = float(row["ns"])
+    errors = {export: entry.worst for export, entry in measured_data.accuracy().items() if entry.errors}
+    times = {(function, who): ns for (function, length, who), (ns, _) in measured_data.times().items()
+             if length == measured_data.MAIN_LENGTH}
     for row in catalogue.rows():
         for export, tag in row.exports():
-            error, bound, at = errors.get(export, (-1.0, 0.0, ""))
+            worst = errors.get(export)
+            error, bound, at = (worst.ulp, worst.limit, worst.at) if worst else (-1.0, 0.0, "")
             time = times.get((f"{row.function}_{row.type}", tag or "lumvm"), 0.0)
             scalar = times.get((f"{row.function}_{row.type}", "scalar"), 0.0)
             yield f"{{{json.dumps(export)}, {error!r}, {bound!r}, {json.dumps(at)}, {time!r}, {scalar!r}}},"
@@ -179,6 +173,26 @@ def cheap_references():
             yield f'{{"{row.function}", OnePart<[](double x) {{ return {expression}; }}>}},'
 
 
+# The template that runs a function of long double over an array, by shape and whether the elements are complex.
+LONG_LOOPS = {
+    ("OneInput", False): ("RealOne", "auto x"), ("TwoInputs", False): ("RealTwo", "auto x, auto y"),
+    ("ScalarParameter", False): ("RealTwo", "auto x, auto y"), ("TwoOutputs", False): ("RealBoth", "auto x, auto& first, auto& second"),
+    ("OneInput", True): ("ComplexOne", "auto x"), ("TwoInputs", True): ("ComplexTwo", "auto x, auto y"),
+    ("ScalarParameter", True): ("ComplexTwo", "auto x, auto y"), ("ToReal", True): ("ToReal", "auto x"),
+    ("ToComplex", True): ("FromReal", "auto x"),
+}
+
+
+def long_references():
+    for row in catalogue.rows():
+        entry = row.declaration
+        expression = f"{entry['reference64']}(x)" if "reference64" in entry else scalar_expression(entry)
+        if row.type.startswith("64") and expression:
+            loop, parameters = LONG_LOOPS[row.shape, row.type.endswith("c")]
+            returned = "" if row.shape == "TwoOutputs" else "return "
+            yield f'{{"{row.function}_{row.type}", {loop}<[]({parameters}) {{ {returned}{expression}; }}>}},'
+
+
 ELEMENTS = {"32f": "float", "64f": "double", "32fc": "std::complex<float>", "64fc": "std::complex<double>"}
 
 
@@ -196,8 +210,8 @@ def cpp_calls():
             yield f"LUM_CPP({compare}, {name}, {cpp}, {level})"
 
 
-KINDS = {kind.__name__: kind for kind in (descriptions, declarations, scalar_loops, references, cheap_references, cpp_calls,
-                                      names, measured)}
+KINDS = {kind.__name__: kind for kind in (descriptions, declarations, scalar_loops, references, cheap_references,
+                                      long_references, cpp_calls, names, measured)}
 
 
 def main():

@@ -6,7 +6,6 @@ KIND is one of
   names    names and aliases, as a Python module
   stubs    the types of a module of functions, for type checkers"""
 
-import csv
 import json
 import math
 import statistics
@@ -15,6 +14,7 @@ import textwrap
 from pathlib import Path
 
 import catalogue
+import measured_data
 
 LEVELS = ("low", "mid", "high")
 LETTERS = {"32f": "f", "64f": "d", "32fc": "F", "64fc": "D"}
@@ -96,12 +96,7 @@ def loop(row):
 
 def measured():
     """The largest error of an export over all that was measured, in ulp."""
-    errors = {}
-    with (catalogue.ROOT / "docs/data/accuracy.csv").open() as file:
-        for row in csv.DictReader(line for line in file if not line.startswith("#")):
-            error = float(row["norm_ulp"] or row["max_ulp"])
-            errors[row["export"]] = max(errors.get(row["export"], 0), error)
-    return errors
+    return {export: entry.worst.ulp for export, entry in measured_data.accuracy().items() if entry.errors}
 
 
 def docstring(name, aliases, rows, level, errors):
@@ -127,7 +122,7 @@ def docstring(name, aliases, rows, level, errors):
         exports = [export for export, _ in row.exports()]
         export = exports[LEVELS.index(level)] if len(exports) == 3 else exports[0]
         if export in errors:
-            figures.append(f"{DTYPES[row.type]} {errors[export]:.3g}")
+            figures.append(f"{DTYPES[row.type]} {measured_data.ulp_text(errors[export])}")
     lines += [", ".join(figures) + ".", "", "Examples", "--------", ">>> import lumvm"]
     arguments, value = EXAMPLES[name]
     digits = {"low": 3, "mid": 6, "high": 6}[level]

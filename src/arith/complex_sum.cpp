@@ -15,9 +15,9 @@ template <class T> bool IsInfinite(T x) {
 template <class E> bool HasInfinity(E z) { return IsInfinite(z.re) || IsInfinite(z.im); }
 
 // Components that are infinite.
-template <class T> LUM_INLINE Mask<T> Infinite(Vec<T> x) { return fpclass<0x18>(x); }
+template <class T> LUM_INLINE Mask<T> Infinite(Vec<T> x) { return fpclass<classes::infinity>(x); }
 // Components that are infinite or NaN.
-template <class T> LUM_INLINE Mask<T> NotFinite(Vec<T> x) { return fpclass<0x99>(x); }
+template <class T> LUM_INLINE Mask<T> NotFinite(Vec<T> x) { return fpclass<classes::nonfinite>(x); }
 
 struct Plus {
   template <class T> static LUM_INLINE Vec<T> Of(Vec<T> a, Vec<T> b) { return SumInOrder(a, b); }

@@ -63,7 +63,8 @@ LumStatus Mul_64f_A53(const Lum64f* src1, const Lum64f* src2, Lum64f* dst, int32
   return TwoInputs<MulKernel<Lum64f>>(src1, src2, dst, len);
 }
 
-// The complex sums without a look at overflow: slots that no exported name reaches.
+// The complex sums without a look at overflow. They fill the other two slots of their rows in the entry table, which has three
+// a row; these functions are exported at the high tag alone.
 LumStatus Add_32fc_Flat(const Lum32fc* src1, const Lum32fc* src2, Lum32fc* dst, int32_t len) {
   return Flat<AddKernel>(src1, src2, dst, len);
 }

@@ -7,8 +7,11 @@
 #include <bit>
 #include <cstdint>
 
+#include "circular/large_reduction.h"
 #include "circular/nonfinite.h"
-#include "circular/wide_reduction.h"
+#include "circular/polynomials.h"
+#include "frame/constant.h"
+#include "frame/numbers.h"
 
 namespace lum::inline LUM_LAYER {
 
@@ -76,7 +79,7 @@ inline ReducedArgument ReduceByChunks(double magnitude) {
   const double w = octants.hi * 100663296.0;  // 1.5 * 2^26
   const double head = (w + octants.hi) - w;
   const double rest = (octants.hi - head) + octants.lo;
-  const double part1 = f64(0x3FE921FB40000000, 0.7853981256484985), part2 = f64(0x3E64442D18469899, 3.774894977445941e-08);
+  const double part1 = numbers::quarter_pi_parts<Lum64f>[0], part2 = numbers::quarter_pi_parts<Lum64f>[1];
   CompensatedSum r{head * part1, rest * part1 + (rest + head) * part2};
   r.Normalise();
   return {r.hi, r.lo, quarters};
@@ -84,18 +87,15 @@ inline ReducedArgument ReduceByChunks(double magnitude) {
 
 // magnitude in [2^17, 2^30).
 inline ReducedArgument ReduceByParts(double magnitude) {
-  // The first parts have so few bits that their products with the count are exact.
-  constexpr double long_parts[] = {f64(0x3FE921FA00000000, 0.7853975296020508), f64(0x3EA5444300000000, 6.337954800983425e-07),
-                                   f64(0xBD373DCA00000000, -8.256991011063031e-14),
-                                   f64(0xBBF3B39A00000000, -6.675151087907452e-20),
-                                   f64(0x3A845C06E0E68948, 8.223128468162129e-27)};
-  constexpr double short_parts[] = {f64(0x3FE921FB54000000, 0.7853981629014015), f64(0x3E010B4612000000, 4.960467904491228e-10),
-                                    f64(0xBC2676733C000000, -6.088525906594782e-19),
-                                    f64(0x3A61701B839A2520, 1.7607799325916e-27), 0.0};
-  const auto whole = static_cast<int64_t>(magnitude * f64(0x3FF45F306DC9C883, 1.2732395447351628));
+  const auto whole = static_cast<int64_t>(magnitude * 4 * numbers::inverse_pi<Lum64f>);
   const auto n = static_cast<double>(whole + (whole & 1));
   CompensatedSum r{magnitude};
-  for (double part : magnitude >= 0x1p23 ? long_parts : short_parts) r.Add(-(n * part));
+  if (magnitude >= 0x1p23) {
+    for (const double part : numbers::quarter_pi_parts_to_2p30<Lum64f>) r.Add(-(n * part));
+  } else {
+    for (const double part : numbers::quarter_pi_parts_to_2p23<Lum64f>) r.Add(-(n * part));
+  }
+
   r.Normalise();
   return {r.hi, r.lo, (whole + 1) >> 1};
 }
@@ -110,9 +110,8 @@ inline double SineAtRow(int64_t row, double hi, double lo) {
   const double error = ((p - result) + by_tail) + ((sin_head - p) + by_head);
   const double q = hi * hi;
   const double cosine = cos_tail + cos_head;
-  const double sine_part =
-      (((f64(0x3EC71DE3A556C734, 2.7557319223985893e-06) * q - 1.0 / 5040) * q + 1.0 / 120) * q - 1.0 / 6) * q * hi;
-  const double cosine_part = (((f64(0x3EFA01A01A01A01A, 2.48015873015873e-05) * q - 1.0 / 720) * q + 1.0 / 24) * q - 0.5) * q;
+  const double sine_part = unfused_horner(q, circular::routine_sine) * q * hi;
+  const double cosine_part = unfused_horner(q, circular::routine_cosine) * q;
   const double sum = sine_part * cosine + error + cosine_part * sin_head;
   return result + (sum + ((cosine - hi * sin_head) * lo + sin_tail));
 }
@@ -126,7 +125,7 @@ inline LumStatus SineAndCosine(double x, double& sine, double& cosine) {
     return status;
   }
   if (exponent < 771) {
-    sine = x == 0 ? x : (x * 0x1p55 - x) * 0x1p-55;  // inexact, as it should be
+    sine = x == 0 ? x : (x * 0x1p55 - x) * 0x1p-55;  // raises the inexact flag, as a rounded sine does
     cosine = 1;
     return lumStsOk;
   }
@@ -136,13 +135,14 @@ inline LumStatus SineAndCosine(double x, double& sine, double& cosine) {
     a = exponent >= 1023 + 30 ? ReduceByChunks(magnitude) : ReduceByParts(magnitude);
     if (x < 0) a = {-a.hi, -a.lo, -a.quarters};
   }
-  constexpr auto shifter = f64(0x4338000000000000, 0x1.8p52);
-  const double w = a.hi * f64(0x40245F306DC9C883, 10.185916357881302) + shifter;
+  constexpr auto shifter = rounding_shifter<Lum64f>();
+  constexpr auto& parts = numbers::thirty_second_pi_parts<Lum64f>;
+  const double w = a.hi * (32 * numbers::inverse_pi<Lum64f>)+shifter;
   const double n = w - shifter;
-  const double r = a.hi - n * f64(0x3FB921FB54400000, 0.09817477042088285);  // exact
-  const double second = n * f64(0x3D90B4611A600000, 3.798187816439979e-12);
+  const double r = a.hi - n * parts[0];  // exact
+  const double second = n * parts[1];
   const double hi = r - second;
-  const double lo = ((r - hi) - second) + (n * f64(0xBB63198A2E037073, -1.2639164054974691e-22) + a.lo);
+  const double lo = ((r - hi) - second) + (n * -parts[2] + a.lo);
   const int64_t row = static_cast<int64_t>(std::bit_cast<uint64_t>(w)) + 16 * a.quarters;
   sine = SineAtRow((row & 63) * 8, hi, lo);
   cosine = SineAtRow(((row + 16) & 63) * 8, hi, lo);

@@ -3,11 +3,13 @@
 // toward zero; 64f A53 reduces to sixteenths of a half turn with a table. Beyond the threshold of the reduction a second vector
 // path takes the bits of x / (2 pi) from a table of the bits of 1/pi.
 #include "circular/half_turns.h"
+#include "circular/large_reduction.h"
 #include "circular/nonfinite.h"
+#include "circular/polynomials.h"
 #include "circular/sixteenths.h"
-#include "circular/wide_reduction.h"
 #include "frame/kernel_frame.h"
 #include "frame/kernels.h"
+#include "frame/numbers.h"
 
 namespace lum::inline LUM_LAYER {
 namespace {
@@ -27,7 +29,7 @@ struct OddQuarters {
   Mask<Lum32f> is_tiny;  // so that the cosine is 1, which the polynomial may miss by a unit
 };
 LUM_INLINE OddQuarters NearestOddQuarters(Vec<Lum32f> a) {
-  constexpr auto quarter_turn = f32(0x3FC90FDB, 1.5707963705062866);
+  constexpr auto quarter_turn = numbers::pi<Lum32f> / 2;
   const auto u = a + all(quarter_turn);
   const auto [n, shifted] = NearestHalfTurns(u);
   return {n - all(0.5f), ParitySign(shifted), eq(u, all(quarter_turn))};
@@ -39,8 +41,8 @@ struct A11_32f : Float {
     const auto [m, sign, is_tiny] = NearestOddQuarters(a);
     const auto r = TakeHalfTurns(a, m);
     const auto q = r * r;
-    const auto p = horner(q, f32(0xBE29E73F, -0.1659211963415146), f32(0x3BF84524, 0.007576601579785347));
-    const auto s = fma(q * p, r, r * all(f32(0x3F7FF87C, 0.9998853206634521))) ^ sign;
+    const auto p = horner(q, part<1, 2>(circular::cos_A11));
+    const auto s = fma(q * p, r, r * all(circular::cos_A11.c[0])) ^ sign;
     return {select(is_tiny, all(1.0f), s), nle(a, all(10000.0f))};
   }
 };
@@ -51,8 +53,7 @@ struct A21_32f : Float {
     const auto [m, sign, is_tiny] = NearestOddQuarters(a);
     const auto r = TakeThirdPart(TakeHalfTurns(a, m), m);
     const auto q = r * r;
-    const auto p = horner(q, f32(0xBE2AAAA6, -0.16666659712791443), f32(0x3C088764, 0.008333060890436172),
-                          f32(0xB94FB6CF, -0.0001980915985768661), f32(0x362EC335, 2.604164592412417e-06));
+    const auto p = horner(q, circular::cos_A21);
     return {select(is_tiny, all(1.0f), fma(q * p, r, r) ^ sign), nle(a, all(0x1p19f))};
   }
 };
@@ -61,7 +62,7 @@ struct A24_32f : Float {
   static LUM_INLINE Vec<Lum64f> Half(Vec<Lum64f> a, Vec<Lum64f> m) {
     const auto r = TakeHalfTurnsExactly(a, m);
     const auto q = r * r;
-    return fma(q * LongFloatSine(q), r, r);
+    return fma(q * horner(q, circular::sin_A24), r, r);
   }
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
     const auto a = abs(x);
@@ -82,19 +83,17 @@ struct Double : Kernel<Lum64f> {
 struct A50_64f : Double {
   static constexpr int vectors = 4;
   static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
-    using C = HalfTurn<Lum64f>;
+    constexpr auto& pi_parts = numbers::pi_parts<Lum64f>;
+
     const auto a = abs(x);
-    const auto t = fma_floor(a, all(C::inverse), all(0x1p52));            // n = floor(|x| / pi) in the low bits
-    const auto m = t - all(f64(0x432FFFFFFFFFFFFF, 4503599627370495.5));  // n + 1/2
-    const auto r2 = fma(m, all(C::part2), fms(m, all(C::part1), a));      // from the odd multiple of pi/2 down
+    const auto t = fma_floor(a, all(numbers::inverse_pi<Lum64f>), all(0x1p52));  // n = floor(|x| / pi) in the low bits
+    const auto m = t - all(0x1p52 - 0.5);                                        // n + 1/2
+    const auto r2 = fma(m, all(pi_parts[1]), fms(m, all(pi_parts[0]), a));       // from the odd multiple of pi/2 down
     const auto q = r2 * r2;
-    const auto r = fma(m, all(C::part3), r2) ^ ParitySign(t);
-    const auto p = horner(q, f64(0xBFC55555555554A7, -0.16666666666666183), f64(0x3F8111111110A4A8, 0.00833333333328519),
-                          f64(0xBF2A01A019A5B87B, -0.00019841269824944275), f64(0x3EC71DE38030FEA0, 2.755731658449074e-06),
-                          f64(0xBE5AE63546002231, -2.505187912674299e-08), f64(0x3DE60E6857A2F220, 1.6048055576979365e-10),
-                          f64(0xBD69F0D60811AAC8, -7.37280909726507e-13));
+    const auto r = fma(m, all(pi_parts[2]), r2) ^ ParitySign(t);
+    const auto p = horner(q, circular::cos_A50);
     const auto s = fma(r * q, p, r);
-    return {select(lt(a, all(0x1p-27)), all(1.0), s), nle(t, all(f64(0x43300000007FFFFE, 0x1p52 + 8388606)))};
+    return {select(lt(a, all(0x1p-27)), all(1.0), s), nle(t, all(0x1p52 + 8388606))};
   }
 };
 

@@ -13,17 +13,17 @@ template <class T> LumStatus CircularOfNonFinite(T x, T& result) {
   return is_nan ? lumStsOk : lumStsDomain;
 }
 
-// The same of the lanes of a vector, other in those that are finite.
+// The results of CircularOfNonFinite in the lanes of infinities and NaN, other in those that are finite.
 template <class T> LUM_INLINE Vec<T> SelectNonFinite(Vec<T> x, Vec<T> other) {
   const auto is_nan = unord(x, x);
-  const auto factor = select(fpclass<0x99>(x), x, all(T(1)));
-  return select(fpclass<0x99>(x), factor * select(is_nan, factor, all(T(0))), other);
+  const auto factor = select(fpclass<classes::nonfinite>(x), x, all(T(1)));
+  return select(fpclass<classes::nonfinite>(x), factor * select(is_nan, factor, all(T(0))), other);
 }
 
 // The results of the second path in the refused lanes.
 template <class T> LUM_INLINE Finished<T> MergeLarge(Vec<T> x, const Lanes<T>& lanes, Vec<T> large) {
   const auto value = select(lanes.refused, large, lanes.value);
-  return {SelectNonFinite(x, value), mask_of<T>(0), {.domain = fpclass<0x18>(x)}};
+  return {SelectNonFinite(x, value), mask_of<T>(0), {.domain = fpclass<classes::infinity>(x)}};
 }
 
 }  // namespace lum::inline LUM_LAYER

@@ -3,7 +3,9 @@
 // rests modulo whole turns for every eight binades.
 #pragma once
 
+#include "circular/polynomials.h"
 #include "frame/kernel_frame.h"
+#include "frame/numbers.h"
 #include "frame/types.h"
 #include "frame/vec.h"
 #include "tables/table.h"
@@ -31,7 +33,7 @@ inline constexpr auto ResidueLo = table64({
 
 // For a binary32 a >= 2^19. From 2^(23 + 8k) on, what entry k lacks of 2/pi gives whole multiples of four quarter turns.
 LUM_INLINE QuarterTurn ReduceByResidue(Vec<Lum64f> a) {
-  constexpr auto shifter = f64(0x4338000000000000, 0x1.8p52);
+  constexpr auto shifter = rounding_shifter<Lum64f>();
   const auto y = max(a, all(0x1p23));
   const auto k = shift_right<3>(shift_right<52>(bits(y)) - all(uint64_t{0x416}));
   const auto hi = permute2(load<Lum64f>(ResidueHi), load(ResidueHi + 8), k);
@@ -40,7 +42,7 @@ LUM_INLINE QuarterTurn ReduceByResidue(Vec<Lum64f> a) {
   const auto e = fma(a, lo, fms(a, hi, p));
   const auto t = p + all(shifter);
   const auto f = (p - (t - all(shifter))) + e;
-  return {f * all(f64(0x3FF921FB54442D18, 1.5707963267948966)), bits(t)};
+  return {f * all(numbers::pi<Lum64f> / 2), bits(t)};
 }
 
 // The low halves of the lanes of two vectors.
@@ -54,8 +56,8 @@ LUM_INLINE SineAndCosineValues<Lum32f> SelectQuarter(Vec<Lum32f> x, Vec<uint32_t
   const auto odd = mask_cast<Lum32f>(test_any(n, all(1u)));
   const auto sign = all(sign_bit<Lum32f>);
   const auto second_bit = shift_left<30>(n);
-  return {select(odd, cosine, sine) ^ ternary<0x28>(second_bit, bits(x), sign),  // (a ^ b) & c
-          select(odd, sine, cosine) ^ ternary<0x28>(second_bit, shift_left<31>(n), sign), refused};
+  return {select(odd, cosine, sine) ^ ternary<(A ^ B) & C>(second_bit, bits(x), sign),
+          select(odd, sine, cosine) ^ ternary<(A ^ B) & C>(second_bit, shift_left<31>(n), sign), refused};
 }
 
 LUM_INLINE Mask<Lum32f> BeyondQuarterTurns(Vec<Lum32f> a) { return nlt(a, all(0x1p19f)); }
@@ -69,19 +71,17 @@ struct QuarterTurns_A21 {
   };
 
   static LUM_INLINE Reduced Reduce(Vec<Lum32f> a) {
-    constexpr auto shifter = f32(0x4B400000, 12582912.0);
-    const auto t = fma(a, all(f32(0x3F22F983, 0.6366197466850281)), all(shifter));
+    constexpr auto shifter = rounding_shifter<Lum32f>();
+    constexpr auto& pi_parts = numbers::pi_parts<Lum32f>;
+    const auto t = fma(a, all(2 * numbers::inverse_pi<Lum32f>), all(shifter));
     const auto n = t - all(shifter);
-    const auto r1 = fma(n, all(f32(0xBFC90FDB, -1.5707963705062866)), a);
-    return {fma(n, all(f32(0x26F72CED, 1.7151245100058819e-15)), fma(n, all(f32(0x333BBD2E, 4.371138828673793e-08)), r1)),
-            bits(t)};
+    const auto r1 = fma(n, all(-pi_parts[0] / 2), a);
+    return {fma(n, all(-pi_parts[2] / 2), fma(n, all(-pi_parts[1] / 2), r1)), bits(t)};
   }
   static LUM_INLINE SineAndCosineValues<Lum32f> Evaluate(Vec<Lum32f> x, const Reduced& a, Mask<Lum32f> refused) {
     const auto q = a.r * a.r;
-    const auto p = horner(q, f32(0xB15E870D, -3.2382019288235142e-09), f32(0xBE2AAAA0, -0.16666650772094727),
-                          f32(0x3C088303, 0.008332016877830029), f32(0xB94C7DCE, -0.00019501821952871978));
-    const auto cosine = horner(q, 1.0f, f32(0xBEFFFFCB, -0.49999842047691345), f32(0x3D2A9DD3, 0.04165441915392876),
-                               f32(0xBAB1FCEB, -0.0013579403748735785));
+    const auto p = horner(q, circular::quarter_sine_A21);
+    const auto cosine = horner(q, circular::quarter_cosine_A21);
     return SelectQuarter(x, a.n, fma(p, a.r, a.r), cosine, refused);
   }
   static LUM_INLINE SineAndCosineValues<Lum32f> Ordinary(Vec<Lum32f> x) {
@@ -95,7 +95,7 @@ struct QuarterTurns_A21 {
     const auto ordinary = Reduce(a);
     const Reduced merged{select(beyond, narrow(low.r, high.r), ordinary.r),
                          select(mask_cast<uint32_t>(beyond), LowHalves(low.count, high.count), ordinary.n)};
-    return Evaluate(x, merged, fpclass<0x99>(x));
+    return Evaluate(x, merged, fpclass<classes::nonfinite>(x));
   }
 };
 
@@ -104,24 +104,16 @@ struct QuarterTurns_A24 {
   using Element = Lum32f;
 
   static LUM_INLINE QuarterTurn Reduce(Vec<Lum64f> a) {
-    constexpr auto shifter = f64(0x4338000000000000, 0x1.8p52);
-    const auto t = fma(a, all(f64(0x3FE45F306DC9C883, 0.6366197723675814)), all(shifter));
+    constexpr auto shifter = rounding_shifter<Lum64f>();
+    const auto t = fma(a, all(2 * numbers::inverse_pi<Lum64f>), all(shifter));
     const auto n = t - all(shifter);
-    return {fnma(n, all(f64(0x3C91A62633145C07, 6.123233995736766e-17)),
-                 fnma(n, all(f64(0x3FF921FB54442D18, 1.5707963267948966)), a)),
-            bits(t)};
+    return {fnma(n, all(numbers::pi_tail<Lum64f> / 2), fnma(n, all(numbers::pi<Lum64f> / 2), a)), bits(t)};
   }
   static LUM_INLINE Vec<Lum64f> Sine(Vec<Lum64f> r) {
-    const auto p =
-        horner(r * r, f64(0xBE2BD0E1AA962554, -3.2382020022821637e-09), f64(0xBFC55553F43C228B, -0.16666650224239662),
-               f64(0x3F8110605167BE08, 0.008332016453066707), f64(0xBF298FB9C157FF94, -0.0001950182201397836));
+    const auto p = horner(r * r, circular::quarter_sine_A24);
     return fma(p, r, r);
   }
-  static LUM_INLINE Vec<Lum64f> Cosine(Vec<Lum64f> r) {
-    return horner(r * r, f64(0x3FEFFFFFFFF97C47, 0.9999999999526005), f64(0xBFDFFFFFFBDEE95E, -0.49999999615433477),
-                  f64(0x3FA55553A875B0C5, 0.04166661673920794), f64(0xBF56C078624DF59A, -0.0013886619210262464),
-                  f64(0x3EF9906FFD58BF6D, 2.4379929376816047e-05));
-  }
+  static LUM_INLINE Vec<Lum64f> Cosine(Vec<Lum64f> r) { return horner(r * r, circular::quarter_cosine_A24); }
   static LUM_INLINE SineAndCosineValues<Lum32f> Evaluate(Vec<Lum32f> x, const QuarterTurn& low, const QuarterTurn& high,
                                                          Mask<Lum32f> refused) {
     return SelectQuarter(x, LowHalves(low.count, high.count), narrow(Sine(low.r), Sine(high.r)),
@@ -138,7 +130,7 @@ struct QuarterTurns_A24 {
   }
   static LUM_INLINE SineAndCosineValues<Lum32f> Large(Vec<Lum32f> x) {
     const auto a = abs(x);
-    return Evaluate(x, ReduceAny(widen_low(a)), ReduceAny(widen_high(a)), fpclass<0x99>(x));
+    return Evaluate(x, ReduceAny(widen_low(a)), ReduceAny(widen_high(a)), fpclass<classes::nonfinite>(x));
   }
 };
 

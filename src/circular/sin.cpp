@@ -3,11 +3,13 @@
 // path takes the bits of x / (2 pi) from a table of the bits of 1/pi; 64f A26 has a scalar routine there instead.
 #include "circular/chunk_routine.h"
 #include "circular/half_turns.h"
+#include "circular/large_reduction.h"
 #include "circular/nonfinite.h"
+#include "circular/polynomials.h"
 #include "circular/sixteenths.h"
-#include "circular/wide_reduction.h"
 #include "frame/kernel_frame.h"
 #include "frame/kernels.h"
+#include "frame/numbers.h"
 
 namespace lum::inline LUM_LAYER {
 namespace {
@@ -26,8 +28,8 @@ struct A11_32f : Float {
     const auto [n, shifted] = NearestHalfTurns(a);
     const auto r = TakeHalfTurns(a, n);
     const auto q = r * r;
-    const auto p = horner(q, f32(0xBE29E72F, -0.16592095792293549), f32(0x3BF84524, 0.007576601579785347));
-    const auto s = fma(q * p, r, r * all(f32(0x3F7FF87C, 0.9998853206634521)));
+    const auto p = horner(q, part<1, 2>(circular::sin_A11));
+    const auto s = fma(q * p, r, r * all(circular::sin_A11.c[0]));
     return {s ^ OddParitySign(shifted, x, a), nle(a, all(10000.0f))};
   }
 };
@@ -38,19 +40,18 @@ struct A21_32f : Float {
     const auto [n, shifted] = NearestHalfTurns(a);
     const auto r = TakeThirdPart(TakeHalfTurns(a, n), n);
     const auto q = r * r;
-    const auto p = horner(q, f32(0xBE2AAAA6, -0.16666659712791443), f32(0x3C088766, 0.008333062753081322),
-                          f32(0xB94FB7FF, -0.00019809602235909551), f32(0x362EDEF8, 2.605780537123792e-06));
+    const auto p = horner(q, circular::sin_A21);
     return {fma(q * p, r, r) ^ OddParitySign(shifted, x, a), nle(a, all(0x1p19f))};
   }
 };
 
 struct A24_32f : Float {
   static LUM_INLINE Vec<Lum64f> Half(Vec<Lum64f> a) {
-    // The same integer as in binary32: either product is exact in the sum, which is rounded to an integer.
-    const auto t = fma(a, all(double{HalfTurn<Lum32f>::inverse}), all(HalfTurn<Lum64f>::shifter));
-    const auto r = TakeHalfTurnsExactly(a, t - all(HalfTurn<Lum64f>::shifter));
+    // The integer that binary32 finds: either product is exact in the sum, which is rounded to an integer.
+    const auto t = fma(a, all(double{numbers::inverse_pi<Lum32f>}), all(rounding_shifter<Lum64f>()));
+    const auto r = TakeHalfTurnsExactly(a, t - all(rounding_shifter<Lum64f>()));
     const auto q = r * r;
-    return fma(q * LongFloatSine(q), r, r);
+    return fma(q * horner(q, circular::sin_A24), r, r);
   }
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
     const auto a = abs(x);
@@ -67,10 +68,7 @@ struct A26_64f : Kernel<Lum64f> {
     const auto a = abs(x);
     const auto [n, shifted] = NearestHalfTurns(a);
     const auto r = TakeHalfTurns(a, n);
-    const auto q = r * r;
-    const auto p = horner(q, f64(0xBFC55554AD3EAF1F, -0.16666658839437162), f64(0x3F8110EA968A0185, 0.008333046645248707),
-                          f64(0xBF29F67D9395D587, -0.0001980808536178708), f64(0x3EC5D4567512BBD5, 2.602272538419318e-06));
-    return {fma(p, q * r, r) ^ OddParitySign(shifted, x, a), nle(a, all(double_threshold))};
+    return {OddSine(r, circular::sin_A26) ^ OddParitySign(shifted, x, a), nle(a, all(double_threshold))};
   }
   static LumStatus LaneRoutine(Lum64f x, Lum64f& result) {
     Lum64f cosine;
@@ -94,10 +92,7 @@ struct A50_64f : Double {
     const auto r2 = TakeHalfTurns(a, n);
     const auto q = r2 * r2;  // the third part is too small to matter here
     const auto r = TakeThirdPart(r2, n);
-    const auto p = horner(q, f64(0xBFC55555555554A8, -0.16666666666666186), f64(0x3F8111111110A573, 0.008333333333285542),
-                          f64(0xBF2A01A019A659DD, -0.00019841269825056256), f64(0x3EC71DE3806ADD1A, 2.7557316600552628e-06),
-                          f64(0xBE5AE6355AAA4A53, -2.505188027386288e-08), f64(0x3DE60E6BEE01D83E, 1.6048095404959637e-10),
-                          f64(0xBD69F1517E9F65F0, -7.373344533110665e-13));
+    const auto p = horner(q, circular::sin_A50);
     return {fma(p, q * r, r) ^ OddParitySign(shifted, x, a), nle(a, all(double_threshold))};
   }
 };

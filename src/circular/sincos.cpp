@@ -20,7 +20,7 @@ template <class Tier> struct WithLarge : Plain<Tier> {
   using T = typename Tier::Element;
   static LUM_INLINE TwoFinished<T> SecondPath(Vec<T> x, const TwoLanes<T>&) {
     const auto v = Tier::Large(x);
-    return {SelectNonFinite(x, v.sine), SelectNonFinite(x, v.cosine), mask_of<T>(0), {.domain = fpclass<0x18>(x)}};
+    return {SelectNonFinite(x, v.sine), SelectNonFinite(x, v.cosine), mask_of<T>(0), {.domain = fpclass<classes::infinity>(x)}};
   }
 };
 

@@ -5,33 +5,24 @@
 
 #include "circular/chunk_routine.h"
 #include "circular/half_turns.h"
+#include "circular/large_reduction.h"
 #include "circular/nonfinite.h"
 #include "circular/quarter_turns.h"
 #include "circular/sixteenths.h"
-#include "circular/wide_reduction.h"
 
 namespace lum::inline LUM_LAYER {
 
-// (sin r - r) / r^3 of q = r^2, |r| <= pi/2.
-LUM_INLINE Vec<Lum64f> LongDoubleSine(Vec<Lum64f> q) {
-  return horner(q, f64(0xBFC55555555554A7, -0.16666666666666183), f64(0x3F8111111110A4A6, 0.008333333333285186),
-                f64(0xBF2A01A019A5B86D, -0.00019841269824944237), f64(0x3EC71DE38030FEA0, 2.755731658449074e-06),
-                f64(0xBE5AE63546002231, -2.505187912674299e-08), f64(0x3DE60E6857A2F220, 1.6048055576979365e-10),
-                f64(0xBD69F0D60811AAC8, -7.37280909726507e-13));
-}
-
-// The results of the wide reduction in the lanes beyond the threshold.
-LUM_INLINE SineAndCosineValues<Lum64f> MergeWide(Vec<Lum64f> x, const SineAndCosineValues<Lum64f>& ordinary) {
+// The results of the large reduction in the lanes beyond the threshold.
+LUM_INLINE SineAndCosineValues<Lum64f> MergeLarge(Vec<Lum64f> x, const SineAndCosineValues<Lum64f>& ordinary) {
   const auto a = ReduceLarge(x);
   return {select(ordinary.refused, SineOf(a.index, a.hi, a.lo) ^ sign_of(x), ordinary.sine),
-          select(ordinary.refused, CosineOf(a.index, a.hi, a.lo), ordinary.cosine), fpclass<0x99>(x)};
+          select(ordinary.refused, CosineOf(a.index, a.hi, a.lo), ordinary.cosine), fpclass<classes::nonfinite>(x)};
 }
 
 // sin r.
-template <bool is_long> LUM_INLINE Vec<Lum64f> OddSine(Vec<Lum64f> r) {
-  const auto q = r * r;
-  if constexpr (is_long) return fma(LongDoubleSine(q), q * r, r);
-  else return fma(ShortDoubleSine(q), q * r, r);
+template <bool is_long> LUM_INLINE Vec<Lum64f> SineOfRemainder(Vec<Lum64f> r) {
+  if constexpr (is_long) return OddSine(r, circular::sincos_A50);
+  else return OddSine(r, circular::sin_A26);
 }
 
 template <bool is_long> LUM_INLINE SineAndCosineValues<Lum64f> ByHalfTurns(Vec<Lum64f> x) {
@@ -41,14 +32,14 @@ template <bool is_long> LUM_INLINE SineAndCosineValues<Lum64f> ByHalfTurns(Vec<L
   // The sign of r tells on which side the odd multiple of pi/2 lies.
   const auto m = n + or_sign(r, all(0.5));
   const auto parity = ParitySign(shifted);
-  const auto cosine_sign = ternary<0xD2>(parity, bits(r), all(sign_bit<Lum64f>));  // a ^ (~b & c)
+  const auto cosine_sign = ternary<A ^ (~B & C)>(parity, bits(r), all(sign_bit<Lum64f>));
   auto rc = TakeHalfTurns(a, m);
   if constexpr (is_long) {
     r = TakeThirdPart(r, n);
     rc = TakeThirdPart(rc, m);
   }
-  const auto sine = OddSine<is_long>(r) ^ OddParitySign(shifted, x, a);
-  const auto cosine = OddSine<is_long>(rc) ^ cosine_sign;
+  const auto sine = SineOfRemainder<is_long>(r) ^ OddParitySign(shifted, x, a);
+  const auto cosine = SineOfRemainder<is_long>(rc) ^ cosine_sign;
   return {sine, select(eq(a, all(0.0)), all(1.0), cosine), nle(a, all(0x1p23))};
 }
 
@@ -59,7 +50,7 @@ struct SineAndCosine_A26 {
 struct SineAndCosine_A50 {
   using Element = Lum64f;
   static LUM_INLINE SineAndCosineValues<Lum64f> Ordinary(Vec<Lum64f> x) { return ByHalfTurns<true>(x); }
-  static LUM_INLINE SineAndCosineValues<Lum64f> Large(Vec<Lum64f> x) { return MergeWide(x, Ordinary(x)); }
+  static LUM_INLINE SineAndCosineValues<Lum64f> Large(Vec<Lum64f> x) { return MergeLarge(x, Ordinary(x)); }
 };
 struct SineAndCosine_A53 {
   using Element = Lum64f;
@@ -69,7 +60,7 @@ struct SineAndCosine_A53 {
     const auto angle = AngleOf(r.shifted);
     return {SineOf(angle, r) ^ HalfTurnSign(r, x), CosineOf(angle, r) ^ HalfTurnSign(r), nle(a, all(0x1p24))};
   }
-  static LUM_INLINE SineAndCosineValues<Lum64f> Large(Vec<Lum64f> x) { return MergeWide(x, Ordinary(x)); }
+  static LUM_INLINE SineAndCosineValues<Lum64f> Large(Vec<Lum64f> x) { return MergeLarge(x, Ordinary(x)); }
 };
 
 // The lane routine of either type and tier: in binary32 only infinities and NaN come here.

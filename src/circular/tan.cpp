@@ -1,13 +1,15 @@
 // tan x. With x = k pi/N + r, N = 16 or 32, T = tan(k pi/N) from a table in registers and p = tan r by a polynomial:
 // tan x = (T + p) / (1 - T p). At the pole T is the most negative number, for which the quotient is -1/p without a case of its
 // own, and for k = 0 it is -0, which keeps the sign of a zero. The tiers differ in the tails that they carry of r, T and the
-// quotient. Beyond the threshold the angle from the wide reduction is brought to the same k and r, and the block evaluated
+// quotient. Beyond the threshold the angle from the large reduction is brought to the same k and r, and the block evaluated
 // again.
+#include "circular/large_reduction.h"
 #include "circular/nonfinite.h"
+#include "circular/polynomials.h"
 #include "circular/sixteenths.h"
-#include "circular/wide_reduction.h"
 #include "frame/kernel_frame.h"
 #include "frame/kernels.h"
+#include "frame/numbers.h"
 
 namespace lum::inline LUM_LAYER {
 namespace {
@@ -26,9 +28,9 @@ template <> struct TanConstants<Lum32f> {  // N = 32
   static constexpr auto tails = table32({
 #include "tables/generated/tangent_32_tail.inc"
   });
-  static constexpr auto wide_step = f32(0x3CC90FDB, 0.02454369328916073),
-                        wide_step_tail = f32(0xB03BBD2E, -6.829904419802801e-10);  // turn/256
-  static constexpr int wide_shift = 2;
+  static constexpr auto large_step = numbers::pi<Lum32f> / 128,
+                        large_step_tail = numbers::pi_tail<Lum32f> / 128;  // turn/256
+  static constexpr int large_shift = 2;
 };
 template <> struct TanConstants<Lum64f> {  // N = 16
   static constexpr auto table = table64({
@@ -37,27 +39,27 @@ template <> struct TanConstants<Lum64f> {  // N = 16
   static constexpr auto tails = table64({
 #include "tables/generated/tangent_16_tail.inc"
   });
-  static constexpr auto wide_step = f64(0x3F8921FB54442D18, 0.01227184630308513),
-                        wide_step_tail = f64(0x3C21A62633145C07, 4.783776559169348e-19);  // turn/512
-  static constexpr int wide_shift = 4;
+  static constexpr auto large_step = numbers::pi<Lum64f> / 256,
+                        large_step_tail = numbers::pi_tail<Lum64f> / 256;  // turn/512
+  static constexpr int large_shift = 4;
 };
 
 LUM_INLINE Vec<Lum32f> FromInteger(Vec<uint32_t> m) { return to_float(as_signed(m)); }
 LUM_INLINE Vec<Lum64f> FromInteger(Vec<uint64_t> m) { return to_double(m); }
 
-// The wide reduction, its index rounded to the steps of the table. A tie goes to the side of the remainder.
-template <class T> LUM_INLINE Reduced<T> ReduceWideToTable(Vec<T> x) {
+// The large reduction, its index rounded to the steps of the table. A tie goes to the side of the remainder.
+template <class T> LUM_INLINE Reduced<T> ReduceLargeToTable(Vec<T> x) {
   using C = TanConstants<T>;
   using U = UnsignedOf<T>;
-  constexpr U steps = U{1} << C::wide_shift;
-  const auto a = ReduceWide(x, sign_of(x));
+  constexpr U steps = U{1} << C::large_shift;
+  const auto a = ReduceLarge(x, sign_of(x));
   const auto negative = shift_right_arithmetic<8 * sizeof(T) - 1>(bits(a.hi));  // -1 or 0
   const auto rounded = a.index + all(static_cast<U>(steps / 2)) + negative;
   const auto m = FromInteger(a.index - (rounded & all(static_cast<U>(~(steps - 1)))));
-  const auto product = m * all(C::wide_step);
+  const auto product = m * all(C::large_step);
   const auto r = fast_two_sum(product, a.hi);  // m = 0 is exact, too
-  const auto lo = fma(m, all(C::wide_step_tail), fms(m, all(C::wide_step), product)) + (r.error + a.lo);
-  return {r.sum, lo, shift_right<C::wide_shift>(rounded)};
+  const auto lo = fma(m, all(C::large_step_tail), fms(m, all(C::large_step), product)) + (r.tail + a.lo);
+  return {r.head, lo, shift_right<C::large_shift>(rounded)};
 }
 
 template <class T> LUM_INLINE Vec<T> Entry(const T* table, Vec<UnsignedOf<T>> k) {
@@ -77,16 +79,16 @@ template <class T> LUM_INLINE Vec<T> QuotientWithTails(const Reduced<T>& a, Vec<
   const auto [hi, lo, k] = a;
   const auto t = Entry<T>(TanConstants<T>::table, k), t_tail = Entry<T>(TanConstants<T>::tails, k);
   const auto p = fast_two_sum(hi, c);
-  const auto p_tail = p.error + lo;
-  const auto u = fast_two_sum(t, p.sum);
-  const auto u_tail = (u.error + p_tail) + t_tail;
-  const auto product = t * p.sum;
-  const auto product_tail = fma(t, p_tail, fma(t_tail, p.sum, fms(t, p.sum, product)));
+  const auto p_tail = p.tail + lo;
+  const auto u = fast_two_sum(t, p.head);
+  const auto u_tail = (u.tail + p_tail) + t_tail;
+  const auto product = t * p.head;
+  const auto product_tail = fma(t, p_tail, fma(t_tail, p.head, fms(t, p.head, product)));
   const auto d = two_sum(all(T{1}), negate(product));
-  const auto d_tail = d.error - product_tail;
-  const auto w = Reciprocal(d.sum);
-  const auto q = w * u.sum;
-  const auto z = fma(q, d_tail, fms(d.sum, q, u.sum)) - u_tail;
+  const auto d_tail = d.tail - product_tail;
+  const auto w = Reciprocal(d.head);
+  const auto q = w * u.head;
+  const auto z = fma(q, d_tail, fms(d.head, q, u.head)) - u_tail;
   return fnma(w, z, q);
 }
 
@@ -98,12 +100,12 @@ template <class Tier, class T> struct Tangent : Kernel<T> {
   }
   static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) {
     const auto ordinary = Tier::Reduce(x);
-    auto wide = ReduceWideToTable(x);
-    if constexpr (!Tier::has_tails) wide = {wide.hi + wide.lo, wide.lo, wide.k};
+    auto large = ReduceLargeToTable(x);
+    if constexpr (!Tier::has_tails) large = {large.hi + large.lo, large.lo, large.k};
     const auto at = lanes.refused;
-    const Reduced<T> merged{select(at, wide.hi, ordinary.hi), select(at, wide.lo, ordinary.lo),
-                            select(mask_cast<UnsignedOf<T>>(at), wide.k, ordinary.k)};
-    return {SelectNonFinite(x, Tier::Evaluate(merged)), mask_of<T>(0), {.domain = fpclass<0x18>(x)}};
+    const Reduced<T> merged{select(at, large.hi, ordinary.hi), select(at, large.lo, ordinary.lo),
+                            select(mask_cast<UnsignedOf<T>>(at), large.k, ordinary.k)};
+    return {SelectNonFinite(x, Tier::Evaluate(merged)), mask_of<T>(0), {.domain = fpclass<classes::infinity>(x)}};
   }
   static LumStatus LaneRoutine(T x, T& result) { return CircularOfNonFinite(x, result); }
 };
@@ -112,16 +114,17 @@ struct CountOf32nds {
   Vec<Lum32f> n, shifted;
 };
 LUM_INLINE CountOf32nds Nearest32nds(Vec<Lum32f> x) {
-  constexpr auto shifter = f32(0x4B400000, 12582912.0);
-  const auto t = fma(x, all(f32(0x4122F983, 10.18591594696045)), all(shifter));
+  constexpr auto shifter = rounding_shifter<Lum32f>();
+  const auto t = fma(x, all(32 * numbers::inverse_pi<Lum32f>), all(shifter));
   return {t - all(shifter), t};
 }
-constexpr auto part1_of_32nd = f32(0x3DC90FDA, 0.09817476570606232);
 
 LUM_INLINE Reduced<Lum32f> Reduce32f(Vec<Lum32f> x) {
+  constexpr auto& parts = numbers::thirty_second_pi_parts<Lum32f>;
+
   const auto [n, shifted] = Nearest32nds(x);
-  const auto r = fnma(n, all(f32(0x31A22168, 4.718618384913498e-09)), fnma(n, all(part1_of_32nd), x));
-  return {fnma(n, all(f32(0x25C234C5, 3.368939345921399e-16)), r), all(0.0f), bits(shifted)};
+  const auto r = fnma(n, all(parts[1]), fnma(n, all(parts[0]), x));
+  return {fnma(n, all(parts[2]), r), all(0.0f), bits(shifted)};
 }
 
 struct A11_32f : Tangent<A11_32f, Lum32f> {
@@ -130,15 +133,13 @@ struct A11_32f : Tangent<A11_32f, Lum32f> {
   static LUM_INLINE Reduced<Lum32f> Reduce(Vec<Lum32f> x) { return Reduce32f(x); }
   static LUM_STAGE Vec<Lum32f> Evaluate(const Reduced<Lum32f>& a) {
     const auto t = TangentOf(a);
-    const auto p = fma(all(f32(0x3EAAAAA6, 0.33333319425582886)) * a.hi, a.hi * a.hi, a.hi);
+    const auto p = fma(horner(a.hi, circular::tan_A11) * a.hi, a.hi * a.hi, a.hi);
     return (t + p) * rcp14(fnma(t, p, all(1.0f)));  // the reciprocal's 14 bits are enough
   }
 };
 
 // (tan r - r) / r^3 of s = r^2, |r| <= pi/64.
-LUM_INLINE Vec<Lum32f> TangentSeries(Vec<Lum32f> s) {
-  return horner(s, f32(0x3EAAAAA6, 0.33333319425582886), f32(0x3E08B888, 0.13351643085479736));
-}
+LUM_INLINE Vec<Lum32f> TangentSeries(Vec<Lum32f> s) { return horner(s, circular::tan_A21); }
 
 struct A21_32f : Tangent<A21_32f, Lum32f> {
   static constexpr float threshold = 8256;
@@ -165,9 +166,9 @@ struct A24_32f : Tangent<A24_32f, Lum32f> {
   static constexpr bool has_tails = true;
   static LUM_INLINE Reduced<Lum32f> Reduce(Vec<Lum32f> x) {
     const auto [n, shifted] = Nearest32nds(x);
-    // The second part has so few bits that n times it is exact.
-    const auto part2 = all(f32(0x31A22000, 4.718458512797952e-09)), part3 = all(f32(0x2A34611A, 1.602090042660681e-13));
-    const auto r1 = fnma(n, all(part1_of_32nd), x);
+    constexpr auto& parts = numbers::thirty_second_pi_exact_parts<Lum32f>;
+    const auto part2 = all(parts[1]), part3 = all(parts[2]);
+    const auto r1 = fnma(n, all(parts[0]), x);
     const auto r2 = fnma(n, part2, r1);
     const auto error2 = fnma(n, part2, r1 - r2);
     const auto hi = fnma(n, part3, r2);
@@ -182,12 +183,9 @@ struct A24_32f : Tangent<A24_32f, Lum32f> {
 // The coefficients from r^5 up to r^9; A50 and A53 have one more.
 template <bool is_long> LUM_INLINE Vec<Lum64f> TangentSeries(Vec<Lum64f> s) {
   if constexpr (is_long) {
-    return horner(s, f64(0x3FD55555555555DC, 0.3333333333333408), f64(0x3FC11111110B0802, 0.13333333332235503),
-                  f64(0x3FABA1BA489D25CA, 0.053968259204860994), f64(0x3F9664AB664EFBA9, 0.021868398780266727),
-                  f64(0x3F825CCCC7C9FA5D, 0.008966064307285021));
+    return horner(s, circular::tan_A50);
   } else {
-    return horner(s, f64(0x3FD55555555555DC, 0.3333333333333408), f64(0x3FC11111110B0802, 0.13333333332235503),
-                  f64(0x3FABA1BA489D25CA, 0.053968259204860994), f64(0x3F9664AB664EFBA9, 0.021868398780266727));
+    return horner(s, circular::tan_A26);
   }
 }
 
@@ -196,12 +194,12 @@ template <bool is_long> struct OneWord_64f : Tangent<OneWord_64f<is_long>, Lum64
   static constexpr bool has_tails = false;
   static constexpr int vectors = 4;
   static LUM_INLINE Reduced<Lum64f> Reduce(Vec<Lum64f> x) {
-    constexpr auto shifter = f64(0x4338000000000000, 0x1.8p52);
-    const auto t = fma(x, all(f64(0x40145F306DC9C883, 5.092958178940651)), all(shifter));
+    constexpr auto shifter = rounding_shifter<Lum64f>();
+    constexpr auto& pi_parts = numbers::pi_parts<Lum64f>;
+    const auto t = fma(x, all(16 * numbers::inverse_pi<Lum64f>), all(shifter));
     const auto n = t - all(shifter);
-    const auto r = fnma(n, all(f64(0x3C61A62633145C06, 7.654042494670956e-18)),
-                        fnma(n, all(f64(0x3FC921FB54442D18, 0.19634954084936207)), x));
-    return {fnma(n, all(f64(0x391C1CD129024E09, 1.3535708424023925e-33)), r), all(0.0), bits(t)};
+    const auto r = fnma(n, all(pi_parts[1] / 16), fnma(n, all(pi_parts[0] / 16), x));
+    return {fnma(n, all(pi_parts[2] / 16), r), all(0.0), bits(t)};
   }
   static LUM_STAGE Vec<Lum64f> Evaluate(const Reduced<Lum64f>& a) {
     const auto t = TangentOf(a);

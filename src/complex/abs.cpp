@@ -1,6 +1,6 @@
 // |z|, by an estimate of the reciprocal root of s = x^2 + y^2 and coupled steps. The high tags form s with the errors of both
 // squares. Refused are zeros and numbers whose squares would leave the range; nothing is reported.
-#include "complex/refused.h"
+#include "complex/core_on_lane.h"
 #include "frame/kernels.h"
 #include "roots/coupled_root.h"
 
@@ -34,7 +34,7 @@ struct A11_32fc : AbsKernel<Lum32fc> {
   static constexpr Variant variant = x87_up_front_variant;
   static LUM_INLINE Lanes<Lum32f> VectorPath(Interleaved<Lum32f> z) {
     const auto s = PlainSquare(split(z));
-    return {s * rsqrt14_normal(s), fpclass<0xBF>(s)};
+    return {s * rsqrt14_normal(s), fpclass<classes::nonfinite | classes::zero | classes::denormal>(s)};
   }
 };
 struct A26_64fc : AbsKernel<Lum64fc> {

@@ -4,8 +4,8 @@
 // to the core itself.
 #pragma once
 
+#include "complex/core_on_lane.h"
 #include "complex/pairs/pair.h"
-#include "complex/refused.h"
 
 namespace lum::inline LUM_LAYER {
 
@@ -24,7 +24,7 @@ LUM_INLINE Mask<Lum64f> IsBelow(Vec<Lum64f> x, double smallest) { return nle(all
 LUM_INLINE PathValue ValueWithin(HeadTail re, HeadTail im, double units, Mask<Lum64f> refused) {
   return {re, im, abs(re.head) * all(units), abs(im.head) * all(units), refused};
 }
-// The same of parts that come near the lower end of the range: below this size tails and distances lose bits to it.
+// Relative errors of parts that come near the lower end of the range: below this size tails and distances lose bits to it.
 inline constexpr double smallest_part = 0x1p-900;
 LUM_INLINE PathValue SmallValueWithin(HeadTail re, HeadTail im, double units, Mask<Lum64f> refused) {
   return ValueWithin(re, im, units, refused | IsBelow(re.head, smallest_part) | IsBelow(im.head, smallest_part));
@@ -33,7 +33,7 @@ LUM_INLINE PathValue SmallValueWithin(HeadTail re, HeadTail im, double units, Ma
 // Lanes with a magnitude above the largest, or so small that squares and products of squares lose bits to the end of the range;
 // zeros are not among them, NaN is.
 LUM_INLINE Mask<Lum64f> IsFar(Vec<Lum64f> x, double largest) { return IsBelow(x, 0x1p-200) | nle(abs(x), all(largest)); }
-// The same at both ends.
+// A part too small or too large for squares and their products.
 LUM_INLINE Mask<Lum64f> HasFarPart(ComplexVec<Lum64f> z) {
   constexpr double largest = 0x1p240;
   return IsFar(z.re, largest) | IsFar(z.im, largest);
@@ -87,7 +87,7 @@ template <class Path, class... Inputs> LUM_INLINE Lanes<Lum32fc> NarrowedPath(co
   return {join(ComplexVec<Lum32f>{re.value, im.value}), join(low.refused, high.refused) | re.refused | im.refused};
 }
 
-// Of one or two arguments.
+// The path in either type, of one or two arguments.
 template <class Path, class E, class... Inputs> LUM_INLINE Lanes<E> PathOfElements(const Inputs&... packed) {
   if constexpr (std::is_same_v<E, Lum64fc>) return RoundedPath<Path>(packed...);
   else return NarrowedPath<Path>(packed...);
@@ -98,26 +98,24 @@ template <class Path, class E, class... Inputs> LUM_INLINE Lanes<E> PathOfElemen
 // are not. The portable vectors are slower than the core.
 #if defined(LUM_AVX512) || defined(LUM_AVX2)
 inline constexpr bool has_fast_vectors = true;
-inline bool TakesVectorPath() {
-  constexpr uint32_t rounding_field = 0x6000, flush_to_zero = 0x8000, denormals_are_zero = 0x40;
-  return (ReadMxcsr() & (rounding_field | flush_to_zero | denormals_are_zero)) == 0;
-}
+inline bool TakesVectorPath() { return (ReadMxcsr() & (mxcsr_rounding | mxcsr_flush_to_zero | mxcsr_denormals_are_zero)) == 0; }
 #else
 inline constexpr bool has_fast_vectors = false;
 inline bool TakesVectorPath() { return false; }
 #endif
 
+// The kernels of functions that report nothing, and of those that report overflow.
 template <class Path, OneInputCore core, class E> struct SilentKernel : Kernel<E> {
   static constexpr Variant variant = scalar_core_variant;
   static constexpr int vectors = 1;
   static LUM_INLINE Lanes<E> VectorPath(Interleaved<Real<E>> z) { return PathOfElements<Path, E>(z); }
-  static void LaneRoutine(const E& z, E& result) { CoreOnLane<core>(z, result); }
+  static void LaneRoutine(const E& z, E& result) { SilentCoreOnLane<core>(z, result); }
 };
-template <class Path, OneInputCore core, class E> struct OverflowKernel : SilentKernel<Path, core, E> {
+template <class Path, OneInputCore core, class E> struct ReportingKernel : SilentKernel<Path, core, E> {
   static LumStatus LaneRoutine(const E& z, E& result) { return ReportingCoreOnLane<core>(z, result); }
 };
 
-// The array function of a core and its path.
+// The array function of a core and its path, which reports nothing or reports overflow.
 template <class Path, OneInputCore core, class E> LumStatus RunSilent(const E* src, E* dst, int32_t len) {
   if constexpr (has_fast_vectors) {
     if (TakesVectorPath()) return OneInput<SilentKernel<Path, core, E>>(src, dst, len);
@@ -126,17 +124,9 @@ template <class Path, OneInputCore core, class E> LumStatus RunSilent(const E* s
 }
 template <class Path, OneInputCore core, class E> LumStatus RunReporting(const E* src, E* dst, int32_t len) {
   if constexpr (has_fast_vectors) {
-    if (TakesVectorPath()) return OneInput<OverflowKernel<Path, core, E>>(src, dst, len);
+    if (TakesVectorPath()) return OneInput<ReportingKernel<Path, core, E>>(src, dst, len);
   }
-  return OneInputLoop<core, E>::Run(src, dst, len);
+  return ReportingLoop<core, E>::Run(src, dst, len);
 }
-
-#define LUM_CORE_FUNCTION(run, function, type)                                     \
-  LumStatus function##_##type(const Lum##type* src, Lum##type* dst, int32_t len) { \
-    return run<function##Path, Core##function>(src, dst, len);                     \
-  }
-#define LUM_CORE_FUNCTIONS(run, function) \
-  LUM_CORE_FUNCTION(run, function, 32fc)  \
-  LUM_CORE_FUNCTION(run, function, 64fc)
 
 }  // namespace lum::inline LUM_LAYER

@@ -2,7 +2,7 @@
 // scales both arguments to significands of the larger part and keeps the errors of all products and of the quotient. The low
 // tags multiply by an estimate of the reciprocal. Lanes whose products leave the range are refused.
 #include "complex/pairs/pair.h"
-#include "complex/refused.h"
+#include "complex/product_routine.h"
 #include "frame/kernels.h"
 
 namespace lum::inline LUM_LAYER {
@@ -39,23 +39,23 @@ template <class E> struct Low : Quotient<E> {
     const auto t = TermsOf(split(z), split(w));
     const auto r = Reciprocal(t.square);
     const ComplexVec<T> q{t.re * r, t.im * r};
-    return {join(q), IsFar(t) | fpclass<0x99>(q.re) | fpclass<0x99>(q.im)};
+    return {join(q), IsFar(t) | fpclass<classes::nonfinite>(q.re) | fpclass<classes::nonfinite>(q.im)};
   }
 };
 
 struct A24_32fc : Quotient<Lum32fc> {
   static constexpr Variant variant = x87_up_front_variant;
-  static LUM_INLINE ComplexVec<Lum64f> Widened(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w) {
+  static LUM_INLINE ComplexVec<Lum64f> DoubleQuotient(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w) {
     const auto t = TermsOf(z, w);
     const auto r = div(all(1.0), t.square);
     return {t.re * r, t.im * r};
   }
   static LUM_INLINE Lanes<Lum32fc> VectorPath(Interleaved<Lum32f> packed_z, Interleaved<Lum32f> packed_w) {
     const auto z = split(packed_z), w = split(packed_w);
-    const auto low = Widened({widen_low(z.re), widen_low(z.im)}, {widen_low(w.re), widen_low(w.im)});
-    const auto high = Widened({widen_high(z.re), widen_high(z.im)}, {widen_high(w.re), widen_high(w.im)});
+    const auto low = DoubleQuotient({widen_low(z.re), widen_low(z.im)}, {widen_low(w.re), widen_low(w.im)});
+    const auto high = DoubleQuotient({widen_high(z.re), widen_high(z.im)}, {widen_high(w.re), widen_high(w.im)});
     const ComplexVec<Lum32f> q{narrow(low.re, high.re), narrow(low.im, high.im)};
-    return {join(q), fpclass<0x99>(q.re) | fpclass<0x99>(q.im)};
+    return {join(q), fpclass<classes::nonfinite>(q.re) | fpclass<classes::nonfinite>(q.im)};
   }
 };
 
@@ -64,7 +64,7 @@ struct A53_64fc : Quotient<Lum64fc> {
   static LUM_STAGE HeadTail SumOfProducts(VecIn<Lum64f> a, VecIn<Lum64f> c, VecIn<Lum64f> b, VecIn<Lum64f> d) {
     const auto first = a * c, second = b * d;
     const auto sum = two_sum(first, second);
-    return {sum.sum, sum.error + (fms(a, c, first) + fms(b, d, second))};
+    return {sum.head, sum.tail + (fms(a, c, first) + fms(b, d, second))};
   }
   // numerator / denominator, r being near the reciprocal of the denominator.
   static LUM_STAGE Vec<Lum64f> Ratio(const HeadTail& numerator, const HeadTail& denominator, VecIn<Lum64f> r) {
@@ -103,7 +103,8 @@ struct A53_64fc : Quotient<Lum64fc> {
     const auto back = z_exponent - w_exponent;
     const ComplexVec<Lum64f> q{scalef(Ratio(re, square, r), back), scalef(Ratio(im, square, r), back)};
     // Where an argument is zero as a whole, its exponent is infinite and the quotient is NaN.
-    return {join(q), IsFar(unscaled_z) | IsFar(unscaled_w) | fpclass<0x99>(q.re) | fpclass<0x99>(q.im)};
+    return {join(q),
+            IsFar(unscaled_z) | IsFar(unscaled_w) | fpclass<classes::nonfinite>(q.re) | fpclass<classes::nonfinite>(q.im)};
   }
   // Where registers do not hold the intermediate vectors, all calls share one copy of it and of its stack.
   [[gnu::noinline]] static Lanes<Lum64fc> CalledQuotientOf(const Interleaved<Lum64f>& z, const Interleaved<Lum64f>& w) {

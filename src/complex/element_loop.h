@@ -48,10 +48,10 @@ template <OneInputCore core, class E> LumStatus SilentLoop(const E* src, E* dst,
   return lumStsOk;
 }
 
-// Runs compute(i, result) for each element, which returns whether an infinite result is an overflow. Loop gives the loop a cell
-// of its own for the hook.
+// For functions that report overflow: runs compute(i, result) for each element, which returns whether an infinite result is an
+// overflow. Loop gives the loop a cell of its own for the hook.
 template <class Loop, class E, class Compute>
-LumStatus OverflowLoop(const E* src1, const E* src2, E* dst, int32_t len, const Compute& compute) {
+LumStatus RunReportingLoop(const E* src1, const E* src2, E* dst, int32_t len, const Compute& compute) {
   const Environment environment = Enter<scalar_core_variant>();
   LumStatus status = lumStsOk;
   for (int32_t i = 0; i < len; ++i) {
@@ -66,10 +66,10 @@ LumStatus OverflowLoop(const E* src1, const E* src2, E* dst, int32_t len, const 
   return status;
 }
 
-template <OneInputCore core, class E> struct OneInputLoop {
+template <OneInputCore core, class E> struct ReportingLoop {
   static LumStatus Run(const E* src, E* dst, int32_t len) {
     if (const auto bad = CheckArguments(len, src, dst); bad != lumStsOk) return bad;
-    return OverflowLoop<OneInputLoop>(src, src, dst, len, [=](int32_t i, ComplexDouble& result) {
+    return RunReportingLoop<ReportingLoop>(src, src, dst, len, [=](int32_t i, ComplexDouble& result) {
       const E z = src[i];
       core(result, Widened(z));
       return CanOverflow(z);
@@ -77,10 +77,10 @@ template <OneInputCore core, class E> struct OneInputLoop {
   }
 };
 
-template <TwoInputsCore core, class E> struct TwoInputsLoop {
+template <TwoInputsCore core, class E> struct ReportingTwoInputsLoop {
   static LumStatus Run(const E* src1, const E* src2, E* dst, int32_t len) {
     if (const auto bad = CheckArguments(len, src1, src2, dst); bad != lumStsOk) return bad;
-    return OverflowLoop<TwoInputsLoop>(src1, src2, dst, len, [=](int32_t i, ComplexDouble& result) {
+    return RunReportingLoop<ReportingTwoInputsLoop>(src1, src2, dst, len, [=](int32_t i, ComplexDouble& result) {
       const E z = src1[i];
       const E w = src2[i];
       core(result, Widened(z), Widened(w));
@@ -90,11 +90,11 @@ template <TwoInputsCore core, class E> struct TwoInputsLoop {
 };
 
 // The second argument is the same for all elements, and not in their memory.
-template <TwoInputsCore core, class E> struct ParameterLoop {
+template <TwoInputsCore core, class E> struct ReportingParameterLoop {
   static LumStatus Run(const E* src, const E& parameter, E* dst, int32_t len) {
     if (const auto bad = CheckArguments(len, src, dst); bad != lumStsOk) return bad;
     const bool parameter_can_overflow = CanOverflow(parameter);
-    return OverflowLoop<ParameterLoop>(src, src, dst, len, [&](int32_t i, ComplexDouble& result) {
+    return RunReportingLoop<ReportingParameterLoop>(src, src, dst, len, [&](int32_t i, ComplexDouble& result) {
       const E z = src[i];
       // Widened here, in the loop's environment: a denormal number or a signalling NaN raises a flag.
       core(result, Widened(z), Widened(parameter));

@@ -26,16 +26,17 @@ LUM_INLINE CorePart RoundedTwice(Vec<Lum64f> head, Vec<Lum64f> tail, Vec<Lum64f>
 }
 
 // a c + b d where one of the products has a zero factor or an operand is not finite, so that the sum of the products is exact.
-struct ShortSum {
-  Vec<Lum64f> sum, tail;
-};
-LUM_INLINE ShortSum SumWithOneProduct(Vec<Lum64f> a, Vec<Lum64f> c, Vec<Lum64f> b, Vec<Lum64f> d) {
+LUM_INLINE TwoParts<Vec<Lum64f>> SumWithOneProduct(Vec<Lum64f> a, Vec<Lum64f> c, Vec<Lum64f> b, Vec<Lum64f> d) {
   const auto first = a * c, second = b * d;
   return {first + second, fms(a, c, first) + fms(b, d, second)};
 }
-LUM_INLINE Mask<Lum64f> EitherZero(Vec<Lum64f> a, Vec<Lum64f> b) { return fpclass<0x06>(a) | fpclass<0x06>(b); }
+LUM_INLINE Mask<Lum64f> EitherZero(Vec<Lum64f> a, Vec<Lum64f> b) {
+  return fpclass<classes::zero>(a) | fpclass<classes::zero>(b);
+}
 
-LUM_INLINE Mask<Lum64f> IsNotFinite(ComplexVec<Lum64f> z) { return fpclass<0x99>(z.re) | fpclass<0x99>(z.im); }
+LUM_INLINE Mask<Lum64f> IsNotFinite(ComplexVec<Lum64f> z) {
+  return fpclass<classes::nonfinite>(z.re) | fpclass<classes::nonfinite>(z.im);
+}
 
 // Which of two NaNs the core's products give depends on how they were compiled.
 template <class T> LUM_INLINE Mask<T> HaveTwoNans(ComplexVec<T> z, ComplexVec<T> w) {
@@ -46,22 +47,23 @@ template <class T> LUM_INLINE Mask<T> HaveTwoNans(ComplexVec<T> z, ComplexVec<T>
 LUM_INLINE CorePart PartWithOneProduct(Vec<Lum64f> a, Vec<Lum64f> c, Vec<Lum64f> b, Vec<Lum64f> d) {
   const auto first_zero = EitherZero(a, c), second_zero = EitherZero(b, d);
   const auto s = SumWithOneProduct(a, c, b, d);
-  const auto rounded = RoundedTwice(s.sum, s.tail, all(0.0));
-  const auto magnitude = abs(s.sum);
+  const auto rounded = RoundedTwice(s.head, s.tail, all(0.0));
+  const auto magnitude = abs(s.head);
   const auto in_range = le(all(0x1p-900), magnitude) & rounded.is_sure;
-  const auto is_plain = fpclass<0x18>(s.sum) | (first_zero & second_zero);  // an infinity or an exact zero
-  return {select(is_plain, s.sum, rounded.value), (first_zero | second_zero) & (in_range | is_plain)};
+  const auto is_plain = fpclass<classes::infinity>(s.head) | (first_zero & second_zero);  // an infinity or an exact zero
+  return {select(is_plain, s.head, rounded.value), (first_zero | second_zero) & (in_range | is_plain)};
 }
 
 // a c + b d of numbers that are zero or from 2^-240 to 2: exactly in four parts.
 LUM_INLINE CorePart PartOfTwoProducts(Vec<Lum64f> a, Vec<Lum64f> c, Vec<Lum64f> b, Vec<Lum64f> d) {
-  const auto first = ExactProduct(a, c), second = ExactProduct(b, d);
+  const auto first = two_product(a, c), second = two_product(b, d);
   const auto heads = two_sum(first.head, second.head), tails = two_sum(first.tail, second.tail);
-  const auto middle = two_sum(heads.error, tails.sum);
-  const auto s = two_sum(heads.sum, middle.sum);
-  const auto residue = abs(middle.error) + abs(tails.error);
-  const auto zero = fpclass<0x06>(s.sum) & fpclass<0x06>(heads.sum);  // of two zeros the sum of the heads has the sign
-  return RoundedTwice(select(zero, heads.sum, s.sum), s.error, residue + residue);
+  const auto middle = two_sum(heads.tail, tails.head);
+  const auto s = two_sum(heads.head, middle.head);
+  const auto residue = abs(middle.tail) + abs(tails.tail);
+  const auto zero =
+      fpclass<classes::zero>(s.head) & fpclass<classes::zero>(heads.head);  // of two zeros the sum of the heads has the sign
+  return RoundedTwice(select(zero, heads.head, s.head), s.tail, residue + residue);
 }
 
 // The product of any finite numbers, by significands of the larger part. Not sure are results next to denormal numbers, and
@@ -69,7 +71,7 @@ LUM_INLINE CorePart PartOfTwoProducts(Vec<Lum64f> a, Vec<Lum64f> c, Vec<Lum64f> 
 LUM_INLINE CoreProduct ProductOfScaled(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w) {
   const auto z_exponent = getexp(max(abs(z.re), abs(z.im))), w_exponent = getexp(max(abs(w.re), abs(w.im)));
   const auto far = [](Vec<Lum64f> x, Vec<Lum64f> exponent) __attribute__((always_inline)) {
-    return lt(getexp(x), exponent - all(240.0)) & ~fpclass<0x06>(x);
+    return lt(getexp(x), exponent - all(240.0)) & ~fpclass<classes::zero>(x);
   };
   const auto is_far = far(z.re, z_exponent) | far(z.im, z_exponent) | far(w.re, w_exponent) | far(w.im, w_exponent);
   const auto down = [&](Vec<Lum64f> x, Vec<Lum64f> exponent) __attribute__((always_inline)) {
@@ -89,7 +91,8 @@ LUM_INLINE CoreProduct ProductOfScaled(ComplexVec<Lum64f> z, ComplexVec<Lum64f> 
   return {{scaled_re.value, scaled_im.value}, scaled_re.is_sure & scaled_im.is_sure & ~is_far};
 }
 
-// Of the lanes of the mask; the others are not sure. Numbers that are not finite have plain products and sums, as the core's.
+// The products in the lanes of the mask; the others are not sure. Numbers that are not finite have plain products and sums, as
+// the core's.
 LUM_INLINE CoreProduct ProductAsCore(ComplexVec<Lum64f> given_z, ComplexVec<Lum64f> given_w, Mask<Lum64f> wanted) {
   const auto taken = [&](Vec<Lum64f> x) __attribute__((always_inline)) { return zero_unless(wanted, x); };
   const ComplexVec<Lum64f> z{taken(given_z.re), taken(given_z.im)}, w{taken(given_w.re), taken(given_w.im)};

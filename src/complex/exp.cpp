@@ -2,10 +2,14 @@
 // what the tag needs; the tiers of 32fc take sine and cosine in binary64, that their product with the exponential is rounded
 // once. Far arguments and those whose exponential leaves the range go to the scalar core.
 #include "circular/half_turns.h"
+#include "circular/polynomials.h"
 #include "circular/sixteenths.h"
+#include "complex/core_on_lane.h"
 #include "complex/pairs/pair.h"
-#include "complex/refused.h"
+#include "complex/polynomials.h"
+#include "explog/polynomials.h"
 #include "frame/kernels.h"
+#include "frame/numbers.h"
 #include "tables/table.h"
 
 namespace lum::inline LUM_LAYER {
@@ -16,19 +20,16 @@ struct SineCosine {
 };
 
 // sin r of |r| <= pi/2, for binary32 results.
-LUM_INLINE Vec<Lum64f> SineOf(Vec<Lum64f> r) {
-  const auto q = r * r;
-  return fma(LongFloatSine(q), q * r, r);
-}
+LUM_INLINE Vec<Lum64f> SineOf(Vec<Lum64f> r) { return OddSine(r, circular::sin_A24); }
 
-// Of a - n pi, by way of pi/2 - |r| for the cosine.
+// Sine and cosine of a - n pi; the cosine by way of pi/2 - |r|.
 LUM_INLINE SineCosine SineCosineOf(Vec<Lum64f> a, Vec<Lum64f> n) {
   const auto r = TakeHalfTurnsExactly(a, n);
-  const auto to_quarter = r - or_sign(r, all(f64(0x3FF921FB54442D18, 1.5707963267948966)));
+  const auto to_quarter = r - or_sign(r, all(numbers::pi<Lum64f> / 2));
   return {SineOf(r), negate(xor_sign(r, SineOf(to_quarter)))};
 }
 
-// e^x of binary32 numbers in binary64, |error| below 2^-30: steps of 1/1024 in the exponent of 2, and (6 + 6r + 3r^2 + r^3)
+// e^x of binary32 numbers in binary64, |error| below 2^-27: steps of 1/1024 in the exponent of 2, and (6 + 6r + 3r^2 + r^3)
 // / 6.
 struct DoubleExponential {
   static constexpr auto limit = f32(0x44311958, 708.39599609375);
@@ -40,14 +41,12 @@ struct DoubleExponential {
     static constexpr auto table = table64({
 #include "tables/generated/exp2_1024_sixth.inc"
     });
-    constexpr auto shifter = f64(0x4338000000000000, 0x1.8p52);
-    const auto t = fma(x, all(f64(0x40971547652B82FE, 1477.3197218702985)), all(shifter));
+    constexpr auto shifter = rounding_shifter<Lum64f>();
+    const auto t = fma(x, all(1024 * numbers::log2_e<Lum64f>), all(shifter));
     const auto n = t - all(shifter);
-    const auto r = fnma(n, all(f64(0x3D5D1CF79ABC9E3B, 4.137227896298129e-13)),
-                        fnma(n, all(f64(0x3F462E42FEC00000, 0.0006769015431018488)), x));
-    const auto p =
-        fma(fma(r + all(f64(0x4008000002503ECD, 3.0000000172366073)), r, all(f64(0x4017FFFFFE3CA7B0, 5.999999973728265))), r,
-            all(f64(0x4017FFFFFE3CA7AF, 5.999999973728264)));
+    const auto r = fnma(n, all(numbers::ln2_1024th_parts<Lum64f>[1]), fnma(n, all(numbers::ln2_1024th_parts<Lum64f>[0]), x));
+    constexpr auto& c = complex::exp_A24.c;
+    const auto p = fma(fma(r + all(c[2]), r, all(c[1])), r, all(c[0]));
     const auto j = bits(t) & all(uint64_t{1023});
     const auto exponent = shift_left<42>(bits(t) ^ j);
     return as_float(bits(gather<Lum64f>(table, j) * p) + exponent);
@@ -55,7 +54,7 @@ struct DoubleExponential {
   static LUM_INLINE Values Of(Vec<Lum32f> x) { return {Half(widen_low(x)), Half(widen_high(x))}; }
 };
 
-// The same in binary32 with steps of 1/128, |error| below 2^-22.
+// e^x in binary32 with steps of 1/128 in the exponent of 2, |error| below 2^-22.
 struct SingleExponential {
   static constexpr auto limit = f32(0x42AEAC50, 87.33654785156250);
   using Values = DoubleExponential::Values;
@@ -64,10 +63,10 @@ struct SingleExponential {
     static constexpr auto table = table32({
 #include "tables/generated/exp2_float_128_pairs.inc"
     });
-    constexpr auto shifter = f32(0x4B400000, 12582912.0);
-    const auto t = fma(x, all(f32(0x4338AA3B, 184.6649627685547)), all(shifter));
+    constexpr auto shifter = rounding_shifter<Lum32f>();
+    const auto t = fma(x, all(128 * numbers::log2_e<Lum32f>), all(shifter));
     const auto n = t - all(shifter);
-    const auto r = fma(n, all(f32(0x35DE8083, 1.6577690757912933e-06)), fnma(n, all(f32(0x3BB18000, 0.0054168701171875)), x));
+    const auto r = fma(n, all(-numbers::ln2_128th_parts<Lum32f>[1]), fnma(n, all(numbers::ln2_128th_parts<Lum32f>[0]), x));
     const auto p = fma(r * r, all(0.5f), r);
     const auto j = shift_left<1>(bits(t) & all(127u));
     const auto head = gather<Lum32f>(table, j), tail = gather<Lum32f>(table + 1, j);
@@ -119,19 +118,16 @@ LUM_INLINE Vec<Lum64f> A26_64fc::ExponentialOf(Vec<Lum64f> x) {
   static constexpr auto tails = table64({
 #include "tables/generated/exp2_double_16_tail.inc"
   });
-  // 1.5 * 2^48, the last bit worth 1/16. The low bits leave the index at zero and are subtracted out again.
-  constexpr auto shifter = f64(0x42F8000000003FF0, 422212465067007.0);
-  const auto t = fma<rz>(x, all(f64(0x3FF71547652B82FE, 1.4426950408889634)), all(shifter));
+  // The low bits leave the index at zero and are subtracted out again.
+  constexpr auto shifter = rounding_shifter<Lum64f>(4) + 0x3FF0p-4;
+  const auto t = fma<rz>(x, all(numbers::log2_e<Lum64f>), all(shifter));
   const auto n = t - all(shifter);
-  const auto unmasked = fnma(n, all(f64(0x3C7ABC9E3B39803F, 2.3190468138462996e-17)),
-                             fnma(n, all(f64(0x3FE62E42FEFA39EF, 0.6931471805599453)), x));
+  const auto unmasked = fnma(n, all(numbers::ln2_tail<Lum64f>), fnma(n, all(numbers::ln2<Lum64f>), x));
   // Leaves any remainder below 2 as it is, and keeps those of refused lanes small.
   const auto r = unmasked & all(uint64_t{0xBFFFFFFFFFFFFFFF});
   const auto q = r * r;
-  const auto c12 = fma(all(f64(0x3FE000000000D008, 0.5000000000059126)), r, all(f64(0x3FEFFFFFFFFFFF70, 0.999999999999984)));
-  const auto c34 = fma(all(f64(0x3FA55557242D68FE, 0.0416667205488057)), r, all(f64(0x3FC5555553939732, 0.1666666658485894)));
-  const auto c56 =
-      fma(all(f64(0x3F57411836940C04, 0.0014193283516881214)), r, all(f64(0x3F81101CBBC265C0, 0.008331512908898442)));
+  const auto c12 = horner(r, part<0, 1>(complex::exp_A26)), c34 = horner(r, part<2, 3>(complex::exp_A26)),
+             c56 = horner(r, part<4, 5>(complex::exp_A26));
   const auto p = fma(fma(fma(c56, q, c34), q, c12), r, Entry16(tails, bits(t)));
   const auto head = Entry16(heads, bits(t));
   return scalef(fma(p, head, head), n);
@@ -151,13 +147,11 @@ struct A53_64fc : Kernel<Lum64fc> {
     static constexpr auto table = table64({
 #include "tables/generated/exp2_64_pairs.inc"
     });
-    constexpr auto shifter = f64(0x4338000000000000, 0x1.8p52);
+    constexpr auto shifter = rounding_shifter<Lum64f>();
     const auto t = fma(x, all(f64(0x40571547652B82FE, 92.33248261689366)), all(shifter));
     const auto n = t - all(shifter);
-    const auto r = fnma(n, all(f64(0x3D1CF79ABC9E3B3A, 2.572804622327669e-14)),
-                        fnma(n, all(f64(0x3F862E42FEFA0000, 0.010830424696223417)), x));
-    const auto q = horner(r, 0.5, f64(0x3FC55555555548F8, 0.1666666666665788), f64(0x3FA5555555558FCC, 0.04166666666677052),
-                          f64(0x3F8111123AAF20D3, 0.008333341995140497), f64(0x3F56C16A1C2A3FFD, 0.0013888870459233254));
+    const auto r = fnma(n, all(numbers::ln2_short_tail<Lum64f> / 64), fnma(n, all(numbers::ln2_short<Lum64f> / 64), x));
+    const auto q = horner(r, explog::exp_routine_64f);
     const auto j = shift_left<1>(bits(t) & all(uint64_t{63}));
     const auto exponent = shift_left<46>(and_not(all(uint64_t{63}), bits(t)));
     return {as_float(bits(gather<Lum64f>(table, j)) + exponent), fma(r * r, q, r) + gather<Lum64f>(table + 1, j)};
@@ -170,22 +164,18 @@ struct A53_64fc : Kernel<Lum64fc> {
     static constexpr auto table = table64({
 #include "tables/generated/sine_cosine_32.inc"
     });
-    constexpr auto shifter = f64(0x4338000000000000, 0x1.8p52);
-    const auto t = fma(y, all(f64(0x40245F306DC9C883, 10.185916357881302)), all(shifter));
+    constexpr auto shifter = rounding_shifter<Lum64f>();
+    const auto t = fma(y, all(32 * numbers::inverse_pi<Lum64f>), all(shifter));
     const auto n = t - all(shifter);
-    const auto part2 = all(f64(0x3D90B4611A600000, 3.798187816439979e-12)),
-               part3 = all(f64(0x3B63198A2E037073, 1.2639164054974691e-22));
-    const auto r1 = fnma(n, all(f64(0x3FB921FB54400000, 0.09817477042088285)), y);  // exact, as is n part2
+    constexpr auto& parts = numbers::thirty_second_pi_parts<Lum64f>;
+    const auto part2 = all(parts[1]), part3 = all(parts[2]);
+    const auto r1 = fnma(n, all(parts[0]), y);  // exact, as is n part2
     const auto r2 = fnma(n, part2, r1);
     const auto hi = fnma(n, part3, r2);
     const auto lo = fnma(n, part2, r1 - r2) + fnma(n, part3, r2 - hi);
     const auto q = hi * hi;
-    const auto sine_series =
-        horner(q, f64(0xBFC5555555555555, -0.16666666666666666), f64(0x3F81111111111111, 0.008333333333333333),
-               f64(0xBF2A01A01A01A01A, -0.0001984126984126984), f64(0x3EC71DE3A556C734, 2.7557319223985893e-06));
-    const auto cosine_series =
-        horner(q, -0.5, f64(0x3FA5555555555555, 0.041666666666666664), f64(0xBF56C16C16C16C17, -0.001388888888888889),
-               f64(0x3EFA01A01A01A01A, 2.48015873015873e-05));
+    const auto sine_series = horner(q, circular::routine_sine);
+    const auto cosine_series = horner(q, circular::routine_cosine);
     const auto k = gather_rows<Lum64f>(table, shift_left<2>(bits(t) & all(uint64_t{63})));
     const auto s = k.column0, s_tail = k.column1, c = k.column2, c_tail = k.column3;
     const auto sine_head = fma(c, hi, s), cosine_head = fnma(s, hi, c);
@@ -200,8 +190,8 @@ struct A53_64fc : Kernel<Lum64fc> {
 
   static LUM_INLINE Vec<Lum64f> Product(const Exponential& e, const HeadTail& factor) {
     const auto f = fast_two_sum(factor.head, fma(factor.head + factor.tail, e.excess, factor.tail));
-    const auto product = e.power * f.sum;
-    const auto rest = fma(e.power, f.error, fms(e.power, f.sum, product));
+    const auto product = e.power * f.head;
+    const auto rest = fma(e.power, f.tail, fms(e.power, f.head, product));
     return add(ne(product, all(0.0)), product, rest);  // below the range the rest is a zero of any sign
   }
 

@@ -4,9 +4,10 @@
 // the sum of the errors, which is little beside |ln z| but may be as much as t itself. Nothing is reported, not even of a zero.
 #include <limits>
 
-#include "complex/refused.h"
+#include "complex/core_on_lane.h"
 #include "explog/ln_terms.h"
 #include "frame/kernels.h"
+#include "frame/numbers.h"
 #include "invcircular/atan2_path.h"
 #include "invcircular/atan2_routine.h"
 
@@ -15,13 +16,14 @@ namespace {
 
 template <class E> struct LnKernel : Kernel<E> {
   static constexpr int vectors = 1;
-  static void LaneRoutine(const E& z, E& result) { CoreOnLane<CoreLog>(z, result); }
-  // Of zero and of infinities: an infinity and the angle of an axis or a diagonal.
+  static void LaneRoutine(const E& z, E& result) { SilentCoreOnLane<CoreLog>(z, result); }
+  // Zero and infinities give an infinity and the angle of an axis or a diagonal.
   static LUM_INLINE Lanes<E> SecondPath(Packed<E> packed, const Lanes<E>& lanes) {
     using T = Real<E>;
     constexpr auto unbounded = std::numeric_limits<T>::infinity();
     const auto z = split(packed), value = split(lanes.value);
-    const auto zero = fpclass<0x06>(z.re) & fpclass<0x06>(z.im), infinite = fpclass<0x18>(z.re) | fpclass<0x18>(z.im);
+    const auto zero = fpclass<classes::zero>(z.re) & fpclass<classes::zero>(z.im),
+               infinite = fpclass<classes::infinity>(z.re) | fpclass<classes::infinity>(z.im);
     const auto finished = lanes.refused & (zero | infinite) & ~unord(z.re, z.im);
     const auto log = select(zero, all(-unbounded), all(unbounded));
     const auto angle = Atan2OfSpecial(z.im, z.re, Lanes<T>{value.im, finished});
@@ -48,38 +50,38 @@ template <class T> LUM_INLINE Square<T> SquareOfModulus(Vec<T> x, Vec<T> y) {
   const auto ax = abs(x), ay = abs(y);
   const auto large = max(ax, ay), small = min(ax, ay);
   const auto exponent = getexp(large);
-  const auto a = getmant<0>(large), b = scalef(small, negate(exponent));
+  const auto a = getmant<significand::from_1_to_2>(large), b = scalef(small, negate(exponent));
   const auto a2 = a * a, b2 = b * b;
   const auto sum = fast_two_sum(a2, b2);
   const auto errors = two_sum(fms(a, a, a2), fms(b, b, b2));
-  const auto tail = two_sum(sum.error, errors.sum);
-  return {sum.sum, tail.sum, tail.error + errors.error, exponent};
+  const auto tail = two_sum(sum.tail, errors.head);
+  return {sum.head, tail.head, tail.tail + errors.tail, exponent};
 }
 
 // s - 1 as a pair where s is near 1, without the rest: the difference of the heads is exact.
-template <class T> LUM_INLINE Sum<T> LessOne(const Square<T>& s) {
+template <class T> LUM_INLINE TwoParts<Vec<T>> LessOne(const Square<T>& s) {
   const auto twice = s.exponent + s.exponent;
   return two_sum(scalef(s.head, twice) - all(T(1)), scalef(s.tail, twice));
 }
 // With the rest, down to which head and tail may cancel. What is left of them is then 0 or a multiple of the rest's last place,
 // as the sum needs where it is not the larger operand.
-template <class T> LUM_INLINE Sum<T> LessOneExactly(const Square<T>& s) {
+template <class T> LUM_INLINE TwoParts<Vec<T>> LessOneExactly(const Square<T>& s) {
   const auto t = LessOne(s);
-  return fast_two_sum(t.sum, t.error + scalef(s.rest, s.exponent + s.exponent));
+  return fast_two_sum(t.head, t.tail + scalef(s.rest, s.exponent + s.exponent));
 }
 
 // In binary32.
 template <int segment_degree> LUM_STAGE Vec<Lum32f> LogOfModulus(VecIn<Lum32f> x, VecIn<Lum32f> y) {
   const auto s = SquareOfModulus(x, y);
-  const auto t = LessOne(s).sum;
+  const auto t = LessOne(s).head;
   const auto near_one = all(1.0f) + t;
   // The segment is that of the rounded sum, which may have reached 3/2 where t has not reached 1/2.
   const auto is_near = le(all(-0.25f), t) & lt(near_one, all(1.5f));
-  const auto m = select(is_near, near_one, getmant<0xB>(s.head));
+  const auto m = select(is_near, near_one, getmant<significand::from_three_quarters | significand::nan_if_negative>(s.head));
   const auto r = select(is_near, t, m - all(1.0f));
   const auto k = zero_unless(~is_near, (getexp(s.head) - getexp(m)) + (s.exponent + s.exponent));
-  const auto log = fma(r, SegmentPolynomial<segment_degree>(m, r, Segments<segment_degree>::columns),
-                       k * all(f32(0x3F317218, 0.6931471824645996)));
+  const auto log =
+      fma(r, SegmentPolynomial<segment_degree>(m, r, Segments<segment_degree>::columns), k * all(numbers::ln2<Lum32f>));
   return all(0.5f) * log;
 }
 
@@ -120,9 +122,9 @@ template <class Ln, bool has_all_places> LUM_STAGE Vec<Lum64f> LogOfModulus(VecI
   auto terms = Ln::Terms(reduction);
 
   const auto t = has_all_places ? LessOneExactly(s) : LessOne(s);
-  const auto is_near = lt(abs(t.sum), all(0.0625));
-  terms = {zero_unless(~is_near, terms.base), zero_unless(~is_near, terms.base_tail), select(is_near, t.sum, terms.r)};
-  return all(0.5) * Ln::Sum(Ln::Corrected(terms, select(is_near, t.error, s.tail * rcp14(s.head))));
+  const auto is_near = lt(abs(t.head), all(0.0625));
+  terms = {zero_unless(~is_near, terms.base), zero_unless(~is_near, terms.base_tail), select(is_near, t.head, terms.r)};
+  return all(0.5) * Ln::Sum(Ln::Corrected(terms, select(is_near, t.tail, s.tail * rcp14(s.head))));
 }
 
 template <class Ln, class Angle, bool has_all_places = false> struct Double : LnKernel<Lum64fc> {

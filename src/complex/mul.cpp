@@ -3,7 +3,7 @@
 // others of 32fc take both exactly in binary64; those of 64fc keep the errors of both and refuse numbers near the ends of the
 // range, zeros among them.
 #include "complex/exact_product.h"
-#include "complex/refused.h"
+#include "complex/product_routine.h"
 #include "frame/kernels.h"
 
 namespace lum::inline LUM_LAYER {
@@ -65,10 +65,11 @@ template <class E, bool by_conjugate> struct Product : Kernel<E> {
     const auto product = ProductAsCore(z, w, refused);
     auto finished = product.is_sure & refused;
     // A NaN may be one of several, which only a layer that orders them gives right.
-    if constexpr (!orders_nans) finished = finished & ord(product.value.re, product.value.im);
+    if constexpr (!orders_nans) finished = finished & ~unord(product.value.re, product.value.im);
     const ComplexVec<T> value{select(finished, product.value.re, first.re), select(finished, product.value.im, first.im)};
-    const auto infinite = fpclass<0x18>(value.re) | fpclass<0x18>(value.im);
-    const auto not_finite = fpclass<0x99>(z.re) | fpclass<0x99>(z.im) | fpclass<0x99>(w.re) | fpclass<0x99>(w.im);
+    const auto infinite = fpclass<classes::infinity>(value.re) | fpclass<classes::infinity>(value.im);
+    const auto not_finite = fpclass<classes::nonfinite>(z.re) | fpclass<classes::nonfinite>(z.im) |
+                            fpclass<classes::nonfinite>(w.re) | fpclass<classes::nonfinite>(w.im);
     return {join(value), refused & ~finished, {.overflow = finished & infinite & ~not_finite}};
   }
   static LumStatus LaneRoutine(const E& z, const E& w, E& result) {
@@ -82,7 +83,7 @@ template <class E, bool by_conjugate> struct Low : Product<E, by_conjugate> {
   static constexpr T cancelled = sizeof(T) == 4 ? T(0x1p-10) : T(0x1p-20);
 
   static LUM_INLINE Mask<T> HasCancelled(Vec<T> products, Vec<T> r) {
-    return nlt(abs(products) * all(cancelled), abs(r)) | fpclass<0x99>(r);
+    return nlt(abs(products) * all(cancelled), abs(r)) | fpclass<classes::nonfinite>(r);
   }
   static LUM_INLINE Lanes<E, ComponentMask<T>> VectorPath(Interleaved<T> z, Interleaved<T> w) {
     const auto low = FactorsOf(z.low, w.low), high = FactorsOf(z.high, w.high);
@@ -93,16 +94,16 @@ template <class E, bool by_conjugate> struct Low : Product<E, by_conjugate> {
 };
 
 template <bool by_conjugate> struct A24_32fc : Product<Lum32fc, by_conjugate> {
-  static LUM_INLINE Vec<Lum64f> Widened(Vec<Lum64f> z, Vec<Lum64f> w) {
+  static LUM_INLINE Vec<Lum64f> DoubleProduct(Vec<Lum64f> z, Vec<Lum64f> w) {
     const auto f = FactorsOf(z, w);
     return Joined<by_conjugate>(f, f.z_swapped * f.w_im);
   }
   static LUM_INLINE Vec<Lum32f> HalfOf(Vec<Lum32f> z, Vec<Lum32f> w) {
-    return narrow(Widened(widen_low(z), widen_low(w)), Widened(widen_high(z), widen_high(w)));
+    return narrow(DoubleProduct(widen_low(z), widen_low(w)), DoubleProduct(widen_high(z), widen_high(w)));
   }
   static LUM_INLINE Lanes<Lum32fc, ComponentMask<Lum32f>> VectorPath(Interleaved<Lum32f> z, Interleaved<Lum32f> w) {
     const Interleaved<Lum32f> r{HalfOf(z.low, w.low), HalfOf(z.high, w.high)};
-    return {r, {fpclass<0x99>(r.low), fpclass<0x99>(r.high)}};
+    return {r, {fpclass<classes::nonfinite>(r.low), fpclass<classes::nonfinite>(r.high)}};
   }
 };
 
@@ -120,7 +121,7 @@ template <bool by_conjugate> struct A53_64fc : Product<Lum64fc, by_conjugate> {
     const auto w_im = f.w_im ^ load(by_conjugate ? odd_signs : even_signs);
     const auto first = f.z * f.w_re, second = f.z_swapped * w_im;
     const auto sum = two_sum(first, second);
-    return sum.sum + (sum.error + (fms(f.z, f.w_re, first) + fms(f.z_swapped, w_im, second)));
+    return sum.head + (sum.tail + (fms(f.z, f.w_re, first) + fms(f.z_swapped, w_im, second)));
   }
   static LUM_INLINE Lanes<Lum64fc, ComponentMask<Lum64f>> VectorPath(Interleaved<Lum64f> z, Interleaved<Lum64f> w) {
     return {{HalfOf(z.low, w.low), HalfOf(z.high, w.high)}, {IsFar(z.low) | IsFar(w.low), IsFar(z.high) | IsFar(w.high)}};

@@ -1,8 +1,9 @@
 // The principal square root. With w = sqrt((|x| + |z|) / 2) and v = |y| / (2 w):  sqrt z = w + v i for x >= 0, v + w i for
 // x < 0, the imaginary part with the sign of y. Squares are kept in range by a power of 4 taken from the exponents of both
-// parts, or in A24 by binary64. The highest tag of 64fc is in powers.cpp, with the functions that have a scalar core.
-#include "complex/refused.h"
+// parts, or in A24 by binary64. The highest tag of 64fc has the bits of the scalar core.
+#include "complex/core_kernel.h"
 #include "frame/kernels.h"
+#include "frame/lane_format.h"
 #include "roots/coupled_root.h"
 
 namespace lum::inline LUM_LAYER {
@@ -10,7 +11,7 @@ namespace {
 
 template <class E> struct SqrtKernel : Kernel<E> {
   static constexpr int vectors = 1;
-  static void LaneRoutine(const E& z, E& result) { CoreOnLane<CoreSqrt>(z, result); }
+  static void LaneRoutine(const E& z, E& result) { SilentCoreOnLane<CoreSqrt>(z, result); }
 };
 
 // The larger and the smaller part of the root in their places. A zero z keeps the sign of its imaginary part: both are zero.
@@ -20,39 +21,35 @@ template <class T> LUM_INLINE Interleaved<T> Placed(ComplexVec<T> z, Vec<T> larg
 }
 
 // Zero, denormal, infinite and NaN parts.
-template <class T> LUM_INLINE Mask<T> NotNormal(ComplexVec<T> z) { return fpclass<0xBF>(z.re) | fpclass<0xBF>(z.im); }
+template <class T> LUM_INLINE Mask<T> NotNormal(ComplexVec<T> z) {
+  return fpclass<classes::nonfinite | classes::zero | classes::denormal>(z.re) |
+         fpclass<classes::nonfinite | classes::zero | classes::denormal>(z.im);
+}
 
-template <class T> struct ExponentField;
-template <> struct ExponentField<Lum32f> {
-  static constexpr int fraction_bits = 23;
-  static constexpr int32_t bias = 127, far = 18;
-};
-template <> struct ExponentField<Lum64f> {
-  static constexpr int fraction_bits = 52;
-  static constexpr int64_t bias = 1023, far = 32;
-};
+// Half exponents further apart than this leave the smaller square without weight.
+template <class T> inline constexpr SignedOf<T> far = sizeof(T) == 4 ? 18 : 32;
 
 // |x| and |y| times 4^-h, h being half the exponent of the larger, or so near it that both squares are in range. A part so much
 // smaller that its square cannot count is zero.
-template <class T> struct Scaled {
+template <class T> struct ScaledParts {
   Vec<T> a, b;
   Vec<SignedOf<T>> h;
 };
 
 template <class T> LUM_INLINE Vec<T> PowerOfTwo(Vec<SignedOf<T>> e) {
-  using F = ExponentField<T>;
-  return as_float(shift_left<F::fraction_bits>(e + all(F::bias)));
+  using F = lane::Format<T>;
+  return as_float(shift_left<F::fraction_bits>(e + all(SignedOf<T>{F::bias})));
 }
 
-template <class T> LUM_INLINE Scaled<T> Scale(Vec<T> x, Vec<T> y) {
-  using F = ExponentField<T>;
+template <class T> LUM_INLINE ScaledParts<T> Scale(Vec<T> x, Vec<T> y) {
+  using F = lane::Format<T>;
   const auto half_exponent = [](Vec<T> part) __attribute__((always_inline)) {
-    const auto from_one = as_signed(bits(part)) - all(static_cast<SignedOf<T>>(F::bias << F::fraction_bits));
+    const auto from_one = as_signed(bits(part)) - all(static_cast<SignedOf<T>>(SignedOf<T>{F::bias} << F::fraction_bits));
     return shift_right_arithmetic<F::fraction_bits + 1>(from_one);
   };
   const auto hx = half_exponent(x), hy = half_exponent(y);
   const auto d = hx - hy;
-  const auto x_counts = lt(all(static_cast<SignedOf<T>>(-F::far)), d), y_counts = lt(d, all(F::far));
+  const auto x_counts = lt(all(static_cast<SignedOf<T>>(-far<T>)), d), y_counts = lt(d, all(far<T>));
   const auto h = select(x_counts, hx, hy);
   const auto power = PowerOfTwo<T>(all(SignedOf<T>{0}) - (h + h));
   return {zero_unless(mask_cast<T>(x_counts), x * power), zero_unless(mask_cast<T>(y_counts), y * power), h};
@@ -101,12 +98,12 @@ LUM_INLINE Vec<Lum64f> DoubleRoot(Vec<Lum64f> x) {
   return zero_unless(ne(x, all(0.0)), unscaled);
 }
 
-// Of positive normal numbers, |error| below 2^-27.
+// a / b of positive normal numbers, |error| below 2^-27.
 LUM_INLINE Vec<Lum64f> DoubleQuotient(Vec<Lum64f> a, Vec<Lum64f> b) {
-  const auto fraction = getmant<0>(b);
+  const auto fraction = getmant<significand::from_1_to_2>(b);
   const auto estimate = rcp14(fraction);
   const auto reciprocal = fma(fnma(fraction, estimate, all(1.0)), estimate, estimate);
-  return scalef(getmant<0>(a) * reciprocal, getexp(a) - getexp(b));
+  return scalef(getmant<significand::from_1_to_2>(a) * reciprocal, getexp(a) - getexp(b));
 }
 
 struct A24_32fc : SqrtKernel<Lum32fc> {
@@ -122,7 +119,22 @@ struct A24_32fc : SqrtKernel<Lum32fc> {
     const auto z = split(packed);
     const auto x = abs(z.re), y = abs(z.im);
     const auto low = PartsOf(widen_low(x), widen_low(y)), high = PartsOf(widen_high(x), widen_high(y));
-    return {Placed(z, narrow(low.large, high.large), narrow(low.small, high.small)), fpclass<0x99>(z.re) | fpclass<0x99>(z.im)};
+    return {Placed(z, narrow(low.large, high.large), narrow(low.small, high.small)),
+            fpclass<classes::nonfinite>(z.re) | fpclass<classes::nonfinite>(z.im)};
+  }
+};
+
+// In pairs, as the core has it.
+struct SqrtPath {
+  static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z) {
+    const auto ax = abs(z.re), ay = abs(z.im);
+    const auto modulus = SquareRoot(Add(two_product(ax, ax), two_product(ay, ay)));
+    const auto large = SquareRoot(Scaled(Add(modulus, ax), 0.5));
+    const auto small = Quotient({ay * all(0.5), all(0.0)}, large);
+    const auto is_left = lt(z.re, all(0.0));
+    const auto im = Select(is_left, large, small);
+    constexpr double root_error = 5;
+    return ValueWithin(Select(is_left, small, large), XorSign(z.im, im), root_error, HasFarPart(z));
   }
 };
 
@@ -131,5 +143,6 @@ struct A24_32fc : SqrtKernel<Lum32fc> {
 LumStatus Sqrt_32fc_A21(const Lum32fc* src, Lum32fc* dst, int32_t len) { return OneInput<A21_32fc>(src, dst, len); }
 LumStatus Sqrt_32fc_A24(const Lum32fc* src, Lum32fc* dst, int32_t len) { return OneInput<A24_32fc>(src, dst, len); }
 LumStatus Sqrt_64fc_A50(const Lum64fc* src, Lum64fc* dst, int32_t len) { return OneInput<A50_64fc>(src, dst, len); }
+LumStatus Sqrt_64fc_A53(const Lum64fc* src, Lum64fc* dst, int32_t len) { return RunSilent<SqrtPath, CoreSqrt>(src, dst, len); }
 
 }  // namespace lum::inline LUM_LAYER

@@ -7,6 +7,7 @@
 #include <limits>
 
 #include "erf/packed_rows.h"
+#include "erf/polynomials.h"
 #include "frame/kernel_frame.h"
 #include "frame/kernels.h"
 #include "tables/table.h"
@@ -41,11 +42,9 @@ template <class T> LUM_INLINE Vec<T> Fall(const RowOfTwo<T>& row, Vec<T> d, Vec<
 
 struct Float : Kernel<Lum32f> {
   static LUM_INLINE Distance<Lum32f> DistanceIn(Vec<Lum32f> x) {
-    return DistanceOf(x, f32(0x4162C000, 14.171875), 0x1p-32f, f32(0x48000000, 131072.0));  // the last place of 2^17 is 1/64
+    return DistanceOf(x, 14.171875f, 0x1p-32f, 0x1p17f);  // the last place of the last is 1/64
   }
-  static LUM_INLINE Lanes<Lum32f> Finish(Vec<Lum32f> x, Vec<Lum32f> scaled) {
-    return lum::Finish(x, scaled, f32(0x1F800000, 5.421010862427522e-20));
-  }
+  static LUM_INLINE Lanes<Lum32f> Finish(Vec<Lum32f> x, Vec<Lum32f> scaled) { return lum::Finish(x, scaled, 0x1p-64f); }
   static LumStatus LaneRoutine(Lum32f x, Lum32f& result) { return FinishRefused(x, result); }
 };
 
@@ -56,7 +55,7 @@ constexpr Table<uint64_t, 908> float_table = {{
 struct A11_32f : Float {
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
     const auto [d, w, v, row] = DistanceIn(x);
-    const auto series = w * horner(w, -0.5f, 0x1.555556p-3f);
+    const auto series = w * horner(w, erf::cdfnorm_A11_w);
     return Finish(x, Fall(GatherRow(float_table, row), d, series));
   }
 };
@@ -64,9 +63,8 @@ struct A11_32f : Float {
 struct A21_32f : Float {
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
     const auto [d, w, v, row] = DistanceIn(x);
-    const auto in_w = horner(w, f32(0xBF000000, -0.5), f32(0x3E2AAAA8, 0.16666662693023682),
-                             f32(0xBD2AAAA7, -0.041666653007268906), f32(0x3C08A294, 0.008339542895555496));
-    const auto in_v = horner(w, f32(0xBE2AAA8B, -0.1666661947965622), f32(0x3E004465, 0.12526090443134308));
+    const auto in_w = horner(w, erf::cdfnorm_A21_w);
+    const auto in_v = horner(w, erf::cdfnorm_A21_v);
     return Finish(x, Fall(GatherRow(float_table, row), d, fma(in_v, v, in_w * w)));
   }
 };
@@ -77,35 +75,28 @@ struct A24_32f : Float {
   }};
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
     const auto [d, w, v, row] = DistanceIn(x);
-    const auto in_w =
-        horner(w, f32(0xBF000000, -0.5), f32(0x3E2AAAA8, 0.16666662693023682), f32(0xBD2AAAA7, -0.041666653007268906),
-               f32(0x3C08A294, 0.008339542895555496), f32(0xBAB62FD7, -0.0013899755431339145));
-    const auto in_v = horner(w, f32(0xBE2AAA8B, -0.1666661947965622), f32(0x3E004465, 0.12526090443134308),
-                             f32(0xBD4D2E81, -0.05009317770600319));
+    const auto in_w = horner(w, erf::cdfnorm_A24_w);
+    const auto in_v = horner(w, erf::cdfnorm_A24_v);
     const auto series = fma(in_v, v, in_w * w);
     return Finish(x, Fall(Unpack(GatherRow(table, row)), d * all(0.5f), series));  // the rows hold 2 p
   }
 };
 
 struct Double : Kernel<Lum64f> {
-  static constexpr auto last_centre = f64(0x40433F0000000000, 38.4921875),
-                        least_distance = f64(0x37F0000000000000, 2.938735877055719e-39);
-  static constexpr auto shifter = f64(0x42C0000000000000, 35184372088832.0);  // 2^45: the last place is 1/128
-  static LUM_INLINE Lanes<Lum64f> Finish(Vec<Lum64f> x, Vec<Lum64f> scaled) {
-    return lum::Finish(x, scaled, f64(0x37F0000000000000, 2.938735877055719e-39));
-  }
+  static constexpr auto last_centre = 38.4921875, least_distance = 0x1p-128;
+  static constexpr auto shifter = 0x1p45;  // the last place is 1/128
+  static LUM_INLINE Lanes<Lum64f> Finish(Vec<Lum64f> x, Vec<Lum64f> scaled) { return lum::Finish(x, scaled, 0x1p-128); }
   static LumStatus LaneRoutine(Lum64f x, Lum64f& result) { return FinishRefused(x, result); }
 };
 
-// The first terms of the series as they stand.
 struct A26_64f : Double {
   static constexpr auto table = table64({
 #include "tables/generated/cdfnorm_64.inc"
   });
   static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
     const auto [d, w, v, row] = DistanceOf(x, last_centre, least_distance, 2 * shifter);
-    const auto in_w = horner(w, -1.0 / 2, 1.0 / 6, -1.0 / 24, 1.0 / 120, -1.0 / 720, 1.0 / 5040);
-    const auto in_v = horner(w, -1.0 / 6, 1.0 / 8, -1.0 / 20, 1.0 / 72);
+    const auto in_w = horner(w, erf::cdfnorm_A26_w);
+    const auto in_v = horner(w, erf::cdfnorm_A26_v);
     return Finish(x, Fall(GatherRow(table, row), d, fma(in_v, v, in_w * w)));
   }
 };
@@ -116,10 +107,9 @@ struct A50_64f : Double {
   });
   static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
     const auto [d, w, v, row] = DistanceOf(x, last_centre, least_distance, shifter);
-    const auto in_w =
-        horner(w, -1.0 / 2, 1.0 / 6, -1.0 / 24, 1.0 / 120, -1.0 / 720, 1.0 / 5040, -1.0 / 40320, 1.0 / 362880, -1.0 / 3628800);
-    const auto in_v = horner(w, -1.0 / 6, 1.0 / 8, -1.0 / 20, 1.0 / 72, -1.0 / 336, 1.0 / 1920, -1.0 / 12960);
-    const auto in_v2 = horner(w, 1.0 / 40, -1.0 / 48, 1.0 / 112, -1.0 / 384);
+    const auto in_w = horner(w, erf::cdfnorm_A50_w);
+    const auto in_v = horner(w, erf::cdfnorm_A50_v);
+    const auto in_v2 = horner(w, erf::cdfnorm_A50_v2);
     const auto series = fma(fma(in_v2, v, in_v), v, in_w * w);
     return Finish(x, Fall(GatherRow(table, row), d, series));
   }
@@ -130,20 +120,10 @@ struct A53_64f : Double {
 #include "tables/generated/cdfnorm_128_packed.inc"
   });
   static LUM_INLINE Vec<Lum64f> Series(Vec<Lum64f> w, Vec<Lum64f> v) {
-    const auto in_w = horner(w, f64(0xBFE0000000000000, -0.5), f64(0x3FC5555555555555, 0.16666666666666666),
-                             f64(0xBFA55555555554D9, -0.041666666666665804), f64(0x3F8111111111108F, 0.008333333333333108),
-                             f64(0xBF56C16C16CC1D1D, -0.0013888888890408243), f64(0x3F2A01A01A0F4F8C, 0.00019841269843700845),
-                             f64(0xBEFA019F74E36970, -2.4801577915714438e-05), f64(0x3EC71DE30B781626, 2.7557308290872694e-06),
-                             f64(0xBE9282607C399DBF, -2.758098356148715e-07), f64(0x3E5AEC468D02A083, 2.5073952525948113e-08));
-    const auto in_v = horner(w, f64(0xBFC5555555555019, -0.16666666666662946), f64(0x3FBFFFFFFFFFF778, 0.12499999999996969),
-                             f64(0xBFA9999999D359A6, -0.050000000026261746), f64(0x3F8C71C71CB27AB6, 0.013888888896244605),
-                             f64(0xBF6861848A3AC063, -0.0029761875792573707), f64(0x3F41110FFD4FA97F, 0.0005208328317370252),
-                             f64(0xBF144103D0FA9378, -7.726274292936357e-05), f64(0x3EE4D516D3DB4588, 9.933652673240934e-06));
-    const auto in_v2 = horner(w, f64(0x3F9999999B2E0D33, 0.025000000091961638), f64(0xBF955550D7299C73, -0.020833266384582005),
-                              f64(0x3F824921081BABF0, 0.008928545055331555), f64(0xBF6561B8921C8BC7, -0.0026100735566542996),
-                              f64(0x3F430107685FC1EF, 0.0005799566431488582));
-    const auto in_v3 =
-        horner(w, f64(0xBF6898A47706CFA8, -0.0030024730878838897), f64(0x3F65766603986421, 0.0026199333631322795));
+    const auto in_w = horner(w, erf::cdfnorm_A53_w);
+    const auto in_v = horner(w, erf::cdfnorm_A53_v);
+    const auto in_v2 = horner(w, erf::cdfnorm_A53_v2);
+    const auto in_v3 = horner(w, erf::cdfnorm_A53_v3);
     return fma(fma(fma(in_v3, v, in_v2), v, in_v), v, in_w * w);
   }
   static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {

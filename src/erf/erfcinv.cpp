@@ -10,7 +10,7 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
-// Of any argument; the refused lanes hold 1, numbers next to 0 and 2, and those outside of the domain.
+// The function of any argument; the refused lanes hold 1, numbers next to 0 and 2, and those outside of the domain.
 template <class T> LumStatus FinishRefused(T x, T& result) {
   if (x != x) {
     result = x * x;
@@ -22,7 +22,7 @@ template <class T> LumStatus FinishRefused(T x, T& result) {
     result = 0;
   } else {
     const double q = x;
-    result = static_cast<T>(q < 1 ? ErfcInvOfTail(q).hi : -ErfcInvOfTail(2 - q).hi);
+    result = static_cast<T>(q < 1 ? ErfcInvOfTail(q).head : -ErfcInvOfTail(2 - q).head);
   }
   return lumStsOk;
 }
@@ -42,8 +42,7 @@ using A24_32f = Float<9>;
 
 template <int terms, bool has_tail> struct Double : Kernel<Lum64f> {
   static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
-    const auto [q, refused] =
-        ClampTo(f64(0x3DC0000000000000, 2.9103830456733704e-11), 0x1.fffffffffffffp-1, min(all(2.0) - x, x));
+    const auto [q, refused] = ClampTo(0x1p-35, 0x1.fffffffffffffp-1, min(all(2.0) - x, x));
     const auto e = Expand<false>(min(all(1.0) - q, q), nlt(q, all(0.5)), 0x1p-53);
     return {xor_sign(all(1.0) - x, SumOf<terms, has_tail>(e.y, e.tail, negate(e.d))), refused};
   }

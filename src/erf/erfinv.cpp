@@ -6,11 +6,12 @@
 #include "erf/inverse_rows.h"
 #include "frame/kernel_frame.h"
 #include "frame/kernels.h"
+#include "frame/numbers.h"
 
 namespace lum::inline LUM_LAYER {
 namespace {
 
-// Of any argument; the refused lanes hold numbers next to 0, the ends of the domain, and those outside of it.
+// The function of any argument; the refused lanes hold numbers next to 0, the ends of the domain, and those outside of it.
 template <class T> LumStatus FinishRefused(T x, T& result) {
   if (x != x) {
     result = x * x;
@@ -22,8 +23,7 @@ template <class T> LumStatus FinishRefused(T x, T& result) {
     result = x;
   } else {  // the next term of the series is far below the last place
     const double a = x;
-    result = static_cast<T>(
-        scalar_fma(a, f64(0x3FEC5BF891B4EF6B, 0.886226925452758), a * f64(0xBC8618F13EB7CA89, -3.8332932499128993e-17)));
+    result = static_cast<T>(scalar_fma(a, numbers::half_root_pi_parts<Lum64f>[0], a * numbers::half_root_pi_parts<Lum64f>[1]));
   }
   return lumStsOk;
 }
@@ -43,7 +43,7 @@ using A24_32f = Float<9>;
 
 template <int terms, bool has_tail> struct Double : Kernel<Lum64f> {
   static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
-    const auto [a, refused] = ClampTo(f64(0x3DC0000000000000, 2.9103830456733704e-11), 0x1.fffffffffffffp-1, abs(x));
+    const auto [a, refused] = ClampTo(0x1p-35, 0x1.fffffffffffffp-1, abs(x));
     const auto e = Expand<true>(min(all(1.0) - a, a), lt(a, all(0.5)), 0x1p-53);
     return {or_sign(x, SumOf<terms, has_tail>(e.y, e.tail, e.d)), refused};
   }

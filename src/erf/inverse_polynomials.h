@@ -5,6 +5,7 @@
 #pragma once
 
 #include "frame/kernel_frame.h"
+#include "frame/numbers.h"
 #include "tables/table.h"
 
 namespace lum::inline LUM_LAYER {
@@ -25,7 +26,7 @@ template <> struct ErrorPolynomials<9> {
   static constexpr auto table = table32({
 #include "tables/generated/erfcinv_float_9.inc"
   });
-  static constexpr auto centre_rest = f32(0xB2E4B109, -2.6623199644859596e-08);  // sqrt(pi)/2 less its binary32 number
+  static constexpr auto centre_rest = numbers::half_root_pi_parts<Lum32f>[1];  // sqrt(pi)/2 less its binary32 number
 };
 
 // The degree of the exact tables: their first line is what u is counted from, so chosen that the constant terms need no second
@@ -44,7 +45,7 @@ template <class C, int line, int last, Integer I> LUM_INLINE Vec<Lum32f> FromLin
 
 template <class C, int degree> LUM_INLINE Vec<Lum32f> EvaluatePolynomial(Vec<Lum32f> q, Vec<Lum32f> s, Mask<Lum32f> is_centre) {
   const auto index = shift_right<23>(bits(q));
-  const auto m = getmant<0>(q);
+  const auto m = getmant<significand::from_1_to_2>(q);
   const auto b = select(is_centre, s, all(1.0f));
   if constexpr (degree == exact_degree) {
     const auto v = select(is_centre, s * s, m - Line<C, 0>(index));

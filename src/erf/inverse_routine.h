@@ -6,43 +6,43 @@
 #include <limits>
 
 #include "explog/logarithm_routine.h"
-#include "frame/double_word.h"
 #include "frame/literals.h"
 #include "frame/scalar_fma.h"
+#include "frame/two_parts.h"
 #include "frame/types.h"
 #include "tables/table.h"
 
 namespace lum::inline LUM_LAYER {
 
 // -ln q for 0 < q < 1/2.
-inline DoubleWord MinusLog(double q) {
+inline TwoParts<double> MinusLog(double q) {
   const auto [hi, lo, v, w] = SplitLn(q);
   const double t = v + w;
   const double tail =
       t * t *
       (-1.0 / 2 +
        t * (1.0 / 3 + t * (-1.0 / 4 + t * (1.0 / 5 + t * (-1.0 / 6 + t * (1.0 / 7 + t * (-1.0 / 8 + t * (1.0 / 9))))))));
-  const DoubleWord head = FastSum(hi, v);  // the first term is exact, and the larger
-  const DoubleWord sum = FastSum(head.hi, head.lo + (lo + (w + tail)));
-  return {-sum.hi, -sum.lo};
+  const TwoParts<double> head = fast_two_sum(hi, v);  // the first term is exact, and the larger
+  const TwoParts<double> sum = fast_two_sum(head.head, head.tail + (lo + (w + tail)));
+  return {-sum.head, -sum.tail};
 }
 
 // erfcinv q for 0 < q < 2^-22. With t = sqrt(-ln q) it is t less a correction of some hundredths of t, which has polynomials on
 // pieces of the t axis.
-inline DoubleWord ErfcInvOfTail(double q) {
+inline TwoParts<double> ErfcInvOfTail(double q) {
   static constexpr auto table = table64({
 #include "tables/generated/erfcinv_tail.inc"
   });
   constexpr size_t row_size = 17;
-  const DoubleWord square = MinusLog(q);
-  const double root = __builtin_sqrt(square.hi);
-  const double rest = (scalar_fma(-root, root, square.hi) + square.lo) / (2 * root);
+  const TwoParts<double> square = MinusLog(q);
+  const double root = __builtin_sqrt(square.head);
+  const double rest = (scalar_fma(-root, root, square.head) + square.tail) / (2 * root);
   const double* row = table;
   while (root > row[0] && row + 2 * row_size <= table + table.size) row += row_size;
   const double u = root - row[1];
   double correction = row[row_size - 1];
   for (size_t i = row_size - 2; i >= 2; --i) correction = correction * u + row[i];
-  return FastSum(root, rest - correction);
+  return fast_two_sum(root, rest - correction);
 }
 
 // An argument at an end of the domain, and one outside of it.

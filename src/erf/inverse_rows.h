@@ -6,6 +6,7 @@
 #pragma once
 
 #include "frame/kernel_frame.h"
+#include "frame/numbers.h"
 #include "tables/table.h"
 
 namespace lum::inline LUM_LAYER {
@@ -49,35 +50,33 @@ LUM_INLINE Clamped ClampTo(double low, double high, Vec<Lum64f> t) {
   return {value, ne(value, t)};
 }
 
-// The sum of the first terms of the series, over d. The constants of S are c<k><j>, of d^k y0^(2 j).
+// The sum of the first terms of the series, over d. S::c<k> is that of d^k, for k from 3 on
+// an array of the coefficients of y0^0, y0^2, ...
 template <class S, int terms> LUM_INLINE Vec<Lum64f> SeriesOf(Vec<Lum64f> y, Vec<Lum64f> d) {
   static_assert(terms == 3 || terms == 6 || terms == 7);
   const auto z = y * y;
-  const auto k2 = all(S::c20) * y;
-  const auto k3 = horner(z, S::c30, S::c31);
+  const auto k2 = all(S::c2) * y;
+  const auto k3 = horner(z, S::c3);
   if constexpr (terms == 3) {
-    return fma(fma(k3, d, k2), d, all(S::c10));
+    return fma(fma(k3, d, k2), d, all(S::c1));
   } else {
-    const auto k4 = horner(z, S::c40, S::c41) * y;
-    const auto k5 = horner(z, S::c50, S::c51, S::c52);
-    const auto k6 = horner(z, S::c60, S::c61, S::c62) * y;
+    const auto k4 = horner(z, S::c4) * y;
+    const auto k5 = horner(z, S::c5);
+    const auto k6 = horner(z, S::c6) * y;
     auto s = k6;
-    if constexpr (terms == 7) s = fma(horner(z, S::c70, S::c71, S::c72, S::c73), d, k6);
-    return fma(fma(fma(fma(fma(s, d, k5), d, k4), d, k3), d, k2), d, all(S::c10));
+    if constexpr (terms == 7) s = fma(horner(z, S::c7), d, k6);
+    return fma(fma(fma(fma(fma(s, d, k5), d, k4), d, k3), d, k2), d, all(S::c1));
   }
 }
 
-// That of erfinv x, and with d negative of erfcinv q.
+// The series of erfinv x, and with d negative of erfcinv q.
 struct ErrorSeries {
-  static constexpr auto c10 = f64(0x3FEC5BF891B4EF6B, 0.886226925452758), c20 = f64(0x3FE921FB54442D18, 0.7853981633974483);
-  static constexpr auto c30 = f64(0x3FCDB29FB2FEE5E4, 0.2320136665346545), c31 = f64(0x3FEDB29FB2FEE5E4, 0.928054666138618);
-  static constexpr auto c40 = f64(0x3FE707719608A6D9, 0.7196586542460991), c41 = f64(0x3FF3BD3CC9BE45DE, 1.2337005501361697);
-  static constexpr auto c50 = f64(0x3FC053C2C0AB91C5, 0.12755617530559796), c51 = f64(0x3FFAD2BFF36301C4, 1.676452589730716),
-                        c52 = f64(0x3FFBFD4DDC93D552, 1.7493418327624863);
-  static constexpr auto c60 = f64(0x3FE5E06C2F4E585C, 0.683645336527444), c61 = f64(0x400C13F1A78CDE41, 3.509738263117271),
-                        c62 = f64(0x4004ABBCE625BE53, 2.583856390024985);
-  static constexpr auto c70 = f64(0x3FB62847C47DDA48, 0.08655212924154754), c71 = f64(0x4002F92B50110F12, 2.371664643784137),
-                        c72 = f64(0x401BDF0398ECEBC4, 6.967787160358913), c73 = f64(0x400F6773D3F8ECCE, 3.925513893159951);
+  static constexpr auto c1 = numbers::half_root_pi_parts<Lum64f>[0], c2 = numbers::quarter_pi<Lum64f>;
+  static constexpr auto& c3 = numbers::erfinv_series_3<Lum64f>;
+  static constexpr auto& c4 = numbers::erfinv_series_4<Lum64f>;
+  static constexpr auto& c5 = numbers::erfinv_series_5<Lum64f>;
+  static constexpr auto& c6 = numbers::erfinv_series_6<Lum64f>;
+  static constexpr auto& c7 = numbers::erfinv_series_7<Lum64f>;
 };
 
 // y (1 + tail) and the series.

@@ -4,19 +4,20 @@
 #pragma once
 
 #include "erf/rows.h"
+#include "frame/lane_format.h"
 
 namespace lum::inline LUM_LAYER {
 
-template <class T> struct PackedFormat;
-template <> struct PackedFormat<Lum32f> {
+template <class T> struct PackedRow;
+template <> struct PackedRow<Lum32f> {
   static constexpr int tail_shift = 26;
-  static constexpr uint32_t exponent_field = 0x7F800000, slope_field = 0x03FFFFFF;
-  static constexpr auto tail_base = f32(0x3C800000, 0.015625);  // its last place is a tail's unit
+  static constexpr uint32_t slope_field = 0x03FFFFFF;
+  static constexpr auto tail_base = 0x1p-6f;  // its last place is a tail's unit
 };
-template <> struct PackedFormat<Lum64f> {
+template <> struct PackedRow<Lum64f> {
   static constexpr int tail_shift = 55;
-  static constexpr uint64_t exponent_field = 0x7FF0000000000000, slope_field = 0x007FFFFFFFFFFFFF;
-  static constexpr auto tail_base = f64(0x3F60000000000000, 0.001953125);
+  static constexpr uint64_t slope_field = 0x007FFFFFFFFFFFFF;
+  static constexpr auto tail_base = 0x1p-9;
 };
 
 template <class T> struct Unpacked {
@@ -24,9 +25,9 @@ template <class T> struct Unpacked {
   Vec<T> tail;  // relative to value
 };
 template <class T> LUM_INLINE Unpacked<T> Unpack(RowOfTwo<T> row) {
-  using F = PackedFormat<T>;
+  using F = PackedRow<T>;
   const auto word0 = bits(row.first), word1 = bits(row.second);
-  const auto slope = as_float((word1 & all(F::slope_field)) + (word0 & all(F::exponent_field)));
+  const auto slope = as_float((word1 & all(F::slope_field)) + (word0 & all(lane::Format<T>::infinity)));
   const auto units = shift_right<F::tail_shift>(word1) | all(std::bit_cast<UnsignedOf<T>>(F::tail_base));
   return {row.first, slope, as_float(units) - all(F::tail_base)};
 }

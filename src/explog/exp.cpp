@@ -5,19 +5,20 @@
 #include <cstdint>
 
 #include "explog/exp_ends.h"
-#include "explog/exp_reduction.h"
 #include "explog/exp_routine.h"
+#include "explog/polynomials.h"
 #include "frame/kernel_frame.h"
 #include "frame/kernels.h"
+#include "frame/numbers.h"
 #include "tables/table.h"
 
 namespace lum::inline LUM_LAYER {
 namespace {
 
 template <class T> struct ExpConstants;
-template <> struct ExpConstants<Lum32f> : ExpReduction<Lum32f> {
-  static constexpr auto shifter = f32(0x49400000, 786432.0);  // 1.5 * 2^19: the last bit is worth 1/16
-  static constexpr auto threshold = f32(0x42AEAC4F, 87.33654022216797);
+template <> struct ExpConstants<Lum32f> {
+  static constexpr auto shifter = rounding_shifter<Lum32f>(4);
+  static constexpr auto threshold = -ExpLimits<Lum32f>::denormal;
   static constexpr auto head = table32({
 #include "tables/generated/exp2_16_head.inc"
   });
@@ -25,9 +26,9 @@ template <> struct ExpConstants<Lum32f> : ExpReduction<Lum32f> {
 #include "tables/generated/exp2_16_tail.inc"
   });
 };
-template <> struct ExpConstants<Lum64f> : ExpReduction<Lum64f> {
-  // 1.5 * 2^49, the last bit worth 1/8. The low bits leave the index bits at zero and are subtracted out again.
-  static constexpr auto shifter = f64(0x4308000000003FF0, 844424930134014.0);
+template <> struct ExpConstants<Lum64f> {
+  // The low bits leave the index bits at zero and are subtracted out again.
+  static constexpr auto shifter = rounding_shifter<Lum64f>(3) + 0x3FF0p-3;
   static constexpr auto threshold = f64(0x40861DA04CBAFE44, 707.7032713517042);
   static constexpr auto head = table64({
 #include "tables/generated/exp2_8_head.inc"
@@ -45,28 +46,15 @@ template <class T> struct Reduced {
 
 template <int ln2_parts, class T> LUM_INLINE Reduced<T> Reduce(Vec<T> x) {
   using C = ExpConstants<T>;
-  const auto t = fma_floor(x, all(C::log2e), all(C::shifter));
+  const auto t = fma_floor(x, all(numbers::log2_e<T>), all(C::shifter));
   const auto n = t - all(C::shifter);  // exact
-  auto r = fnma(n, all(C::ln2_hi), x);
-  if constexpr (ln2_parts == 2) r = fnma(n, all(C::ln2_lo), r);
+  auto r = fnma(n, all(numbers::ln2<T>), x);
+  if constexpr (ln2_parts == 2) r = fnma(n, all(numbers::ln2_tail<T>), r);
   return {n, r, bits(t), le(all(C::threshold), abs(x))};
 }
 
 template <class T> LUM_INLINE Vec<T> Head(const Reduced<T>& a) { return permute(load<T>(ExpConstants<T>::head), a.j); }
 template <class T> LUM_INLINE Vec<T> Tail(const Reduced<T>& a) { return permute(load<T>(ExpConstants<T>::tail), a.j); }
-
-// (e^r - 1 - r) / r^2 in binary32, |error| of e^r below 2^-27.
-LUM_INLINE Vec<Lum32f> QuadraticPart(Vec<Lum32f> r) {
-  return horner(r, f32(0x3EFFFA27, 0.4999553859233856), f32(0x3E2D77F1, 0.1694028526544571));
-}
-
-// (e^r - 1) / r in binary64, to the accuracy of A50 and A53.
-LUM_INLINE Vec<Lum64f> LongPolynomial(Vec<Lum64f> r) {
-  return horner(r, f64(0x3FF0000000000010, 1.0000000000000036), f64(0x3FDFFFFFFFFFC27C, 0.4999999999991258),
-                f64(0x3FC555555581ECF0, 0.1666666667477794), f64(0x3FA5555535A28874, 0.04166666297648272),
-                f64(0x3F81111D488F67BE, 0.008333424355374205), f64(0x3F56BC377AFAB2E0, 0.0013876478005087553),
-                f64(0x3F2B28056EA3D8B9, 0.00020718637762912553));
-}
 
 // The scale factor of a vanishing result would be denormal.
 template <class T> struct ExpKernel : Kernel<T> {
@@ -94,7 +82,7 @@ template <class T> struct ByDouble : ExpKernel<T> {
 struct A11_32f : Float {
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
     const auto a = Reduce<1>(x);
-    const auto p = horner(a.r, 1.0f, f32(0x3F82CC37, 1.0218571424484253));
+    const auto p = horner(a.r, explog::exp_A11);
     return {p * scalef_normal(Head(a), a.n), a.refused};
   }
 };
@@ -102,7 +90,7 @@ struct A11_32f : Float {
 struct A21_32f : Float {
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
     const auto a = Reduce<2>(x);
-    const auto u = fma(a.r * a.r, QuadraticPart(a.r), a.r);
+    const auto u = fma(a.r * a.r, horner(a.r, explog::exp_A21), a.r);
     const auto s = scalef_normal(Head(a), a.n);
     return {fma(u, s, s), a.refused};
   }
@@ -111,7 +99,7 @@ struct A21_32f : Float {
 struct A24_32f : ByDouble<Lum32f> {
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
     const auto a = Reduce<2>(x);
-    const auto u = fma(QuadraticPart(a.r), a.r * a.r, Tail(a) + a.r);
+    const auto u = fma(horner(a.r, explog::exp_A21), a.r * a.r, Tail(a) + a.r);
     const auto s = scalef_normal(Head(a), a.n);
     return {fma(u, s, s), a.refused};
   }
@@ -124,8 +112,7 @@ struct Double : ByDouble<Lum64f> {
 struct A26_64f : Double {
   static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
     const auto a = Reduce<1>(x);
-    const auto p = horner(a.r, f64(0x3FEFFFFFE7109A30, 0.9999999535546689), f64(0x3FE000090EE70BF8, 0.5000043192925423),
-                          f64(0x3FC550BF0B8C5804, 0.16652668060186226), f64(0x3FA646AE66C82C5D, 0.04350800518667406));
+    const auto p = horner(a.r, explog::exp_A26);
     const auto head = Head(a);
     return {scalef_normal(fma(p, head * a.r, head), a.n), a.refused};
   }
@@ -135,7 +122,7 @@ struct A50_64f : Double {
   static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
     const auto a = Reduce<2>(x);
     const auto head = Head(a);
-    return {scalef_normal(fma(LongPolynomial(a.r), head * a.r, head), a.n), a.refused};
+    return {scalef_normal(fma(horner(a.r, explog::exp_A50), head * a.r, head), a.n), a.refused};
   }
 };
 
@@ -143,7 +130,7 @@ struct A53_64f : Double {
   static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
     const auto a = Reduce<2>(x);
     const auto head = Head(a);
-    const auto u = fma(LongPolynomial(a.r), a.r, Tail(a));
+    const auto u = fma(horner(a.r, explog::exp_A50), a.r, Tail(a));
     return {scalef_normal(fma(u, head, head), a.n), a.refused};
   }
 };

@@ -50,7 +50,7 @@ LUM_INLINE Vec<Lum64f> ExpAtEnds(Vec<Lum64f> x) {
   const auto counted = [](Vec<Lum64f> v, double addend) __attribute__((always_inline)) {
     return bits(v + all(addend)) - bits(all(addend));
   };
-  const auto w = s * all(f64(0x41F8000000000000, 0x1.8p32));
+  const auto w = s * all(0x1.8p32);
   const auto hi = (w + s) - w;
   const auto lo = (s - hi) + ((b - s) + up);
   const auto in_two_parts = counted(hi, unit) + counted(lo, 1.5 * unit);

@@ -8,8 +8,10 @@
 #include <limits>
 #include <type_traits>
 
+#include "explog/polynomials.h"
 #include "frame/constant.h"
 #include "frame/literals.h"
+#include "frame/numbers.h"
 #include "frame/types.h"
 #include "tables/table.h"
 
@@ -50,17 +52,11 @@ template <class T> bool ExpIsSpecial(T x, T& result, LumStatus& status) {
 template <class V> struct ExpFloatParts { V shifted, m, p; };
 template <class V> LUM_INLINE ExpFloatParts<V> ExpFloatReduced(V x) {
   const auto c = [](float value) { return Constant<V>(value); };
-  constexpr auto shifter = f32(0x4B400000, 12582912.0);
-  const V t = x * c(f32(0x3FB8AA3B, 1.4426950216293335)) + c(shifter);
+  constexpr auto shifter = rounding_shifter<Lum32f>();
+  const V t = x * c(numbers::log2_e<Lum32f>) + c(shifter);
   const V m = t - c(shifter);
-  const V r = (x + m * c(f32(0xBF317200, -0.693145751953125))) + m * c(f32(0xB5BFBE8E, -1.428606765330187e-06));
-  V p = c(f32(0x3C0950EF, 0.008381112478673458));
-  for (const float coefficient :
-       {f32(0x3D2BB1B6, 0.041917525231838226), f32(0x3E2AA9C6, 0.166663259267807), f32(0x3EFFFE85, 0.49998870491981506),
-        f32(0x3F800001, 1.0000001192092896), f32(0x3F800001, 1.0000001192092896)}) {
-    p = p * r + c(coefficient);
-  }
-  return {t, m, p};
+  const V r = (x + m * c(-numbers::ln2_short<Lum32f>)) + m * c(-numbers::ln2_short_tail<Lum32f>);
+  return {t, m, unfused_horner(r, explog::exp_routine_32f)};
 }
 
 // e^x in binary32 arithmetic.
@@ -71,7 +67,7 @@ inline LumStatus ExpFloatRoutine(Lum32f x, Lum32f& result) {
   const uint32_t exponent = std::bit_cast<uint32_t>(shifted) << 23;  // m in the place of the exponent
   if (x < ExpLimits<Lum32f>::denormal) {
     const auto scale = std::bit_cast<float>((exponent + 0x5D800000u) & 0x7F800000u);  // 2^(m + 60)
-    result = p * scale * f32(0x21800000, 0x1p-60);
+    result = p * scale * 0x1p-60f;
     return lumStsUnderflow;
   }
   if (m < 128) {
@@ -90,9 +86,9 @@ inline double ExpScaledToDenormal(double head, double p, int64_t e) {
   const double a = p * scale;
   const double b = head * scale;
   const double s = b + a;
-  constexpr auto down = f64(0x3C30000000000000, 0x1p-60);
+  constexpr double down = 0x1p-60;
   if (field <= 0x32) return s * down;
-  const double w = s * f64(0x41F8000000000000, 0x1.8p32);
+  const double w = s * 0x1.8p32;
   const double hi = (w + s) - w;
   const double lo = (s - hi) + ((b - s) + a);
   return hi * down + lo * down;
@@ -113,17 +109,11 @@ inline constexpr auto exp2_64 = table64({
 template <class V> struct ExpDoubleParts { V shifted, k, u; };
 template <class V> LUM_INLINE ExpDoubleParts<V> ExpDoubleReduced(V x) {
   const auto c = [](double value) { return Constant<V>(value); };
-  constexpr auto shifter = f64(0x4338000000000000, 0x1.8p52);
-  const V t = x * c(f64(0x40571547652B82FE, 92.33248261689366)) + c(shifter);
+  constexpr auto shifter = rounding_shifter<Lum64f>();
+  const V t = x * c(64 * numbers::log2_e<Lum64f>) + c(shifter);
   const V k = t - c(shifter);
-  const V r =
-      (x + k * c(f64(0xBF862E42FEFA0000, -0.010830424696223417))) + k * c(f64(0xBD1CF79ABC9E3B3A, -2.572804622327669e-14));
-  V q = c(f64(0x3F56C16A1C2A3FFD, 0.0013888870459233254));
-  for (const double coefficient : {f64(0x3F8111123AAF20D3, 0.008333341995140497), f64(0x3FA5555555558FCC, 0.04166666666677052),
-                                   f64(0x3FC55555555548F8, 0.1666666666665788), 0.5}) {
-    q = c(coefficient) + r * q;
-  }
-  return {t, k, r + r * r * q};
+  const V r = (x + k * c(-numbers::ln2_short<Lum64f> / 64)) + k * c(-numbers::ln2_short_tail<Lum64f> / 64);
+  return {t, k, r + r * r * unfused_horner(r, explog::exp_routine_64f)};
 }
 
 // e^x in binary64 arithmetic, rounded to T at the end.

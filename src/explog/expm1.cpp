@@ -5,10 +5,11 @@
 // that -0 gives -0. In 32f A11 and A21 and in 64f A26 a NaN passes through.
 #include <cstdint>
 
-#include "explog/exp_reduction.h"
 #include "explog/exp_routine.h"
+#include "explog/polynomials.h"
 #include "frame/kernel_frame.h"
 #include "frame/kernels.h"
+#include "frame/numbers.h"
 #include "tables/table.h"
 
 namespace lum::inline LUM_LAYER {
@@ -17,7 +18,7 @@ namespace {
 // n has N = entries steps a unit.
 template <class T, int entries> struct Grid;
 template <> struct Grid<Lum32f, 32> {
-  static constexpr auto shifter = f32(0x48C00000, 393216.0);  // 1.5 * 2^18: the last bit is worth 1/32
+  static constexpr auto shifter = rounding_shifter<Lum32f>(5);
   static constexpr auto head = table32({
 #include "tables/generated/exp2_32_head.inc"
   });
@@ -26,7 +27,7 @@ template <> struct Grid<Lum32f, 32> {
   });
 };
 template <> struct Grid<Lum32f, 16> {
-  static constexpr auto shifter = f32(0x49400000, 786432.0);
+  static constexpr auto shifter = rounding_shifter<Lum32f>(4);
   static constexpr auto head = table32({
 #include "tables/generated/exp2_16_head.inc"
   });
@@ -35,8 +36,8 @@ template <> struct Grid<Lum32f, 16> {
   });
 };
 template <> struct Grid<Lum64f, 16> {
-  // 1.5 * 2^48; the low bits leave the index bits at zero and are subtracted out again.
-  static constexpr auto shifter = f64(0x42F8000000003FF0, 422212465067007.0);
+  // The low bits leave the index bits at zero and are subtracted out again.
+  static constexpr auto shifter = rounding_shifter<Lum64f>(4) + 0x3FF0p-4;
   static constexpr auto head = table64({
 #include "tables/generated/exp2_double_16_head.inc"
   });
@@ -46,15 +47,15 @@ template <> struct Grid<Lum64f, 16> {
 };
 
 template <class T> struct Expm1Constants;
-template <> struct Expm1Constants<Lum32f> : ExpReduction<Lum32f> {
+template <> struct Expm1Constants<Lum32f> {
   static constexpr uint32_t clamp = 0xBFFFFFFF;
   static constexpr auto threshold = f32(0x42AD496B, 86.64339447021484);
-  static constexpr auto lowest_n = f32(0xC2800000, -64.0);
+  static constexpr auto lowest_n = -64.0f;
 };
-template <> struct Expm1Constants<Lum64f> : ExpReduction<Lum64f> {
+template <> struct Expm1Constants<Lum64f> {
   static constexpr uint64_t clamp = 0xBFFFFFFFFFFFFFFF;
   static constexpr auto threshold = f64(0x40861DA04CBAFE44, 707.7032713517042);
-  static constexpr auto lowest_n = f64(0xC060000000000000, -128.0);
+  static constexpr auto lowest_n = -128.0;
 };
 
 // x = n ln 2 + r + lo. The clamp changes no reduced argument; that of a large negative x, NaN for -infinity, it makes a finite
@@ -66,12 +67,12 @@ template <class T> struct Reduced {
 template <int entries, int ln2_parts, class T> LUM_INLINE Reduced<T> Reduce(Vec<T> x) {
   using C = Expm1Constants<T>;
   const auto shifter = all(Grid<T, entries>::shifter);
-  const auto t = fma(x, all(C::log2e), shifter);
+  const auto t = fma(x, all(numbers::log2_e<T>), shifter);
   const auto n = t - shifter;
-  const auto r0 = fnma(n, all(C::ln2_hi), x);
+  const auto r0 = fnma(n, all(numbers::ln2<T>), x);
   if constexpr (ln2_parts == 1) return {n, r0 & all(C::clamp), r0, bits(t)};
-  const auto r = fnma(n, all(C::ln2_lo), r0);
-  const auto lo = fnma(n, all(C::ln2_lo), r0 - r);
+  const auto r = fnma(n, all(numbers::ln2_tail<T>), r0);
+  const auto lo = fnma(n, all(numbers::ln2_tail<T>), r0 - r);
   return {n, r & all(C::clamp), lo & all(C::clamp), bits(t)};
 }
 
@@ -116,7 +117,7 @@ template <class T, class Exp> LumStatus LaneRoutineBy(Exp exp, T x, T& result) {
 struct A11_32f : Kernel<Lum32f> {
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
     const auto a = Reduce<32, 1>(x);
-    const auto q = fma(a.r * a.r, all(f32(0x3F000148, 0.5000195503234863)), a.r);
+    const auto q = fma(a.r * a.r, horner(a.r, explog::expm1_A11), a.r);
     return {Join(x, scalef(Lookup(Grid<Lum32f, 32>::head, a.j), a.n), q), AboveThreshold(x)};
   }
   static LumStatus LaneRoutine(Lum32f x, Lum32f& result) { return LaneRoutineBy(ExpFloatRoutine, x, result); }
@@ -126,7 +127,7 @@ struct A21_32f : Kernel<Lum32f> {
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
     using G = Grid<Lum32f, 32>;
     const auto a = Reduce<32, 2>(x);
-    const auto p = horner(a.r, f32(0x3F0000F6, 0.5000146627426147), f32(0x3E2AABF3, 0.16667155921459198));
+    const auto p = horner(a.r, explog::expm1_A21);
     const auto q = fma(a.r * a.r, p, Lookup(G::tail, a.j)) + a.r;
     return {Join(x, scalef(Lookup(G::head, a.j), a.n), q), AboveThreshold(x)};
   }
@@ -137,7 +138,7 @@ struct A24_32f : Kernel<Lum32f> {
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
     using G = Grid<Lum32f, 16>;
     const auto a = Reduce<16, 2>(x);
-    const auto p = horner(a.r, 0.5f, f32(0x3E2AAEC4, 0.16668230295181274), f32(0x3D2AAEC4, 0.041670575737953186));
+    const auto p = horner(a.r, explog::expm1_A24);
     const auto s = LowerBoundedScale(Lookup(G::head, a.j), a.n);
     return {JoinCompensated(x, a, Lookup(G::tail, a.j), s, p), AboveThresholdOrNan(x)};
   }
@@ -152,8 +153,8 @@ struct Double : Kernel<Lum64f> {
 struct A26_64f : Double {
   static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
     const auto a = Reduce<16, 1>(x);
-    const auto p2 = horner(a.r, f64(0x3FDFFFFFFE5BC214, 0.49999999847116894), f64(0x3FC55555541D276C, 0.16666666609881575));
-    const auto p4 = horner(a.r, f64(0x3FA555C2AABA6423, 0.04166992506106506), f64(0x3F811168888FAD60, 0.008333985011595046));
+    const auto p2 = horner(a.r, part<0, 1>(explog::expm1_A26));
+    const auto p4 = horner(a.r, part<2, 3>(explog::expm1_A26));
     const auto r2 = a.r * a.r;
     const auto q = fma(r2, fma(r2, p4, p2), a.r);
     return {Join(x, scalef(Lookup(G::head, a.j), a.n), q), AboveThreshold(x)};
@@ -163,9 +164,9 @@ struct A26_64f : Double {
 struct A50_64f : Double {
   static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
     const auto a = Reduce<16, 2>(x);
-    const auto p2 = horner(a.r, f64(0x3FE00000000000A2, 0.500000000000018), f64(0x3FC5555555555656, 0.1666666666666738));
-    const auto p4 = horner(a.r, f64(0x3FA5555554AD3D06, 0.04166666659022593), f64(0x3F81111110865214, 0.008333333317559734));
-    const auto p6 = horner(a.r, f64(0x3F56C1C38E164A2F, 0.001388970348078399), f64(0x3F2A020410303D8A, 0.00019842433548021245));
+    const auto p2 = horner(a.r, part<0, 1>(explog::expm1_A50));
+    const auto p4 = horner(a.r, part<2, 3>(explog::expm1_A50));
+    const auto p6 = horner(a.r, part<4, 5>(explog::expm1_A50));
     const auto r2 = a.r * a.r;
     const auto p = fma(r2, fma(r2, p6, p4), p2);
     const auto q = fma(r2, p, Lookup(G::tail, a.j)) + a.r;
@@ -176,12 +177,11 @@ struct A50_64f : Double {
 struct A53_64f : Double {
   static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
     const auto a = Reduce<16, 2>(x);
-    const auto p3 = horner(a.r, f64(0x3FC55555555555F9, 0.1666666666666712), f64(0x3FA555555555560A, 0.04166666666666792));
-    const auto p5 = horner(a.r, f64(0x3F81111110A65711, 0.008333333321199928), f64(0x3F56C16C16304601, 0.0013888888868262008));
-    const auto p7 =
-        horner(a.r, f64(0x3F2A01F8F4B129C3, 0.00019842304240775933), f64(0x3EFA01F8F4BE0BB2, 2.4802880303830418e-05));
+    const auto p3 = horner(a.r, part<1, 2>(explog::expm1_A53));
+    const auto p5 = horner(a.r, part<3, 4>(explog::expm1_A53));
+    const auto p7 = horner(a.r, part<5, 6>(explog::expm1_A53));
     const auto r2 = a.r * a.r;
-    const auto p = fma(fma(r2, fma(r2, p7, p5), p3), a.r, all(0.5));
+    const auto p = fma(fma(r2, fma(r2, p7, p5), p3), a.r, all(explog::expm1_A53.c[0]));
     const auto s = LowerBoundedScale(Lookup(G::head, a.j), a.n);
     return {JoinCompensated(x, a, Lookup(G::tail, a.j), s, p), AboveThresholdOrNan(x)};
   }

@@ -7,34 +7,21 @@
 #include "explog/logarithm_routine.h"
 #include "frame/kernel_frame.h"
 #include "frame/kernels.h"
+#include "frame/numbers.h"
 #include "tables/table.h"
 
 namespace lum::inline LUM_LAYER {
 namespace {
 
-struct Float : Kernel<Lum32f> {
-  static constexpr bool second_is_short = true;
-  static LUM_INLINE Finished<Lum32f> SecondPath(Vec<Lum32f> x, const Lanes<Lum32f>& lanes) {
-    return LogarithmOfSpecial(x, lanes);
-  }
-  static LumStatus LaneRoutine(Lum32f x, Lum32f& result) { return LnRoutine(x, result); }
-};
-struct Double : Kernel<Lum64f> {
-  static constexpr bool second_is_short = true;
-  static LUM_INLINE Finished<Lum64f> SecondPath(Vec<Lum64f> x, const Lanes<Lum64f>& lanes) {
-    return LogarithmOfSpecial(x, lanes);
-  }
-  static LumStatus LaneRoutine(Lum64f x, Lum64f& result) { return LnRoutine(x, result); }
-};
-
-constexpr auto ln2_float = f32(0x3F317218, 0.6931471824645996);
+using Float = LogarithmKernel<Lum32f, LnRoutine<Lum32f>>;
+using Double = LogarithmKernel<Lum64f, LnRoutine<Lum64f>>;
 
 struct A11_32f : Float {
   static constexpr auto columns = by_columns<3>(table32({
 #include "tables/generated/ln_segments_3.inc"
   }));
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
-    return {SegmentLogarithm<3>(x, columns, ln2_float), ZeroInfiniteOrNegative(x)};
+    return {SegmentLogarithm<3>(x, columns, numbers::ln2<Lum32f>), ZeroInfiniteOrNegative(x)};
   }
 };
 
@@ -43,7 +30,7 @@ struct A21_32f : Float {
 #include "tables/generated/ln_segments_4.inc"
   }));
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
-    return {SegmentLogarithm<4>(x, columns, ln2_float), ZeroInfiniteOrNegative(x)};
+    return {SegmentLogarithm<4>(x, columns, numbers::ln2<Lum32f>), ZeroInfiniteOrNegative(x)};
   }
 };
 
@@ -55,27 +42,24 @@ struct A24_32f : Float {
   static constexpr auto half_inverse = by_columns<2>(table32({
 #include "tables/generated/ln_float_16_half_pairs.inc"
   }));
-  static constexpr auto ln2_hi = f32(0x3F317200, 0.693145751953125);
-  static constexpr auto ln2_lo = f32(0x35BFBE8E, 1.428606765330187e-06);
 
   // hi + lo + ln(1 + r), where hi is 0 or larger than r.
   static LUM_INLINE Vec<Lum32f> Join(Vec<Lum32f> hi, Vec<Lum32f> lo, Vec<Lum32f> r) {
     const auto s = hi + r;
     const auto u = r - (s - hi);
-    const auto p = horner(r, f32(0xBEFFFFE5, -0.49999919533729553), f32(0x3EAAAA84, 0.3333321809768677),
-                          f32(0xBE806B6A, -0.25081950426101685), f32(0x3E4DA3BA, 0.20081987977027893));
+    const auto p = horner(r, explog::ln_A24);
     return s + (u + fma(p, r * r, lo));
   }
 
   // By the reciprocal of the significand: for denormal x, and for x so large that 1/x is denormal or zero.
   static LUM_INLINE Vec<Lum32f> SecondLevel(Vec<Lum32f> x) {
-    const auto m = getmant<0xA>(x);
-    const auto c = rndscale<0x48>(rcp14(m));
+    const auto m = getmant<significand::from_half_to_1 | significand::nan_if_negative>(x);
+    const auto c = rndscale<binary_places(4) | quiet>(rcp14(m));
     const auto k = getexp(x) - getexp(c);  // one less only where c was rounded up to 2
     const auto r = fms(c, m, all(1.0f));
     const auto j = shift_right<19>(bits(c));
-    const auto hi = fma(k, all(ln2_hi), permute(load<Lum32f>(half_inverse), j));
-    const auto lo = fma(k, all(ln2_lo), permute(load(half_inverse + 16), j));
+    const auto hi = fma(k, all(numbers::ln2_short<Lum32f>), permute(load<Lum32f>(half_inverse), j));
+    const auto lo = fma(k, all(numbers::ln2_short_tail<Lum32f>), permute(load(half_inverse + 16), j));
     return Join(hi, lo, r);
   }
 
@@ -85,14 +69,14 @@ struct A24_32f : Float {
     const auto e = getexp_normal(c);  // of special lanes another one holds
     const auto r = fms(c, x, all(1.0f));
     const auto j = shift_right<19>(bits(c));
-    const auto hi = fma(e, all(-ln2_hi), permute(load<Lum32f>(inverse), j));
-    const auto lo = fma(e, all(-ln2_lo), permute(load(inverse + 16), j));
+    const auto hi = fma(e, all(-numbers::ln2_short<Lum32f>), permute(load<Lum32f>(inverse), j));
+    const auto lo = fma(e, all(-numbers::ln2_short_tail<Lum32f>), permute(load(inverse + 16), j));
     Lanes<Lum32f> lanes{Join(hi, lo, r), mask_of<Lum32f>(0)};
     // Every refused x has a special c, too.
-    const auto special = fpclass<0xFF>(c);
+    const auto special = fpclass<classes::not_positive_normal>(c);
     if (any(special)) [[unlikely]] {
       lanes.value = select(special, SecondLevel(x), lanes.value);
-      lanes.refused = fpclass<0xDF>(x);
+      lanes.refused = fpclass<classes::not_positive_finite>(x);
     }
     return lanes;
   }

@@ -11,18 +11,27 @@ namespace lum::inline LUM_LAYER {
 
 // Zeros, infinities and negative numbers, of which a logarithm has to report or whose result is special. NaN is not among them:
 // the significand and the exponent of a NaN are NaN and carry it to the result.
-template <Floating T> LUM_INLINE Mask<T> ZeroInfiniteOrNegative(Vec<T> x) { return fpclass<0x5E>(x); }
+template <Floating T> LUM_INLINE Mask<T> ZeroInfiniteOrNegative(Vec<T> x) {
+  return fpclass<classes::zero | classes::infinity | classes::negative>(x);
+}
 
 // The second path of a logarithm whose poles lie at x = 0, as the lane routine has it. Positive finite numbers remain.
 template <Floating T> LUM_INLINE Finished<T> LogarithmOfSpecial(Vec<T> x, const Lanes<T>& lanes) {
-  const auto zero = fpclass<0x06>(x) & lanes.refused, negative = fpclass<0x50>(x) & lanes.refused;
-  const auto itself = fpclass<0x89>(x) & lanes.refused;  // NaN and infinity
+  const auto zero = fpclass<classes::zero>(x) & lanes.refused, negative = fpclass<classes::below_zero>(x) & lanes.refused;
+  const auto itself = fpclass<classes::nan | classes::plus_infinity>(x) & lanes.refused;  // NaN and infinity
   const auto root = select(itself, x, all(T(1)));
   auto value = select(itself, root * root, lanes.value);
   value = select(zero, all(-std::numeric_limits<T>::infinity()), value);
   value = select(negative, all(std::numeric_limits<T>::quiet_NaN()), value);
   return {value, lanes.refused & ~(zero | negative | itself), {.domain = negative, .singularity = zero}};
 }
+
+// What the kernels of Ln and Log10 have beside their vector paths.
+template <class T, LumStatus (*routine)(T, T&)> struct LogarithmKernel : Kernel<T> {
+  static constexpr bool second_is_short = true;
+  static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) { return LogarithmOfSpecial(x, lanes); }
+  static LumStatus LaneRoutine(T x, T& result) { return routine(x, result); }
+};
 
 // log(m) / r of m = 1 + r in [3/4, 3/2), by a polynomial of its own for each of sixteen segments. They have no constant term,
 // so log(1) is +0. The columns hold their coefficients, 16 entries each, the highest power first.
@@ -35,7 +44,7 @@ template <int degree> LUM_INLINE Vec<Lum32f> SegmentPolynomial(Vec<Lum32f> m, Ve
 
 // log(x), to the base of the polynomials and of the logarithm of 2 that is given.
 template <int degree> LUM_INLINE Vec<Lum32f> SegmentLogarithm(Vec<Lum32f> x, const Lum32f* columns, Lum32f log_of_2) {
-  const auto [m, e] = parts<0xB>(x);
+  const auto [m, e] = parts<significand::from_three_quarters | significand::nan_if_negative>(x);
   const auto r = m - all(1.0f);
   const auto k = e - getexp_normal(m);
   return fma(r, SegmentPolynomial<degree>(m, r, columns), k * all(log_of_2));
@@ -47,10 +56,11 @@ struct ReciprocalReduction {
   Vec<uint64_t> j;  // in the low bits: the row of c in the tables of 2^(fraction_bits - 1) rows
 };
 template <int fraction_bits> LUM_INLINE ReciprocalReduction ReduceByReciprocal(Vec<Lum64f> x) {
-  constexpr double shifter = 0x1.8p52 / (1 << fraction_bits);  // the last bit is worth that of c
-  const auto [m, e] = parts<0x8>(x);
-  const auto t = shifted_rcp14<fraction_bits, 0>(m);  // rounds to nearest; the low bits are c, less its top bit the row
-  const auto c = t - all(shifter);                    // in [1/2, 1]; below 3/4 doubled, in effect
+  constexpr auto shifter = rounding_shifter<Lum64f>() / (1 << fraction_bits);  // the last bit is worth that of c
+  const auto [m, e] = parts<significand::from_1_to_2 | significand::nan_if_negative>(x);
+  const auto t = shifted_rcp14<fraction_bits, significand::from_1_to_2>(
+      m);                           // rounds to nearest; the low bits are c, less its top bit the row
+  const auto c = t - all(shifter);  // in [1/2, 1]; below 3/4 doubled, in effect
   const auto r = fms(c, m, all(1.0));
   return {r, add(lt(c, all(0.75)), e, all(1.0)), bits(t)};
 }

@@ -6,7 +6,10 @@
 #include <limits>
 #include <type_traits>
 
+#include "explog/polynomials.h"
+#include "frame/constant.h"
 #include "frame/literals.h"
+#include "frame/numbers.h"
 #include "frame/types.h"
 #include "tables/table.h"
 
@@ -31,19 +34,9 @@ template <class T, class Positive> LumStatus LogarithmRoutine(T x, T& result, Po
   return lumStsOk;
 }
 
-// (ln(1 + t) - t) / t^2 for |t| up to about 2^-6.6.
-inline double LnTail(double t) {
-  return ((((((f64(0xBFC000B405A2836D, -0.1250214602960357) * t + f64(0x3FC249C02481059D, 0.1428756883852146)) * t +
-              f64(0xBFC555555228B38F, -0.1666666651884978)) *
-                 t +
-             f64(0x3FC9999997B36C81, 0.19999999911565072)) *
-                t +
-            f64(0xBFD0000000000262, -0.25000000000003386)) *
-               t +
-           f64(0x3FD5555555555613, 0.33333333333334386)) *
-              t -
-          0.5);
-}
+// The sum with a significand of [1, 2) has its last place worth 1/64: 64 times that number in its low seven bits, less the 64
+// that the low bits of the shifter take off.
+template <class T> inline constexpr T shifter_to_index = (sizeof(T) == 4 ? T(0x1p17) : T(0x1p46)) + 1;
 
 // ln x = hi + lo + ln(1 + v + w) of a positive finite x, w small against v and the first sum exact. With x = 2^e m and a short
 // reciprocal c of m to six bits:  hi + lo = e ln 2 - ln c,  v + w = c m - 1, below 2^-6.6.
@@ -56,14 +49,14 @@ inline LnParts SplitLn(double x) {
   });
   double e = 0;
   if (x < std::numeric_limits<double>::min()) {
-    x *= f64(0x43B0000000000000, 0x1p60);
+    x *= 0x1p60;
     e = -60;
   }
   const auto word = std::bit_cast<uint64_t>(x);
   e += static_cast<double>(static_cast<int64_t>(word >> 52) - 1023);
   const auto m = std::bit_cast<double>((word & 0x000FFFFFFFFFFFFF) | 0x3FF0000000000000);
-  // The sum's last place is worth 1/64 and its low seven bits are round(64 (m - 1)).
-  const size_t i = std::bit_cast<uint64_t>(m + f64(0x42D0000000000040, 70368744177665.0)) & 0x7F;
+
+  const size_t i = std::bit_cast<uint64_t>(m + shifter_to_index<Lum64f>) & 0x7F;
   const double c = table[3 * i], hi = table[3 * i + 1], lo = table[3 * i + 2];
   const double ln2_hi = table[3 * 64 + 1], ln2_lo = table[3 * 64 + 2];
 
@@ -73,10 +66,11 @@ inline LnParts SplitLn(double x) {
 
 inline double LnPositive(double x) {
   const double near_one = x - 1;
-  if (-0.009765625 <= near_one && near_one <= 0.009765625) return near_one + near_one * near_one * LnTail(near_one);
+  if (-0.009765625 <= near_one && near_one <= 0.009765625)
+    return near_one + near_one * near_one * unfused_horner(near_one, explog::ln_routine);
   const auto [hi, lo, v, w] = SplitLn(x);
   const double t = v + w;
-  return (hi + v) + ((lo + w) + t * t * LnTail(t));
+  return (hi + v) + ((lo + w) + t * t * unfused_horner(t, explog::ln_routine));
 }
 
 // ln x in binary64 arithmetic, rounded to T at the end.
@@ -89,45 +83,25 @@ template <> struct Log10Constants<Lum32f> {
   static constexpr auto table = table32({
 #include "tables/generated/log10_routine_float.inc"
   });
-  static constexpr auto denormal_scale = f32(0x53800000, 0x1p40);
+  static constexpr auto denormal_scale = 0x1p40f;
   static constexpr float denormal_exponent = -40;
-  static constexpr auto index_shifter = f32(0x48000040, 131073.0);
-  static constexpr auto head_shifter = f32(0x46000000, 8192.0);  // ten fraction bits
-  static constexpr auto scale = f32(0x3EDE5C00, 0.434295654296875);
+  static constexpr auto index_shifter = shifter_to_index<Lum32f>;
+  static constexpr auto head_shifter = 0x1p13f;  // ten fraction bits
+  static constexpr auto scale = numbers::log10_e_short<Lum32f>;
   static constexpr uint32_t short_mask = 0xFFFFC000;
-  static float Tail(float t) {
-    return (((f32(0x3DB1E314, 0.08685889840126038) * t + f32(0xBDDE5BD9, -0.10857362300157547)) * t +
-             f32(0x3E143D3B, 0.14476482570171356)) *
-                t +
-            f32(0xBE5E5BD9, -0.21714724600315094)) *
-               t +
-           f32(0xB59D5B23, -1.172393581327924e-06);
-  }
+  static float Tail(float t) { return unfused_horner(t, explog::log10_routine_32f); }
 };
 template <> struct Log10Constants<Lum64f> {
   static constexpr auto table = table64({
 #include "tables/generated/log10_routine.inc"
   });
-  static constexpr auto denormal_scale = f64(0x43B0000000000000, 0x1p60);
+  static constexpr auto denormal_scale = 0x1p60;
   static constexpr double denormal_exponent = -60;
-  static constexpr auto index_shifter = f64(0x42D0000000000040, 70368744177665.0);
-  static constexpr auto head_shifter = f64(0x4160000000000000, 8388608.0);  // 29 fraction bits
-  static constexpr auto scale = f64(0x3FDBC00000000000, 0.43359375);
+  static constexpr auto index_shifter = shifter_to_index<Lum64f>;
+  static constexpr auto head_shifter = 0x1p23;  // 29 fraction bits
+  static constexpr auto scale = numbers::log10_e_short<Lum64f>;
   static constexpr uint64_t short_mask = 0xFFFFFFFFFFFFFF00;
-  static double Tail(double t) {
-    return ((((((f64(0xBFABCB7B1526E50E, -0.05428681023790648) * t + f64(0x3FAFC3FA615105C7, 0.06204206884332169)) * t +
-                f64(0xBFB287A7636F435F, -0.07238241365054197)) *
-                   t +
-               f64(0x3FB63C62775250D8, 0.08685889638065036)) *
-                  t +
-              f64(0xBFBBCB7B1526E50E, -0.10857362047581295)) *
-                 t +
-             f64(0x3FC287A7636F435F, 0.14476482730108395)) *
-                t +
-            f64(0xBFCBCB7B1526E50E, -0.2171472409516259)) *
-               t +
-           f64(0x3F46F62A4DCA1C65, 0.0007007319032518276);
-  }
+  static double Tail(double t) { return unfused_horner(t, explog::log10_routine_64f); }
 };
 
 // log10 x of a positive finite x, by the same split as SplitLn, in the arithmetic of T.

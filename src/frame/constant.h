@@ -13,4 +13,11 @@ template <class V, class T> LUM_INLINE V Constant(T c) {
   else return all(c);
 }
 
+// c0 + x (c1 + x (c2 + ...)), two operations a coefficient, each rounded: the steps of lane routines.
+template <class V, class T, size_t n> LUM_INLINE V unfused_horner(V x, const Polynomial<T, n>& p) {
+  V sum = Constant<V>(p.c[n - 1]);
+  for (size_t i = n - 1; i-- > 0;) sum = sum * x + Constant<V>(p.c[i]);
+  return sum;
+}
+
 }  // namespace lum::inline LUM_LAYER

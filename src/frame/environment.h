@@ -36,6 +36,20 @@ inline constexpr Variant element_loop_variant{MxcsrForm::strict, X87Form::double
 
 #if LUM_HAS_MXCSR
 
+// The bits of MXCSR, of the x87 control word and of the x87 status word.
+inline constexpr uint32_t mxcsr_flags = 0x003F;  // of the six exceptions
+inline constexpr uint32_t mxcsr_precision_flag = 0x0020;
+inline constexpr uint32_t mxcsr_denormals_are_zero = 0x0040;
+inline constexpr uint32_t mxcsr_masks = 0x1F80;     // of the six exceptions
+inline constexpr uint32_t mxcsr_rounding = 0x6000;  // 0: to nearest
+inline constexpr uint32_t mxcsr_flush_to_zero = 0x8000;
+inline constexpr uint16_t x87_masks = 0x003F;
+inline constexpr uint16_t x87_precision = 0x0300;
+inline constexpr uint16_t x87_double = 0x0200;
+inline constexpr uint16_t x87_extended = 0x0300;
+inline constexpr uint16_t x87_rounding = 0x0C00;
+inline constexpr uint16_t x87_status_flags = 0x80FF;  // exceptions, stack fault, their summary, busy
+
 struct Environment {
   uint32_t mxcsr = 0;
   uint16_t x87_control = 0;
@@ -62,7 +76,7 @@ LUM_INLINE void WriteX87Control(uint16_t value) { asm volatile("fldcw %0" : : "m
 LUM_INLINE void ClearX87Flags() {
   uint16_t status;
   asm volatile("fnstsw %0" : "=a"(status) : : "memory");
-  if ((status & 0x80FF) != 0) [[unlikely]] { asm volatile("fnclex" : : : "memory"); }
+  if ((status & x87_status_flags) != 0) [[unlikely]] { asm volatile("fnclex" : : : "memory"); }
 }
 
 LUM_INLINE void ChangeX87Control(Environment& environment, uint16_t old_word, uint16_t new_word) {
@@ -76,23 +90,24 @@ LUM_INLINE void ChangeX87Control(Environment& environment, uint16_t old_word, ui
 inline bool X87Prepare(Environment& environment) {
   const uint16_t word = ReadX87Control();
   environment.x87_prepared = true;
-  if ((word & 0x3F) == 0x3F) return false;
-  ChangeX87Control(environment, word, static_cast<uint16_t>(word | 0x3F));
+  if ((word & x87_masks) == x87_masks) return false;
+  ChangeX87Control(environment, word, static_cast<uint16_t>(word | x87_masks));
   return true;
 }
 
 // Exceptions masked, round to nearest, and the given precision field.
 inline void ForceX87Precision(Environment& environment, uint16_t target) {
   const uint16_t word = ReadX87Control();
-  if ((word & 0x0F3F) == target) return;
-  ChangeX87Control(environment, word, static_cast<uint16_t>((word & 0xF0C0) | target));
+  constexpr uint16_t fields = x87_masks | x87_precision | x87_rounding;
+  if ((word & fields) == target) return;
+  ChangeX87Control(environment, word, static_cast<uint16_t>((word & ~fields) | target));
 }
 
 // Extended precision of the x87 unit for the lifetime of the object, whatever the caller has set: for lane routines of kernels
 // that otherwise leave the precision alone.
 class ExtendedPrecision {
  public:
-  ExtendedPrecision() { ForceX87Precision(environment_, 0x033F); }
+  ExtendedPrecision() { ForceX87Precision(environment_, x87_masks | x87_extended); }
   ~ExtendedPrecision() {
     if (environment_.x87_changed) WriteX87Control(environment_.x87_control);
   }
@@ -106,16 +121,17 @@ class ExtendedPrecision {
 template <Variant variant> LUM_INLINE Environment Enter() {
   Environment environment;
   if constexpr (variant.x87 == X87Form::at_entry) X87Prepare(environment);
-  if constexpr (variant.x87 == X87Form::extended_precision) ForceX87Precision(environment, 0x033F);
-  if constexpr (variant.x87 == X87Form::double_precision) ForceX87Precision(environment, 0x023F);
+  if constexpr (variant.x87 == X87Form::extended_precision) ForceX87Precision(environment, x87_masks | x87_extended);
+  if constexpr (variant.x87 == X87Form::double_precision) ForceX87Precision(environment, x87_masks | x87_double);
   environment.mxcsr = ReadMxcsr();
   if constexpr (variant.mxcsr == MxcsrForm::strict) {
-    if ((environment.mxcsr & 0xFFC0) != 0x1F80) {
-      WriteMxcsr((environment.mxcsr & 0xFFFF003F) | 0x1F80);
+    constexpr uint32_t fields = mxcsr_masks | mxcsr_rounding | mxcsr_denormals_are_zero | mxcsr_flush_to_zero;
+    if ((environment.mxcsr & fields) != mxcsr_masks) {
+      WriteMxcsr((environment.mxcsr & ~fields) | mxcsr_masks);
       environment.mxcsr_changed = true;
     }
-  } else if ((environment.mxcsr & 0x1F80) != 0x1F80) {
-    WriteMxcsr(environment.mxcsr | 0x1F80);
+  } else if ((environment.mxcsr & mxcsr_masks) != mxcsr_masks) {
+    WriteMxcsr(environment.mxcsr | mxcsr_masks);
     environment.mxcsr_changed = true;
   }
   return environment;
@@ -132,10 +148,11 @@ LUM_INLINE void Leave(const Environment& environment) {
   }
   const uint32_t now = ReadMxcsr();
 #ifdef LUM_AVX512
-  if ((now & 0x1F) != 0) WriteMxcsr(now & ~0x1Fu);
+  constexpr uint32_t other_flags = mxcsr_flags & ~mxcsr_precision_flag;
+  if ((now & other_flags) != 0) WriteMxcsr(now & ~other_flags);
 #else
   // Portable vector operations raise the precision flag where the suppressed ones do not.
-  const uint32_t clean = (now & ~0x3Fu) | (environment.mxcsr & 0x20);
+  const uint32_t clean = (now & ~mxcsr_flags) | (environment.mxcsr & mxcsr_precision_flag);
   if (now != clean) WriteMxcsr(clean);
 #endif
 }

@@ -33,8 +33,8 @@ template <Floating T> LUM_INLINE constexpr T power_of_two(int n) {
 // All bits set, or none.
 template <class Bits> LUM_INLINE Bits mask_if(bool condition) { return condition ? static_cast<Bits>(~Bits{0}) : Bits{0}; }
 
-// The same for a condition on numbers of type T: chosen as one of two such numbers, since a comparison of doubles that gives
-// integers keeps some compilers from vectorising a loop.
+// All bits set, or none, by a condition on numbers of type T: chosen as one of two such numbers, since a comparison of doubles
+// that gives integers keeps some compilers from vectorising a loop.
 template <Floating T> LUM_INLINE UnsignedOf<T> mask_where(bool condition) {
   return to_bits(condition ? from_bits<T>(static_cast<UnsignedOf<T>>(~UnsignedOf<T>{0})) : T{0});
 }

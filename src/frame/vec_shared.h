@@ -2,7 +2,11 @@
 // error-free sums, and constants checked at compile time.
 #pragma once
 
+#include <utility>
+
 #include "frame/literals.h"
+#include "frame/polynomial.h"
+#include "frame/two_parts.h"
 
 namespace lum {
 inline namespace LUM_LAYER {
@@ -34,11 +38,11 @@ template <Floating T> LUM_INLINE Vec<UnsignedOf<T>> sign_of(Vec<T> a) { return b
 
 // v with its sign bit set where that of x is.
 template <Floating T> LUM_INLINE Vec<T> or_sign(Vec<T> x, Vec<T> v) {
-  return as_float(ternary<0xF8>(bits(v), bits(x), all(sign_bit<T>)));
+  return as_float(ternary<A | (B & C)>(bits(v), bits(x), all(sign_bit<T>)));
 }
 // v with its sign turned over where x is negative.
 template <Floating T> LUM_INLINE Vec<T> xor_sign(Vec<T> x, Vec<T> v) {
-  return as_float(ternary<0x78>(bits(v), bits(x), all(sign_bit<T>)));
+  return as_float(ternary<A ^ (B & C)>(bits(v), bits(x), all(sign_bit<T>)));
 }
 
 // c0 + x (c1 + x (c2 + ...)), one fused step a coefficient. The portable loop has no more than two vectors in memory at a time,
@@ -55,17 +59,31 @@ template <Floating T, class... Rest> LUM_INLINE Vec<T> horner(VecIn<T> x, T c0, 
   }
 }
 
-// a + b = sum + error exactly, for any two finite numbers without overflow.
-template <Floating T> struct Sum { Vec<T> sum, error; };
-template <Floating T> LUM_INLINE Sum<T> two_sum(Vec<T> a, Vec<T> b) {
+template <Floating T, size_t n> LUM_INLINE Vec<T> horner(VecIn<T> x, const Polynomial<T, n>& p) {
+  return [&]<size_t... i>(std::index_sequence<i...>) __attribute__((always_inline)) { return horner(x, p.c[i]...); }
+  (std::make_index_sequence<n>());
+}
+
+template <Floating T, size_t n> LUM_INLINE Vec<T> horner(VecIn<T> x, const T (&c)[n]) {
+  return [&]<size_t... i>(std::index_sequence<i...>) __attribute__((always_inline)) { return horner(x, c[i]...); }
+  (std::make_index_sequence<n>());
+}
+
+// a + b exactly, for any two finite numbers without overflow.
+template <Floating T> LUM_INLINE TwoParts<Vec<T>> two_sum(Vec<T> a, Vec<T> b) {
   const auto s = a + b;
   const auto b_part = s - a;
   return {s, (a - (s - b_part)) + (b - b_part)};
 }
-// The same for |a| >= |b|.
-template <Floating T> LUM_INLINE Sum<T> fast_two_sum(Vec<T> a, Vec<T> b) {
+// a + b exactly, for |a| >= |b| or a = 0.
+template <Floating T> LUM_INLINE TwoParts<Vec<T>> fast_two_sum(Vec<T> a, Vec<T> b) {
   const auto s = a + b;
   return {s, b - (s - a)};
+}
+// a b exactly, for products that neither overflow nor come near the smallest numbers.
+template <Floating T> LUM_INLINE TwoParts<Vec<T>> two_product(Vec<T> a, Vec<T> b) {
+  const auto product = a * b;
+  return {product, fms(a, b, product)};
 }
 
 }  // namespace LUM_LAYER

@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "frame/immediates.h"
 #include "frame/layer.h"
 
 #define LUM_INLINE inline __attribute__((always_inline))

@@ -4,10 +4,10 @@
 
 namespace lum::inline LUM_LAYER {
 
-constinit const LumLibraryVersion libraryVersion = {2026,
-                                                    0,
-                                                    0,
-                                                    0xA7AD6EBC,
+constinit const LumLibraryVersion libraryVersion = {2026,        // major
+                                                    0,           // minor
+                                                    0,           // patch
+                                                    0xA7AD6EBC,  // the revision of the interface, which the text repeats
 #if defined(LUM_AVX512)
                                                     {'k', '0'},
                                                     "lumVM AVX-512F/CD/BW/DQ/VL (k0)",

@@ -46,8 +46,8 @@ template <bool compensated, class T, class Series> struct Long : Routine<T> {
     const auto t = RootOf<true>(w, w_tail);
     const auto huge = IsHuge(x);
     const auto sum = fast_two_sum(x, t.head);
-    const auto tail = zero_unless(lt(x, all(huge_bound<T>)), sum.error + t.tail);
-    const auto log = LongLogarithm<compensated>(EighthIf(huge, x, sum.sum), tail, huge);
+    const auto tail = zero_unless(lt(x, all(huge_bound<T>)), sum.tail + t.tail);
+    const auto log = LongLogarithm<compensated>(EighthIf(huge, x, sum.head), tail, huge);
     const auto series = t.head + fma(t.head + t.tail, w * Series::Of(w), t.tail);
     return {select(lt(w, all(T(Series::acosh_bound))), series, log), IsRefused(x)};
   }

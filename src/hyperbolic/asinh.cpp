@@ -17,7 +17,7 @@ template <class T> struct Routine : Kernel<T> {
 template <class Series, class T> LUM_INLINE Lanes<T> Finish(Vec<T> x, Vec<T> a, Vec<T> x2, Vec<T> log) {
   const auto series = fma(a, x2 * Series::Of(x2), a);
   const auto v = select(lt(a, all(T(Series::asinh_bound))), series, log);
-  return {as_float(ternary<0x96>(bits(v), bits(a), bits(x))), nle(a, all(std::numeric_limits<T>::max()))};
+  return {as_float(ternary<A ^ B ^ C>(bits(v), bits(a), bits(x))), nle(a, all(std::numeric_limits<T>::max()))};
 }
 
 template <class T, class Series, class Ratio> struct Low : Routine<T> {
@@ -37,10 +37,10 @@ template <bool compensated, class T, class Series> struct Long : Routine<T> {
     const auto x2 = x * x;
     const auto huge = IsHuge(a);
     const auto s = fast_two_sum(max(one, x2), min(one, x2));
-    const auto root = RootOf<false>(s.sum, s.error + fms(x, x, x2));
+    const auto root = RootOf<false>(s.head, s.tail + fms(x, x, x2));
     const auto sum = fast_two_sum(root.head, a);
-    const auto tail = zero_unless(lt(a, all(huge_bound<T>)), sum.error + root.tail);
-    const auto log = LongLogarithm<compensated>(EighthIf(huge, a, sum.sum), tail, huge);
+    const auto tail = zero_unless(lt(a, all(huge_bound<T>)), sum.tail + root.tail);
+    const auto log = LongLogarithm<compensated>(EighthIf(huge, a, sum.head), tail, huge);
     return Finish<Series>(x, a, x2, log);
   }
 };

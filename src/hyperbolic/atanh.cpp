@@ -29,19 +29,19 @@ template <class T> LUM_INLINE Sides<T> SidesOf(Vec<T> x) {
 
 // Half the sum with the sign of x.
 template <class T> LUM_INLINE Lanes<T> Finish(Vec<T> x, const Sides<T>& s, Vec<T> sum) {
-  const auto half = as_float(ternary<0xDE>(bits(s.a), bits(all(T(0.5))), bits(x)));
+  const auto half = as_float(ternary<B | (A ^ C)>(bits(s.a), bits(all(T(0.5))), bits(x)));
   return {half * sum, nlt(s.a, all(T(1)))};
 }
 
 // The difference of the logarithms of the reciprocals; its hi part is exact.
 template <class T> LUM_INLINE Vec<T> DifferenceSingle(const Sides<T>& s) {
-  return fma(s.exponent, all(LogTable<T>::ln2), LookupSingle<T>(s.q_row) - LookupSingle<T>(s.p_row));
+  return fma(s.exponent, all(numbers::ln2<T>), LookupSingle<T>(s.q_row) - LookupSingle<T>(s.p_row));
 }
 template <class T> LUM_INLINE Vec<T> DifferenceHi(const Sides<T>& s) {
-  return fma(s.exponent, all(LogTable<T>::ln2_hi), LookupHi<T>(s.q_row) - LookupHi<T>(s.p_row));
+  return fma(s.exponent, all(numbers::ln2_head<T>), LookupHi<T>(s.q_row) - LookupHi<T>(s.p_row));
 }
 template <class T> LUM_INLINE Vec<T> DifferenceLo(const Sides<T>& s) {
-  return fma(s.exponent, all(LogTable<T>::ln2_lo), LookupLo<T>(s.q_row) - LookupLo<T>(s.p_row));
+  return fma(s.exponent, all(numbers::ln2_rest<T>), LookupLo<T>(s.q_row) - LookupLo<T>(s.p_row));
 }
 
 template <class T> struct Routine : Kernel<T> {
@@ -76,9 +76,7 @@ template <class T, class Polynomial> LUM_INLINE Lanes<T> InTwoParts(Vec<T> x, Po
 struct A11_32f : Routine<Lum32f> {
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
     return InOnePart(
-        x, [](Vec<Lum32f> r) __attribute__((always_inline)) {
-          return horner(r, f32(0x3F800158, 1.0000410079956055), f32(0xBF000408, -0.5000615119934082));
-        });
+        x, [](Vec<Lum32f> r) __attribute__((always_inline)) { return horner(r, hyperbolic::atanh_A11); });
   }
 };
 
@@ -99,12 +97,7 @@ struct A26_64f : Routine<Lum64f> {
 struct A50_64f : Routine<Lum64f> {
   static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
     return InTwoParts(
-        x, [](Vec<Lum64f> r) __attribute__((always_inline)) {
-          return horner(r, 1.0, f64(0xBFDFFFFFFFFFFFC5, -0.4999999999999967), f64(0x3FD5555555555462, 0.3333333333333198),
-                        f64(0xBFD00000000C2A01, -0.25000000004425266), f64(0x3FC9999999CD394A, 0.20000000009390312),
-                        f64(0xBFC55553F871E5C5, -0.16666650420283538), f64(0x3FC2492298FFDAE8, 0.14285690756488312),
-                        f64(0xBFC0073CB82E8B70, -0.1252208613705892), f64(0x3FBC81DD40D38142, 0.11135657150908165));
-        });
+        x, [](Vec<Lum64f> r) __attribute__((always_inline)) { return horner(r, hyperbolic::atanh_A50); });
   }
 };
 
@@ -112,10 +105,10 @@ template <class T> struct High : Routine<T> {
   static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) {
     const auto s = SidesOf(x);
     const auto r = two_sum(s.p.r, negate(s.q.r));
-    const auto head = two_sum(DifferenceHi(s), r.sum);
+    const auto head = two_sum(DifferenceHi(s), r.head);
     const auto p_rest = fma(s.p.r * s.p.r, LogRatio(s.p.r), DifferenceLo(s));
     const auto rest = fnma(s.q.r * s.q.r, LogRatio(s.q.r), p_rest);
-    return Finish(x, s, head.sum + (head.error + (r.error + rest)));
+    return Finish(x, s, head.head + (head.tail + (r.tail + rest)));
   }
 };
 

@@ -3,6 +3,7 @@
 #include "frame/kernels.h"
 #include "hyperbolic/exponentials.h"
 #include "hyperbolic/hyperbolic_routine.h"
+#include "hyperbolic/polynomials.h"
 
 namespace lum::inline LUM_LAYER {
 namespace {
@@ -28,17 +29,13 @@ template <class T> LUM_INLINE CoshTerms<T> TermsOf(Vec<T> x) {
 }
 
 // (cosh r - 1) / r^2 and sinh r of the mid and high tiers.
-LUM_INLINE Vec<Lum32f> CoshRatio(Vec<Lum32f>) { return all(f32(0x3F00010F, 0.5000161528587341)); }
-LUM_INLINE Vec<Lum64f> CoshRatio(Vec<Lum64f> r2) {
-  return horner(r2, f64(0x3FE0000000000004, 0.5000000000000004), f64(0x3FA5555555484F37, 0.04166666666074408),
-                f64(0x3F56C183DA08F116, 0.001388911019730326));
-}
+LUM_INLINE Vec<Lum32f> CoshRatio(Vec<Lum32f> r2) { return horner(r2, hyperbolic::cosh_A24); }
+LUM_INLINE Vec<Lum64f> CoshRatio(Vec<Lum64f> r2) { return horner(r2, hyperbolic::cosh_A53); }
 LUM_INLINE Vec<Lum32f> SinhSeries(Vec<Lum32f> r, Vec<Lum32f> r2) {
-  return fma(r * r2, all(f32(0x3E2AAACD, 0.166667178273201)), r);
+  return fma(r * r2, horner(r2, hyperbolic::cosh_sinh_A24), r);
 }
 LUM_INLINE Vec<Lum64f> SinhSeries(Vec<Lum64f> r, Vec<Lum64f> r2) {
-  const auto p = horner(r2, f64(0x3FC5555555555543, 0.16666666666666616), f64(0x3F81111111286A0C, 0.008333333335987646),
-                        f64(0x3F2A018D76DA03DA, 0.00019841052874272521));
+  const auto p = horner(r2, hyperbolic::cosh_sinh_A53);
   return fma(r * r2, p, r);
 }
 
@@ -57,9 +54,8 @@ struct A26_64f : HyperbolicCosine<Lum64f> {
   static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
     const auto t = TermsOf(x);
     const auto r2 = t.r * t.r;
-    const auto c = r2 * horner(r2, f64(0x3FE0000000000004, 0.5000000000000004), f64(0x3FA5555555484F37, 0.04166666666074408));
-    const auto s = fma(
-        t.r * r2, horner(r2, f64(0x3FC5555555555543, 0.16666666666666616), f64(0x3F81111111286A0C, 0.008333333335987646)), t.r);
+    const auto c = r2 * horner(r2, hyperbolic::cosh_A26);
+    const auto s = fma(t.r * r2, horner(r2, hyperbolic::cosh_sinh_A26), t.r);
     return {fma(t.sum, c, t.difference * s) + t.sum, t.refused};
   }
 };

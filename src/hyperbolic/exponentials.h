@@ -8,27 +8,12 @@
 #include <limits>
 
 #include "frame/kernel_frame.h"
+#include "frame/numbers.h"
 #include "tables/table.h"
 
 namespace lum::inline LUM_LAYER {
 
-// ln 2 in two parts: products of the first with n are exact.
-template <class T> struct Ln2;
-template <> struct Ln2<Lum32f> {
-  static constexpr auto inverse = f32(0x3FB8AA3B, 1.4426950216293335);
-  static constexpr auto hi = f32(0x3F317000, 0.693115234375);
-  static constexpr auto lo = f32(0x3805FDF4, 3.194618329871446e-05);
-};
-template <> struct Ln2<Lum64f> {
-  static constexpr auto inverse = f64(0x3FF71547652B82FE, 1.4426950408889634);
-  static constexpr auto hi = f64(0x3FE62E42FEFA0000, 0.6931471805582987);
-  static constexpr auto lo = f64(0x3D7CF79ABC9E0000, 1.6465949582866463e-12);
-};
-
 template <class T> inline constexpr int fraction_bits = std::numeric_limits<T>::digits - 1;
-// 1.5 times a power of 2 such that the last place is worth 1/N, N = 2^row_bits.
-template <int row_bits, class T>
-inline constexpr T row_shifter = T(1.5) * static_cast<T>(int64_t{1} << (fraction_bits<T> - row_bits));
 
 // |x| and the like by the constant that also puts in a sign.
 template <class T> LUM_INLINE Vec<UnsignedOf<T>> WithoutSign(Vec<UnsignedOf<T>> x) { return and_not(all(sign_bit<T>), x); }
@@ -38,12 +23,12 @@ template <class T> struct ReducedMagnitude {
   Vec<T> r;
 };
 template <int row_bits, class T> LUM_INLINE ReducedMagnitude<T> SubtractMultiple(Vec<T> a, Vec<T> shifted) {
-  const auto n = shifted - all(row_shifter<row_bits, T>);
-  return {bits(shifted), fnma(n, all(Ln2<T>::lo), fnma(n, all(Ln2<T>::hi), a))};
+  const auto n = shifted - all(rounding_shifter<T>(row_bits));
+  return {bits(shifted), fnma(n, all(numbers::ln2_rest<T>), fnma(n, all(numbers::ln2_head<T>), a))};
 }
 // |r| <= ln(2)/2N and a little.
 template <int row_bits, class T> LUM_INLINE ReducedMagnitude<T> ReduceToRows(Vec<T> a) {
-  return SubtractMultiple<row_bits>(a, fma(a, all(Ln2<T>::inverse), all(row_shifter<row_bits, T>)));
+  return SubtractMultiple<row_bits>(a, fma(a, all(numbers::log2_e<T>), all(rounding_shifter<T>(row_bits))));
 }
 
 // The whole part of n in the place of the exponent.

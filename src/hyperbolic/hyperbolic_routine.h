@@ -6,9 +6,13 @@
 #include <cstdint>
 #include <limits>
 
-#include "frame/double_word.h"
+#include "explog/polynomials.h"
+#include "frame/constant.h"
 #include "frame/literals.h"
+#include "frame/numbers.h"
+#include "frame/two_parts.h"
 #include "frame/types.h"
+#include "hyperbolic/polynomials.h"
 #include "tables/table.h"
 
 namespace lum::inline LUM_LAYER {
@@ -19,9 +23,9 @@ struct ScalarReduced {
   double q;
 };
 inline ScalarReduced ReduceBySixtyFourths(double m) {
-  constexpr auto shifter = f64(0x4338000000000000, 6755399441055744.0);  // 1.5 * 2^52
-  const double n = (m * f64(0x40571547652B82FE, 92.33248261689366) + shifter) - shifter;
-  const double q = (m - n * f64(0x3F862E42FEFA0000, 0.010830424696223417)) - n * f64(0x3D1CF79ABC9E3B3A, 2.572804622327669e-14);
+  constexpr auto shifter = rounding_shifter<Lum64f>();
+  const double n = (m * (64 * numbers::log2_e<Lum64f>)+shifter) - shifter;
+  const double q = (m - n * (numbers::ln2_short<Lum64f> / 64)) - n * (numbers::ln2_short_tail<Lum64f> / 64);
   return {static_cast<int64_t>(n), q};
 }
 
@@ -36,43 +40,38 @@ inline double HalfExponential(double m) {
   const auto [count, q] = ReduceBySixtyFourths(m);
   const auto i = static_cast<size_t>(count & 63);
   const double hi = exp2_64_split[2 * i], lo = exp2_64_split[2 * i + 1];
-  const double p =
-      q + q * q *
-              (f64(0x3FE0000000000000, 0.5) + q * (f64(0x3FC55555555548F8, 0.1666666666665788) +
-                                                   q * (f64(0x3FA5555555558FCC, 0.04166666666677052) +
-                                                        q * (f64(0x3F8111123AAF20D3, 0.008333341995140497) +
-                                                             q * f64(0x3F56C16A1C2A3FFD, 0.0013888870459233254)))));
+  const double p = q + q * q * unfused_horner(q, explog::exp_routine_64f);
   const double sum = hi + (hi * p + lo);
   // The largest exponent has no power of 2 of its own.
-  if ((count & 0x1FFC0) == 0x10040) return sum * f64(0x7FE0000000000000, 8.98846567431158e+307) * 2;
+  if ((count & 0x1FFC0) == 0x10040) return sum * 0x1p1023 * 2;
   return sum * PowerOfTwo((count >> 6) - 1);
 }
 
 // With m = n ln 2 + q:  2^(n-1) + 2^(-n-1), the difference of the two, and q.
 struct SumAndDifference {
-  DoubleWord sum, difference;
+  TwoParts<double> sum, difference;
   double q;
 };
 inline SumAndDifference HalfPowers(double m) {
   const auto [count, q] = ReduceBySixtyFourths(m);
   const auto i = static_cast<size_t>(count & 63);
   const double up = PowerOfTwo((count >> 6) - 1), down = PowerOfTwo(-(count >> 6) - 2);
-  const DoubleWord plus{exp2_64_split[2 * i] * up, exp2_64_split[2 * i + 1] * up};
-  const DoubleWord minus{exp2_64_split[2 * (64 - i)] * down, exp2_64_split[2 * (64 - i) + 1] * down};
-  const DoubleWord sum = ExactSum(plus.hi, minus.hi);
-  const DoubleWord difference = ExactSum(plus.hi, -minus.hi);
-  return {{sum.hi, sum.lo + (plus.lo + minus.lo)}, {difference.hi, difference.lo + (plus.lo - minus.lo)}, q};
+  const TwoParts<double> plus{exp2_64_split[2 * i] * up, exp2_64_split[2 * i + 1] * up};
+  const TwoParts<double> minus{exp2_64_split[2 * (64 - i)] * down, exp2_64_split[2 * (64 - i) + 1] * down};
+  const TwoParts<double> sum = two_sum(plus.head, minus.head);
+  const TwoParts<double> difference = two_sum(plus.head, -minus.head);
+  return {{sum.head, sum.tail + (plus.tail + minus.tail)}, {difference.head, difference.tail + (plus.tail - minus.tail)}, q};
 }
 
 // base cosh q + factor sinh q for |q| up to ln(2)/128.
-inline double Turn(const DoubleWord& base, const DoubleWord& factor, double q) {
+inline double Turn(const TwoParts<double>& base, const TwoParts<double>& factor, double q) {
   const double q2 = q * q;
   const double sinh_rest = q * (q2 * (1.0 / 6 + q2 * (1.0 / 120)));
   const double cosh_rest = q2 * (0.5 + q2 * (1.0 / 24 + q2 * (1.0 / 720)));
-  const DoubleWord product = ExactProduct(factor.hi, q);
-  const DoubleWord head = ExactSum(base.hi, product.hi);
-  const double rest = (factor.hi * sinh_rest + base.hi * cosh_rest) + (factor.lo * q + base.lo);
-  return head.hi + (head.lo + (product.lo + rest));
+  const TwoParts<double> product = two_product(factor.head, q);
+  const TwoParts<double> head = two_sum(base.head, product.head);
+  const double rest = (factor.head * sinh_rest + base.head * cosh_rest) + (factor.tail * q + base.tail);
+  return head.head + (head.tail + (product.tail + rest));
 }
 
 // From here on e^-m is below half a unit of the last place.
@@ -86,11 +85,7 @@ inline double SinhOfMagnitude(double m) {
   if (m < tiny_argument) return m;
   if (m < f64(0x3F9BDB8CDADBE120, 0.02720470510300388)) {
     const double u = m * m;
-    const double p =
-        ((f64(0x3EC71DE3A556C734, 2.7557319223985893e-06) * u + f64(0x3F2A01A01A01A01A, 0.0001984126984126984)) * u +
-         f64(0x3F81111111111111, 0.008333333333333333)) *
-            u +
-        f64(0x3FC5555555555555, 0.16666666666666666);
+    const double p = unfused_horner(u, hyperbolic::sinh_routine);
     return m + m * (u * p);
   }
   if (m >= single_exponential) return HalfExponential(m);

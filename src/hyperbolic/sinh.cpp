@@ -4,6 +4,7 @@
 #include "frame/kernels.h"
 #include "hyperbolic/exponentials.h"
 #include "hyperbolic/hyperbolic_routine.h"
+#include "hyperbolic/polynomials.h"
 
 namespace lum::inline LUM_LAYER {
 namespace {
@@ -35,8 +36,8 @@ struct A11_32f : HyperbolicSine<Lum32f> {
     const auto a = as_float(WithoutSign<Lum32f>(bits(x)));
     const auto [sum, difference, r] = WholeTermsOf(a);
     const auto r2 = r * r;
-    const auto p = horner(r2, f32(0x3F7FFBC9, 0.9999356865882874), f32(0x3E2CCD2E, 0.16875144839286804));
-    const auto q = horner(r2, f32(0x3EFFFB2F, 0.49996325373649597), f32(0x3D2CA395, 0.04214819148182869));
+    const auto p = horner(r2, hyperbolic::sinh_A11);
+    const auto q = horner(r2, hyperbolic::sinh_cosh_A11);
     return {or_sign(x, fma(r, fma(sum, p, (r * difference) * q), difference)), IsFrom(beyond_float, a)};
   }
 };
@@ -46,9 +47,8 @@ struct A21_32f : HyperbolicSine<Lum32f> {
     const auto a = as_float(WithoutSign<Lum32f>(bits(x)));
     const auto [sum, difference, r] = WholeTermsOf(a);
     const auto r2 = r * r;
-    const auto s = fma(r * r2, horner(r2, f32(0x3E2AAA57, 0.16666541993618011), f32(0x3C091461, 0.008366675116121769)), r);
-    const auto c =
-        r2 * horner(r2, f32(0x3F000000, 0.5), f32(0x3D2AAA72, 0.04166645556688309), f32(0x3AB6A8A3, 0.0013935755705460906));
+    const auto s = fma(r * r2, horner(r2, hyperbolic::sinh_A21), r);
+    const auto c = r2 * horner(r2, hyperbolic::sinh_cosh_A21);
     return {or_sign(x, fma(sum, s, c * difference) + difference), IsFrom(beyond_float, a)};
   }
 };
@@ -64,9 +64,9 @@ template <class T> LUM_INLINE SplitPowers<T> LookupAll(Vec<UnsignedOf<T>> count)
 
 // The count is held on the first row as far as one and a half rows from zero.
 template <int row_bits, class T> LUM_INLINE ReducedMagnitude<T> ReduceGuarded(Vec<T> a) {
-  constexpr T shifter = row_shifter<row_bits, T>;
+  constexpr T shifter = rounding_shifter<T>(row_bits);
   constexpr auto next = std::bit_cast<T>(std::bit_cast<UnsignedOf<T>>(shifter) + 1);
-  const auto shifted = fma(a, all(Ln2<T>::inverse), all(shifter));
+  const auto shifted = fma(a, all(numbers::log2_e<T>), all(shifter));
   return SubtractMultiple<row_bits>(a, select(eq(shifted, all(next)), all(shifter), shifted));
 }
 
@@ -87,8 +87,8 @@ struct A24_32f : HyperbolicSine<Lum32f> {
     const auto a = as_float(WithoutSign<Lum32f>(bits(x)));
     const auto [count, r] = ReduceGuarded<5>(a);
     const auto r2 = r * r;
-    const auto s = fma(r * r2, all(f32(0x3E2AAAB5, 0.16666682064533234)), r);
-    const auto c = r2 * all(f32(0x3F000044, 0.5000040531158447));
+    const auto s = fma(r * r2, horner(r2, hyperbolic::sinh_A24), r);
+    const auto c = r2 * horner(r2, hyperbolic::sinh_cosh_A24);
     return {or_sign(x, JoinSplit(LookupAll<Lum32f>(count), ExponentPart<5, Lum32f>(count), s, c)), IsFrom(beyond_float + 1, a)};
   }
 };
@@ -112,9 +112,8 @@ struct A50_64f : HyperbolicSine<Lum64f> {
     const auto sum = plus + minus, difference = plus - minus;
     const auto low = ((plus - difference) - minus) + as_float(bits(gather(columns + 2 * row_count, row)) + exponent);
     const auto r2 = r * r;
-    const auto s =
-        fma(r * r2, horner(r2, f64(0x3FC55555555554AD, 0.166666666666662), f64(0x3F8111115712F425, 0.008333335370815995)), r);
-    const auto c = r2 * horner(r2, f64(0x3FDFFFFFFFFFFDBD, 0.49999999999996786), f64(0x3FA55555CF16D299, 0.04166668084090936));
+    const auto s = fma(r * r2, horner(r2, hyperbolic::sinh_A50), r);
+    const auto c = r2 * horner(r2, hyperbolic::sinh_cosh_A50);
     return {or_sign(x, fma(sum, s, fma(c, difference, low)) + difference), IsFrom(0x40861D9A00000000, a)};
   }
 };
@@ -124,12 +123,8 @@ struct A53_64f : HyperbolicSine<Lum64f> {
     const auto a = as_float(WithoutSign<Lum64f>(bits(x)));
     const auto [count, r] = ReduceGuarded<4>(a);
     const auto r2 = r * r;
-    const auto s = fma(r * r2,
-                       horner(r2, f64(0x3FC5555555555CA6, 0.16666666666671864), f64(0x3F8111110EDC6EDA, 0.008333333269141919),
-                              f64(0x3F2A026D06015EC6, 0.0001984365544582726)),
-                       r);
-    const auto c = r2 * horner(r2, f64(0x3FE0000000000000, 0.5), f64(0x3FA5555555554B4C, 0.04166666666664884),
-                               f64(0x3F56C16C1902580B, 0.0013888888970874393), f64(0x3EFA01AC1B806259, 2.4801762009559563e-05));
+    const auto s = fma(r * r2, horner(r2, hyperbolic::sinh_A53), r);
+    const auto c = r2 * horner(r2, hyperbolic::sinh_cosh_A53);
     return {or_sign(x, JoinSplit(LookupAll<Lum64f>(count), ExponentPart<4, Lum64f>(count), s, c)),
             IsFrom(0x4084EE3400000000, a)};
   }

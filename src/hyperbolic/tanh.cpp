@@ -4,6 +4,7 @@
 // function. No tier ever reports.
 #include "frame/kernel_frame.h"
 #include "frame/kernels.h"
+#include "hyperbolic/polynomials.h"
 #include "tables/table.h"
 
 namespace lum::inline LUM_LAYER {
@@ -44,7 +45,7 @@ template <int first, int last, class T> LUM_INLINE Vec<T> Polynomial(const T* co
 
 // v >= 0 with the sign of x, for a = |x|.
 template <class T> LUM_INLINE Vec<T> WithSignOf(Vec<T> x, Vec<T> a, Vec<T> v) {
-  return as_float(ternary<0xF6>(bits(v), bits(a), bits(x)));
+  return as_float(ternary<A | (B ^ C)>(bits(v), bits(a), bits(x)));
 }
 
 template <bool in_two_parts, int degree, class T> LUM_INLINE Lanes<T> BySegments(const T* columns, Vec<T> x) {
@@ -78,12 +79,11 @@ struct A11_32f : Kernel<Lum32f> {
   static LUM_INLINE Vec<Lum32f> VectorPath(Vec<Lum32f> x) {
     const auto a = as_float(and_not(all(sign_bit<Lum32f>), bits(x)));
     const auto u = a * a;
-    const auto q = horner(u, 1.0f, f32(0x3EDEF102, 0.435432493686676), f32(0x3C520A84, 0.012819889932870865));
-    const auto p = horner(u, f32(0xB859E195, -5.19469213031698e-05), f32(0x3DD1C060, 0.1024177074432373),
-                          f32(0x3A2FC8E6, 0.0006705656414851546));
+    const auto q = horner(u, hyperbolic::tanh_A11_denominator);
+    const auto p = horner(u, hyperbolic::tanh_A11_numerator);
     const auto v = rcp14(q) * fma(p, a, a);
     const auto magnitude = select(le(all(5.0f), a), all(1.0f), v);
-    return as_float(ternary<0x96>(bits(magnitude), bits(a), bits(x)));
+    return as_float(ternary<A ^ B ^ C>(bits(magnitude), bits(a), bits(x)));
   }
 };
 

@@ -30,18 +30,17 @@ template <class T> LUM_INLINE Lanes<T> Join(Vec<T> x, const Arguments<T>& r, Vec
   const auto negative = lt(x, r.q);  // in the big branch; q is never negative
   const auto h = select(r.big, s, r.a);
   // Turned over at the end: the operands of the sum are then NaNs of one sign, of which any may be the result.
-  return {Base(r, negative, Angles<T>::half_pi, Angles<T>::pi) + xor_sign(x, fma(h, w, h)), IsRefused(r.a)};
+  return {Base(r, negative, numbers::pi<T> / 2, numbers::pi<T>) + xor_sign(x, fma(h, w, h)), IsRefused(r.a)};
 }
 
 // All but the base is formed for the sign of a negative x, the tails first, and turned over at the end.
 template <class T> LUM_INLINE Lanes<T> JoinSplit(Vec<T> x, const Arguments<T>& r, SplitRoot<T> s, Vec<T> w) {
-  using A = Angles<T>;
   const auto negative = lt(x, r.q);
   const auto h = select(r.big, s.head, r.a);
-  const auto base_tail = xor_sign(x, Base(r, negative, A::half_pi_tail, A::pi_tail));
+  const auto base_tail = xor_sign(x, Base(r, negative, numbers::pi_tail<T> / 2, numbers::pi_tail<T>));
   const auto tail = sub(r.big, base_tail, s.c, base_tail);
   const auto rest = xor_sign(x, fma(w, sub(r.big, h, s.c, h), tail) + h);
-  return {rest + Base(r, negative, A::half_pi, A::pi), IsRefused(r.a)};
+  return {rest + Base(r, negative, numbers::pi<T> / 2, numbers::pi<T>), IsRefused(r.a)};
 }
 
 template <int terms, class T> LUM_INLINE Vec<T> PlainRoot(Vec<T> y) {

@@ -5,43 +5,34 @@
 #pragma once
 
 #include "frame/kernel_frame.h"
+#include "frame/numbers.h"
+#include "invcircular/polynomials.h"
 
 namespace lum::inline LUM_LAYER {
 
 // The scale below which y is taken for zero: only |x| = 1 comes there. Its reciprocal root would be infinite.
-template <class T> inline constexpr T smallest_y = f32(0x2F800000, 0x1p-32);
-template <> inline constexpr Lum64f smallest_y<Lum64f> = f64(0x3000000000000000, 1.727233711018889e-77);
+template <class T> inline constexpr T smallest_y = 0x1p-32f;
+template <> inline constexpr Lum64f smallest_y<Lum64f> = 0x1p-255;
 
-// W(q) in binary32: to 11 bits, with a constant term that makes up for the short degree, and to the accuracy of A21 and A24.
-LUM_INLINE Vec<Lum32f> ShortCorrection(Vec<Lum32f> q) {
-  return horner(q, f32(0x380561A3, 3.180060230079107e-05), f32(0x3E2876B2, 0.16451528668403625),
-                f32(0x3DC4C6AE, 0.09608207643032074));
-}
+// W(q) to the accuracy of the low tiers, and to that of the others.
+LUM_INLINE Vec<Lum32f> ShortCorrection(Vec<Lum32f> q) { return horner(q, invcircular::asin_A11); }
 LUM_INLINE Vec<Lum32f> LongCorrection(Vec<Lum32f> q) {
-  const auto p4 = horner(q, f32(0x3CC32A6B, 0.0238239374011755), f32(0x3D2EDC07, 0.042690303176641464));
-  const auto p2 = horner(q, f32(0x3D997C12, 0.0749436765909195), f32(0x3D3A9AB4, 0.045557692646980286));
-  return q * fma(fma(q * q, p4, p2), q, all(f32(0x3E2AAAFF, 0.16666792333126068)));
+  constexpr auto& p = invcircular::asin_A21;
+  return q * fma(fma(q * q, horner(q, part<3, 4>(p)), horner(q, part<1, 2>(p))), q, all(p.c[0]));
 }
-
-// The same in binary64, to the accuracy of A26, and to that of A50 and A53.
 LUM_INLINE Vec<Lum64f> ShortCorrection(Vec<Lum64f> q) {
-  const auto p5 = horner(q, f64(0x3F8CE147EA9E9282, 0.014101564261929104), f64(0x3FA36C5AF645A11E, 0.03793606048822283));
-  const auto p3 = horner(q, f64(0x3FA6C8ED2A4CCE54, 0.04450169698102671), f64(0x3FA056B4151FA155, 0.031911494806822795));
-  const auto p1 = horner(q, f64(0x3FC5555480C83A45, 0.16666656768980395), f64(0x3FB33399EBF85B6A, 0.07500612269391885));
+  constexpr auto& p = invcircular::asin_A26;
   const auto q2 = q * q;
-  return q * fma(fma(p5, q2, p3), q2, p1);
+  return q * fma(fma(horner(q, part<4, 5>(p)), q2, horner(q, part<2, 3>(p))), q2, horner(q, part<0, 1>(p)));
 }
 LUM_INLINE Vec<Lum64f> LongCorrection(Vec<Lum64f> q) {
-  const auto p11 = horner(q, f64(0xBF90FB17F7DBB0ED, -0.016582846167623556), f64(0x3FA07520C70EB909, 0.03214361600781685));
-  const auto p9 = horner(q, f64(0x3F7A583395D45ED5, 0.006431771759956202), f64(0x3F943F44BFBC3BAE, 0.01977260036715805));
-  const auto p7 = horner(q, f64(0x3F8C6DBBCB88BD57, 0.013881175183171264), f64(0x3F88F8DC2AFCCAD6, 0.012193412839768863));
-  const auto p5 = horner(q, f64(0x3F96E89CEBDEFADD, 0.022371723076271322), f64(0x3F91C6DCF538AD2E, 0.01736016508782006));
-  const auto p3 = horner(q, f64(0x3FA6DB6DB3B445F8, 0.04464285677580543), f64(0x3F9F1C72E13AD8BE, 0.030381960865917483));
+  constexpr auto& c = invcircular::asin_A50;
+  const auto p10 = horner(q, part<10, 11>(c)), p8 = horner(q, part<8, 9>(c)), p6 = horner(q, part<6, 7>(c));
+  const auto p4 = horner(q, part<4, 5>(c)), p2 = horner(q, part<2, 3>(c));
   const auto q2 = q * q;
   const auto q4 = q2 * q2;
-  const auto p = fma(fma(p11, q4, fma(p9, q2, p7)), q4, fma(p5, q2, p3));
-  return q *
-         fma(fma(p, q, all(f64(0x3FB333333337E0DE, 0.07500000000425497))), q, all(f64(0x3FC555555555529C, 0.1666666666666473)));
+  const auto p = fma(fma(p10, q4, fma(p8, q2, p6)), q4, fma(p4, q2, p2));
+  return q * fma(fma(p, q, all(c.c[1])), q, all(c.c[0]));
 }
 
 // The one or the other.
@@ -50,19 +41,16 @@ template <bool is_long, class T> LUM_INLINE Vec<T> Correction(Vec<T> q) {
   else return ShortCorrection(q);
 }
 
-// (1 - (1 + e/2)^(-1/2)) / e for the relative error e/2 of a squared estimate, |e| below 2^-13: the first terms of its series.
+// (1 - (1 + e/2)^(-1/2)) / e for the relative error e/2 of a squared estimate, |e| below 2^-12: the first terms of its series.
 template <int terms> LUM_INLINE Vec<Lum32f> RootSeries(Vec<Lum32f> e) {
   static_assert(terms == 1 || terms == 2);
-  constexpr auto c0 = f32(0x3E800001, 0.2500000298023224);
-  if constexpr (terms == 1) return all(c0);
-  else return horner(e, c0, f32(0xBDC00004, -0.09375002980232239));
+  if constexpr (terms == 1) return horner(e, invcircular::root_A11);
+  else return horner(e, invcircular::root_A21);
 }
 template <int terms> LUM_INLINE Vec<Lum64f> RootSeries(Vec<Lum64f> e) {
   static_assert(terms == 2 || terms == 4);
-  constexpr auto c0 = f64(0x3FCFFFFFFFFFFF9D, 0.24999999999999725);
-  constexpr auto c1 = f64(0xBFB7FFFFFFFFFE97, -0.09374999999999499);
-  if constexpr (terms == 2) return horner(e, c0, c1);
-  else return horner(e, c0, c1, f64(0x3FA400006F70D42D, 0.039062512973409326), f64(0xBF918000993B24C3, -0.017089852669219818));
+  if constexpr (terms == 2) return horner(e, invcircular::root_A26);
+  else return horner(e, invcircular::root_A50);
 }
 
 // An estimate of 1 / sqrt y to 14 bits, zero for y = 0.
@@ -96,19 +84,6 @@ LUM_INLINE SplitRoot<Lum64f> SplitRootOf(Vec<Lum64f> y) {
   const auto e = fma(tail, seed, fms(head, seed, all(2.0)));
   return {head, fms(RootSeries<4>(e), head * e, tail)};
 }
-
-// pi/2 and pi in two parts.
-template <class T> struct Angles;
-template <> struct Angles<Lum32f> {
-  static constexpr auto half_pi = f32(0x3FC90FDB, 1.5707963705062866), half_pi_tail = f32(0xB33BBD2E, -4.371138828673793e-08);
-  static constexpr auto pi = f32(0x40490FDB, 3.1415927410125732), pi_tail = f32(0xB3BBBD2E, -8.742277657347586e-08);
-};
-template <> struct Angles<Lum64f> {
-  static constexpr auto half_pi = f64(0x3FF921FB54442D18, 1.5707963267948966),
-                        half_pi_tail = f64(0x3C91A62633145C07, 6.123233995736766e-17);
-  static constexpr auto pi = f64(0x400921FB54442D18, 3.141592653589793),
-                        pi_tail = f64(0x3CA1A62633145C07, 1.2246467991473532e-16);
-};
 
 // Refused arguments are a NaN, which the difference quiets, or lie outside [-1, 1], where 0/0 gives a NaN.
 template <class T> LumStatus OutsideUnitInterval(T x, T& result) {

@@ -23,18 +23,17 @@ template <class T> LUM_INLINE Mask<T> IsBig(Vec<T> a) { return le(all(T(0.5)), a
 
 template <class T> LUM_INLINE Lanes<T> Join(Vec<T> x, const Arguments<T>& r, Vec<T> minus_s, Vec<T> w) {
   const auto big = IsBig(r.a);
-  const auto u = select(big, all(Angles<T>::half_pi) + minus_s, r.a);
+  const auto u = select(big, all(numbers::pi<T> / 2) + minus_s, r.a);
   const auto v = select(big, minus_s, r.a);
   return {xor_sign(x, fma(v, w, u)), IsOutside(r)};
 }
 
 // pi/2 - head = u - d exactly in the big branch, and what is below u is summed first.
 template <class T> LUM_INLINE Lanes<T> JoinSplit(Vec<T> x, const Arguments<T>& r, SplitRoot<T> s, Vec<T> w) {
-  using A = Angles<T>;
   const auto big = IsBig(r.a);
-  const auto u = sub(big, all(A::half_pi), s.head, r.a);
-  const auto d = s.head - (all(A::half_pi) - u);
-  const auto z = sub_or_zero(big, all(A::half_pi_tail) + s.c, d);
+  const auto u = sub(big, all(numbers::pi<T> / 2), s.head, r.a);
+  const auto d = s.head - (all(numbers::pi<T> / 2) - u);
+  const auto z = sub_or_zero(big, all(numbers::pi_tail<T> / 2) + s.c, d);
   const auto v = sub(big, s.c, s.head, r.a);
   return {xor_sign(x, u + fma(w, v, z)), IsOutside(r)};
 }

@@ -4,6 +4,7 @@
 // the rounding errors of the quotient and the sum. The low tiers have one polynomial on [-1, 1], and -1/x beyond; they refuse
 // the infinities. A NaN runs through everywhere.
 #include "frame/kernels.h"
+#include "frame/numbers.h"
 #include "invcircular/arctangent.h"
 #include "tables/table.h"
 
@@ -12,10 +13,10 @@ namespace {
 
 template <class T> struct Grid;
 template <> struct Grid<Lum32f> {
-  static constexpr auto shifter = f32(0x4A000000, 2097152.0);  // 2^21: the last bit is worth 1/4
-  static constexpr auto large = f32(0x40F80000, 7.75);
-  static constexpr auto clamp = f32(0x4F800000, 4294967296.0);  // its arctangent rounds to pi/2
-  static constexpr auto half_pi_tail = f32(0xB33BBD2E, -4.371138828673793e-08);
+  static constexpr auto shifter = 0x1p21f;  // the last bit is worth 1/4
+  static constexpr auto large = 7.75f;
+  static constexpr auto clamp = 0x1p32f;  // its arctangent rounds to pi/2
+
   static constexpr auto head = table32({
 #include "tables/generated/atan_float_head.inc"
   });
@@ -24,11 +25,11 @@ template <> struct Grid<Lum32f> {
   });
 };
 template <> struct Grid<Lum64f> {
-  static constexpr auto shifter = f64(0x4318000000000000, 1688849860263936.0);     // 1.5 * 2^50
-  static constexpr auto upper_half = f64(0x4318000000000010, 1688849860263940.0);  // the shifter + 16/4
-  static constexpr auto large = f64(0x401F800000000000, 7.875);
-  static constexpr auto clamp = f64(0x47F0000000000000, 3.402823669209385e+38);
-  static constexpr auto half_pi_tail = f64(0x3C91A62633145C07, 6.123233995736766e-17);
+  static constexpr auto shifter = rounding_shifter<Lum64f>(2);
+  static constexpr auto upper_half = shifter + 16 / 4;
+  static constexpr auto large = 7.875;
+  static constexpr auto clamp = 0x1p128;
+
   static constexpr auto head = table64({
 #include "tables/generated/atan_double_head.inc"
   });
@@ -48,15 +49,8 @@ LUM_INLINE Vec<Lum64f> Lookup(const Table<Lum64f, 32>& table, Vec<Lum64f> sum) {
 }
 
 // (arctan t - t) / t^3 for s = t^2, |t| up to 1/7.
-LUM_INLINE Vec<Lum32f> Cubic(Vec<Lum32f> s) {
-  return horner(s, f32(0xBEAAAAAA, -0.3333333134651184), f32(0x3E4CC8E2, 0.1999850571155548),
-                f32(0xBE0FA8DE, -0.14029261469841003));
-}
-LUM_INLINE Vec<Lum64f> Cubic(Vec<Lum64f> s) {
-  return horner(s, f64(0xBFD555555555554D, -0.33333333333333287), f64(0x3FC999999998741E, 0.19999999999791468),
-                f64(0xBFC249248EEF04DA, -0.14285714129622457), f64(0x3FBC71BFEFF916A0, 0.111110683524283),
-                f64(0xBFB74257C46790CC, -0.09085606141121899), f64(0x3FB2E9B9F5C4FE97, 0.07387888193351909));
-}
+LUM_INLINE Vec<Lum32f> Cubic(Vec<Lum32f> s) { return horner(s, invcircular::atan_A21); }
+LUM_INLINE Vec<Lum64f> Cubic(Vec<Lum64f> s) { return horner(s, invcircular::atan_A50); }
 
 // arctan |x| = table entry + arctan(n / d).
 template <class T> struct Reduced {
@@ -67,7 +61,7 @@ template <class T> struct Reduced {
 template <class T> LUM_INLINE Reduced<T> Reduce(Vec<T> x) {
   using G = Grid<T>;
   const auto a = abs(x);
-  const auto r = reduce<0x28>(a);  // exact
+  const auto r = reduce<binary_places(2) | quiet>(a);  // exact
   const auto c = a - r;
   const auto large = le(all(G::large), a);
   const auto n = select(large, all(T(-1)), r);
@@ -107,11 +101,11 @@ template <class T> struct High : TableTier<T> {
     const auto t_error = select(u.large, rounding, fnma(t, d_error * w, rounding));
 
     const auto base = select(u.large, all(half_pi<T>), Lookup(G::head, u.sum));
-    const auto base_tail = select(u.large, all(G::half_pi_tail), Lookup(G::tail, u.sum));
+    const auto base_tail = select(u.large, all(numbers::pi_tail<T> / 2), Lookup(G::tail, u.sum));
     const auto head = fast_two_sum(base, t);
     const auto s = t * t;
-    const auto low = fma(t * s, Cubic(s), (base_tail + t_error) + head.error);
-    return xor_sign(x, head.sum + low);
+    const auto low = fma(t * s, Cubic(s), (base_tail + t_error) + head.tail);
+    return xor_sign(x, head.head + low);
   }
 };
 
@@ -120,7 +114,7 @@ template <class T> struct Low : Kernel<T> {
     const auto small = nlt(all(T(1)), abs(x));
     const auto base = select(small, all(T(0)), all(half_pi<T>)) | sign_of(x);
     const auto t = select(small, x, negate(ShortReciprocal(x)));
-    return {fma(t, ShortArctangent(t * t), base), fpclass<0x18>(x)};
+    return {fma(t, ShortArctangent(t * t), base), fpclass<classes::infinity>(x)};
   }
   // Infinities alone come here.
   static void LaneRoutine(T x, T& result) { result = x < 0 ? -half_pi<T> : half_pi<T>; }

@@ -6,10 +6,12 @@
 #include <cmath>
 #include <cstdint>
 
-#include "frame/double_word.h"
+#include "frame/constant.h"
 #include "frame/kernel_frame.h"
 #include "frame/lane_format.h"
+#include "frame/two_parts.h"
 #include "invcircular/atan2_constants.h"
+#include "invcircular/polynomials.h"
 
 namespace lum::inline LUM_LAYER {
 
@@ -30,7 +32,7 @@ inline ScaledNumber Scale(double a) {
 }
 
 // The angle of (x, y), both positive and finite, with y / x within 2^-63 to 2^63.
-inline DoubleWord ScalarAngle(double y, double x) {
+inline TwoParts<double> ScalarAngle(double y, double x) {
   using C = IntervalConstants<Lum64f>;
   size_t i = 0;
   while (i < 4 && y > C::thresholds[i] * x) ++i;
@@ -40,16 +42,16 @@ inline DoubleWord ScalarAngle(double y, double x) {
     y = -old_x;
   }
   const double c = C::centres[i];
-  const DoubleWord cx = ExactProduct(c, x), cy = ExactProduct(c, y);
-  const DoubleWord n = ExactSum(y, -cx.hi), d = ExactSum(x, cy.hi);
-  const double t = n.hi / d.hi;
-  const DoubleWord td = ExactProduct(t, d.hi);
-  const double rest = ((n.hi - td.hi) - td.lo) + (n.lo - cx.lo) - t * (d.lo + cy.lo);
+  const TwoParts<double> cx = two_product(c, x), cy = two_product(c, y);
+  const TwoParts<double> n = two_sum(y, -cx.head), d = two_sum(x, cy.head);
+  const double t = n.head / d.head;
+  const TwoParts<double> td = two_product(t, d.head);
+  const double rest = ((n.head - td.head) - td.tail) + (n.tail - cx.tail) - t * (d.tail + cy.tail);
   const double s = t * t;
-  double p = 0;
-  for (size_t k = C::polynomial_size; k-- > 0;) p = p * s + C::polynomial[k];
-  const DoubleWord head = ExactSum(C::heads[i], t);
-  return {head.hi, head.lo + (C::tails[i] + rest / d.hi + t * s * p)};
+  const double p = unfused_horner(s, invcircular::atan2_A53);
+
+  const TwoParts<double> head = two_sum(C::angles.heads[i], t);
+  return {head.head, head.tail + (C::angles.tails[i] + rest / d.head + t * s * p)};
 }
 
 // The angles of the axes and of the diagonals.
@@ -60,10 +62,10 @@ template <bool x_negative> consteval AxisAngles AnglesOfAxes() {
   using C = IntervalConstants<Lum64f>;
   const auto angle = [](double hi, double lo) {
     if (!x_negative) return hi + lo;
-    const DoubleWord head = ExactSum(C::pi, -hi);
-    return head.hi + (head.lo + (C::pi_tail - lo));
+    const TwoParts<double> head = two_sum(numbers::pi_beside_angles_parts<Lum64f>[0], -hi);
+    return head.head + (head.tail + (numbers::pi_beside_angles_parts<Lum64f>[1] - lo));
   };
-  return {angle(0, 0), angle(C::heads[2], C::tails[2]), angle(C::heads[4], C::tails[4])};
+  return {angle(0, 0), angle(C::angles.heads[2], C::angles.tails[2]), angle(C::angles.heads[4], C::angles.tails[4])};
 }
 
 // The second path of the arctangent of two arguments. Numbers near the ends of the exponent range remain.
@@ -73,8 +75,8 @@ template <class T> LUM_INLINE Lanes<T> Atan2OfSpecial(Vec<T> y, Vec<T> x, const 
   const auto chosen = [&](double of_positive, double of_negative) __attribute__((always_inline)) {
     return select(x_negative, all(static_cast<T>(of_negative)), all(static_cast<T>(of_positive)));
   };
-  const auto y_zero = fpclass<0x06>(y), x_zero = fpclass<0x06>(x);
-  const auto y_infinite = fpclass<0x18>(y), x_infinite = fpclass<0x18>(x), nan = unord(y, x);
+  const auto y_zero = fpclass<classes::zero>(y), x_zero = fpclass<classes::zero>(x);
+  const auto y_infinite = fpclass<classes::infinity>(y), x_infinite = fpclass<classes::infinity>(x), nan = unord(y, x);
   const auto across = (x_zero & ~y_zero) | (y_infinite & ~x_infinite), diagonal = y_infinite & x_infinite;
   auto angle = chosen(positive.along, negative.along);
   angle = select(across, chosen(positive.across, negative.across), angle);
@@ -87,27 +89,27 @@ template <class T> LUM_INLINE Lanes<T> Atan2OfSpecial(Vec<T> y, Vec<T> x, const 
 template <class T> T Atan2Magnitude(double ay, double ax, bool x_negative) {
   using C = IntervalConstants<Lum64f>;
   constexpr double beyond = __builtin_inf();
-  DoubleWord r{0, 0};
+  TwoParts<double> r{0, 0};
   if (ay == 0) {
     r = {0, 0};
   } else if (ax == 0) {
-    r = {C::heads[4], C::tails[4]};
+    r = {C::angles.heads[4], C::angles.tails[4]};
   } else if (ay == beyond || ax == beyond) {
-    if (ay == ax) r = {C::heads[2], C::tails[2]};
-    else if (ay == beyond) r = {C::heads[4], C::tails[4]};
+    if (ay == ax) r = {C::angles.heads[2], C::angles.tails[2]};
+    else if (ay == beyond) r = {C::angles.heads[4], C::angles.tails[4]};
   } else {
     const ScaledNumber y = Scale(ay), x = Scale(ax);
     const int difference = y.exponent - x.exponent;
-    if (difference > 60) r = {C::heads[4], C::tails[4]};
+    if (difference > 60) r = {C::angles.heads[4], C::angles.tails[4]};
     else if (difference < -60 && !x_negative) return static_cast<T>(ay / ax);  // also where it is denormal
     else if (difference >= -60) {
       const auto scale = std::bit_cast<double>(static_cast<uint64_t>(1023 + difference) << 52);
       r = ScalarAngle(y.significand * scale, x.significand);
     }
   }
-  if (!x_negative) return static_cast<T>(r.hi + r.lo);
-  const DoubleWord head = ExactSum(C::pi, -r.hi);
-  return static_cast<T>(head.hi + (head.lo + (C::pi_tail - r.lo)));
+  if (!x_negative) return static_cast<T>(r.head + r.tail);
+  const TwoParts<double> head = two_sum(numbers::pi_beside_angles_parts<Lum64f>[0], -r.head);
+  return static_cast<T>(head.head + (head.tail + (numbers::pi_beside_angles_parts<Lum64f>[1] - r.tail)));
 }
 
 template <class T> void Atan2Routine(T y, T x, T& result) {

@@ -7,6 +7,8 @@
 
 #include "frame/kernel_frame.h"
 #include "frame/kernels.h"
+#include "frame/numbers.h"
+#include "pow/polynomials.h"
 #include "pow/power_path.h"
 #include "tables/table.h"
 
@@ -15,10 +17,11 @@ namespace {
 
 template <class T> struct PowConstants;
 template <> struct PowConstants<Lum32f> {
-  static constexpr auto limit = f32(0x42FB0000, 125.5);
-  // 1.5 * 2^19 + 127, the last place worth 1/16; and 1.5 * 2^18 + 127, 1/32: the biased exponent above the index.
-  static constexpr auto exp_shifter_16 = f32(0x494007F0, 786559.0);
-  static constexpr auto exp_shifter_32 = f32(0x48C00FE0, 393343.0);
+  static constexpr auto limit = 125.5f;
+  // With the bias, so that the biased exponent comes to lie above the index.
+
+  static constexpr auto exp_shifter_16 = rounding_shifter<Lum32f>(4) + 127;
+  static constexpr auto exp_shifter_32 = rounding_shifter<Lum32f>(5) + 127;
   static constexpr int fraction_bits = 23;
   static constexpr uint32_t exponent_field = 0x7F800000;
   static constexpr auto rows_16 = table32({
@@ -32,8 +35,8 @@ template <> struct PowConstants<Lum32f> {
   });
 };
 template <> struct PowConstants<Lum64f> {
-  static constexpr auto limit = f64(0x408FEC0000000000, 1021.5);
-  static constexpr auto exp_shifter_16 = f64(0x42F8000000003FF0, 422212465067007.0);  // 1.5 * 2^48 + 1023
+  static constexpr auto limit = 1021.5;
+  static constexpr auto exp_shifter_16 = rounding_shifter<Lum64f>(4) + 1023;
   static constexpr int fraction_bits = 52;
   static constexpr uint64_t exponent_field = 0x7FF0000000000000;
   static constexpr auto rows_16 = table64({
@@ -63,8 +66,8 @@ template <class T> struct Reduced { Vec<T> e, m, c; };
 
 // m in [1/2, 1), c in (1, 2].
 template <int fraction_bits, class T> LUM_INLINE Reduced<T> Reduce(Vec<T> x) {
-  const auto [m, e] = parts<0xA>(x);
-  const auto c = rounded_rcp14<fraction_bits, 2>(m);
+  const auto [m, e] = parts<significand::from_half_to_1 | significand::nan_if_negative>(x);
+  const auto c = rounded_rcp14<fraction_bits, significand::from_half_to_1>(m);
   return {add(lt(c, all(T(1.5))), e, all(T(1))), m, c};
 }
 
@@ -73,14 +76,12 @@ template <int row_bits, class T> LUM_INLINE Vec<UnsignedOf<T>> RowOf(Vec<T> c) {
   return shift_right<PowConstants<T>::fraction_bits - row_bits>(bits(c));
 }
 
-template <class T> struct LogRow { Vec<T> hi, lo; };
-
-LUM_INLINE LogRow<Lum32f> PairOf(Vec<Lum32f> c) {
+LUM_INLINE TwoParts<Vec<Lum32f>> PairOf(Vec<Lum32f> c) {
   const Lum32f* pairs = PowConstants<Lum32f>::pairs_32;
   const auto j = RowOf<5>(c);
   return {permute2(load(pairs), load(pairs + 16), j), permute2(load(pairs + 32), load(pairs + 48), j)};
 }
-LUM_INLINE LogRow<Lum64f> PairOf(Vec<Lum64f> c) {
+LUM_INLINE TwoParts<Vec<Lum64f>> PairOf(Vec<Lum64f> c) {
   const Lum64f* pairs = PowConstants<Lum64f>::pairs_32;
   const auto j = RowOf<5>(c);
   const auto first_half = mask_cast<Lum64f>(test_none(bits(c), all(uint64_t{0x0008000000000000})));
@@ -99,7 +100,7 @@ template <class T> LUM_INLINE ProductParts<T> MultiplyPair(Vec<T> s, Vec<T> q, V
 }
 
 template <class T> LUM_INLINE Mask<T> Refused(Vec<T> x, Vec<T> y, Vec<T> p) {
-  return fpclass<0xDF>(x) | fpclass<0x99>(y) | nle(abs(p), all(PowConstants<T>::limit));
+  return fpclass<classes::not_positive_finite>(x) | fpclass<classes::nonfinite>(y) | nle(abs(p), all(PowConstants<T>::limit));
 }
 
 // ---- 2^P
@@ -122,13 +123,11 @@ template <int index_bits, class T> LUM_INLINE Vec<T> Scale(Vec<T> value, const E
   return value * as_float(shift_left<C::fraction_bits - index_bits>(a.n) & all(C::exponent_field));
 }
 
-// (2^f - 1) / f in binary64.
+// (2^f - 1) / f to the accuracy of A50 and A53.
 LUM_INLINE Vec<Lum64f> LongExpPolynomial(Vec<Lum64f> f) {
+  constexpr auto& p = pow::exp2_A50;
   const auto square = f * f;
-  const auto p0 = horner(f, f64(0x3FE62E42FEFA398B, 0.6931471805599342), f64(0x3FCEBFBDFF84554D, 0.24022650696194106));
-  const auto p2 = horner(f, f64(0x3FAC6B08D4AD8EB9, 0.0555041083923959), f64(0x3F83B2AD1B14EBAA, 0.009618141545265708));
-  const auto p4 = horner(f, f64(0x3F55D7472783D279, 0.0013330645434141127), f64(0x3F24A1D7F58C2D59, 0.00015741120548571732));
-  return fma(fma(p4, square, p2), square, p0);
+  return fma(fma(horner(f, part<4, 5>(p)), square, horner(f, part<2, 3>(p))), square, horner(f, part<0, 1>(p)));
 }
 
 template <class T> struct PowKernel : Kernel<T> {
@@ -142,16 +141,15 @@ struct A11_32f : PowKernel<Lum32f> {
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x, Vec<Lum32f> y) {
     using C = PowConstants<Lum32f>;
     // m in [1, 2), c in [1/2, 1].
-    const auto [m, exponent] = parts<0x8>(x);
-    const auto c = rounded_rcp14<5, 0>(m);
+    const auto [m, exponent] = parts<significand::from_1_to_2 | significand::nan_if_negative>(x);
+    const auto c = rounded_rcp14<5, significand::from_1_to_2>(m);
     const auto e = add(lt(c, all(0.75f)), exponent, all(1.0f));
     const auto r = fms(m, c, all(1.0f));
-    const auto q = horner(r, f32(0x3FB8AA3B, 1.4426950216293335), f32(0xBF38AA39, -0.7213473916053772),
-                          f32(0x3EF65D69, 0.48118141293525696), f32(0xBEB8D89E, -0.36102765798568726));
+    const auto q = horner(r, pow::log2_A11);
     const auto product = mul_toward_zero(fma<rz>(q, r, e + permute(load<Lum32f>(C::rows_16), RowOf<4>(c))), y);
     const auto a = SplitExponent<4>(product, C::exp_shifter_16);
     const auto head = permute(load<Lum32f>(C::exp_head), a.n);
-    const auto u = horner(a.f, f32(0x3F317CC0, 0.6933097839355469), f32(0x3E760A40, 0.24027347564697266));
+    const auto u = horner(a.f, pow::exp2_A11);
     return {Scale<4>(fma(head * a.f, u, head), a), Refused(x, y, product.head)};
   }
 };
@@ -162,19 +160,15 @@ struct A21_32f : PowKernel<Lum32f> {
     const auto [e, m, c] = Reduce<5>(x);
     const auto r = fms(m, c, all(1.0f));
     const auto row = PairOf(c);
-    const auto k = all(f32(0x3FB8AA3B, 1.4426950216293335));
-    const auto b = row.hi + e;
+    const auto k = all(numbers::log2_e<Lum32f>);
+    const auto b = row.head + e;
     const auto s = fma(k, r, b);
     const auto s_error = fms(k, r, s - b);
-    const auto q = fma(horner(r, f32(0x32A570CC, 1.9259822181538766e-08), f32(0xBF38AA3B, -0.7213475108146667),
-                              f32(0x3EF6384F, 0.48089835047721863), f32(0xBEB8B3ED, -0.36074772477149963),
-                              f32(0x3E93C705, 0.2886277735233307)),
-                       r, row.lo);
+    const auto q = fma(horner(r, pow::log2_A21), r, row.tail);
     const auto product = MultiplyPair(s, q, s_error, y);
     const auto a = SplitExponent<4>(product, C::exp_shifter_16);
     const auto head = permute(load<Lum32f>(C::exp_head), a.n);
-    const auto u = horner(a.f, f32(0x3F317222, 0.6931477785110474), f32(0x3E75F16C, 0.24017876386642456),
-                          f32(0x3D6854CB, 0.05672148987650871));
+    const auto u = horner(a.f, pow::exp2_A21);
     return {Scale<4>(fma(head * a.f, u, head), a), Refused(x, y, product.head)};
   }
 };
@@ -196,18 +190,14 @@ struct A24_32f : PowKernel<Lum32f> {
     const auto [e, m, c] = Reduce<5>(x);
     const auto r = fms(m, c, all(1.0f));
     const auto row = PairOf(c);
-    const auto c2 = f32(0xBF38AA3B, -0.7213475108146667);
-    const auto terms = SumExactTerms(r, row.hi + e, f32(0x3FB8AA3B, 1.4426950216293335), c2);
-    const auto q = fma(horner(r, f32(0x32A570CC, 1.9259822181538766e-08), f32(0xB1AE8807, -5.079531018026273e-09),
-                              f32(0x3EF6384F, 0.48089835047721863), f32(0xBEB8B3ED, -0.36074772477149963),
-                              f32(0x3E93C705, 0.2886277735233307)),
-                       r, fma(all(c2), terms.r2_error, row.lo));
+    const auto c2 = -numbers::log2_e<Lum32f> / 2;
+    const auto terms = SumExactTerms(r, row.head + e, numbers::log2_e<Lum32f>, c2);
+    const auto q = fma(horner(r, pow::log2_A24), r, fma(all(c2), terms.r2_error, row.tail));
     const auto product = MultiplyPair(terms.sum, q, terms.errors, y);
     const auto a = SplitExponent<5>(product, C::exp_shifter_32);
     const auto head = permute2(load<Lum32f>(exp_head_32), load(exp_head_32 + 16), a.n);
     const auto tail = permute2(load<Lum32f>(exp_tail_32), load(exp_tail_32 + 16), a.n);
-    const auto u = horner(a.f, f32(0x3F317219, 0.6931472420692444), f32(0x3E75FAD6, 0.24021467566490173),
-                          f32(0x3D65D28E, 0.056109003722667694));
+    const auto u = horner(a.f, pow::exp2_A24);
     return {Scale<5>(fma(head, fma(u, a.f, tail), head), a), Refused(x, y, product.head)};
   }
 };
@@ -221,15 +211,14 @@ struct A26_64f : PowKernel<Lum64f> {
     const auto r = fms(m, c, all(1.0));
     const auto r2 = r * r;
     const auto b = e + permute2(load<Lum64f>(C::rows_16), load(C::rows_16 + 8), RowOf<4>(c));
-    const auto q0 = horner(r, f64(0x3FF71547652B82F4, 1.4426950408889612), f64(0xBFE71547652E11EC, -0.7213475204630959));
-    const auto q2 = horner(r, f64(0x3FDEC709DC4A43C9, 0.48089834702210205), f64(0xBFD71546C21A4D60, -0.3606736083540536));
-    const auto q4 = horner(r, f64(0x3FD2776B43A8C495, 0.2885387573943004), f64(0xBFCED12FE625DE19, -0.24075888383571067));
-    const auto q = fma(fma(all(f64(0x3FCA6D10104C2777, 0.20645333095336202)), r2, q4), r2 * r2, fma(q2, r2, q0));
+    const auto q0 = horner(r, part<0, 1>(pow::log2_A26));
+    const auto q2 = horner(r, part<2, 3>(pow::log2_A26));
+    const auto q4 = horner(r, part<4, 5>(pow::log2_A26));
+    const auto q = fma(fma(all(pow::log2_A26.c[6]), r2, q4), r2 * r2, fma(q2, r2, q0));
     const auto product = mul_toward_zero(fma<rz>(q, r, b), y);
     const auto a = SplitExponent<4>(product, C::exp_shifter_16);
     const auto head = permute2(load<Lum64f>(C::exp_head), load(C::exp_head + 8), a.n);
-    const auto u = horner(a.f, f64(0x3FE62E444056BF23, 0.6931477791422122), f64(0x3FCEBE2D518E7C49, 0.24017874223952365),
-                          f64(0x3FAD0A9942A3D753, 0.05672148645855537));
+    const auto u = horner(a.f, pow::exp2_A26);
     return {Scale<4>(fma(head * a.f, u, head), a), Refused(x, y, product.head)};
   }
 };
@@ -240,14 +229,9 @@ struct A50_64f : PowKernel<Lum64f> {
     const auto [e, m, c] = Reduce<5>(x);
     const auto r = fms(m, c, all(1.0));
     const auto row = PairOf(c);
-    const auto c2 = f64(0xBFE71547652B82FE, -0.7213475204444817);
-    const auto terms = SumExactTerms(r, row.hi + e, f64(0x3FF71547652B82FE, 1.4426950408889634), c2);
-    const auto q = fma(horner(r, f64(0x3C7777F3EE5E912F, 2.0355736058257225e-17),
-                              f64(0x3C636B5DDFFE5B67, 8.421822774076385e-18), f64(0x3FDEC709DC3A03FC, 0.4808983469629877),
-                              f64(0xBFD71547652BC9EA, -0.3606737602232487), f64(0x3FD2776C50F03272, 0.2885390081799307),
-                              f64(0xBFCEC709BC8FB8DF, -0.24044915873623204), f64(0x3FCA6175FCA19D03, 0.20609927020561977),
-                              f64(0xBFC717E59A559F5D, -0.18041677509176682), f64(0x3FC48799F5374B96, 0.16038822625577315)),
-                       r, fma(all(c2), terms.r2_error, row.lo));
+    const auto c2 = -numbers::log2_e<Lum64f> / 2;
+    const auto terms = SumExactTerms(r, row.head + e, numbers::log2_e<Lum64f>, c2);
+    const auto q = fma(horner(r, pow::log2_A50), r, fma(all(c2), terms.r2_error, row.tail));
     const auto product = MultiplyPair(terms.sum, q, terms.errors, y);
     const auto a = SplitExponent<4>(product, C::exp_shifter_16);
     const auto head = permute2(load<Lum64f>(C::exp_head), load(C::exp_head + 8), a.n);
@@ -262,21 +246,15 @@ struct A53_64f : PowKernel<Lum64f> {
     const auto v = fms(m * all(0.5), c, all(0.5));  // r/2, exact
     const auto row = PairOf(c);
     // The series in v starts with K v - K v^2, so that the second term is -v times the first: one step each, with its error.
-    const auto k = all(f64(0x40071547652B82FE, 2.8853900817779268));
-    const auto b = row.hi + e;
+    const auto k = all(2 * numbers::log2_e<Lum64f>);
+    const auto b = row.head + e;
     const auto s = fma(k, v, b);
     const auto d = s - b;
     const auto d_error = fms(k, v, d);
     const auto s2 = fnma(v, d, s);
     const auto s2_error = fnms(v, d, s2 - s);
     const auto errors = fnma(v, d_error, d_error) + s2_error;
-    const auto q =
-        fma(horner(v, f64(0x3C8777DF70B75D10, 4.071092972869235e-17), f64(0xBC8778D9C7190437, -4.0717556105226066e-17),
-                   f64(0x400EC709DC3A03FD, 3.847186775703902), f64(0xC0171547652B82FC, -5.770780163555852),
-                   f64(0x4022776C50EFFBDE, 9.233248261732964), f64(0xC02EC709DC3B71A1, -15.388747102981883),
-                   f64(0x403A617607E55815, 26.380707257740216), f64(0xC04715473528EFC1, -46.16623558520178),
-                   f64(0x4054873CF87141D1, 82.1130963426615), f64(0xC0627A394386376F, -147.81949020589988)),
-            v, row.lo);
+    const auto q = fma(horner(v, pow::log2_A53), v, row.tail);
     const auto product = MultiplyPair(s2, q, errors, y);
     const auto a = SplitExponent<4>(product, C::exp_shifter_16);
     const auto head = permute2(load<Lum64f>(C::exp_head), load(C::exp_head + 8), a.n);

@@ -20,7 +20,7 @@ template <int columns, class T, size_t n> consteval Table<T, n / columns * 4> In
 }
 
 // The rows of the stages and of the powers of 2.
-template <class T> struct PowerRow { Vec<T> c, hi, lo; };
+template <class T> struct PowerRow { Vec<T> c, head, tail; };
 template <int stage, class T> LUM_INLINE PowerRow<T> StageRow(Vec<T> z) {
   using C = PowerConstants<T>;
   using Word = UnsignedOf<T>;
@@ -43,9 +43,8 @@ template <int stage, class T> LUM_INLINE PowerRow<T> StageRow(Vec<T> z) {
   }
 }
 
-template <class T> struct VectorPair { Vec<T> hi, lo; };
-template <class T> LUM_INLINE VectorPair<T> SplitVector(Vec<T> x) {
-  const auto t = all(T{PowerConstants<T>::splitter}) * x;
+template <class T> LUM_INLINE TwoParts<Vec<T>> SplitVector(Vec<T> x) {
+  const auto t = all(half_splitter<T>()) * x;
   const auto head = t - (t - x);
   return {head, x - head};
 }
@@ -54,7 +53,7 @@ template <class T> LUM_INLINE Vec<UnsignedOf<T>> BiasedExponents(Vec<T> x) {
 }
 
 // As the function of scalars.
-template <class T> LUM_INLINE VectorPair<T> Log2Pair(Vec<T> given) {
+template <class T> LUM_INLINE TwoParts<Vec<T>> Log2Pair(Vec<T> given) {
   using F = PowerFormat<T>;
   using C = PowerConstants<T>;
   using Word = UnsignedOf<T>;
@@ -77,28 +76,29 @@ template <class T> LUM_INLINE VectorPair<T> Log2Pair(Vec<T> given) {
   const auto u0 = z3 - all(T{C::scale});
   const auto factor = SplitVector<T>(row1.c * row2.c * row3.c);
   const auto [m_head, m_tail] = SplitVector(m);
-  const auto w = ((m_head * factor.hi - z3) + (m_head * factor.lo + m_tail * factor.hi)) + m_tail * factor.lo;
-  const auto a = e + row1.hi + row2.hi + row3.hi;
+  const auto w = ((m_head * factor.head - z3) + (m_head * factor.tail + m_tail * factor.head)) + m_tail * factor.tail;
+  const auto a = e + row1.head + row2.head + row3.head;
   const auto s0 = a + u0;
   const auto s = s0 + w;
   const auto errors = (u0 - (s0 - a)) + (w - (s - s0));
   const auto u = u0 + w;
-  return {s, u * C::LogPolynomial(u) + (errors + (row1.lo + row2.lo + row3.lo))};
+  return {s, u * unfused_horner(u, C::log_polynomial) + (errors + (row1.tail + row2.tail + row3.tail))};
 }
 
-// 2^(p.hi + p.lo). A denormal result is counted in units of the smallest positive number by a sum whose last bit is worth that.
-template <class T> LUM_INLINE Vec<T> Exp2Positive(VectorPair<T> p) {
+// 2^(p.head + p.tail). A denormal result is counted in units of the smallest positive number by a sum whose last bit is worth
+// that.
+template <class T> LUM_INLINE Vec<T> Exp2Positive(TwoParts<Vec<T>> p) {
   using F = PowerFormat<T>;
   using C = PowerConstants<T>;
   using Word = UnsignedOf<T>;
   using Signed = SignedOf<T>;
-  const auto shifted = p.hi + all(T{C::exp_shifter});
+  const auto shifted = p.head + all(T{C::exp_shifter});
   const auto count = bits(shifted) - bits(all(T{C::exp_shifter}));
-  const auto g = (p.hi - (shifted - all(T{C::exp_shifter}))) + p.lo;
+  const auto g = (p.head - (shifted - all(T{C::exp_shifter}))) + p.tail;
   static constexpr auto table = InRowsOfFour<2>(C::exp2);
   const auto row = gather_rows<T>(table, shift_left<2>(count & all(Word{127})));
   const auto n = shift_right_arithmetic<7>(as_signed(count));
-  const auto correction = row.column0 * (g * C::ExpPolynomial(g)) + row.column1;
+  const auto correction = row.column0 * (g * unfused_horner(g, C::exp_polynomial)) + row.column1;
   const auto v = row.column0 + correction;
 
   const auto exponent = as_signed(BiasedExponents(v)) + n;
@@ -115,7 +115,7 @@ template <class T> LUM_INLINE Vec<T> Exp2Positive(VectorPair<T> p) {
   const auto counted = [](Vec<T> q, T addend) __attribute__((always_inline)) {
     return bits(q + all(addend)) - bits(all(addend));
   };
-  const auto head = SplitVector(v).hi;
+  const auto head = SplitVector(v).head;
   const auto tail = (row.column0 - head) + correction;
   const auto in_two_parts = counted(head * up, unit) + counted(tail * up, T(1.5) * unit);
   const auto is_short = mask_cast<Word>(lt(exponent, all(Signed{-9})));
@@ -128,33 +128,33 @@ template <class T> LUM_INLINE Vec<T> PowerMagnitude(Vec<T> x, Vec<T> y) {
   using C = PowerConstants<T>;
   using Word = UnsignedOf<T>;
   const auto log = Log2Pair(x);
-  const auto exponents = BiasedExponents(log.hi) + BiasedExponents(y);
+  const auto exponents = BiasedExponents(log.head) + BiasedExponents(y);
   const auto far = mask_cast<T>(le(all(Word{C::overflowing_exponents}), exponents));
   const auto near_one = mask_cast<T>(lt(exponents, all(Word{C::vanishing_exponents})));
   const auto factor = zero_unless(~(far | near_one), y);
 
-  const auto h = log.hi + log.lo;
-  const auto head = SplitVector(h).hi;
-  const auto tail = (log.lo - (h - log.hi)) + (h - head);
+  const auto h = log.head + log.tail;
+  const auto head = SplitVector(h).head;
+  const auto tail = (log.tail - (h - log.head)) + (h - head);
   const auto [y_head, y_tail] = SplitVector(factor);
   const auto a = head * y_head;
   const auto b = tail * factor + head * y_tail;
   const auto p = a + b;
   const auto value = Exp2Positive<T>({p, b - (p - a)});
-  const auto falls = mask_cast<T>(sign_mask(bits(log.hi) ^ bits(y)));
+  const auto falls = mask_cast<T>(sign_mask(bits(log.head) ^ bits(y)));
   return select(far, zero_unless(~falls, all(std::numeric_limits<T>::infinity())), value);
 }
 
 // The second path for any arguments.
 template <class T> LUM_INLINE Finished<T> PowerSecondPath(Vec<T> x, Vec<T> y, const Lanes<T>& lanes) {
-  constexpr int truncated = 0xB;
-  const auto one = eq(x, all(T(1))) | fpclass<0x06>(y), nan = unord(x, y) & ~one;
+  constexpr int truncated = binary_places(0) | rz | quiet;
+  const auto one = eq(x, all(T(1))) | fpclass<classes::zero>(y), nan = unord(x, y) & ~one;
   const auto whole = eq(rndscale<truncated>(y), y);
   const auto half = zero_unless(whole, y) * all(T(0.5));
   const auto x_negative = mask_cast<T>(sign_mask(bits(x))), y_negative = mask_cast<T>(sign_mask(bits(y)));
   const auto sign = zero_unless(mask_cast<UnsignedOf<T>>(x_negative & ne(rndscale<truncated>(half), half)), all(sign_bit<T>));
   const auto magnitude = abs(x);
-  const auto zero = fpclass<0x06>(x), infinite = fpclass<0x18>(x) | fpclass<0x18>(y);
+  const auto zero = fpclass<classes::zero>(x), infinite = fpclass<classes::infinity>(x) | fpclass<classes::infinity>(y);
   const auto is_unit = eq(magnitude, all(T(1))) & whole;
   const auto fractional = x_negative & ~whole & ~zero & ~infinite;
   const auto settled = one | nan | zero | infinite | is_unit | fractional;

@@ -10,12 +10,15 @@
 #include "frame/constant.h"
 #include "frame/lane_format.h"
 #include "frame/literals.h"
+#include "frame/numbers.h"
+#include "frame/two_parts.h"
 #include "frame/types.h"
+#include "pow/polynomials.h"
 #include "tables/table.h"
 
 namespace lum::inline LUM_LAYER {
 
-// Of the scheme of PowerMagnitude in either type. A table of a stage has rows c, hi, lo.
+// What the scheme of PowerMagnitude takes in either type. A table of a stage has rows c, hi, lo.
 template <class T> struct PowerConstants;
 template <> struct PowerConstants<Lum32f> {
   static constexpr auto stage1 = table32({
@@ -34,26 +37,14 @@ template <> struct PowerConstants<Lum32f> {
   static constexpr int index_shift[3] = {20, 18, 15};
   static constexpr uint32_t index_mask[3] = {0x780000, 0x1E0000, 0x7C000};
   static constexpr uint32_t exponent_origin = 0x3F380000;
-  static constexpr auto scale = f32(0x3FB88000, 1.44140625);
-  static constexpr auto splitter = 4097.0f;
-  static constexpr auto exp_shifter = 98304.0f;  // 1.5 * 2^16: the last place is worth 1/128
+  static constexpr auto scale = numbers::log2_e_short<Lum32f>;
+  static constexpr auto exp_shifter = rounding_shifter<Lum32f>(7);
   static constexpr int denormal_exponent = 64;
   static constexpr int overflowing_exponents = 265, vanishing_exponents = 193;
   static constexpr int last_denormal = -32;
-  // (log2(1 + u/scale) - u) / u.
-  template <class V> static LUM_INLINE V LogPolynomial(V u) {
-    const auto c = [](auto coefficient) { return Constant<V>(coefficient); };
-    return ((c(f32(0xBDAB1EA1, -0.08355451375246048)) * u + c(f32(0x3E246F69, 0.16058124601840973))) * u +
-            c(f32(0xBEB1C35D, -0.3471936285495758))) *
-               u +
-           c(f32(0x3A6A6369, 0.0008941204869188368));
-  }
-  // (2^g - 1) / g.
-  template <class V> static LUM_INLINE V ExpPolynomial(V g) {
-    const auto c = [](auto coefficient) { return Constant<V>(coefficient); };
-    return (c(f32(0x3D635847, 0.05550410971045494)) * g + c(f32(0x3E75FDF0, 0.24022650718688965))) * g +
-           c(f32(0x3F317218, 0.6931471824645996));
-  }
+  // (log2(1 + u/scale) - u) / u and (2^g - 1) / g.
+  static constexpr auto& log_polynomial = pow::routine_log2_32f;
+  static constexpr auto& exp_polynomial = pow::routine_exp2_32f;
 };
 template <> struct PowerConstants<Lum64f> {
   static constexpr auto stage1 = table64({
@@ -71,32 +62,14 @@ template <> struct PowerConstants<Lum64f> {
   static constexpr int index_shift[3] = {47, 43, 37};
   static constexpr uint64_t index_mask[3] = {0x000FC00000000000, 0x0000FC0000000000, 0x00000FF000000000};
   static constexpr uint64_t exponent_origin = 0x3FE7C00000000000;
-  static constexpr auto scale = f64(0x3FF7154740000000, 1.442694902420044);
-  static constexpr auto splitter = 134217729.0;
-  static constexpr auto exp_shifter = 52776558133248.0;  // 1.5 * 2^45: the last place is worth 1/128
+  static constexpr auto scale = numbers::log2_e_short<Lum64f>;
+  static constexpr auto exp_shifter = rounding_shifter<Lum64f>(7);
   static constexpr int denormal_exponent = 200;
   static constexpr int overflowing_exponents = 2057, vanishing_exponents = 1985;
   static constexpr int last_denormal = -61;
-  template <class V> static LUM_INLINE V LogPolynomial(V u) {
-    const auto c = [](auto coefficient) { return Constant<V>(coefficient); };
-    return ((c(f64(0xBFB550472A9012D8, -0.08325619496470027)) * u + c(f64(0x3FC47FD462B6DEE1, 0.16015105075870564))) * u +
-            c(f64(0xBFD62E4346694107, -0.3465736568077919))) *
-               u +
-           c(f64(0x3E79C3A6966457E8, 9.597935033233503e-08));
-  }
-  template <class V> static LUM_INLINE V ExpPolynomial(V g) {
-    const auto c = [](auto coefficient) { return Constant<V>(coefficient); };
-    return (((c(f64(0x3F55D87FE78A6731, 0.0013333558146428443)) * g + c(f64(0x3F83B2AB6FBA4E77, 0.009618129107628477))) * g +
-             c(f64(0x3FAC6B08D704A0C0, 0.05550410866482158))) *
-                g +
-            c(f64(0x3FCEBFBDFF82C58F, 0.24022650695910072))) *
-               g +
-           c(f64(0x3FE62E42FEFA39EF, 0.6931471805599453));
-  }
+  static constexpr auto& log_polynomial = pow::routine_log2_64f;
+  static constexpr auto& exp_polynomial = pow::routine_exp2_64f;
 };
-
-// An unevaluated sum, |lo| small against |hi|.
-template <class T> struct ScalarPair { T hi, lo; };
 
 template <class T> struct PowerFormat {
   using Word = std::conditional_t<sizeof(T) == 4, uint32_t, uint64_t>;
@@ -111,12 +84,6 @@ template <class T> struct PowerFormat {
   static int BiasedExponent(T x) { return static_cast<int>(Magnitude(x) >> fraction_bits); }
   // 2^n of a normal result.
   static T PowerOfTwo(int n) { return std::bit_cast<T>(static_cast<Word>(n + bias) << fraction_bits); }
-  // x as two numbers of half as many bits each.
-  static ScalarPair<T> Split(T x) {
-    const T t = PowerConstants<T>::splitter * x;
-    const T head = t - (t - x);
-    return {head, x - head};
-  }
 };
 
 enum class Parity { fractional, odd, even };
@@ -137,7 +104,7 @@ template <class T> Parity ParityOf(T y) {
 // log2 x of a positive finite x = 2^e m: |error| about 2^-40 in binary32, 2^-77 in binary64, and as small relative to a result
 // next to zero. Three short factors bring m to scale (1 + d), scale next to 1/ln 2, so that u = scale d is nearly the logarithm
 // of what is left. Their product is exact, and so is u as a pair.
-template <class T> ScalarPair<T> Log2Pair(T x) {
+template <class T> TwoParts<T> Log2Pair(T x) {
   using F = PowerFormat<T>;
   using C = PowerConstants<T>;
   int exponent_correction = 0;
@@ -162,31 +129,31 @@ template <class T> ScalarPair<T> Log2Pair(T x) {
                      exponent_correction);
 
   const T u0 = z3 - C::scale;  // exact
-  const auto factor = F::Split(row1[0] * row2[0] * row3[0]);
-  const auto [m_head, m_tail] = F::Split(m);
+  const auto factor = split(row1[0] * row2[0] * row3[0]);
+  const auto [m_head, m_tail] = split(m);
   // What the rounded products have lost.
-  const T w = ((m_head * factor.hi - z3) + (m_head * factor.lo + m_tail * factor.hi)) + m_tail * factor.lo;
+  const T w = ((m_head * factor.head - z3) + (m_head * factor.tail + m_tail * factor.head)) + m_tail * factor.tail;
 
   const T a = e + row1[1] + row2[1] + row3[1];  // exact; 0 or larger than u0
   const T s0 = a + u0;
   const T s = s0 + w;
   const T errors = (u0 - (s0 - a)) + (w - (s - s0));
   const T u = u0 + w;
-  return {s, u * C::LogPolynomial(u) + (errors + (row1[2] + row2[2] + row3[2]))};
+  return {s, u * unfused_horner(u, C::log_polynomial) + (errors + (row1[2] + row2[2] + row3[2]))};
 }
 
-// 2^(p.hi + p.lo) times sign, |p| up to 2^11: one rounding also of a denormal result.
-template <class T> T Exp2Signed(ScalarPair<T> p, T sign) {
+// 2^(p.head + p.tail) times sign, |p| up to 2^11: one rounding also of a denormal result.
+template <class T> T Exp2Signed(TwoParts<T> p, T sign) {
   using F = PowerFormat<T>;
   using C = PowerConstants<T>;
   constexpr T huge = std::numeric_limits<T>::max();
   constexpr T tiny = std::numeric_limits<T>::min();
-  const T shifted = p.hi + C::exp_shifter;
+  const T shifted = p.head + C::exp_shifter;
   const int count = static_cast<int>(static_cast<typename F::Signed>(F::Bits(shifted) - F::Bits(C::exp_shifter)));
-  const T g = (p.hi - (shifted - C::exp_shifter)) + p.lo;
+  const T g = (p.head - (shifted - C::exp_shifter)) + p.tail;
   const T* row = C::exp2 + 2 * (count & 127);
   const int n = count >> 7;
-  const T correction = row[0] * (g * C::ExpPolynomial(g)) + row[1];
+  const T correction = row[0] * (g * unfused_horner(g, C::exp_polynomial)) + row[1];
   const T v = row[0] + correction;
 
   const int exponent = F::BiasedExponent(v) + n;
@@ -198,7 +165,7 @@ template <class T> T Exp2Signed(ScalarPair<T> p, T sign) {
   // Few bits are left: a second rounding does no harm.
   if (exponent < -9) return sign * (v * up) * down;
   // The head is no longer than the result; the rest alone is rounded.
-  const T head = F::Split(v).hi;
+  const T head = split(v).head;
   const T tail = (row[0] - head) + correction;
   return sign * ((head * up) * down + (tail * up) * down);
 }
@@ -208,17 +175,17 @@ template <class T> T PowerMagnitude(T x, T y, T sign) {
   using F = PowerFormat<T>;
   using C = PowerConstants<T>;
   const auto log = Log2Pair(x);
-  const int exponents = F::BiasedExponent(log.hi) + F::BiasedExponent(y);
+  const int exponents = F::BiasedExponent(log.head) + F::BiasedExponent(y);
   if (exponents >= C::overflowing_exponents) {
-    const T h = (log.hi < 0) == (y < 0) ? std::numeric_limits<T>::max() : std::numeric_limits<T>::min();
+    const T h = (log.head < 0) == (y < 0) ? std::numeric_limits<T>::max() : std::numeric_limits<T>::min();
     return sign * h * h;
   }
   if (exponents < C::vanishing_exponents) return sign * (T(1) + std::numeric_limits<T>::min());
 
-  const T h = log.hi + log.lo;
-  const T head = F::Split(h).hi;
-  const T tail = (log.lo - (h - log.hi)) + (h - head);
-  const auto [y_head, y_tail] = F::Split(y);
+  const T h = log.head + log.tail;
+  const T head = split(h).head;
+  const T tail = (log.tail - (h - log.head)) + (h - head);
+  const auto [y_head, y_tail] = split(y);
   const T a = head * y_head;  // exact
   const T b = tail * y + head * y_tail;
   const T p = a + b;

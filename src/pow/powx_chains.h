@@ -39,7 +39,7 @@ struct ReciprocalA50 : Kernel<Lum64f> {
     const auto c = rcp14(x);
     const auto e = fnma(x, c, all(1.0));
     const auto t = fma(c, e, c);
-    return {fma(t, e * e, t), fpclass<0x1E>(c)};
+    return {fma(t, e * e, t), fpclass<classes::zero | classes::infinity>(c)};
   }
   static LumStatus LaneRoutine(Lum64f x, Lum64f& result) {
     result = 1 / x;

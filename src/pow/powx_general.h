@@ -7,6 +7,8 @@
 #include <cstdint>
 
 #include "frame/kernel_frame.h"
+#include "frame/numbers.h"
+#include "pow/polynomials.h"
 #include "pow/power_path.h"
 #include "tables/table.h"
 
@@ -21,7 +23,8 @@ template <class T> struct PowxGeneral : Kernel<T> {
     result = static_cast<T>(wide);
     return status;
   }
-  // The same steps over vectors.
+  // The steps of PowerRoutine over vectors.
+
   LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) const {
     // Of two NaNs the element's is the result, which only a layer that orders them gives.
     auto in_doubt = mask_of<T>(0);
@@ -41,14 +44,14 @@ template <class T> struct PowxGeneral : Kernel<T> {
     }
   }
   // All lanes or none.
-  LUM_INLINE Mask<T> ValueIsNotFinite() const { return fpclass<0x99>(all(value)); }
+  LUM_INLINE Mask<T> ValueIsNotFinite() const { return fpclass<classes::nonfinite>(all(value)); }
 };
 
 // ---- binary32, A11 and A21
 
 // All but the positive normal numbers; the largest of these is among the refused.
 LUM_INLINE Mask<Lum32f> IsRefused(Vec<Lum32f> x) {
-  return fpclass<0xFF>(x) | le(all(f32(0x7F7FFFFF, 3.4028234663852886e+38)), x);
+  return fpclass<classes::not_positive_normal>(x) | le(all(std::numeric_limits<Lum32f>::max()), x);
 }
 
 // |a| is above the number of the pattern, or NaN.
@@ -61,8 +64,6 @@ LUM_INLINE Vec<Lum32f> AddToExponent(Vec<Lum32f> value, Vec<Lum32f> z) {
   return as_float(bits(value) + shift_left<23>(bits(z)));
 }
 
-constexpr auto integer_shifter_32f = f32(0x4B400000, 12582912.0);  // 1.5 * 2^23
-
 // ln x = k ln 2 + ln m, m in [2/3, 4/3), by a polynomial in m - 1.
 struct PowxA11_32f : PowxGeneral<Lum32f> {
   LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) const {
@@ -70,16 +71,12 @@ struct PowxA11_32f : PowxGeneral<Lum32f> {
     const auto u = bits(x) - two_thirds;
     const auto k = to_float(shift_right_arithmetic<23>(as_signed(u)));
     const auto r = as_float((u & all(0x7FFFFFu)) + two_thirds) - all(1.0f);
-    const auto q = horner(r, -0.5f, f32(0x3EAAAD03, 0.3333512246608734), f32(0xBE7F0F0F, -0.24908088147640228),
-                          f32(0x3E4B62C0, 0.19861888885498047), f32(0xBE424B46, -0.18974027037620544),
-                          f32(0x3E2B350C, 0.16719454526901245));
+    const auto q = horner(r, pow::powx_ln_A11);
     const auto p = fma(q * r, r, r);
-    const auto t =
-        all(value) * fma(k, all(f32(0x3F317200, 0.693145751953125)), fma(k, all(f32(0x35BFBE8E, 1.428606765330187e-06)), p));
-    const auto z = fma(t, all(f32(0x3FB8AA3B, 1.4426950216293335)), all(integer_shifter_32f));
-    const auto g = fnma(z - all(integer_shifter_32f), all(f32(0x3F317218, 0.6931471824645996)), t);
-    const auto power = horner(g, 1.0f, f32(0x3F8003DE, 1.0001180171966553), f32(0x3F00F2D6, 0.5037053823471069),
-                              f32(0x3E2963AC, 0.16541928052902222));
+    const auto t = all(value) * fma(k, all(numbers::ln2_short<Lum32f>), fma(k, all(numbers::ln2_short_tail<Lum32f>), p));
+    const auto z = fma(t, all(numbers::log2_e<Lum32f>), all(rounding_shifter<Lum32f>()));
+    const auto g = fnma(z - all(rounding_shifter<Lum32f>()), all(numbers::ln2<Lum32f>), t);
+    const auto power = horner(g, pow::powx_exp_A11);
     const auto out_of_range = PatternAbove<0x42AE9A00>(t);  // 87.30078125
     return {AddToExponent(power, z), IsRefused(x) | out_of_range | ValueIsNotFinite()};
   }
@@ -97,7 +94,7 @@ struct PowxA21_32f : PowxGeneral<Lum32f> {
   };
   // The leading half of the bits.
   static LUM_INLINE Vec<Lum32f> HeadOf(Vec<Lum32f> a) {
-    const auto t = a * all(f32(0x45800800, 4097.0));
+    const auto t = a * all(0x1p12f + 1);
     return (a + t) - t;
   }
 
@@ -108,14 +105,14 @@ struct PowxA21_32f : PowxGeneral<Lum32f> {
     const auto ln_hi = gather<Lum32f>(table, row);
     const auto ln_lo = gather<Lum32f>(table + rows, row);
     const auto c = gather<Lum32f>(table + 2 * rows, row);
-    const auto m = getmant<0x0>(x);
+    const auto m = getmant<significand::from_1_to_2>(x);
     const auto m_head = m & all(0x7FFFC000u);
     const auto v = fms(m_head, c, all(1.0f));  // exact
     const auto w = (m - m_head) * c;
     const auto r = v + w;
-    const auto q = horner(r, -0.5f, f32(0x3EAAAAAB, 0.3333333432674408), -0.25f) * (r * r);
-    const auto hi = fma(getexp(x), all(f32(0x3F317000, 0.693115234375)), v + ln_hi);
-    const auto lo = fma(getexp(x), all(f32(0x3805FDF4, 3.194618329871446e-05)), ln_lo) + q;
+    const auto q = horner(r, pow::powx_ln_A21) * (r * r);
+    const auto hi = fma(getexp(x), all(numbers::ln2_head<Lum32f>), v + ln_hi);
+    const auto lo = fma(getexp(x), all(numbers::ln2_rest<Lum32f>), ln_lo) + q;
     // For x in (0.9921875, 1.015625), w is no small part.
     const auto near_one = mask_cast<Lum32f>(lt(all(0x7FFC0000), as_signed(u + all(0x407E0000u))));
     return {add(near_one, hi, w), add(~near_one, lo, w)};
@@ -130,13 +127,10 @@ struct PowxA21_32f : PowxGeneral<Lum32f> {
     const auto y_tail = y - y_head;
     const auto a = head * y_head;  // exact
     const auto b = fma(tail, y_head, fma(head, y_tail, tail * y_tail));
-    const auto z = fma(a + b, all(f32(0x3FB8AA3B, 1.4426950216293335)), all(integer_shifter_32f));
-    const auto n = z - all(integer_shifter_32f);
-    const auto g =
-        fnma(n, all(f32(0x35BFBE8E, 1.428606765330187e-06)), fnma(n, all(f32(0x3F317200, 0.693145751953125)), a)) + b;
-    const auto power = horner(g, 1.0f, f32(0x3F7FFFFE, 0.9999998807907104), f32(0x3EFFFF34, 0.4999939203262329),
-                              f32(0x3E2AACAC, 0.16667431592941284), f32(0x3D2B8392, 0.041873522102832794),
-                              f32(0x3C07D9FE, 0.008291719481348991));
+    const auto z = fma(a + b, all(numbers::log2_e<Lum32f>), all(rounding_shifter<Lum32f>()));
+    const auto n = z - all(rounding_shifter<Lum32f>());
+    const auto g = fnma(n, all(numbers::ln2_short_tail<Lum32f>), fnma(n, all(numbers::ln2_short<Lum32f>), a)) + b;
+    const auto power = horner(g, pow::powx_exp_A21);
     const auto out_of_range = PatternAbove<0x42819F00>(a);  // 64.810546875
     return {AddToExponent(power, z), IsRefused(x) | out_of_range | ValueIsNotFinite()};
   }
@@ -144,20 +138,18 @@ struct PowxA21_32f : PowxGeneral<Lum32f> {
 
 // ---- Natural logarithm and exponential in binary64: A24 of binary32 and A26
 
-constexpr auto integer_shifter_64f = f64(0x4338000000000000, 6755399441055744.0);  // 1.5 * 2^52
-
 // ln x = e ln 2 + T + ln(1 + r), r = c m - 1 with c the integer next to 1024/m, m in [1, 2).
-template <class... Coefficients> LUM_INLINE Vec<Lum64f> GatheredLn(Vec<Lum64f> x, Coefficients... coefficients) {
+template <size_t n> LUM_INLINE Vec<Lum64f> GatheredLn(Vec<Lum64f> x, const Polynomial<Lum64f, n>& polynomial) {
   static constexpr auto table = table64({
 #include "tables/generated/powx_ln_512.inc"
   });
   const auto m = as_float((bits(x) & all(uint64_t{0x000FFFFFFFFFFFFF})) | all(uint64_t{0x3F50000000000000}));  // times 2^-10
-  const auto c = rndscale<0x8>(rcp14(m));  // from 512 to 1024
+  const auto c = rndscale<binary_places(0) | quiet>(rcp14(m));  // from 512 to 1024
   const auto r = fms(c, m, all(1.0));
   const auto row = shift_right<43>(bits(c)) & all(uint64_t{0x3FF});
   const auto e = add(le(c, all(724.0)), getexp(x), all(1.0));
-  const auto p = fma(horner(r, coefficients...), r * r, r);
-  return fma(e, all(f64(0x3FE62E42FEFA39EF, 0.6931471805599453)), gather<Lum64f>(table, row)) + p;
+  const auto p = fma(horner(r, polynomial), r * r, r);
+  return fma(e, all(numbers::ln2<Lum64f>), gather<Lum64f>(table, row)) + p;
 }
 
 // e^t = 2^N 2^(i/2048) (1 + g), the table scaled so that the error of the last factor is balanced.
@@ -165,9 +157,9 @@ LUM_INLINE Vec<Lum64f> GatheredExp(Vec<Lum64f> t) {
   static constexpr auto table = table64({
 #include "tables/generated/powx_exp2_2048.inc"
   });
-  const auto w = t * all(f64(0x40A71547652B82FE, 2954.639443740597));
-  const auto z = (w - all(0.5)) + all(integer_shifter_64f);  // floor(w), but for ties
-  const auto g = (w - (z - all(integer_shifter_64f))) * all(f64(0x3F362F3904051FA1, 0.00033850805268231294));
+  const auto w = t * all(2048 * numbers::log2_e<Lum64f>);
+  const auto z = (w - all(0.5)) + all(rounding_shifter<Lum64f>());  // floor(w), but for ties
+  const auto g = (w - (z - all(rounding_shifter<Lum64f>()))) * all(pow::powx_exp2_linear.c[0]);
   const auto entry = gather<Lum64f>(table, bits(z) & all(uint64_t{0x7FF}));
   const auto exponent = shift_left<52>(shift_right<11>(bits(z)));
   return as_float(bits(fma(entry, g, entry)) + exponent);
@@ -182,10 +174,11 @@ struct PowxA24_32f : PowxGeneral<Lum32f> {
   LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) const {
     const auto y = widen_low(all(value));
     const auto exponent = [&](Vec<Lum64f> half) __attribute__((always_inline)) {
-      return y * GatheredLn(half, f64(0xBFDFFFFFFFFFF81F, -0.49999999999988803), f64(0x3FD55555555543C5, 0.33333333333308374));
+      return y * GatheredLn(half, pow::powx_ln_A24);
     };
     const auto low = exponent(widen_low(x)), high = exponent(widen_high(x));
-    // Results beyond the range of binary32 come out of the conversion.
+    // The conversion to binary32 gives what lies beyond its range.
+
     constexpr uint32_t limit = 0x4059FE36;  // 150 ln 2
     const auto out_of_range = join(HighWordAbove<limit>(low), HighWordAbove<limit>(high));
     return {narrow(GatheredExp(low), GatheredExp(high)), IsRefused(x) | out_of_range | ValueIsNotFinite()};
@@ -194,17 +187,15 @@ struct PowxA24_32f : PowxGeneral<Lum32f> {
 
 struct PowxA26_64f : PowxGeneral<Lum64f> {
   LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) const {
-    const auto t =
-        all(value) * GatheredLn(x, f64(0xBFDFFFFFFFFFF81F, -0.49999999999988803), f64(0x3FD55555555543C5, 0.33333333333308374),
-                                f64(0xBFD0000148058EE1, -0.2500003054940248));
+    const auto t = all(value) * GatheredLn(x, pow::powx_ln_A26);
     constexpr uint32_t limit = 0x4086232A;  // 1022 ln 2
-    return {GatheredExp(t), fpclass<0xFF>(x) | HighWordAbove<limit>(t) | ValueIsNotFinite()};
+    return {GatheredExp(t), fpclass<classes::not_positive_normal>(x) | HighWordAbove<limit>(t) | ValueIsNotFinite()};
   }
 };
 
 // ---- Base 2 in binary64: A50 and A53
 
-// H + low = log2 x, H short, low its rest.
+// head + tail = log2 x, the head short.
 struct ShortLog2 {
   Vec<Lum64f> head, tail;
 };
@@ -226,18 +217,15 @@ LUM_INLINE ShortLog2 GatheredLog2(Vec<Lum64f> x) {
   const auto log_lo = gather<Lum64f>(logarithms + 1025, row);
   const auto e = add(mask_cast<Lum64f>(le(all(uint64_t{512}), row)), getexp(x), all(1.0));
 
-  const auto m = getmant<0x0>(x);
+  const auto m = getmant<significand::from_1_to_2>(x);
   const auto m_head = HighHalf(m);
   const auto p = m * c;
   const auto w = fma(m - m_head, c, fms(m_head, c, p));
-  const auto u0 = p - all(f64(0x3FF7154740000000, 1.442694902420044));  // exact
+  const auto u0 = p - all(numbers::log2_e_short<Lum64f>);  // exact
   const auto u = u0 + w;
   const auto [s0, s0_error] = fast_two_sum(e + log_hi, u0);  // the first is 0 or the larger one
   const auto [s, s_error] = fast_two_sum(s0, w);
-  const auto q = fma(horner(u, f64(0x3E79C3A6966457EE, 9.597935033233511e-08), f64(0xBFD62E4346694107, -0.3465736568077919),
-                            f64(0x3FC47FD462B3B816, 0.16015105075297303), f64(0xBFB550472A8BB463, -0.08325619496072671),
-                            f64(0x3FA7A334DDFC9F86, 0.04616704187202374), f64(0xBF9B4EA0E9419F52, -0.026667131649815552)),
-                     u, (s0_error + s_error) + log_lo);
+  const auto q = fma(horner(u, pow::powx_log2_A50), u, (s0_error + s_error) + log_lo);
   const auto h = s + q;
   const auto head = HighHalf(h);
   return {head, (q - (h - s)) + (h - head)};
@@ -250,7 +238,7 @@ struct Exponent128 {
   Mask<Lum64f> out_of_range;
 };
 LUM_INLINE Exponent128 MultiplyShort(const ShortLog2& log, Vec<Lum64f> y) {
-  const auto shifter = all(f64(0x42C8000000000000, 52776558133248.0));  // 1.5 * 2^45: the last place is worth 1/128
+  const auto shifter = all(rounding_shifter<Lum64f>(7));
   const auto y_head = HighHalf(y);
   const auto a = log.head * y_head;  // exact
   const auto z = a + shifter;
@@ -268,10 +256,8 @@ struct PowxA50_64f : PowxGeneral<Lum64f> {
   LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) const {
     const auto a = MultiplyShort(GatheredLog2(x), all(value));
     const auto scaled = scalef(gather<Lum64f>(powx_exp2, a.i), a.n);
-    const auto q = horner(a.g, f64(0x3FE62E42FEFA39EF, 0.6931471805599453), f64(0x3FCEBFBDFF82C58E, 0.2402265069591007),
-                          f64(0x3FAC6B08D704A0BF, 0.055504108664821576), f64(0x3F83B2AB6FBA4E77, 0.009618129107628477),
-                          f64(0x3F55D87FE78A6731, 0.0013333558146428443));
-    return {fma(a.g * scaled, q, scaled), fpclass<0xFF>(x) | a.out_of_range | ValueIsNotFinite()};
+    const auto q = horner(a.g, pow::powx_exp2_A50);
+    return {fma(a.g * scaled, q, scaled), fpclass<classes::not_positive_normal>(x) | a.out_of_range | ValueIsNotFinite()};
   }
 };
 
@@ -281,12 +267,12 @@ struct PowxA53_64f : PowxGeneral<Lum64f> {
     const auto head = gather<Lum64f>(powx_exp2, a.i);
     const auto tail = gather<Lum64f>(powx_exp2 + powx_exp2_rows, a.i);
     const auto g2 = a.g * a.g;
-    const auto even = horner(g2, f64(0x3FCEBFBDFF82C58E, 0.2402265069591007), f64(0x3F83B2AB6FBA4E77, 0.009618129107628477));
-    const auto odd = horner(g2, f64(0x3FAC6B08D704A0BF, 0.055504108664821576), f64(0x3F55D87FE78A6731, 0.0013333558146428443));
+    const auto even = horner(g2, part<1, 3, 2>(pow::powx_exp2_A50));
+    const auto odd = horner(g2, part<2, 4, 2>(pow::powx_exp2_A50));
     const auto higher = fma(odd, a.g, even) * g2;
     // The leading product joins after the small terms, so that it is not rounded into the sum by itself.
-    const auto rest = fma(head * a.g, all(f64(0x3FE62E42FEFA39EF, 0.6931471805599453)), fma(head, higher, tail));
-    return {scalef(rest + head, a.n), fpclass<0xFF>(x) | a.out_of_range | ValueIsNotFinite()};
+    const auto rest = fma(head * a.g, all(pow::powx_exp2_A50.c[0]), fma(head, higher, tail));
+    return {scalef(rest + head, a.n), fpclass<classes::not_positive_normal>(x) | a.out_of_range | ValueIsNotFinite()};
   }
 };
 

@@ -21,7 +21,8 @@ template <class T> struct DivKernel : Kernel<T> {
   static constexpr bool second_is_short = true;
   static LUM_INLINE Finished<T> SecondPath(Vec<T> x, Vec<T> y, const Lanes<T>& lanes) {
     const auto dividend = select(lanes.refused, x, all(T(1))), divisor = select(lanes.refused, y, all(T(1)));
-    return {select(lanes.refused, div(dividend, divisor), lanes.value), mask_of<T>(0), {.singularity = fpclass<0x06>(y)}};
+    return {
+        select(lanes.refused, div(dividend, divisor), lanes.value), mask_of<T>(0), {.singularity = fpclass<classes::zero>(y)}};
   }
 };
 
@@ -52,8 +53,8 @@ template <class T, int terms> struct ByReciprocal : DivKernel<T> {
 // Significands in [1, 2) and exponents apart. Infinities and zeros come out of the difference of the exponents.
 template <class T> struct BySignificands : DivKernel<T> {
   static LUM_INLINE Lanes<T> VectorPath(Vec<T> x, Vec<T> y) {
-    const auto [xm, xe] = parts<0x0>(x);
-    const auto [ym, ye] = parts<0x0>(y);
+    const auto [xm, xe] = parts<significand::from_1_to_2>(x);
+    const auto [ym, ye] = parts<significand::from_1_to_2>(y);
     const auto d = xe - ye;
     const auto r0 = rcp14_normal(ym);
     const auto q = xm * r0;
@@ -63,7 +64,7 @@ template <class T> struct BySignificands : DivKernel<T> {
       r = fma(r0, fma(e, e, e), r0);
     }
     const auto residual = fnma(q, ym, xm);
-    return {scalef(fma(r, residual, q), d), fpclass<0x87>(y)};
+    return {scalef(fma(r, residual, q), d), fpclass<classes::nan | classes::zero>(y)};
   }
 };
 

@@ -8,10 +8,10 @@
 #include <type_traits>
 #include <utility>
 
-#include "frame/double_word.h"
 #include "frame/kernel_frame.h"
 #include "frame/kernels.h"
 #include "frame/lane_format.h"
+#include "frame/two_parts.h"
 #include "roots/coupled_root.h"
 
 namespace lum::inline LUM_LAYER {
@@ -19,12 +19,12 @@ namespace {
 
 // The root of m^2 + n^2 for n <= m, m near 1. One step with the exact residual makes the result correct to its last bits.
 double RootOfSquares(double m, double n) {
-  const auto p = ExactProduct(m, m), q = ExactProduct(n, n);
-  const auto s = FastSum(p.hi, q.hi);
-  const double tail = s.lo + (p.lo + q.lo);
-  const double root = std::sqrt(s.hi);
-  const auto r = ExactProduct(root, root);
-  return root + ((s.hi - r.hi) - r.lo + tail) / (root + root);
+  const auto p = two_product(m, m), q = two_product(n, n);
+  const auto s = fast_two_sum(p.head, q.head);
+  const double tail = s.tail + (p.tail + q.tail);
+  const double root = std::sqrt(s.head);
+  const auto r = two_product(root, root);
+  return root + ((s.head - r.head) - r.tail + tail) / (root + root);
 }
 
 // The exponent field of the power of 2 that takes a finite m to [4, 8), and one below 2^-998 at least to 2^-72, far from
@@ -34,7 +34,7 @@ uint64_t ScaleField(double m) {
   return (exponent < 25 ? 4073 - exponent : 2048 - exponent) & 0x7FF;
 }
 
-// Of finite numbers. The squares of floats are exact in binary64 and far from its limits.
+// The length of finite numbers. The squares of floats are exact in binary64 and far from its limits.
 Lum32f OfFinite(Lum32f a, Lum32f b) {
   const double x = a, y = b;
   return static_cast<Lum32f>(std::sqrt(x * x + y * y));
@@ -48,16 +48,16 @@ Lum64f OfFinite(Lum64f a, Lum64f b) {
   return RootOfSquares(m * scale, n * scale) * inverse;
 }
 
-// The same over vectors, for pairs of numbers that are not both zero. A smaller number too small to change the result is taken
-// for zero, so that its square is not denormal.
+// The steps of the routine over vectors, for pairs of numbers that are not both zero. A smaller number too small to change the
+// result is taken for zero, so that its square is not denormal.
 LUM_INLINE Vec<Lum64f> RootOfSquares(Vec<Lum64f> m, Vec<Lum64f> given_n) {
   const auto n = zero_unless(lt(m * all(0x1p-110), given_n), given_n);
   const auto p = m * m, q = n * n;
   const auto s = fast_two_sum(p, q);
-  const auto tail = s.error + (fms(m, m, p) + fms(n, n, q));
-  const auto root = sqrt(s.sum);
+  const auto tail = s.tail + (fms(m, m, p) + fms(n, n, q));
+  const auto root = sqrt(s.head);
   const auto r = root * root;
-  return root + div(((s.sum - r) - fms(root, root, r)) + tail, root + root);
+  return root + div(((s.head - r) - fms(root, root, r)) + tail, root + root);
 }
 LUM_INLINE Vec<Lum64f> OfFinite(Vec<Lum64f> a, Vec<Lum64f> b) {
   const auto x = abs(a), y = abs(b);
@@ -78,8 +78,8 @@ LUM_INLINE Vec<Lum32f> OfFinite(Vec<Lum32f> a, Vec<Lum32f> b) {
 template <class T> struct HypotKernel : Kernel<T> {
   static constexpr bool second_is_short = true;
   static LUM_INLINE Lanes<T> SecondPath(Vec<T> a, Vec<T> b, const Lanes<T>& lanes) {
-    const auto infinite = fpclass<0x18>(a) | fpclass<0x18>(b), nan = unord(a, b);
-    const auto zero = fpclass<0x06>(a) & fpclass<0x06>(b);
+    const auto infinite = fpclass<classes::infinity>(a) | fpclass<classes::infinity>(b), nan = unord(a, b);
+    const auto zero = fpclass<classes::zero>(a) & fpclass<classes::zero>(b);
     const auto finite = lanes.refused & ~(infinite | nan | zero);
     auto value = select(lanes.refused & nan, a + b, lanes.value);
     value = select(lanes.refused & zero, all(T(0)), value);
@@ -110,12 +110,11 @@ template <class T> LUM_INLINE Mask<T> OutOfRange(Vec<T> a, Vec<T> b) {
 }
 
 // The sum of squares and what it leaves; without the rest where the tier has no use for it.
-template <class T> struct Squares { Vec<T> sum, rest; };
-template <class T> LUM_INLINE Squares<T> ExactSquares(Vec<T> a, Vec<T> b) {
+template <class T> LUM_INLINE TwoParts<Vec<T>> ExactSquares(Vec<T> a, Vec<T> b) {
   const auto p = a * a, q = b * b;
   const auto p_rest = fms(a, a, p), q_rest = fms(b, b, q);  // exact
   const auto s = fast_two_sum(max(p, q), min(p, q));
-  return {s.sum, s.error + (p_rest + q_rest)};
+  return {s.head, s.tail + (p_rest + q_rest)};
 }
 template <class T> LUM_INLINE Vec<T> PlainSquares(Vec<T> a, Vec<T> b) { return fma(a, a, b * b); }
 
@@ -141,10 +140,10 @@ template <class T, int steps, bool residual_step> struct Plain : HypotKernel<T> 
 template <class T, int steps> struct Exact : HypotKernel<T> {
   static LUM_INLINE Lanes<T> VectorPath(Vec<T> a, Vec<T> b) {
     const auto s = ExactSquares(a, b);
-    auto r = Start(s.sum, rsqrt14_normal(s.sum));
+    auto r = Start(s.head, rsqrt14_normal(s.head));
     for (int i = 0; i < steps; ++i) r = CoupledStep(r);
-    const auto d = fnma(r.g, r.g, s.sum);
-    return {fma(d + s.rest, r.h, r.g), OutOfRange(a, b)};
+    const auto d = fnma(r.g, r.g, s.head);
+    return {fma(d + s.tail, r.h, r.g), OutOfRange(a, b)};
   }
 };
 

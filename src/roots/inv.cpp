@@ -16,14 +16,14 @@ template <class T> struct InvKernel : Kernel<T> {
   static constexpr bool second_is_short = true;
   static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) {
     const auto quotient = div(all(T(1)), select(lanes.refused, x, all(T(1))));
-    return {select(lanes.refused, quotient, lanes.value), mask_of<T>(0), {.singularity = fpclass<0x06>(x)}};
+    return {select(lanes.refused, quotient, lanes.value), mask_of<T>(0), {.singularity = fpclass<classes::zero>(x)}};
   }
 };
 
 // Refuses by the input, not by the estimate: that of a tiny denormal is an infinity, which stands. This differs from the tiers
 // with a Newton step, whose refused denormals have the scalar quotient, and is deliberate.
 template <class T> struct Estimate : InvKernel<T> {
-  static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) { return {rcp14(x), fpclass<0x1E>(x)}; }
+  static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) { return {rcp14(x), fpclass<classes::zero | classes::infinity>(x)}; }
 };
 
 template <class T, int steps> struct Newton : InvKernel<T> {
@@ -31,7 +31,7 @@ template <class T, int steps> struct Newton : InvKernel<T> {
     const auto r0 = rcp14(x);
     auto r = r0;
     for (int i = 0; i < steps; ++i) r = fma(fnma(x, r, all(T(1))), r, r);
-    return {r, fpclass<0x1E>(r0)};
+    return {r, fpclass<classes::zero | classes::infinity>(r0)};
   }
 };
 

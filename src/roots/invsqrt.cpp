@@ -5,13 +5,14 @@
 
 #include "frame/kernel_frame.h"
 #include "frame/kernels.h"
+#include "roots/polynomials.h"
 
 namespace lum::inline LUM_LAYER {
 namespace {
 
 // Zeros, infinities and negative numbers are refused; NaN and denormals run through.
 template <class T> struct InvSqrtKernel : Kernel<T> {
-  static LUM_INLINE Mask<T> Refused(Vec<T> x) { return fpclass<0x5E>(x); }
+  static LUM_INLINE Mask<T> Refused(Vec<T> x) { return fpclass<classes::zero | classes::infinity | classes::negative>(x); }
   static LumStatus LaneRoutine(T x, T& result) {
     constexpr auto infinity = std::numeric_limits<T>::infinity();
     if (x == 0) {
@@ -28,11 +29,11 @@ template <class T> struct InvSqrtKernel : Kernel<T> {
   }
   static constexpr bool second_is_short = true;
   static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) {
-    // Of zeros and infinities the estimate is the result.
-    const auto value = select(fpclass<0x1E>(x), rsqrt14(x), lanes.value);
-    return {select(fpclass<0x40>(x), all(std::numeric_limits<T>::quiet_NaN()), value),
+    // For zeros and infinities the estimate is the result.
+    const auto value = select(fpclass<classes::zero | classes::infinity>(x), rsqrt14(x), lanes.value);
+    return {select(fpclass<classes::negative>(x), all(std::numeric_limits<T>::quiet_NaN()), value),
             mask_of<T>(0),
-            {.domain = fpclass<0x50>(x), .singularity = fpclass<0x06>(x)}};
+            {.domain = fpclass<classes::below_zero>(x), .singularity = fpclass<classes::zero>(x)}};
   }
 };
 
@@ -67,7 +68,7 @@ struct A26_64f : InvSqrtKernel<Lum64f> {
 
 // s + s d (1/2 + 3/8 d + 5/16 d^2), the last two coefficients adjusted to the range of d.
 LUM_INLINE Vec<Lum64f> Series(Vec<Lum64f> s, Vec<Lum64f> d) {
-  const auto p = horner(d, 0.5, f64(0x3FD8000004600001, 0.3750000040745363), f64(0x3FD4000005E80001, 0.312500005500624));
+  const auto p = horner(d, roots::invsqrt_A50);
   return fma(p, s * d, s);
 }
 struct A50_64f : InvSqrtKernel<Lum64f> {

@@ -7,8 +7,10 @@
 #include <limits>
 #include <type_traits>
 
+#include "frame/constant.h"
 #include "frame/kernel_frame.h"
 #include "frame/kernels.h"
+#include "roots/polynomials.h"
 #include "tables/table.h"
 
 namespace lum::inline LUM_LAYER {
@@ -21,19 +23,14 @@ constexpr auto midpoint_values = table64({
 constexpr auto midpoint_reciprocals = table64({
 #include "tables/generated/pow3o2_reciprocals.inc"
 });
-constexpr auto polynomial64 = table64({
+constexpr auto pow3o2_64f = polynomial64({
 #include "tables/generated/pow3o2_polynomial.inc"
 });
 
 // ((1 + t)^(3/2) - 1) / t in binary64, for a result of the type T.
-template <class T> double Polynomial(double t) {
-  if constexpr (std::is_same_v<T, Lum32f>) {
-    return (((-0.015001341104507446 * t + 0.02343912050127983) * t - 0.0625) * t + 0.375) * t + 1.5;
-  } else {
-    double p = polynomial64[6];
-    for (int i = 5; i >= 0; --i) p = p * t + polynomial64[i];
-    return p;
-  }
+template <class T> double CellPolynomial(double t) {
+  if constexpr (std::is_same_v<T, Lum32f>) return unfused_horner(t, roots::pow3o2_32f);
+  else return unfused_horner(t, pow3o2_64f);
 }
 
 // x^(3/2) of a positive normal number, by the value at the midpoint of the cell that its last exponent bit and its five upper
@@ -45,7 +42,7 @@ template <class T> double OfNormal(double x) {
   const auto midpoint = std::bit_cast<double>((pattern & 0x000F800000000000) | 0x3FF0400000000000);
   const double t = (significand - midpoint) * midpoint_reciprocals[cell & 31];
   const double hi = midpoint_values[2 * cell];
-  const double p = Polynomial<T>(t) * t;
+  const double p = CellPolynomial<T>(t) * t;
   const int64_t exponent = static_cast<int64_t>(pattern >> 52) - 1023;
   const int64_t half = (exponent - (cell < 32 ? 1 : 0)) / 2;  // exact: cells below 32 have odd exponents
   return (hi + (hi * p + midpoint_values[2 * cell + 1])) * std::bit_cast<double>((3 * half + 1023) << 52);
@@ -91,7 +88,7 @@ template <class T> struct Pow3o2Kernel : Kernel<T> {
   static constexpr bool second_is_short = true;
   static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) {
     using L = Limits<T>;
-    const auto is_nan = unord(x, x), negative = fpclass<0x50>(x);
+    const auto is_nan = unord(x, x), negative = fpclass<classes::below_zero>(x);
     const auto vanishes = mask_cast<T>(le(bits(abs(x)), all(L::vanishing)));
     const auto overflows = mask_cast<T>(le(all(L::overflowing), bits(x)));  // or NaN or negative
     auto value = select(overflows, all(std::numeric_limits<T>::infinity()), lanes.value);

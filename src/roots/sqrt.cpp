@@ -14,7 +14,7 @@ namespace {
 
 // Zeros, infinities and negative numbers are refused; NaN and denormals run through.
 template <class T> struct SqrtKernel : Kernel<T> {
-  static LUM_INLINE Mask<T> Refused(Vec<T> x) { return fpclass<0x5E>(x); }
+  static LUM_INLINE Mask<T> Refused(Vec<T> x) { return fpclass<classes::zero | classes::infinity | classes::negative>(x); }
   static LumStatus LaneRoutine(T x, T& result) {
     if (x < 0) {
       result = std::numeric_limits<T>::quiet_NaN();
@@ -25,8 +25,8 @@ template <class T> struct SqrtKernel : Kernel<T> {
   }
   static constexpr bool second_is_short = true;
   static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) {
-    const auto negative = fpclass<0x50>(x);
-    const auto value = select(fpclass<0x0E>(x), x, lanes.value);
+    const auto negative = fpclass<classes::below_zero>(x);
+    const auto value = select(fpclass<classes::zero | classes::plus_infinity>(x), x, lanes.value);
     return {select(negative, all(std::numeric_limits<T>::quiet_NaN()), value), mask_of<T>(0), {.domain = negative}};
   }
 };
@@ -42,16 +42,16 @@ template <class T, int steps> struct Coupled : SqrtKernel<T> {
 // From this estimate of 1 / sqrt x on the residual is scaled, by 4^k, and the root by 2^k.
 template <class T> struct Scaling;
 template <> struct Scaling<Lum32f> {
-  static constexpr auto threshold = f32(0x53000000, 0x1p39);
-  static constexpr auto root = f32(0x53000000, 0x1p39);
-  static constexpr auto square = f32(0x66800000, 0x1p78);
-  static constexpr auto inverse = f32(0x18800000, 0x1p-78);
+  static constexpr auto threshold = 0x1p39f;
+  static constexpr auto root = 0x1p39f;
+  static constexpr auto square = 0x1p78f;
+  static constexpr auto inverse = 0x1p-78f;
 };
 template <> struct Scaling<Lum64f> {
-  static constexpr auto threshold = f64(0x5C90000000000000, 0x1p458);
-  static constexpr auto root = f64(0x5C90000000000000, 0x1p458);
-  static constexpr auto square = f64(0x7930000000000000, 0x1p916);
-  static constexpr auto inverse = f64(0x06B0000000000000, 0x1p-916);
+  static constexpr auto threshold = 0x1p458;
+  static constexpr auto root = 0x1p458;
+  static constexpr auto square = 0x1p916;
+  static constexpr auto inverse = 0x1p-916;
 };
 
 template <class T> struct Heron : SqrtKernel<T> {

@@ -14,16 +14,16 @@ enum class Power { one_third, minus_one_third, two_thirds };
 
 template <class T> struct ThirdsConstants;
 template <> struct ThirdsConstants<Lum32f> {
-  static constexpr auto shifter = f32(0x4B400000, 12582912.0);  // 1.5 * 2^23
-  static constexpr auto third = f32(0x3EAAAAAB, 0.3333333432674408);
-  static constexpr auto offset = f32(0x4A800000, 4194304.0);  // a third of the shifter
-  static constexpr int grid = 5;                              // reciprocals are multiples of 2^-5
-  static constexpr int index_shift = 19;  // down to their last bit: the index of 1 follows on those below it
+  static constexpr auto shifter = rounding_shifter<Lum32f>();
+  static constexpr auto third = 1 / 3.0f;
+  static constexpr auto offset = shifter / 3;  // a third of the shifter
+  static constexpr int grid = 5;               // reciprocals are multiples of 2^-5
+  static constexpr int index_shift = 19;       // down to their last bit: the index of 1 follows on those below it
 };
 template <> struct ThirdsConstants<Lum64f> {
-  static constexpr auto shifter = f64(0x4338000000000000, 6755399441055744.0);  // 1.5 * 2^52
-  static constexpr auto third = f64(0x3FD5555555555556, 0.33333333333333337);
-  static constexpr auto offset = f64(0x4320000000000000, 2251799813685248.0);
+  static constexpr auto shifter = rounding_shifter<Lum64f>();
+  static constexpr auto third = 0x1.5555555555556p-2;  // rounded up, as that of binary32 is by itself
+  static constexpr auto offset = shifter / 3;
   static constexpr int grid = 4;
   static constexpr int index_shift = 49;
 };
@@ -73,17 +73,17 @@ template <class T> struct ThirdsReduced {
 // down finds q; for the negative power it falls below -e / 3 by as little, and is rounded up.
 template <Power power, class T> LUM_INLINE ThirdsReduced<T> ReduceThirds(Vec<T> x) {
   using C = ThirdsConstants<T>;
-  const auto [m, e] = parts<0x0>(x);
+  const auto [m, e] = parts<significand::from_1_to_2>(x);
   const auto E = (power == Power::two_thirds ? e + e : e) + all(C::shifter);
   Vec<T> q, j;
   if constexpr (power == Power::minus_one_third) {
-    q = rndscale<0xA>(fma(E, all(-C::third), all(C::offset)));
+    q = rndscale<binary_places(0) | ru | quiet>(fma(E, all(-C::third), all(C::offset)));
     j = fma(q, all(T(3)), E);
   } else {
-    q = rndscale<0x9>(fma(E, all(C::third), all(-C::offset)));
+    q = rndscale<binary_places(0) | rd | quiet>(fma(E, all(C::third), all(-C::offset)));
     j = fnma(q, all(T(3)), E);
   }
-  const auto c = rounded_rcp14<C::grid, 0>(m);
+  const auto c = rounded_rcp14<C::grid, significand::from_1_to_2>(m);
   return {q, j, c, fms(m, c, all(T(1)))};
 }
 
@@ -95,16 +95,36 @@ template <class T, size_t n> LUM_INLINE Vec<T> AtReciprocal(const Table<T, n>& t
 }
 
 // c0 + x c1 + x^2 (c2 + x c3 + x^2 (...)): pairs joined by the square in turn.
-template <Floating T> LUM_INLINE Vec<T> horner_of_pairs(Vec<T>, Vec<T>, T c0) { return all(c0); }
-template <Floating T> LUM_INLINE Vec<T> horner_of_pairs(Vec<T> x, Vec<T>, T c0, T c1) { return fma(all(c1), x, all(c0)); }
-template <Floating T, class... Rest>
-LUM_INLINE Vec<T> horner_of_pairs(Vec<T> x, Vec<T> square, T c0, T c1, T c2, Rest... rest) {
-  return fma(horner_of_pairs(x, square, c2, rest...), square, fma(all(c1), x, all(c0)));
+template <size_t first = 0, Floating T, size_t n>
+LUM_INLINE Vec<T> horner_of_pairs(Vec<T> x, Vec<T> square, const Polynomial<T, n>& p) {
+  if constexpr (first + 1 == n) {
+    return all(p.c[first]);
+  } else {
+    const auto pair = fma(all(p.c[first + 1]), x, all(p.c[first]));
+    if constexpr (first + 2 == n) return pair;
+    else return fma(horner_of_pairs<first + 2>(x, square, p), square, pair);
+  }
 }
 
-// The tiers. F gives the power, the tables of c^power as F::head<T>() and F::tail<T>(), and p = ((1 + r)^power - 1) / r as
-// F::polynomial<tier>(r).
 enum class Tier { low, mid, high };
+
+// A power by what its Data hold: the power, the tables of c^power as head and tail of either type, and the polynomials
+// ((1 + r)^power - 1) / r as low_32f, mid_32f, high_32f, low_64f and high_64f, the last of the middle tier, too.
+template <class Data> struct ThirdsScheme {
+  static constexpr auto power = Data::power;
+  template <class T> static consteval const auto& head() { return of_type<T>(Data::head_32f, Data::head_64f); }
+  template <class T> static consteval const auto& tail() { return of_type<T>(Data::tail_32f, Data::tail_64f); }
+  template <Tier tier> static LUM_INLINE Vec<Lum32f> polynomial(Vec<Lum32f> r) {
+    if constexpr (tier == Tier::low) return horner(r, Data::low_32f);
+    else if constexpr (tier == Tier::mid) return horner(r, Data::mid_32f);
+    else return horner(r, Data::high_32f);
+  }
+  template <Tier tier> static LUM_INLINE Vec<Lum64f> polynomial(Vec<Lum64f> r) {
+    const auto square = r * r;
+    if constexpr (tier == Tier::low) return horner_of_pairs(r, square, Data::low_64f);
+    else return horner_of_pairs(r, square, Data::high_64f);
+  }
+};
 
 // Vectors in a block: the constants of the longest path leave registers for one stream alone.
 template <class T, Tier tier> inline constexpr int thirds_vectors = std::is_same_v<T, Lum64f>&& tier == Tier::high ? 1 : 2;

@@ -29,7 +29,7 @@ Numbers Around(Extended x, int steps = 20);
 Numbers AroundExponent(int exponent);
 Numbers operator+(Numbers a, const Numbers& b);
 
-// The same number with the same sign, or both NaN.
+// Whether both are one number with one sign, or both NaN.
 testing::AssertionResult Same(Extended actual, Extended expected);
 
 inline Numbers Specials() {

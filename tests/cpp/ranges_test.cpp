@@ -119,7 +119,7 @@ TEST(Refused, PartialOverlap) {
   ExpectRefused(y, [&] { return lumvm::sincos(all.first(3), all.last(3), all.last(3)); });
   // Next to each other is no overlap.
   EXPECT_FALSE(lumvm::exp(all.first(3), all.last(3)));
-  // Of another type, the same place is an overlap.
+  // In an array of another type the same place is an overlap.
   std::vector<std::complex<double>> z(4);
   const std::span<double> parts(reinterpret_cast<double*>(z.data()), 4);
   EXPECT_THROW(lumvm::abs(z, parts), std::invalid_argument);

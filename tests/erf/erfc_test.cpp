@@ -37,7 +37,7 @@ TEST(Erfc, UnderflowLimitOfFloats) {
                            {max, 0.0, lumStsUnderflow}});
 }
 TEST(Erfc, UnderflowLimitOfDoubles) {
-  // Of this argument the result is so close above half the smallest denormal that the low tier may miss it.
+  // Here the result is so close above half the smallest denormal that the low tier may miss it.
   for (const char* name : {"Erfc_64f_A50", "Erfc_64f_A53"}) ExpectCases(name, {{FromBits(0x403B39DC41E48BFC), min_denormal}});
   ExpectCases("Erfc_64f", {{FromBits(0x403B39DC41E48BFD), 0.0, lumStsUnderflow},
                            {27.3, 0.0, lumStsUnderflow},

@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 """Checks that the table of operations has every immediate that kernels use: immediates.py PORTABLE_LIBRARY
 
-Most immediates stand in the sources as numbers. Computed ones are found in the portable library: the operations that have such are
-functions of their own there, one an immediate, and their symbols name it.
+They are found in the portable library: most operations that have one are functions of their own there, one an immediate, and their
+symbols name it. ternary alone is inlined there; its truth tables stand in the sources as expressions of A, B and C.
 """
 
 import re
@@ -11,7 +11,6 @@ import sys
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parents[2]
-OPERATIONS = ("fixupimm", "fpclass", "getmant", "reduce", "rndscale", "ternary")
 COMPUTED = ("fpclass", "getmant", "reduce", "rndscale")
 
 
@@ -27,11 +26,10 @@ def written():
         if path.suffix not in (".h", ".cpp") or path.parent.name in ("portable", "avx2", "avx512"):
             continue
         code = re.sub(r"//.*", "", path.read_text())
-        for name, immediate in re.findall(rf"\b({'|'.join(OPERATIONS)})<([^<>;]*(?:<<[^<>;]*)*)>\(", code):
-            if re.fullmatch(r"\d+|0x[0-9A-Fa-f]+", immediate):
-                used.add((name, int(immediate, 0)))
-            elif name not in COMPUTED:
-                sys.exit(f"{path}: {name}<{immediate}> is not a number")
+        for table in re.findall(r"\bternary<([^<>;]*)>\(", code):
+            if not re.fullmatch(r"[ABC&|^~() ]+", table):
+                sys.exit(f"{path}: ternary<{table}> is no expression of A, B and C")
+            used.add(("ternary", eval(table, {"A": 0xF0, "B": 0xCC, "C": 0xAA}) & 0xFF))
     return used
 
 

@@ -56,9 +56,9 @@ template <Lane T> void put(Outcome& outcome, Pair<T> pair) {
   write(outcome.vector[0], pair.even);
   write(outcome.vector[1], pair.odd);
 }
-template <Floating T> void put(Outcome& outcome, Sum<T> sum) {
-  write(outcome.vector[0], sum.sum);
-  write(outcome.vector[1], sum.error);
+template <Floating T> void put(Outcome& outcome, TwoParts<Vec<T>> sum) {
+  write(outcome.vector[0], sum.head);
+  write(outcome.vector[1], sum.tail);
 }
 void put(Outcome& outcome, uint32_t bits) { std::memcpy(outcome.vector[0].bytes, &bits, sizeof bits); }
 void put(Outcome& outcome, bool truth) { put(outcome, static_cast<uint32_t>(truth)); }
@@ -180,11 +180,11 @@ template <Floating T> void add_conditional(Builder& table) {
   for_each_immediate<4, 5>([&](auto imm, const std::string& text) {
     constexpr int grid = decltype(imm)::value;
     table.add<V>("rounded_rcp14" + text + " of [1,2)" + t,
-                 [](V a) { return zero_unless(ord(a, a), rounded_rcp14<grid, 0>(getmant<0>(a))); });
+                 [](V a) { return zero_unless(~unord(a, a), rounded_rcp14<grid, 0>(getmant<0>(a))); });
     table.add<V>("rounded_rcp14" + text + " of [1/2,1)" + t,
-                 [](V a) { return zero_unless(ord(a, a), rounded_rcp14<grid, 2>(getmant<2>(a))); });
+                 [](V a) { return zero_unless(~unord(a, a), rounded_rcp14<grid, 2>(getmant<2>(a))); });
     table.add<V>("shifted_rcp14" + text + " of [1,2)" + t,
-                 [](V a) { return zero_unless(ord(a, a), shifted_rcp14<grid, 0>(getmant<4>(a))); });
+                 [](V a) { return zero_unless(~unord(a, a), shifted_rcp14<grid, 0>(getmant<4>(a))); });
     table.add<V>("shifted_rcp14" + text + " of [1/2,1)" + t,
                  [](V a) { return zero_unless(lt(getmant<6>(a), all(T(1))), shifted_rcp14<grid, 2>(getmant<6>(a))); });
     table.add<V>("rcp14_halves_up" + text + t, [](V a) { return rcp14_halves_up<grid>(a); });
@@ -226,8 +226,8 @@ template <Floating T> void add_floating(Builder& table) {
   table.add<V>("horner" + t, [](V a) { return horner(a, T(1.25), T(-0.3), T(0.7), T(3)); });
   table.add_arithmetic<V, V>("two_sum" + t, [](V a, V b) { return two_sum(a, b); });
   table.add_arithmetic<V, V>("fast_two_sum" + t, [](V a, V b) { return fast_two_sum(a, b); });
+  table.add_arithmetic<V, V>("two_product" + t, [](V a, V b) { return two_product(a, b); });
   table.add<V, V>("unord" + t, [](V a, V b) { return unord(a, b); });
-  table.add<V, V>("ord" + t, [](V a, V b) { return ord(a, b); });
   table.add<V, V>("deinterleave" + t, [](V a, V b) { return deinterleave(a, b); });
   table.add<V, V>("interleave" + t, [](V a, V b) { return interleave(a, b); });
   table.add<V>("swap_pairs" + t, [](V a) { return swap_pairs(a); });
@@ -330,7 +330,6 @@ template <Integer T> void add_shifts(Builder& table) {
 template <Integer T> void add_integer(Builder& table) {
   using V = Vec<T>;
   const auto t = type_name<T>();
-  table.add<>("iota" + t, [] { return iota<T>(); });
   table.add<V>("as_float" + t, [](V a) { return as_float(a); });
   table.add<V>("as_signed" + t, [](V a) { return as_signed(a); });
   table.add<V>("as_unsigned" + t, [](V a) { return as_unsigned(a); });
@@ -374,19 +373,11 @@ void add_conversions(Builder& table) {
   table.add<I64, I64>("narrow i64", [](I64 a, I64 b) { return narrow(a, b); });
   table.add<U64, U64>("narrow u64", [](U64 a, U64 b) { return narrow(a, b); });
   table.add<I32>("to_float i32", [](I32 a) { return to_float(a); });
-  table.add<I32>("to_double_low i32", [](I32 a) { return to_double_low(a); });
-  table.add<I32>("to_double_high i32", [](I32 a) { return to_double_high(a); });
   table.add<I64>("to_double i64", [](I64 a) { return to_double(a); });
   table.add<U64>("to_double u64", [](U64 a) { return to_double(a); });
-  table.add<I32>("as_lanes64 i32", [](I32 a) { return as_lanes64(a); });
-  table.add<U32>("as_lanes64 u32", [](U32 a) { return as_lanes64(a); });
   table.add<I64>("as_lanes32 i64", [](I64 a) { return as_lanes32(a); });
   table.add<U64>("as_lanes32 u64", [](U64 a) { return as_lanes32(a); });
   table.add<U64, U64>("mul_low_halves u64", [](U64 a, U64 b) { return mul_low_halves(a, b); });
-  table.add<I32, I32>("mul_add_pairs i32", [](I32 a, I32 b) { return mul_add_pairs(a, b); });
-  table.add<I32, I32, I32>("permute2_words i32", [](I32 a, I32 b, I32 i) { return permute2_words(a, b, i); });
-  table.add<U32, U32, U32>("permute2_words u32", [](U32 a, U32 b, U32 i) { return permute2_words(a, b, i); });
-  table.add<F64, F64, U64>("fixupimm<0x70> f64", [](F64 a, F64 b, U64 tokens) { return fixupimm<0x70>(a, b, tokens); });
   table.add<F64, F64>("join", [](F64 a, F64 b) { return join(lt(a, b), nlt(b, a)); });
   table.add<Mask<float>>("low_half", [](Mask<float> m) { return low_half(m); });
   table.add<Mask<float>>("high_half", [](Mask<float> m) { return high_half(m); });

@@ -83,7 +83,7 @@ std::vector<const Export*> ExportsNamed(std::string_view name);
 void ExpectCases(std::string_view name, std::initializer_list<OneInputCase> cases);
 void ExpectCases(std::string_view name, std::initializer_list<ThreeValueCase> cases);
 
-// The same for cases that a test computes.
+// As above, for cases that a test computes.
 void ExpectCases(std::string_view name, const std::vector<OneInputCase>& cases);
 void ExpectCases(std::string_view name, const std::vector<ThreeValueCase>& cases);
 

@@ -134,7 +134,7 @@ TEST(EntryTableCosts, FixedFigures) {
   EXPECT_EQ(found, mid_high_low.size());
 }
 
-// In the order of the exported names, Abs_32f before Abs_32fc as in lumsAbs_32f_A24 and lumsAbs_32fc_A24.
+// The rows stand in the order of the exported names, in which an underscore follows the type: Abs_32f before Abs_32fc.
 TEST(EntryTableRows, InOrder) {
   for (size_t i = 1; i < std::size(rows); ++i) {
     EXPECT_LT(std::string(rows[i - 1].name) + "_", std::string(rows[i].name) + "_");

@@ -15,7 +15,7 @@ CMAKE = """#!/bin/sh
 echo "$@" >>"$CMAKE_CALLS"
 case "$*" in
   --preset*) while [ "$1" != -B ]; do shift; done; mkdir -p "$2"; echo "CMAKE_HOME_DIRECTORY:INTERNAL=$PWD" >"$2/CMakeCache.txt"; touch "$2/build.ninja" ;;
-  *-n) echo "ninja: ${WORK:-no work to do}." ;;
+  --build*) echo "${WORK:-ninja: no work to do.}" ;;
 esac
 """
 TOOL = """#!/bin/sh
@@ -35,7 +35,7 @@ class Script(unittest.TestCase):
         (self.checkout / "CMakePresets.json").write_text("{}")
         self.program(self.bin / "cmake", CMAKE)
         # All that the script needs, and neither dpkg nor apt-get.
-        for name in ("bash", "sh", "env", "dirname", "cksum", "cut", "sed", "grep", "mkdir", "rm", "touch", "cat", "nproc", "g++", "c++",
+        for name in ("bash", "sh", "env", "dirname", "cksum", "cut", "sed", "grep", "awk", "mkdir", "rm", "touch", "cat", "nproc", "g++", "c++",
                      "ninja", "python3"):
             (self.bin / name).symlink_to(shutil.which(name))
         self.calls = self.path / "calls"
@@ -74,9 +74,9 @@ class Script(unittest.TestCase):
 
     def test_a_build_is_announced(self):
         self.build()
-        code, _, error = self.run_it("lumvm", "list", WORK="1 step")
-        self.assertEqual((code, len(error.splitlines())), (0, 1), error)
-        self.assertIn("run: building", error)
+        code, _, error = self.run_it("lumvm", "list", WORK="[1/1] Linking")
+        self.assertEqual((code, len(error.splitlines())), (0, 2), error)
+        self.assertTrue(error.startswith("run: building") and error.endswith("[1/1] Linking\n"), error)
 
     def test_a_moved_checkout_is_configured_anew(self):
         self.build(home="/nowhere/else")

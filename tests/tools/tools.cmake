@@ -1,6 +1,6 @@
 # The programs around the library.
 if(LUM_SANITIZE)
-  foreach(test command_line accuracy_unknown_function accuracy_exhaustive_two_inputs)
+  foreach(test command_line accuracy_unknown_function accuracy_exhaustive_two_inputs accuracy_hunt properties)
     add_skipped_test(tools.${test} "the tool takes the AVX-512 library, which is not built with sanitizers")
   endforeach()
 else()
@@ -11,8 +11,16 @@ else()
   add_test(NAME tools.accuracy_exhaustive_two_inputs COMMAND accuracy --exhaustive Add)
   set_tests_properties(tools.accuracy_exhaustive_two_inputs PROPERTIES PASS_REGULAR_EXPRESSION
                                                                        "^accuracy: no function 'Add' of one 32f input\n$")
+  add_test(NAME tools.accuracy_hunt COMMAND accuracy --hunt Exp Hypot --count 200000)
+  set_tests_properties(tools.accuracy_hunt PROPERTIES FAIL_REGULAR_EXPRESSION "BEYOND;wrong class" PASS_REGULAR_EXPRESSION
+                                                      "Exp +64f +A53 [^\n]*0\\.[67][0-9]+ ulp")
+  # Arguments among those of the committed figures.
+  add_test(NAME tools.properties COMMAND accuracy --properties --compare ${PROJECT_SOURCE_DIR}/docs/data/properties.csv
+                                         --count 100000 --share 4096)
+  set_tests_properties(tools.properties PROPERTIES PROCESSORS 2)
 endif()
 
+add_test(NAME tools.links COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/tools/check_links.py)
 add_test(NAME tools.run_script
          COMMAND ${Python3_EXECUTABLE} ${CMAKE_CURRENT_SOURCE_DIR}/tools/run_script.py ${PROJECT_SOURCE_DIR}/run)
 add_test(NAME tools.bench_unknown_function COMMAND bench Nope)

@@ -8,9 +8,10 @@
 #include "accuracy/quarter_turns.h"
 
 namespace lum::accuracy {
-namespace {
 
 using support::Export;
+
+namespace {
 
 // What a border is about. |x| and |y| are the magnitudes of the arguments, x keeps its sign; z and w are complex ones.
 enum class Quantity {
@@ -27,12 +28,17 @@ enum class Quantity {
   ratio_of_products
 };
 
+}  // namespace
+
 struct Border {
   const char *function, *type;
   Quantity quantity;
   double value;
   double width;  // how far from it arguments are tried, relative to it
 };
+
+namespace {
+
 constexpr Border borders[] = {
 #include "borders.inc"
 };
@@ -148,14 +154,28 @@ bool IsFinite(const Point& p) {
 
 }  // namespace
 
-std::vector<Point> PointsAtBorders(const Export& entry, size_t count) {
-  std::vector<Border> own;
-  std::ranges::copy_if(borders, std::back_inserter(own),
+BorderPoints::BorderPoints(const Export& entry) : entry_(entry) {
+  std::ranges::copy_if(borders, std::back_inserter(own_),
                        [&](const Border& b) { return b.function == entry.function && b.type == entry.type; });
+  if (entry.inputs() == 2 || entry.has_parameter() || support::IsComplex(entry.input)) return;
+  for (const Border& border : own_) magnitudes_.push_back(border.value);
+}
+BorderPoints::~BorderPoints() = default;
+
+Point BorderPoints::Next(Generator& g) const {
+  for (;;) {
+    const Border& border = own_[g.Bits() % own_.size()];
+    const Point p = PointAt(entry_, border, g, g.Bits() % 64);
+    if (IsFinite(p)) return p;
+  }
+}
+
+std::vector<Point> PointsAtBorders(const Export& entry, size_t count) {
+  const BorderPoints borders(entry);
   Generator g(entry, 5);
   std::vector<Point> points;
-  for (const Border& border : own) {
-    const size_t share = std::max<size_t>(8, count / own.size());
+  for (const Border& border : borders.own_) {
+    const size_t share = std::max<size_t>(8, count / borders.own_.size());
     for (size_t i = 0; i < share; ++i) {
       const Point p = PointAt(entry, border, g, i);
       if (IsFinite(p)) points.push_back(p);
@@ -183,11 +203,11 @@ std::vector<Point> PointsAtQuarterTurns(const Export& entry) {
   return points;
 }
 
-std::vector<Point> PointsOnUnitCircle(const Export& entry, size_t count) {
+std::vector<Point> PointsOnUnitCircle(const Export& entry, size_t count, uint64_t seed) {
   std::vector<Point> points;
   const bool takes_one = entry.inputs() == 1;
   if (!support::IsComplex(entry.input) || (!takes_one && entry.function != "Pow")) return points;
-  Generator g(entry, 7);
+  Generator g(entry, seed);
   Offsets offsets(g, entry.is_32bit());
   for (size_t i = 0; i < count; ++i) {
     // Angles all round, and small ones next to the axes.

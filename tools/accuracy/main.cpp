@@ -4,15 +4,17 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
-#include <bit>
 #include <filesystem>
 #include <fstream>
-#include <map>
 
 #include "accuracy/cheap_reference.h"
 #include "accuracy/exhaustive.h"
+#include "accuracy/hunt_report.h"
 #include "accuracy/inputs.h"
 #include "accuracy/measure.h"
+#include "accuracy/property_report.h"
+#include "accuracy/records.h"
+#include "accuracy/text.h"
 
 namespace {
 
@@ -23,52 +25,16 @@ using lum::support::Library;
 constexpr const char* csv_header =
     "export,inputs,count,max_ulp,bits,at,at_bits,correctly_rounded_percent,wrong_class,norm_ulp,bound_ulp";
 
-std::string Pattern(double x, bool is_32bit) {
-  return is_32bit ? fmt::format("0x{:08X}", std::bit_cast<uint32_t>(static_cast<float>(x)))
-                  : fmt::format("0x{:016X}", std::bit_cast<uint64_t>(x));
-}
-
-// All components of a point that the export has, separated by spaces.
-std::string Components(const Export& entry, const Point& p, const std::function<std::string(double)>& format) {
-  std::string text = format(p.re1);
-  if (lum::support::IsComplex(entry.input)) text += fmt::format(" {}", format(p.im1));
-  if (entry.inputs() == 1 && !entry.has_parameter()) return text;
-  text += fmt::format(" {}", format(p.re2));
-  if (lum::support::IsComplex(entry.input)) text += fmt::format(" {}", format(p.im2));
-  return text;
-}
-
 std::string Row(const Export& entry, const std::string& inputs, const Accuracy& a) {
   const Point& at = a.worst.point;
-  const auto decimal = [&](double x) {
-    return entry.is_32bit() ? fmt::format("{}", static_cast<float>(x)) : fmt::format("{}", x);
-  };
-  const auto bits = [&](double x) { return Pattern(x, entry.is_32bit()); };
   const bool is_complex = lum::support::IsComplex(entry.output);
   return fmt::format("{},{},{},{:.7g},{:.1f},{},{},{:.4f},{},{},{:g}", entry.name, inputs, a.count, a.worst.ulp, a.Bits(entry),
-                     Components(entry, at, decimal), Components(entry, at, bits),
+                     DecimalOf(entry, at), PatternOf(entry, at),
                      100.0 * static_cast<double>(a.correctly_rounded) / static_cast<double>(a.count), a.wrong_class,
                      is_complex ? fmt::format("{:.7g}", a.worst_norm.ulp) : "", Bound(entry));
 }
 
 std::string KeyOf(const std::string& row) { return row.substr(0, row.find(',', row.find(',') + 1)); }
-
-// Puts a row into the file of results, which has one row an export and kind of inputs, in place of the former one.
-void Record(const std::filesystem::path& path, const std::string& row) {
-  std::map<std::string, std::string> rows;
-  std::string line;
-  std::ifstream stored(path);
-  std::getline(stored, line);
-  while (std::getline(stored, line)) rows[KeyOf(line)] = line;
-  rows[KeyOf(row)] = row;
-  const auto part = path.string() + ".part";
-  std::ofstream file(part);
-  fmt::print(file, "{}\n", csv_header);
-  for (const auto& [key, text] : rows) fmt::print(file, "{}\n", text);
-  file.close();
-  if (!file) throw std::runtime_error(fmt::format("{}: cannot be written", part));
-  std::filesystem::rename(part, path);
-}
 
 void WriteCurve(const std::filesystem::path& directory, const Export& entry, const Accuracy& accuracy) {
   std::filesystem::create_directories(directory);
@@ -79,6 +45,10 @@ void WriteCurve(const std::filesystem::path& directory, const Export& entry, con
 struct Options {
   std::vector<std::string> functions;
   bool exhaustive = false;
+  bool hunt = false;
+  HuntRequest hunt_request;
+  bool properties = false;
+  PropertyRequest property_request;
   std::vector<std::string> inputs;
   size_t count = 60000;
   std::string csv;
@@ -108,17 +78,14 @@ void PrintRow(const Export& entry, const std::string& inputs, const Accuracy& a)
   fmt::print("{:<24} {:<13} {:>10.7g} ulp {:>6.1f} bits {:>9.4f} % rounded", entry.name, inputs, a.worst.ulp, a.Bits(entry),
              share);
   if (lum::support::IsComplex(entry.output)) fmt::print(" {:>10.7g} ulp norm-wise", a.worst_norm.ulp);
-  if (a.wrong_class != 0) {
-    fmt::print("  {} of the wrong class, as at {}", a.wrong_class,
-               Components(entry, a.wrong_at, [](double x) { return fmt::format("{}", x); }));
-  }
+  if (a.wrong_class != 0) { fmt::print("  {} of the wrong class, as at {}", a.wrong_class, DecimalOf(entry, a.wrong_at)); }
   fmt::print("\n");
   std::fflush(stdout);
 }
 
 void Report(const Options& options, const Export& entry, const std::string& inputs, const Accuracy& accuracy) {
   PrintRow(entry, inputs, accuracy);
-  if (!options.csv.empty()) Record(options.csv, Row(entry, inputs, accuracy));
+  if (!options.csv.empty()) UpdateRows(options.csv, csv_header, {Row(entry, inputs, accuracy)}, KeyOf);
 }
 
 // The chosen exports by function and type, those of all tags together.
@@ -158,17 +125,24 @@ void RunOverAll(const Options& options, const Library& library, const Group& gro
   for (size_t i = 0; i < group.size(); ++i) Report(options, *group[i], "all", accuracies[i]);
 }
 
-void Run(const Options& options) {
+// False where properties are not those of the file to compare with.
+bool Run(const Options& options) {
   std::string target = options.target;
   if (target.empty()) target = lum::support::FastestLibrary();
   if (!lum::support::ProcessorRuns(target)) throw std::runtime_error("this processor does not run " + target);
   std::string error;
   const auto library = Library::LoadBuilt(target, error);
   if (!library) throw std::runtime_error(error);
+  if (options.hunt) {
+    HuntGroups(*library, Grouped(Chosen(options)), options.hunt_request);
+    return true;
+  }
+  if (options.properties) return ReportProperties(*library, Grouped(Chosen(options)), options.property_request);
   for (const Group& group : Grouped(Chosen(options))) {
     if (options.exhaustive) RunOverAll(options, *library, group);
     else RunOverSamples(options, *library, group);
   }
+  return true;
 }
 
 }  // namespace
@@ -176,23 +150,38 @@ void Run(const Options& options) {
 int main(int argc, char** argv) {
   CLI::App app("Measures the error of functions against MPFR and MPC", "accuracy");
   Options options;
+  uint64_t count = 0;
   app.add_option("functions", options.functions, "functions (Exp) or exports (lumsExp_32f_A24); all when none is given");
   app.add_flag("--exhaustive", options.exhaustive, "all 2^32 arguments of the functions of one 32f input");
+  const auto hunt = app.add_flag("--hunt", options.hunt, "search hundreds of millions of arguments for the largest errors");
+  HuntRequest& hunt_options = options.hunt_request;
+  app.add_option("--seconds", hunt_options.limits.seconds, "with --hunt: time for a function and type")->needs(hunt);
+  app.add_option("--seed", hunt_options.limits.seed, "with --hunt: start of the random numbers")->needs(hunt);
+  app.add_flag("--peers", hunt_options.with_peers, "with --hunt: SLEEF and the C library, too")->needs(hunt);
+  app.add_option("--hunted", hunt_options.csv, "with --hunt: results file to update");
+  const auto properties = app.add_flag("--properties", options.properties, "symmetries, ranges, monotonicity and exact values");
+  app.add_option("--found", options.property_request.csv, "with --properties: results file to update");
+  app.add_option("--compare", options.property_request.compare, "with --properties: results file that has to hold")
+      ->needs(properties);
+  app.add_option("--share", options.property_request.limits.share_of_all,
+                 "with --properties: one block in so many of all 32f arguments")
+      ->needs(properties);
   app.add_option("--inputs", options.inputs,
                  "kinds of inputs: sample, borders, quarter-turns, unit-circle; all when none is given")
       ->check(CLI::IsMember({"sample", "borders", "quarter-turns", "unit-circle"}))
       ->take_all()
       ->allow_extra_args(false);
-  app.add_option("--count", options.count, "points a function and type");
+  app.add_option("--count", count, "points a function and type: 60000, with --hunt 100000000 where not given");
   app.add_option("--csv", options.csv, "results file to update");
   app.add_option("--curves", options.curves, "folder for the error over the argument");
   app.add_option("--target", options.target, "k0, a2 or p0; the first that the processor runs");
   try {
     app.parse(argc, argv);
-    Run(options);
+    if (count != 0) options.count = options.hunt_request.limits.count = options.property_request.limits.count = count;
+    options.hunt_request.curves = options.curves;
+    return Run(options) ? 0 : 1;
   } catch (const CLI::Success& request) { return app.exit(request); } catch (const std::exception& problem) {
     fmt::print(stderr, "accuracy: {}\n", problem.what());
     return 2;
   }
-  return 0;
 }

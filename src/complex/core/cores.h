@@ -9,7 +9,7 @@ namespace lum::inline LUM_LAYER {
 // Elements of both complex types pass through the cores in this form.
 using ComplexDouble = Lum64fc;
 
-// Of two arguments: z w, z conj(w), z / w.
+// z w, z conj(w), z / w.
 void CoreMul(ComplexDouble& result, const ComplexDouble& z, const ComplexDouble& w);
 void CoreMulByConj(ComplexDouble& result, const ComplexDouble& z, const ComplexDouble& w);
 void CoreDiv(ComplexDouble& result, const ComplexDouble& z, const ComplexDouble& w);

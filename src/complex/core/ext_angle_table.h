@@ -22,7 +22,7 @@ struct TableAngle {
   ExtendedPair u;
 };
 
-// Of atan(s/l). Given 0 <= s <= l, neither so large or small that products of their tails are lost.
+// The terms of atan(s/l). Given 0 <= s <= l, neither so large or small that products of their tails are lost.
 inline TableAngle ArctangentByTable(Extended s, Extended l) {
   const Extended c = round_to_multiple<-7>(s / l);
   const ExtendedPair large_parts = split(l), product = two_product(c, s);

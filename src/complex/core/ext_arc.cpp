@@ -16,18 +16,18 @@ constexpr auto terms = coefficients({
 // (asin x - x) / x^3.
 constexpr std::array<Extended, 4> series = {1.0L / 6, 3.0L / 40, 5.0L / 112, 35.0L / 1152};
 
-constexpr int upper_half = 0x3ffe;  // exponent field of 1/2 <= |x| < 1
+constexpr int upper_half = field_of(-1);  // exponent field of 1/2 <= |x| < 1
 
 ExtendedPair WithSeries(const Extended& x, Extended correction) { return {x, x * (x * x) * correction}; }
 
 // asin x, |x| < 1/2.
 ExtendedPair LowerArcsine(const Extended& x, int exponent) {
   const Extended square = x * x;
-  if (exponent < 0x3fb4) return {x, 0};
-  if (exponent <= 0x3fec) return WithSeries(x, series[0]);
-  if (exponent <= 0x3ff2) return WithSeries(x, first_terms<2>(series, square));
-  if (exponent <= 0x3ff7) return WithSeries(x, polynomial(series, square));
-  return odd_sum({x, 0}, ratio(1, 6), exponent < 0x3ffc ? polynomial(small_terms, square) : polynomial(terms, square));
+  if (exponent < field_of(-75)) return {x, 0};
+  if (exponent <= field_of(-19)) return WithSeries(x, series[0]);
+  if (exponent <= field_of(-13)) return WithSeries(x, first_terms<2>(series, square));
+  if (exponent <= field_of(-8)) return WithSeries(x, polynomial(series, square));
+  return odd_sum({x, 0}, ratio(1, 6), exponent < field_of(-3) ? polynomial(small_terms, square) : polynomial(terms, square));
 }
 
 // acos |x|, 1/2 <= |x| < 1. The difference is exact.
@@ -38,7 +38,7 @@ ExtendedPair UpperArccosine(const Extended& x) {
 
 Extended AsinOf(const Extended& x) {
   const int exponent = exponent_field(x);
-  if (exponent < 0x3fb4) return inexact_identity(x);
+  if (exponent < field_of(-75)) return inexact_identity(x);
   if (exponent < upper_half) return rounded(LowerArcsine(x, exponent));
   if (exponent == upper_half) return with_sign_of(rounded(add(Angle(quarter_turn), -UpperArccosine(x))), x);
   if (magnitude(x) == 1) return with_sign_of(rounded(Angle(quarter_turn)), x);

@@ -5,9 +5,9 @@ namespace lum::inline LUM_LAYER {
 namespace {
 
 Extended SmallAtan(const Extended& x, int exponent) {
-  if (exponent < 0x3fb4) return inexact_identity(x);
-  if (exponent <= 0x3fec) return odd_series<1>(arctangent_series, x);
-  if (exponent <= 0x3ff2) return odd_series<2>(arctangent_series, x);
+  if (exponent < field_of(-75)) return inexact_identity(x);
+  if (exponent <= field_of(-19)) return odd_series<1>(arctangent_series, x);
+  if (exponent <= field_of(-13)) return odd_series<2>(arctangent_series, x);
   return odd_series<4>(arctangent_series, x);
 }
 
@@ -20,14 +20,14 @@ Extended MiddleAtan(Extended x) {
   return AddArctangent(Angle(quarter_turn - angle.k), -angle.u);
 }
 
-// Of the series of v = 1/x as many terms as reach the last place of pi/2.
+// As many terms of the series of v = 1/x as reach the last place of pi/2.
 Extended LargeAtan(Extended x, int exponent) {
   const ExtendedPair right_angle = Angle(quarter_turn);
-  if (exponent >= 0x4040) return rounded(right_angle);
+  if (exponent >= field_of(65)) return rounded(right_angle);
   const Extended v = 1 / x;
   Extended rest = 0;
-  if (exponent <= 0x400d) rest = first_terms<2>(arctangent_series, v * v);
-  else if (exponent <= 0x4018) rest = arctangent_series[0];
+  if (exponent <= field_of(14)) rest = first_terms<2>(arctangent_series, v * v);
+  else if (exponent <= field_of(25)) rest = arctangent_series[0];
   const ExtendedPair sum = fast_two_sum(right_angle.head, -v);
   return sum.head + (sum.tail + (right_angle.tail - v * v * v * rest));
 }
@@ -35,9 +35,9 @@ Extended LargeAtan(Extended x, int exponent) {
 Extended AtanOf(const Extended& x) {
   const int exponent = exponent_field(x);
   if (x != x) return x + x;
-  if (exponent < 0x3ff8) return SmallAtan(x, exponent);
+  if (exponent < field_of(-7)) return SmallAtan(x, exponent);
   const Extended positive = magnitude(x);
-  return with_sign_of(exponent <= 0x4009 ? MiddleAtan(positive) : LargeAtan(positive, exponent), x);
+  return with_sign_of(exponent <= field_of(10) ? MiddleAtan(positive) : LargeAtan(positive, exponent), x);
 }
 
 }  // namespace

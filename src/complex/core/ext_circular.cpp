@@ -17,7 +17,7 @@ constexpr std::array<Extended, 4> sine_series = {-1.0L / 6, 1.0L / 120, -1.0L / 
 constexpr std::array<Extended, 3> cosine_series = {1.0L / 24, -1.0L / 720, 1.0L / 40320};
 
 // Exponent fields: the last ones below which the series needs no correction, one, two and four of them.
-constexpr int no_term = 0x3fb3, one_term = 0x3feb, two_terms = 0x3ff3, four_terms = 0x3ff9;
+constexpr int no_term = field_of(-76), one_term = field_of(-20), two_terms = field_of(-12), four_terms = field_of(-6);
 
 inline Extended SineOfRemainder(const ExtendedPair& r) {
   return rounded(odd_sum(r, ratio(-1, 6), polynomial(sine_terms, r.head * r.head)));
@@ -25,7 +25,7 @@ inline Extended SineOfRemainder(const ExtendedPair& r) {
 
 inline Extended CosineOfRemainder(const ExtendedPair& r) {
   const ExtendedPair square = multiply(r, r);
-  const ExtendedPair sum = fast_two_sum(1, square.head * -0.5L);
+  const ExtendedPair sum = fast_two_sum(Extended{1}, square.head * -0.5L);
   const Extended rest = square.head * square.head * polynomial(cosine_terms, square.head);
   return sum.head + (sum.tail + (rest - square.tail * 0.5L));
 }

@@ -12,13 +12,13 @@ constexpr auto small_terms = coefficients({
 constexpr std::array<Extended, 4> series = {1.0L / 2, 1.0L / 6, 1.0L / 24, 1.0L / 120};
 
 Extended SmallExp(const Extended& x, int exponent) {
-  if (exponent < 0x3fbc) return 1 + x;
+  if (exponent < field_of(-67)) return 1 + x;
   Extended rest = 0;
-  if (exponent <= 0x3fe4) rest = series[0];
-  else if (exponent <= 0x3fec) rest = first_terms<2>(series, x);
-  else if (exponent <= 0x3ff3) rest = first_terms<4>(series, x);
+  if (exponent <= field_of(-27)) rest = series[0];
+  else if (exponent <= field_of(-19)) rest = first_terms<2>(series, x);
+  else if (exponent <= field_of(-12)) rest = first_terms<4>(series, x);
   else rest = polynomial(small_terms, x);
-  const ExtendedPair sum = fast_two_sum(1, x);
+  const ExtendedPair sum = fast_two_sum(Extended{1}, x);
   return sum.head + (sum.tail + x * x * rest);
 }
 
@@ -45,9 +45,9 @@ Extended Scaled(const ExtendedPair& value, int e) {
 
 Extended ExpOf(const Extended& x) {
   const int exponent = exponent_field(x);
-  if (exponent < 0x3ffa) return SmallExp(x, exponent);
+  if (exponent < field_of(-5)) return SmallExp(x, exponent);
   if (exponent == extended_special) return x == -ExtendedLimits::infinity() ? 0 : x + x;
-  if (exponent > 0x400c) return Scaled({1, 0}, sign_bit(x) ? -0x8000 : 0x8000);
+  if (exponent > field_of(13)) return Scaled({1, 0}, sign_bit(x) ? -0x8000 : 0x8000);
   const PowerArgument a = ReduceByPowers(x);
   return Scaled(TablePower(a.j, a.even + a.odd), a.e);
 }

@@ -15,10 +15,10 @@ constexpr auto cosh_terms = coefficients({
 constexpr std::array<Extended, 4> sinh_series = {1.0L / 6, 1.0L / 120, 1.0L / 5040, 1.0L / 362880};
 constexpr std::array<Extended, 4> cosh_series = {1.0L / 2, 1.0L / 24, 1.0L / 720, 1.0L / 40320};
 
-constexpr int table_from = 0x3ffe;           // exponent field from which the table serves
+constexpr int table_from = field_of(-1);     // exponent field from which the table serves
 constexpr uint32_t both_until = 0x4003d153;  // |x| to about 26.16: beyond, e^-|x| is lost
 
-// Of |x| >= 1/2, divided by a power of two that keeps them finite.
+// The powers for |x| >= 1/2, divided by a power of two that keeps them finite.
 struct Halves {
   ExtendedPair plus, minus;  // e^|x| / 2 and e^-|x| / 2
   Extended scale;
@@ -44,21 +44,21 @@ Extended Sum(const Halves& h) {
 }
 
 Extended SmallSinh(const Extended& x, int exponent) {
-  if (exponent < 0x3fb4) return inexact_identity(x);
-  if (exponent <= 0x3fed) return odd_series<1>(sinh_series, x);
-  if (exponent <= 0x3ff4) return odd_series<2>(sinh_series, x);
-  if (exponent <= 0x3ff9) return odd_series<4>(sinh_series, x);
+  if (exponent < field_of(-75)) return inexact_identity(x);
+  if (exponent <= field_of(-18)) return odd_series<1>(sinh_series, x);
+  if (exponent <= field_of(-11)) return odd_series<2>(sinh_series, x);
+  if (exponent <= field_of(-6)) return odd_series<4>(sinh_series, x);
   return rounded(odd_sum({x, 0}, ratio(1, 6), polynomial(sinh_terms, x * x)));
 }
 
 Extended SmallCosh(const Extended& x, int exponent) {
-  if (exponent < 0x3fb4) return 1 + magnitude(x);
+  if (exponent < field_of(-75)) return 1 + magnitude(x);
   const Extended square = x * x;
-  if (exponent <= 0x3fec) return 1 + square * cosh_series[0];
-  if (exponent <= 0x3ff3) return 1 + square * first_terms<2>(cosh_series, square);
-  if (exponent <= 0x3ff9) return 1 + square * polynomial(cosh_series, square);
+  if (exponent <= field_of(-19)) return 1 + square * cosh_series[0];
+  if (exponent <= field_of(-12)) return 1 + square * first_terms<2>(cosh_series, square);
+  if (exponent <= field_of(-6)) return 1 + square * polynomial(cosh_series, square);
   const ExtendedPair half_square = scale(two_product(x, x), 0.5L);
-  const ExtendedPair sum = fast_two_sum(1, half_square.head);
+  const ExtendedPair sum = fast_two_sum(Extended{1}, half_square.head);
   return sum.head + (sum.tail + (half_square.tail + square * square * polynomial(cosh_terms, square)));
 }
 
@@ -67,7 +67,7 @@ bool IsBeyond(const Extended& x) {
   static constexpr uint64_t last_finite = 0xb174ddc031aec0e9;
   const ExtendedFields f = fields(x);
   const uint32_t exponent = f.sign_and_exponent & 0x7fff;
-  return exponent > 0x400c || (exponent == 0x400c && f.significand > last_finite);
+  return exponent > field_of(13) || (exponent == field_of(13) && f.significand > last_finite);
 }
 
 // Products that overflow, or keep an infinity or a NaN.

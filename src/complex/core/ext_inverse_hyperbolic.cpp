@@ -23,9 +23,9 @@ constexpr std::array<Extended, 5> acosh_series = {3.0L / 160, -5.0L / 896, 35.0L
 
 // |x| below 2^-7, alike for both.
 Extended SmallInverse(const std::array<Extended, 4>& series, const Extended& x, int exponent) {
-  if (exponent < 0x3fb4) return inexact_identity(x);
-  if (exponent <= 0x3fec) return odd_series<1>(series, x);
-  if (exponent <= 0x3ff2) return odd_series<2>(series, x);
+  if (exponent < field_of(-75)) return inexact_identity(x);
+  if (exponent <= field_of(-19)) return odd_series<1>(series, x);
+  if (exponent <= field_of(-13)) return odd_series<2>(series, x);
   return odd_series<4>(series, x);
 }
 
@@ -33,7 +33,7 @@ Extended Logarithm(ExtendedPair x) { return rounded(LogByTable(x)); }
 
 // log(2 x), x > 0 and normal: no product to overflow.
 Extended LogarithmOfDouble(const Extended& x) {
-  return rounded(LogByTable(exponent_field(x) - extended_bias + 1, {significand(x), 0}));
+  return rounded(LogByTable(exponent_field(x) - extended_bias + 1, {significand_of(x), 0}));
 }
 
 // asinh x for sign 1, acosh x for sign -1: the logarithm of x + sqrt(x^2 + sign) = 2 x + sign / (x + sqrt(x^2 + sign)), and of
@@ -42,18 +42,18 @@ Extended LogarithmOfSum(const Extended& x, int exponent, Extended sign, int one_
   if (exponent >= double_from) return LogarithmOfDouble(x);
   const Extended twice = 2 * x;
   if (exponent >= one_level_from) return Logarithm(fast_two_sum(twice, sign / twice));
-  if (exponent >= 0x400a) return Logarithm(fast_two_sum(twice, sign / (twice + sign / twice)));
+  if (exponent >= field_of(11)) return Logarithm(fast_two_sum(twice, sign / (twice + sign / twice)));
   const ExtendedPair root = RootPair(add(two_product(x, x), sign));
-  if (exponent >= 0x4004) return Logarithm(fast_two_sum(twice, sign / (x + root.head)));
+  if (exponent >= field_of(5)) return Logarithm(fast_two_sum(twice, sign / (x + root.head)));
   return Logarithm(add(root, x));
 }
 
 Extended AsinhOf(const Extended& x) {
   const int exponent = exponent_field(x);
   if (exponent == extended_special) return x + x;
-  if (exponent <= 0x3ff7) return SmallInverse(asinh_series, x, exponent);
-  if (exponent < 0x3ffe) return rounded(odd_sum({x, 0}, ratio(-1, 6), polynomial(asinh_terms, x * x)));
-  return with_sign_of(LogarithmOfSum(magnitude(x), exponent, 1, 0x4011, 0x4025), x);
+  if (exponent <= field_of(-8)) return SmallInverse(asinh_series, x, exponent);
+  if (exponent < field_of(-1)) return rounded(odd_sum({x, 0}, ratio(-1, 6), polynomial(asinh_terms, x * x)));
+  return with_sign_of(LogarithmOfSum(magnitude(x), exponent, 1, field_of(18), field_of(38)), x);
 }
 
 // acosh(1 + t), 0 < t < 1/4.
@@ -72,15 +72,16 @@ Extended AcoshOf(const Extended& x) {
   if (x == 1) return 0;
   const uint32_t beyond_one = leading_word(x) - 0x3fff8000;
   if (beyond_one <= 0x1fff) return AcoshNearOne(x - 1, beyond_one <= 0x3f);
-  return LogarithmOfSum(x, exponent, -1, 0x4011, 0x4021);
+  return LogarithmOfSum(x, exponent, -1, field_of(18), field_of(34));
 }
 
 Extended AtanhOf(const Extended& x) {
   const int exponent = exponent_field(x);
-  if (exponent <= 0x3ff7) return SmallInverse(atanh_series, x, exponent);
-  if (exponent <= 0x3ffc) return rounded(odd_sum({x, 0}, ratio(1, 3), polynomial(atanh_terms, x * x)));
+  if (exponent <= field_of(-8)) return SmallInverse(atanh_series, x, exponent);
+  if (exponent <= field_of(-3)) return rounded(odd_sum({x, 0}, ratio(1, 3), polynomial(atanh_terms, x * x)));
   const Extended positive = magnitude(x);
-  if (exponent <= 0x3ffe) return with_sign_of(Logarithm(divide(two_sum(1, positive), two_sum(1, -positive))) * 0.5L, x);
+  if (exponent <= field_of(-1))
+    return with_sign_of(Logarithm(divide(two_sum(Extended{1}, positive), two_sum(Extended{1}, -positive))) * 0.5L, x);
   if (positive == 1) return x / (1 - positive);
   return x != x ? x + x : (x - x) / (x - x);
 }

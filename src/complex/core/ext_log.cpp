@@ -32,7 +32,7 @@ Extended LogOf(const Extended& x) {
   if (0x3ffef800 <= word && word <= 0x3fff8800) return NearOne(x - 1);
   if (exponent > 0) return rounded(LogByTable({x, 0}));
   const Extended scaled = x * constant_power_of_two(step);
-  return rounded(LogByTable(exponent_field(scaled) - extended_bias - step, {significand(scaled), 0}));
+  return rounded(LogByTable(exponent_field(scaled) - extended_bias - step, {significand_of(scaled), 0}));
 }
 
 // -infinity at -1, else NaN.
@@ -44,14 +44,14 @@ Extended Log1pOf(const Extended& x) {
   const int exponent = exponent_field(x);
   if (x != x) return x + x;
   if (x <= -1) return Log1pFromMinusOne(x);
-  if (exponent <= 0x3fb3) return inexact_identity(x);
-  if (exponent <= 0x3fd8) return ShortSeries<1>(x);
-  if (exponent <= 0x3fe5) return ShortSeries<2>(x);
-  if (exponent <= 0x3ff0) return ShortSeries<4>(x);
-  if (exponent <= 0x3ffa) return NearOne(x);
+  if (exponent <= field_of(-76)) return inexact_identity(x);
+  if (exponent <= field_of(-39)) return ShortSeries<1>(x);
+  if (exponent <= field_of(-26)) return ShortSeries<2>(x);
+  if (exponent <= field_of(-15)) return ShortSeries<4>(x);
+  if (exponent <= field_of(-5)) return NearOne(x);
   const uint32_t word = leading_word(x);
   if (sign_bit(x) ? word >= logarithm_of_exact_sum : word >= logarithm_of_x) return LogOf(sign_bit(x) ? 1 + x : x);
-  return rounded(LogByTable(two_sum(1, x)));
+  return rounded(LogByTable(two_sum(Extended{1}, x)));
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 
 #include "complex/core/extended_pair.h"
 #include "frame/literals.h"
+#include "frame/numbers.h"
 
 namespace lum::inline LUM_LAYER {
 
@@ -21,8 +22,7 @@ inline constexpr auto log_table_terms = coefficients({
 // log(2^n m), with the part of m beyond its last place in m.tail, as the exact sum of the heads and the rest, which is below
 // 2^-8. Given 1 <= m.head < 2. Error below 2^-72, relative to 2^-30 of n where that is more.
 inline ExtendedPair LogByTable(int n, ExtendedPair m) {
-  constexpr double ln2_head = f64(0x3FE62E42FF000000, 0.6931471806019545),
-                   ln2_tail = f64(0xBDC718432A1B0E26, -4.2009150726810846e-11);
+  constexpr double ln2_head = numbers::ln2_33_parts<double>[0], ln2_tail = numbers::ln2_33_parts<double>[1];
   const size_t j = static_cast<size_t>(fields(m.head).significand >> 55) & 0xff;
   const Extended c = log_reciprocals.entries[j], count = n;
   const Extended head = round_to_multiple<-31>(m.head), tail = m.head - head;
@@ -32,10 +32,10 @@ inline ExtendedPair LogByTable(int n, ExtendedPair m) {
   return {count * ln2_head + row.head, small + r};
 }
 
-// The same of a normal number x.head > 0 and a tail beyond its last place.
+// The logarithm of a normal number x.head > 0 and a tail beyond its last place.
 inline ExtendedPair LogByTable(ExtendedPair x) {
   const int n = exponent_field(x.head) - extended_bias;
-  return LogByTable(n, {significand(x.head), x.tail == 0 ? 0 : x.tail * power_of_two(-n)});
+  return LogByTable(n, {significand_of(x.head), x.tail == 0 ? 0 : x.tail * power_of_two(-n)});
 }
 
 }  // namespace lum::inline LUM_LAYER

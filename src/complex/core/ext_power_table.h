@@ -4,6 +4,7 @@
 
 #include "complex/core/extended_pair.h"
 #include "frame/literals.h"
+#include "frame/numbers.h"
 
 namespace lum::inline LUM_LAYER {
 
@@ -24,9 +25,8 @@ inline constexpr auto power_table = table64({
 
 // Given |x| < 2^14. The product of n and the first part of ln2/256 is exact, and so is the difference from x where n is not 0.
 inline PowerArgument ReduceByPowers(Extended x) {
-  const Extended n = round_to_multiple<0>(x * f64(0x40771547652B82FE, 369.3299304675746));
-  const Extended r =
-      (x - n * f64(0x3F662E42FF000000, 0.0027076061742263846)) - n * f64(0xBD4718432A1B0E26, -1.6409824502660487e-13);
+  const Extended n = round_to_multiple<0>(x * (256 * numbers::log2_e<double>));
+  const Extended r = (x - n * (numbers::ln2_33_parts<double>[0] / 256)) - n * (numbers::ln2_33_parts<double>[1] / 256);
   const int whole = static_cast<int>(n), j = ((whole + 128) & 0xff) - 128;
   const Extended square = r * r;
   const auto& c = exp_table_terms;

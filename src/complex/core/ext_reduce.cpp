@@ -4,21 +4,18 @@
 #include "complex/core/ext_reduce.h"
 
 #include "frame/literals.h"
+#include "frame/numbers.h"
 
 namespace lum::inline LUM_LAYER {
 namespace {
 
-constexpr int direct_limit = 0x401c;      // exponent field of the last direct range, below 2^30
-constexpr int three_part_limit = 0x400f;  // below 2^17: k has 18 bits
+constexpr int direct_limit = field_of(29);      // exponent field of the last direct range, below 2^30
+constexpr int three_part_limit = field_of(16);  // below 2^17: k has 18 bits
 
 constexpr Extended four_over_pi = 1.2732395447351628;
 // pi/4 as sums.
-constexpr double three_parts[] = {f64(0x3FE921FB54442D00, 0.7853981633974456), f64(0x3CE8469898CC5180, 2.6951514290790658e-15),
-                                  f64(0xB9DFC8F8CBB5BF6C, -6.2684951034662496e-30)};
-constexpr double five_parts[] = {f64(0x3FE921FB54400000, 0.7853981633670628), f64(0x3DC0B4611A600000, 3.038550253151983e-11),
-                                 f64(0x3B93198A2E000000, 1.0111331243555832e-21),
-                                 f64(0x396B839A25200000, 4.2392138301741147e-32),
-                                 f64(0x37027044533E63A0, 1.0335160549131994e-43)};
+constexpr auto& three_parts = numbers::quarter_pi_parts_3<double>;
+constexpr auto& five_parts = numbers::quarter_pi_parts_5<double>;
 
 constexpr uint64_t four_over_pi_bits[] = {
 #include "tables/generated/extended_four_over_pi.inc"
@@ -76,9 +73,9 @@ struct Accumulator {
 
 // x times 4/pi modulo 8, x > 0.
 Accumulator OctantsOf(Extended x, int exponent) {
-  // Of a wider format the tail reaches further down and remainders are smaller: the pieces start earlier and end later.
+  // In a wider format the tail reaches further down and remainders are smaller: the pieces start earlier and end later.
   constexpr int further = (extended_digits - 64 + 30) / 31;
-  const int beyond = exponent > 0x4021 ? exponent - 0x4021 : 0;
+  const int beyond = exponent > field_of(34) ? exponent - field_of(34) : 0;
   const int row = (beyond * 0x4211) >> 19;  // beyond / 31
   const int last = row + (beyond - 31 * row >= 17 ? 8 : 7) + further;
   const Extended scaled = x * constant_power_of_two(-217);
@@ -95,8 +92,7 @@ Accumulator OctantsOf(Extended x, int exponent) {
 }
 
 OctantRemainder ReduceHuge(Extended x, int exponent) {
-  constexpr ExtendedPair quarter_pi = {f64(0x3FE921FB54400000, 0.7853981633670628),
-                                       f64(0x3DC0B4611A626331, 3.038550253253096e-11)};
+  constexpr ExtendedPair quarter_pi = {numbers::quarter_pi_pair<double>[0], numbers::quarter_pi_pair<double>[1]};
   const Accumulator octants = OctantsOf(x, exponent);
   const Extended even = round_to_multiple<1>(octants.head);
   return {multiply(octants.Less(even), quarter_pi), static_cast<int64_t>(even) & 7};

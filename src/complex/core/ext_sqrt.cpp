@@ -15,7 +15,7 @@ constexpr std::array<Extended, 7> series = {-1.0L / 2,    3.0L / 8,      -5.0L /
 
 // t as a head with 22 bits less than the format has, and the rest.
 ExtendedPair SplitForSeed(Extended t) {
-  const Extended scaled = t * f64(0x4150000040000000, 4194305.0);
+  const Extended scaled = t * (0x1p22 + 1);
   const Extended head = scaled - (scaled - t);
   return {head, t - head};
 }
@@ -26,7 +26,7 @@ Extended Root(const Extended& x, int step) {
   // The significand rounded to eight fractional bits; past the end it falls on the first row of the other half.
   const size_t nearest = static_cast<size_t>(((fields(x).significand >> 54) + 1) >> 1) - 256;
   const Extended g = seeds.entries[nearest + (odd != 0 ? 256 : 0)];
-  const Extended m = significand(x), t = odd != 0 ? 2 * m : m;
+  const Extended m = significand_of(x), t = odd != 0 ? 2 * m : m;
   const ExtendedPair parts = SplitForSeed(t);
   const Extended w = (g * g * parts.head - 1) + g * g * parts.tail;  // exact but for the last product and sum
   Extended p = 0;

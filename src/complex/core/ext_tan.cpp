@@ -3,6 +3,7 @@
 // turns takes minus the reciprocal.
 #include "complex/core/ext_reduce.h"
 #include "frame/literals.h"
+#include "frame/numbers.h"
 
 namespace lum::inline LUM_LAYER {
 namespace {
@@ -23,8 +24,8 @@ ExtendedPair ShortTangent(const ExtendedPair& x) { return odd_sum(x, ratio(1, 3)
 
 // r - k pi/64. The first product is exact, and so is its difference from r, which lies between its neighbours.
 ExtendedPair SubtractAngle(const ExtendedPair& r, int k) {
-  const Extended rest = r.head - k * f64(0x3FA921FB54400000, 0.049087385210441425);
-  const ExtendedPair sum = two_sum(rest, -(k * f64(0x3D80B4611A626331, 1.899093908283185e-12)));
+  const Extended rest = r.head - k * (numbers::quarter_pi_pair<double>[0] / 16);
+  const ExtendedPair sum = two_sum(rest, Extended{-(k * (numbers::quarter_pi_pair<double>[1] / 16))});
   return {sum.head, sum.tail + r.tail};
 }
 
@@ -40,7 +41,7 @@ Extended TangentOfSum(int k, const ExtendedPair& p, bool is_reciprocal) {
 Extended TanByTable(const Extended& x) {
   ExtendedPair r;
   const bool is_reciprocal = (ExtReducePi4(r, x) & 2) != 0;
-  const int k = static_cast<int>(r.head * f64(0x40345F306DC9C883, 20.371832715762604));
+  const int k = static_cast<int>(r.head * (64 * numbers::inverse_pi<double>));
   if (k != 0) return TangentOfSum(k, ShortTangent(SubtractAngle(r, k)), is_reciprocal);
   const ExtendedPair tangent = ShortTangent(r);
   return rounded(is_reciprocal ? divide({-1, 0}, tangent) : tangent);
@@ -48,10 +49,10 @@ Extended TanByTable(const Extended& x) {
 
 Extended TanOf(const Extended& x) {
   const int exponent = exponent_field(x);
-  if (exponent < 0x3fb4) return inexact_identity(x);
-  if (exponent <= 0x3feb) return odd_series<1>(series, x);
-  if (exponent <= 0x3ff2) return odd_series<2>(series, x);
-  if (exponent <= 0x3ff4) return odd_series<3>(series, x);
+  if (exponent < field_of(-75)) return inexact_identity(x);
+  if (exponent <= field_of(-20)) return odd_series<1>(series, x);
+  if (exponent <= field_of(-13)) return odd_series<2>(series, x);
+  if (exponent <= field_of(-11)) return odd_series<3>(series, x);
   if (exponent == extended_special) return x - x;
   return TanByTable(x);
 }

@@ -14,10 +14,10 @@ constexpr std::array<Extended, 4> series = {-1.0L / 3, 2.0L / 15, -17.0L / 315, 
 constexpr uint32_t quotient_until = 0x40019665;  // |x| to about 4.7: beyond, 2 / (E + 1) is small beside 1
 
 Extended SmallTanh(const Extended& x, int exponent) {
-  if (exponent < 0x3fb4) return inexact_identity(x);
-  if (exponent <= 0x3fec) return odd_series<1>(series, x);
-  if (exponent <= 0x3ff2) return odd_series<2>(series, x);
-  if (exponent <= 0x3ff7) return odd_series<4>(series, x);
+  if (exponent < field_of(-75)) return inexact_identity(x);
+  if (exponent <= field_of(-19)) return odd_series<1>(series, x);
+  if (exponent <= field_of(-13)) return odd_series<2>(series, x);
+  if (exponent <= field_of(-8)) return odd_series<4>(series, x);
   return rounded(odd_sum({x, 0}, ratio(-1, 3), polynomial(terms, x * x)));
 }
 
@@ -32,8 +32,8 @@ Extended TanhByPowers(const Extended& x) {
 Extended TanhOf(const Extended& x) {
   constexpr Extended tiny = ExtendedLimits::min();
   const int exponent = exponent_field(x);
-  if (exponent < 0x3ffe) return SmallTanh(x, exponent);
-  if (exponent <= 0x4003) return with_sign_of(TanhByPowers(x), x);
+  if (exponent < field_of(-1)) return SmallTanh(x, exponent);
+  if (exponent <= field_of(4)) return with_sign_of(TanhByPowers(x), x);
   if (x != x) return x + x;
   return with_sign_of(1 - tiny, x);
 }

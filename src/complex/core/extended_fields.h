@@ -13,6 +13,8 @@ namespace lum::inline LUM_LAYER {
 using ExtendedLimits = std::numeric_limits<Extended>;
 inline constexpr int extended_digits = ExtendedLimits::digits;
 inline constexpr int extended_bias = 0x3fff;
+// The exponent field of the numbers from 2^n on, below 2^(n + 1).
+consteval int field_of(int n) { return n + extended_bias; }
 inline constexpr int extended_special = 0x7fff;  // exponent field of infinity and NaN
 inline constexpr size_t extended_bytes = extended_digits == 64 ? 10 : 16;
 static_assert(extended_digits == 64 || extended_digits == 113, "an unknown layout");
@@ -80,7 +82,7 @@ constexpr Extended constant_power_of_two(int n) {
 }
 
 // x with the exponent of 1: 1 <= |result| < 2. Given a normal number.
-inline Extended significand(const Extended& x) {
+inline Extended significand_of(const Extended& x) {
   const int e = exponent_field(x) - extended_bias;
   // In two steps at the ends of the range, where 2^-e is no normal number.
   constexpr int half = 8192;

@@ -1,49 +1,19 @@
 // Unevaluated sums head + tail of two Extended numbers, with about twice the bits of one. A function computes its leading terms
-// in pairs and the others plainly; head + tail is rounded once, at the end. Sums after Knuth and Dekker, products after
-// Veltkamp and Dekker, without fused operations.
+// in pairs and the others plainly; head + tail is rounded once, at the end.
 #pragma once
 
 #include <array>
 
 #include "complex/core/extended_fields.h"
+#include "frame/two_parts.h"
 #include "tables/table.h"
 
 namespace lum::inline LUM_LAYER {
 
-struct ExtendedPair {
-  Extended head, tail;
-};
+using ExtendedPair = TwoParts<Extended>;
 
 inline Extended rounded(ExtendedPair a) { return a.head + a.tail; }
 constexpr ExtendedPair operator-(ExtendedPair a) { return {-a.head, -a.tail}; }
-
-// a + b, exactly. Given |a| >= |b| or a = 0.
-constexpr ExtendedPair fast_two_sum(Extended a, Extended b) {
-  const Extended sum = a + b;
-  return {sum, b - (sum - a)};
-}
-
-// a + b, exactly.
-constexpr ExtendedPair two_sum(Extended a, Extended b) {
-  const Extended sum = a + b;
-  const Extended b_in_sum = sum - a;
-  return {sum, (a - (sum - b_in_sum)) + (b - b_in_sum)};
-}
-
-// a as a sum of two numbers of half the digits. Given |a| < 2^(16383 - (digits + 1) / 2).
-constexpr ExtendedPair split(Extended a) {
-  constexpr Extended factor = constant_power_of_two((extended_digits + 1) / 2) + 1;
-  const Extended scaled = factor * a;
-  const Extended head = scaled - (scaled - a);
-  return {head, a - head};
-}
-
-// a * b, exactly, away from overflow and underflow.
-constexpr ExtendedPair two_product(Extended a, Extended b) {
-  const Extended product = a * b;
-  const ExtendedPair x = split(a), y = split(b);
-  return {product, ((x.head * y.head - product) + x.head * y.tail + x.tail * y.head) + x.tail * y.tail};
-}
 
 // Sums and products of pairs: relative error a few units of 2^(-2 digits), for sums where the heads do not cancel.
 constexpr ExtendedPair add(ExtendedPair a, ExtendedPair b) {

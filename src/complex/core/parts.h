@@ -3,43 +3,33 @@
 #pragma once
 
 #include <bit>
-#include <concepts>
 #include <cstdint>
 #include <limits>
 
 #include "complex/core/cores.h"
 #include "complex/core/extended.h"
+#include "frame/lane_format.h"
 
 namespace lum::inline LUM_LAYER {
 
-template <std::floating_point T> struct PartFormat;
-template <> struct PartFormat<Lum32f> {
-  using Word = uint32_t;
-  static constexpr Word infinity = 0x7F800000, min_normal = 0x00800000;
-};
-template <> struct PartFormat<Lum64f> {
-  using Word = uint64_t;
-  static constexpr Word infinity = 0x7FF0000000000000, min_normal = 0x0010000000000000;
-};
-
 inline constexpr Lum64f infinity = std::numeric_limits<Lum64f>::infinity();
 
-template <std::floating_point T> auto MagnitudeBits(T x) {
-  using Word = typename PartFormat<T>::Word;
+template <Floating T> auto MagnitudeBits(T x) {
+  using Word = UnsignedOf<T>;
   auto bits = std::bit_cast<Word>(x);
 #ifdef __clang__
   asm("" : "+r"(bits));  // else tests of bits become comparisons of numbers, which raise flags and may trap
 #endif
   return bits & (~Word{0} >> 1);
 }
-template <std::floating_point T> bool IsNan(T x) { return MagnitudeBits(x) > PartFormat<T>::infinity; }
-template <std::floating_point T> bool IsInfinite(T x) { return MagnitudeBits(x) == PartFormat<T>::infinity; }
-template <std::floating_point T> bool IsFinite(T x) { return MagnitudeBits(x) < PartFormat<T>::infinity; }
-template <std::floating_point T> bool IsZero(T x) { return MagnitudeBits(x) == 0; }
+template <Floating T> bool IsNan(T x) { return MagnitudeBits(x) > lane::Format<T>::infinity; }
+template <Floating T> bool IsInfinite(T x) { return MagnitudeBits(x) == lane::Format<T>::infinity; }
+template <Floating T> bool IsFinite(T x) { return MagnitudeBits(x) < lane::Format<T>::infinity; }
+template <Floating T> bool IsZero(T x) { return MagnitudeBits(x) == 0; }
 // A zero or a denormal.
-template <std::floating_point T> bool IsBelowNormal(T x) { return MagnitudeBits(x) < PartFormat<T>::min_normal; }
-template <std::floating_point T> bool IsDenormal(T x) { return IsBelowNormal(x) && !IsZero(x); }
-template <std::floating_point T> bool IsFiniteNonZero(T x) { return IsFinite(x) && !IsZero(x); }
+template <Floating T> bool IsBelowNormal(T x) { return MagnitudeBits(x) < lane::Format<T>::hidden; }
+template <Floating T> bool IsDenormal(T x) { return IsBelowNormal(x) && !IsZero(x); }
+template <Floating T> bool IsFiniteNonZero(T x) { return IsFinite(x) && !IsZero(x); }
 
 inline bool IsNegative(Lum64f x) { return (std::bit_cast<uint64_t>(x) >> 63) != 0; }
 inline Lum64f Magnitude(Lum64f x) { return std::bit_cast<Lum64f>(MagnitudeBits(x)); }
@@ -52,7 +42,7 @@ inline void Discard(Lum64f value) {
   volatile Lum64f sink = value;
   static_cast<void>(sink);
 }
-template <std::floating_point T> void RaiseUnderflow() {
+template <Floating T> void RaiseUnderflow() {
   volatile T smallest_normal = std::numeric_limits<T>::min();
   volatile T sink = smallest_normal * smallest_normal;
   static_cast<void>(sink);

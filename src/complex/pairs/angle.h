@@ -4,11 +4,12 @@
 #pragma once
 
 #include "complex/pairs/pair.h"
+#include "complex/polynomials.h"
 #include "tables/table.h"
 
 namespace lum::inline LUM_LAYER {
 
-// Of (x, y) with positive y and any x other than 0: in (0, pi).
+// The angle of (x, y) with positive y and any x other than 0: in (0, pi).
 LUM_INLINE HeadTail Angle(HeadTail y, HeadTail x) {
   static constexpr auto table = table64({
 #include "tables/generated/extended_angles.inc"
@@ -19,20 +20,17 @@ LUM_INLINE HeadTail Angle(HeadTail y, HeadTail x) {
   const auto s = Select(is_flat, y, ax), l = Select(is_flat, ax, y);
   const auto estimate = rcp14(l.head);
   const auto ratio = s.head * fma(estimate, fnma(l.head, estimate, all(1.0)), estimate);
-  constexpr auto shifter = f64(0x4338000000000000, 0x1.8p52);
+  constexpr auto shifter = rounding_shifter<Lum64f>();
   const auto t = fma(ratio, all(128.0), all(shifter));
   const auto c = (t - all(shifter)) * all(0x1p-7);
 
-  const auto back = ExactProduct(c, l.head);
-  const auto numerator = ExactSum(s.head - back.head, fnma(c, l.tail, s.tail) - back.tail);  // the first difference is exact
+  const auto back = two_product(c, l.head);
+  const auto numerator = two_sum(s.head - back.head, fnma(c, l.tail, s.tail) - back.tail);  // the first difference is exact
   const auto denominator = fma(c, s.head, l.head);
   const auto rest = fma(c, s.tail, l.tail) + fma(c, s.head, l.head - denominator);
   auto u = Quotient(numerator, {denominator, rest});
   const auto q = u.head * u.head;
-  u.tail = fma(u.head * q,
-               horner(q, f64(0xBFD5555555555555, -0.3333333333333333), f64(0x3FC999999999999A, 0.2),
-                      f64(0xBFC2492492492492, -0.14285714285714285), f64(0x3FBC71C71C71C71C, 0.1111111111111111)),
-               u.tail);
+  u.tail = fma(u.head * q, horner(q, complex::pairs_atan), u.tail);
 
   // Rows 0 + k, 256 - k, 256 + k, 512 - k counterclockwise from the positive x axis; the angle goes on with u as with k.
   const auto falls = ~(is_flat ^ is_left);
@@ -42,8 +40,8 @@ LUM_INLINE HeadTail Angle(HeadTail y, HeadTail x) {
   const auto row = select(mask_cast<uint64_t>(falls), start - k, start + k);
   const auto head = gather<Lum64f>(table, row + row), tail = gather<Lum64f>(table + 1, row + row);
   u = Select(falls, -u, u);
-  const auto sum = Normalised(head, u.head);
-  return Normalised(sum.head, sum.tail + (tail + u.tail));
+  const auto sum = fast_two_sum(head, u.head);
+  return fast_two_sum(sum.head, sum.tail + (tail + u.tail));
 }
 
 }  // namespace lum::inline LUM_LAYER

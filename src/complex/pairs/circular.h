@@ -3,6 +3,8 @@
 #pragma once
 
 #include "complex/pairs/pair.h"
+#include "complex/polynomials.h"
+#include "frame/numbers.h"
 #include "tables/table.h"
 
 namespace lum::inline LUM_LAYER {
@@ -20,32 +22,25 @@ LUM_INLINE CircularPair SineCosineOf(Vec<Lum64f> y) {
   static constexpr auto table = table64({
 #include "tables/generated/pairs_angles_256.inc"
   });
-  constexpr auto shifter = f64(0x4338000000000000, 0x1.8p52);
+  constexpr auto shifter = rounding_shifter<Lum64f>();
   const auto magnitude = abs(y);
-  const auto t = fma(magnitude, all(f64(0x40445F306DC9C883, 40.74366543152521)), all(shifter));
+  const auto t = fma(magnitude, all(128 * numbers::inverse_pi<Lum64f>), all(shifter));
   const auto k = t - all(shifter);
-  const auto second = all(f64(0xBD6E973DCB380000, -8.694424493829222e-13));
-  const auto r1 = fnma(k, all(f64(0x3F9921FB54480000, 0.024543692607039702)), magnitude);  // exact, as is the second product
+  const auto second = all(numbers::pi_128th_parts<Lum64f>[1]);
+  const auto r1 = fnma(k, all(numbers::pi_128th_parts<Lum64f>[0]), magnitude);  // exact, as is the second product
   const auto r = fnma(k, second, r1);
-  const auto r_tail = fnma(k, all(f64(0xBB39CCEBA3F91F19, -2.134164906595704e-23)), fnma(k, second, r1 - r));
+  const auto r_tail = fnma(k, all(numbers::pi_128th_parts<Lum64f>[2]), fnma(k, second, r1 - r));
   const auto q = r * r;
-  const auto sine_rest =
-      fma(r * q,
-          horner(q, f64(0xBFC5555555555555, -0.16666666666666666), f64(0x3F81111111111111, 0.008333333333333333),
-                 f64(0xBF2A01A01A01A01A, -0.0001984126984126984)),
-          r_tail);
-  const auto cosine_rest =
-      fnma(r, r_tail,
-           q * horner(q, -0.5, f64(0x3FA5555555555555, 0.041666666666666664), f64(0xBF56C16C16C16C17, -0.001388888888888889),
-                      f64(0x3EFA01A01A01A01A, 2.48015873015873e-05)));
+  const auto sine_rest = fma(r * q, horner(q, complex::pairs_sine), r_tail);
+  const auto cosine_rest = fnma(r, r_tail, q * horner(q, complex::pairs_cosine));
   const auto row = gather_rows<Lum64f>(table, shift_left<2>(bits(t) & all(uint64_t{255})));
   const HeadTail s{row.column0, row.column1}, c{row.column2, row.column3};
-  const auto for_sine = ExactProduct(c.head, r), for_cosine = ExactProduct(s.head, r);
-  const auto sine = Normalised(s.head, for_sine.head), cosine = Normalised(c.head, negate(for_cosine.head));
+  const auto for_sine = two_product(c.head, r), for_cosine = two_product(s.head, r);
+  const auto sine = fast_two_sum(s.head, for_sine.head), cosine = fast_two_sum(c.head, negate(for_cosine.head));
   const auto sine_tail = fma(c.tail, r, s.tail + (sine.tail + for_sine.tail));
   const auto cosine_tail = fnma(s.tail, r, c.tail + (cosine.tail - for_cosine.tail));
-  return {XorSign(y, Normalised(sine.head, fma(s.head, cosine_rest, fma(c.head, sine_rest, sine_tail)))),
-          Normalised(cosine.head, fma(c.head, cosine_rest, fnma(s.head, sine_rest, cosine_tail))),
+  return {XorSign(y, fast_two_sum(sine.head, fma(s.head, cosine_rest, fma(c.head, sine_rest, sine_tail)))),
+          fast_two_sum(cosine.head, fma(c.head, cosine_rest, fnma(s.head, sine_rest, cosine_tail))),
           lt(abs(r), all(0x1p-19)) & ne(k, all(0.0))};
 }
 

@@ -3,6 +3,8 @@
 #pragma once
 
 #include "complex/pairs/pair.h"
+#include "complex/polynomials.h"
+#include "frame/numbers.h"
 #include "tables/table.h"
 
 namespace lum::inline LUM_LAYER {
@@ -19,11 +21,11 @@ LUM_INLINE PowersOfTwo ReduceExponent(Vec<Lum64f> x) {
   static constexpr auto table = table64({
 #include "tables/generated/pairs_exp2_256.inc"
   });
-  constexpr auto shifter = f64(0x4338000000000000, 0x1.8p52);
-  const auto t = fma(x, all(f64(0x40771547652B82FE, 369.3299304675746)), all(shifter));
+  constexpr auto shifter = rounding_shifter<Lum64f>();
+  const auto t = fma(x, all(256 * numbers::log2_e<Lum64f>), all(shifter));
   const auto n = t - all(shifter);
-  const auto low = all(f64(0x3D31CF79ABC9E3B4, 6.327543041662719e-14));
-  const auto r1 = fnma(n, all(f64(0x3F662E42FEF80000, 0.002707606173999011)), x);  // exact
+  const auto low = all(numbers::ln2_256th_parts<Lum64f>[1]);
+  const auto r1 = fnma(n, all(numbers::ln2_256th_parts<Lum64f>[0]), x);  // exact
   const auto r = fnma(n, low, r1);
   const auto row = gather_rows<Lum64f>(table, shift_left<2>(bits(t) & all(uint64_t{255})));
   const auto whole = shift_left<44>(and_not(all(uint64_t{255}), bits(t)));  // floor(n / 256) in the exponent field
@@ -34,13 +36,11 @@ LUM_INLINE PowersOfTwo ReduceExponent(Vec<Lum64f> x) {
 
 LUM_INLINE HeadTail Exponential(Vec<Lum64f> x) {
   const auto [power, unused, r] = ReduceExponent(x);
-  const auto series =
-      horner(r.head, 0.5, f64(0x3FC5555555555555, 0.16666666666666666), f64(0x3FA5555555555555, 0.041666666666666664),
-             f64(0x3F81111111111111, 0.008333333333333333), f64(0x3F56C16C16C16C17, 0.001388888888888889));
+  const auto series = horner(r.head, complex::pairs_exp);
   const auto rest = fma(r.head * r.head, series, r.tail);
-  const auto product = ExactProduct(power.head, r.head);
-  const auto sum = Normalised(power.head, product.head);
-  return Normalised(sum.head, sum.tail + (product.tail + fma(power.head, rest, fma(power.tail, r.head, power.tail))));
+  const auto product = two_product(power.head, r.head);
+  const auto sum = fast_two_sum(power.head, product.head);
+  return fast_two_sum(sum.head, sum.tail + (product.tail + fma(power.head, rest, fma(power.tail, r.head, power.tail))));
 }
 
 struct SinhCosh {
@@ -53,20 +53,14 @@ LUM_INLINE SinhCosh HyperbolicPair(Vec<Lum64f> x) {
   const auto half_rising = Scaled(rising, 0.5), half_falling = Scaled(falling, 0.5);
   const auto s = Add(half_rising, -half_falling), c = Add(half_rising, half_falling);
   const auto q = r.head * r.head;
-  const auto sinh_rest =
-      fma(r.head * q,
-          horner(q, f64(0x3FC5555555555555, 0.16666666666666666), f64(0x3F81111111111111, 0.008333333333333333),
-                 f64(0x3F2A01A01A01A01A, 0.0001984126984126984)),
-          r.tail);
-  const auto cosh_rest =
-      fma(r.head, r.tail,
-          q * horner(q, 0.5, f64(0x3FA5555555555555, 0.041666666666666664), f64(0x3F56C16C16C16C17, 0.001388888888888889)));
-  const auto for_sinh = ExactProduct(c.head, r.head), for_cosh = ExactProduct(s.head, r.head);
-  const auto sinh = Normalised(s.head, for_sinh.head), cosh = Normalised(c.head, for_cosh.head);
+  const auto sinh_rest = fma(r.head * q, horner(q, complex::pairs_sinh), r.tail);
+  const auto cosh_rest = fma(r.head, r.tail, q * horner(q, complex::pairs_cosh));
+  const auto for_sinh = two_product(c.head, r.head), for_cosh = two_product(s.head, r.head);
+  const auto sinh = fast_two_sum(s.head, for_sinh.head), cosh = fast_two_sum(c.head, for_cosh.head);
   const auto sinh_tail = fma(c.tail, r.head, s.tail + (sinh.tail + for_sinh.tail));
   const auto cosh_tail = fma(s.tail, r.head, c.tail + (cosh.tail + for_cosh.tail));
-  return {XorSign(x, Normalised(sinh.head, fma(s.head, cosh_rest, fma(c.head, sinh_rest, sinh_tail)))),
-          Normalised(cosh.head, fma(c.head, cosh_rest, fma(s.head, sinh_rest, cosh_tail)))};
+  return {XorSign(x, fast_two_sum(sinh.head, fma(s.head, cosh_rest, fma(c.head, sinh_rest, sinh_tail)))),
+          fast_two_sum(cosh.head, fma(c.head, cosh_rest, fma(s.head, sinh_rest, cosh_tail)))};
 }
 
 }  // namespace lum::inline LUM_LAYER

@@ -3,6 +3,8 @@
 #pragma once
 
 #include "complex/pairs/pair.h"
+#include "complex/polynomials.h"
+#include "frame/numbers.h"
 #include "tables/table.h"
 
 namespace lum::inline LUM_LAYER {
@@ -17,27 +19,25 @@ LUM_INLINE LogarithmTerms ReduceLogarithm(HeadTail q) {
 #include "tables/generated/pairs_ln_256.inc"
   });
   constexpr double first_row = 170;
-  const auto m = getmant<0xB>(q.head);
+  const auto m = getmant<significand::from_three_quarters | significand::nan_if_negative>(q.head);
   const auto k = getexp(q.head) - getexp(m);
-  const auto c = rndscale<0x80>(rcp14(m));  // a multiple of 2^-8: c m - 1 has no more bits than m
-  const auto r = ExactSum(fms(m, c, all(1.0)), scalef(q.tail, negate(k)) * c);
+  const auto c = rndscale<binary_places(8)>(rcp14(m));  // a multiple of 2^-8: c m - 1 has no more bits than m
+  const auto r = two_sum(fms(m, c, all(1.0)), scalef(q.tail, negate(k)) * c);
   const auto index = bits(fma(c, all(256.0), all(0x1p52 - first_row))) & all(uint64_t{255});
   const auto row = index + index;
   const auto head = gather<Lum64f>(table, row), tail = gather<Lum64f>(table + 1, row);
-  return {fma(k, all(f64(0x3FE62E42FEFA4000, 0.6931471805601177)), head),  // exact
-          fma(k, all(f64(0xBD48432A1B0E2634, -1.7239444525614835e-13)), tail), r};
+  return {fma(k, all(numbers::ln2_by_2p40_parts<Lum64f>[0]), head),  // exact
+          fma(k, all(numbers::ln2_by_2p40_parts<Lum64f>[1]), tail), r};
 }
 
 LUM_INLINE HeadTail SumLogarithm(const LogarithmTerms& terms) {
   const auto r = terms.r.head;
-  const auto square = ExactProduct(r, r);
-  const auto series =
-      horner(r, f64(0x3FD5555555555555, 0.3333333333333333), -0.25, f64(0x3FC999999999999A, 0.2),
-             f64(0xBFC5555555555555, -0.16666666666666666), f64(0x3FC2492492492492, 0.14285714285714285), -0.125);
-  const auto first = Normalised(terms.base, r);
-  const auto second = Normalised(first.head, all(-0.5) * square.head);
+  const auto square = two_product(r, r);
+  const auto series = horner(r, complex::pairs_log);
+  const auto first = fast_two_sum(terms.base, r);
+  const auto second = fast_two_sum(first.head, all(-0.5) * square.head);
   const auto tails = (first.tail + second.tail) + fnma(r, terms.r.tail, terms.r.tail);
-  return Normalised(second.head, fma(square.head * r, series, fnma(all(0.5), square.tail, tails + terms.base_tail)));
+  return fast_two_sum(second.head, fma(square.head * r, series, fnma(all(0.5), square.tail, tails + terms.base_tail)));
 }
 
 // ln q of a positive number.
@@ -46,7 +46,7 @@ LUM_INLINE HeadTail Logarithm(HeadTail q) { return SumLogarithm(ReduceLogarithm(
 // ln(1 + z) of a positive number.
 LUM_INLINE HeadTail LogarithmOfOnePlus(HeadTail z) {
   const auto sum = two_sum(all(1.0), z.head);
-  auto terms = ReduceLogarithm(Normalised(sum.sum, sum.error + z.tail));
+  auto terms = ReduceLogarithm(fast_two_sum(sum.head, sum.tail + z.tail));
   terms.r = Select(eq(terms.base, all(0.0)), z, terms.r);
   return SumLogarithm(terms);
 }

@@ -1,6 +1,5 @@
-// Vectors of unevaluated sums head + tail of two binary64 numbers, with twice the bits of one. Products are exact by a fused
-// step. |tail| is at most a few units in the last place of head. Numbers near the ends of the exponent range are no matter of
-// these functions.
+// Vectors of binary64 numbers in two parts, with twice the bits of one. |tail| is at most a few units in the last place of
+// head. Numbers near the ends of the exponent range are no matter of these functions.
 #pragma once
 
 #include "frame/types.h"
@@ -8,38 +7,23 @@
 
 namespace lum::inline LUM_LAYER {
 
-struct HeadTail {
-  Vec<Lum64f> head, tail;
-};
+using HeadTail = TwoParts<Vec<Lum64f>>;
 
 LUM_INLINE HeadTail operator-(HeadTail a) { return {negate(a.head), negate(a.tail)}; }
 // a turned over where x is negative.
 LUM_INLINE HeadTail XorSign(Vec<Lum64f> x, HeadTail a) { return {xor_sign(x, a.head), xor_sign(x, a.tail)}; }
 
-LUM_INLINE HeadTail ExactSum(Vec<Lum64f> a, Vec<Lum64f> b) {
-  const auto s = two_sum(a, b);
-  return {s.sum, s.error};
-}
-LUM_INLINE HeadTail ExactProduct(Vec<Lum64f> a, Vec<Lum64f> b) {
-  const auto product = a * b;
-  return {product, fms(a, b, product)};
-}
-
-// Given |a| >= |b| or a = 0: the same sum with the smallest tail.
-LUM_INLINE HeadTail Normalised(Vec<Lum64f> a, Vec<Lum64f> b) {
-  const auto s = fast_two_sum(a, b);
-  return {s.sum, s.error};
-}
-LUM_INLINE HeadTail Normalised(HeadTail a) { return Normalised(a.head, a.tail); }
+// The same number with the smallest tail, given |head| >= |tail| or head = 0.
+LUM_INLINE HeadTail Normalised(HeadTail a) { return fast_two_sum(a.head, a.tail); }
 
 // Relative error a few units of 2^-105, of the larger operand's where the heads cancel.
 LUM_INLINE HeadTail Add(HeadTail a, HeadTail b) {
   const auto s = two_sum(a.head, b.head);
-  return Normalised(s.sum, s.error + (a.tail + b.tail));
+  return fast_two_sum(s.head, s.tail + (a.tail + b.tail));
 }
 LUM_INLINE HeadTail Add(HeadTail a, Vec<Lum64f> b) {
   const auto s = two_sum(a.head, b);
-  return Normalised(s.sum, s.error + a.tail);
+  return fast_two_sum(s.head, s.tail + a.tail);
 }
 
 LUM_INLINE HeadTail Product(HeadTail a, HeadTail b) {
@@ -74,7 +58,8 @@ LUM_INLINE HeadTail Quotient(HeadTail a, HeadTail b) {
   return {quotient, remainder * reciprocal};
 }
 
-// Of a positive number: the root g and half its reciprocal h refined together, then the rest from the exact residue a - g^2.
+// The square root of a positive number: the root g and half its reciprocal h refined together, then the rest from the exact
+// residue a - g^2.
 LUM_INLINE HeadTail SquareRoot(HeadTail a) {
   const auto estimate = rsqrt14(a.head);
   auto g = a.head * estimate, h = estimate * all(0.5);
@@ -85,5 +70,8 @@ LUM_INLINE HeadTail SquareRoot(HeadTail a) {
   }
   return {g, (fnma(g, g, a.head) + a.tail) * h};
 }
+
+// x^2 exactly.
+LUM_INLINE HeadTail ExactSquare(Vec<Lum64f> x) { return two_product(x, x); }
 
 }  // namespace lum::inline LUM_LAYER

@@ -217,7 +217,6 @@ template <Lane T> LUM_INLINE Mask<T> ne(Vec<T> a, Vec<T> b) { return compare<4>(
 template <Lane T> LUM_INLINE Mask<T> nlt(Vec<T> a, Vec<T> b) { return compare<5>(a, b); }
 template <Lane T> LUM_INLINE Mask<T> nle(Vec<T> a, Vec<T> b) { return compare<6>(a, b); }
 template <Floating T> LUM_INLINE Mask<T> unord(Vec<T> a, Vec<T> b) { return compare<3>(a, b); }
-template <Floating T> LUM_INLINE Mask<T> ord(Vec<T> a, Vec<T> b) { return compare<7>(a, b); }
 
 // Lanes whose class is in the set imm: bit 0 quiet NaN, 1 +0, 2 -0, 3 +infinity, 4 -infinity, 5 denormal, 6 negative finite
 // other than -0, 7 signalling NaN.
@@ -247,12 +246,6 @@ template <Floating T> LUM_INLINE Vec<T> sub_or_zero(Mask<T> m, Vec<T> a, Vec<T> 
 // Per lane m ? a : +0.
 template <Lane T> LUM_INLINE Vec<T> zero_unless(Mask<T> m, Vec<T> a) {
   return {half::zero_unless(m.low, a.low), half::zero_unless(m.high, a.high)};
-}
-// a, replaced by the special value that the 4-bit token of b's class names (quiet NaN, signalling NaN, zero, 1, -infinity,
-// +infinity, negative, positive, from the low token up).
-template <int imm> LUM_INLINE Vec<double> fixupimm(Vec<double> a, Vec<double> b, Vec<uint64_t> tokens) {
-  static_assert(imm >= 0, "says only which exceptions are raised, and none is");
-  return by_lane<[](double x, double y, uint64_t t) { return lane::fixupimm(x, y, t); }>(a, b, tokens);
 }
 // Bit i of imm is the result for the operand bits a, b, c with i = 4 a + 2 b + c.
 template <int imm, Integer T> LUM_INLINE Vec<T> ternary(Vec<T> a, Vec<T> b, Vec<T> c) {

@@ -30,13 +30,6 @@ template <Lane T> LUM_INLINE Vec<T> all(T x) {
   return {h, h};
 }
 
-// The lane numbers 0, 1, 2, ...
-template <Integer T> LUM_INLINE Vec<T> iota() {
-  if constexpr (is32<T>)
-    return {{_mm256_setr_epi32(0, 1, 2, 3, 4, 5, 6, 7)}, {_mm256_setr_epi32(8, 9, 10, 11, 12, 13, 14, 15)}};
-  else return {{_mm256_setr_epi64x(0, 1, 2, 3)}, {_mm256_setr_epi64x(4, 5, 6, 7)}};
-}
-
 // A whole vector from memory of any alignment.
 template <Lane T> LUM_INLINE Vec<T> load(const T* p) { return {half::load(p), half::load(p + Half<T>::lanes)}; }
 
@@ -55,13 +48,6 @@ template <Lane T> LUM_INLINE void store(Mask<T> mask, T* p, Vec<T> a) {
   half::store(mask.low, p, a.low);
   half::store(mask.high, p + Half<T>::lanes, a.high);
 }
-// Writes the first count lanes, 0 <= count <= lanes, and touches no other memory.
-template <Lane T> LUM_INLINE void store_first(int count, T* p, Vec<T> a) {
-  constexpr int lanes = Half<T>::lanes;
-  if (count < lanes) return half::store_first(count, p, a.low);
-  half::store(p, a.low);
-  if (count > lanes) half::store_first(count - lanes, p + lanes, a.high);
-}
 
 // ---- Reinterpretation
 
@@ -75,7 +61,6 @@ template <Integer64 T> LUM_INLINE Vec<double> as_float(Vec<T> a) {
 template <Integer T> LUM_INLINE Vec<SignedOf<T>> as_signed(Vec<T> a) { return {{a.low.v}, {a.high.v}}; }
 template <Integer T> LUM_INLINE Vec<UnsignedOf<T>> as_unsigned(Vec<T> a) { return {{a.low.v}, {a.high.v}}; }
 // The lanes of one width seen as lanes of the other, the low half first.
-template <Integer32 T> LUM_INLINE Vec<uint64_t> as_lanes64(Vec<T> a) { return {{a.low.v}, {a.high.v}}; }
 template <Integer64 T> LUM_INLINE Vec<uint32_t> as_lanes32(Vec<T> a) { return {{a.low.v}, {a.high.v}}; }
 
 // ---- Masks
@@ -83,6 +68,13 @@ template <Integer64 T> LUM_INLINE Vec<uint32_t> as_lanes32(Vec<T> a) { return {{
 // The low `count` lanes, 0 <= count <= lanes.
 template <Lane T> LUM_INLINE Mask<T> first_lanes(int count) {
   return {half::first_lanes<T>(count, 0), half::first_lanes<T>(count, Half<T>::lanes)};
+}
+// Writes the first count lanes, 0 <= count <= lanes, and touches no other memory.
+template <Lane T> LUM_INLINE void store_first(int count, T* p, Vec<T> a) {
+  constexpr int lanes = Half<T>::lanes;
+  if (count < lanes) return half::store_first(count, p, a.low);
+  half::store(p, a.low);
+  if (count > lanes) half::store_first(count - lanes, p + lanes, a.high);
 }
 template <Lane T> LUM_INLINE Mask<T> mask_of(uint32_t lane_bits) {
   return {half::mask_of<T>(lane_bits, 0), half::mask_of<T>(lane_bits, Half<T>::lanes)};

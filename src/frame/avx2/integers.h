@@ -24,10 +24,6 @@ template <Integer T> LUM_INLINE Vec<T> operator*(Vec<T> a, Vec<T> b) { return {a
 LUM_INLINE Vec<uint64_t> mul_low_halves(Vec<uint64_t> a, Vec<uint64_t> b) {
   return {{_mm256_mul_epu32(a.low.v, b.low.v)}, {_mm256_mul_epu32(a.high.v, b.high.v)}};
 }
-// Signed 16-bit words multiplied, the two products of a lane added.
-LUM_INLINE Vec<int32_t> mul_add_pairs(Vec<int32_t> a, Vec<int32_t> b) {
-  return {{_mm256_madd_epi16(a.low.v, b.low.v)}, {_mm256_madd_epi16(a.high.v, b.high.v)}};
-}
 
 template <int n, Integer T> LUM_INLINE Vec<T> shift_left(Vec<T> a) {
   return {half::shift_left<n>(a.low), half::shift_left<n>(a.high)};
@@ -87,12 +83,6 @@ template <Integer64 T> LUM_INLINE auto narrow(Vec<T> low, Vec<T> high) {
 }
 // Integers as floating-point numbers, rounded to nearest.
 LUM_INLINE Vec<float> to_float(Vec<int32_t> a) { return {{_mm256_cvtepi32_ps(a.low.v)}, {_mm256_cvtepi32_ps(a.high.v)}}; }
-LUM_INLINE Vec<double> to_double_low(Vec<int32_t> a) {
-  return {{_mm256_cvtepi32_pd(half::low_quarter(a.low.v))}, {_mm256_cvtepi32_pd(half::high_quarter(a.low.v))}};
-}
-LUM_INLINE Vec<double> to_double_high(Vec<int32_t> a) {
-  return {{_mm256_cvtepi32_pd(half::low_quarter(a.high.v))}, {_mm256_cvtepi32_pd(half::high_quarter(a.high.v))}};
-}
 // The low 32 bits of each lane, a signed integer, as a double; exact.
 template <Integer64 T> LUM_INLINE Vec<double> to_double(Vec<T> a) {
   const __m256i words = half::low_words(a.low.v, a.high.v);

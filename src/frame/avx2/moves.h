@@ -20,22 +20,6 @@ requires(sizeof(T) == sizeof(I)) LUM_INLINE Vec<T> permute2(Vec<T> low, Vec<T> h
   const half::Table<T, 2> entries{low.low, low.high, high.low, high.high};
   return {entries[index.low.v], entries[index.high.v]};
 }
-// The same on 16-bit words: 64 entries, each lane of the index holding two.
-template <Integer32 T, Integer I>
-requires(sizeof(T) == sizeof(I)) LUM_INLINE Vec<T> permute2_words(Vec<T> low, Vec<T> high, Vec<I> index) {
-  // The pairs of words that the low and the high half of the index name, and of each the word that the last bit names.
-  const half::Table<T, 2> pairs{low.low, low.high, high.low, high.high};
-  const auto words = [&](Half<I> i) __attribute__((always_inline)) {
-    const auto word = [&](Half<I> place) __attribute__((always_inline)) {
-      const Half<uint32_t> pair{pairs[half::shift_right<1>(place).v].v};
-      const Half<uint32_t> odd{half::shift_left<4>(place & half::all(I{1})).v};
-      return half::shift_right(pair, odd) & half::all(0xFFFFu);
-    };
-    const auto second = word(Half<I>{_mm256_srli_epi32(i.v, 16)});
-    return Half<T>{(word(i) | half::shift_left<16>(second)).v};
-  };
-  return {words(index.low), words(index.high)};
-}
 // base[index] per lane, the index signed and of the lane's width, in the lanes of the mask, which alone are read; the others
 // from old.
 template <Lane T, Integer I>

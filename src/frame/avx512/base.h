@@ -41,12 +41,6 @@ template <Lane T> LUM_INLINE Vec<T> all(T x) {
   else return {_mm512_set1_epi64(static_cast<int64_t>(x))};
 }
 
-// The lane numbers 0, 1, 2, ...
-template <Integer T> LUM_INLINE Vec<T> iota() {
-  if constexpr (is32<T>) return {_mm512_setr_epi32(0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15)};
-  else return {_mm512_setr_epi64(0, 1, 2, 3, 4, 5, 6, 7)};
-}
-
 // A whole vector from memory of any alignment.
 template <Lane T> LUM_INLINE Vec<T> load(const T* p) {
   if constexpr (std::same_as<T, float>) return {_mm512_loadu_ps(p)};
@@ -75,11 +69,6 @@ template <Lane T> LUM_INLINE void store(Mask<T> mask, T* p, Vec<T> a) {
   else if constexpr (is32<T>) _mm512_mask_storeu_epi32(p, mask.k, a.v);
   else _mm512_mask_storeu_epi64(p, mask.k, a.v);
 }
-// Writes the first count lanes, 0 <= count <= lanes, and touches no other memory.
-template <Lane T> LUM_INLINE void store_first(int count, T* p, Vec<T> a) {
-  const Mask<T> first{static_cast<decltype(Mask<T>::k)>((1u << count) - 1u)};
-  store(first, p, a);
-}
 
 // ---- Reinterpretation
 
@@ -92,13 +81,14 @@ template <Integer64 T> LUM_INLINE Vec<double> as_float(Vec<T> a) { return {_mm51
 template <Integer T> LUM_INLINE Vec<SignedOf<T>> as_signed(Vec<T> a) { return {a.v}; }
 template <Integer T> LUM_INLINE Vec<UnsignedOf<T>> as_unsigned(Vec<T> a) { return {a.v}; }
 // The lanes of one width seen as lanes of the other, the low half first.
-template <Integer32 T> LUM_INLINE Vec<uint64_t> as_lanes64(Vec<T> a) { return {a.v}; }
 template <Integer64 T> LUM_INLINE Vec<uint32_t> as_lanes32(Vec<T> a) { return {a.v}; }
 
 // ---- Masks
 
 // The low `count` lanes, 0 <= count <= lanes.
 template <Lane T> LUM_INLINE Mask<T> first_lanes(int count) { return {static_cast<decltype(Mask<T>::k)>((1u << count) - 1u)}; }
+// Writes the first count lanes, 0 <= count <= lanes, and touches no other memory.
+template <Lane T> LUM_INLINE void store_first(int count, T* p, Vec<T> a) { store(first_lanes<T>(count), p, a); }
 template <Lane T> LUM_INLINE Mask<T> mask_of(uint32_t lane_bits) { return {static_cast<decltype(Mask<T>::k)>(lane_bits)}; }
 template <Lane T> LUM_INLINE uint32_t to_bits(Mask<T> m) { return m.k; }
 // The mask of lanes of one type as that of another type with as many lanes.

@@ -29,8 +29,6 @@ template <Integer T> LUM_INLINE Vec<T> operator*(Vec<T> a, Vec<T> b) {
 }
 // The whole product of the low 32 bits of each lane.
 LUM_INLINE Vec<uint64_t> mul_low_halves(Vec<uint64_t> a, Vec<uint64_t> b) { return {_mm512_mul_epu32(a.v, b.v)}; }
-// Signed 16-bit words multiplied, the two products of a lane added.
-LUM_INLINE Vec<int32_t> mul_add_pairs(Vec<int32_t> a, Vec<int32_t> b) { return {_mm512_madd_epi16(a.v, b.v)}; }
 
 template <int n, Integer T> LUM_INLINE Vec<T> shift_left(Vec<T> a) {
   if constexpr (is32<T>) return {_mm512_slli_epi32(a.v, n)};
@@ -99,8 +97,6 @@ template <Integer64 T> LUM_INLINE auto narrow(Vec<T> low, Vec<T> high) {
 }
 // Integers as floating-point numbers, rounded to nearest.
 LUM_INLINE Vec<float> to_float(Vec<int32_t> a) { return {_mm512_cvt_roundepi32_ps(a.v, suppressed<rn>)}; }
-LUM_INLINE Vec<double> to_double_low(Vec<int32_t> a) { return {_mm512_cvtepi32_pd(_mm512_castsi512_si256(a.v))}; }
-LUM_INLINE Vec<double> to_double_high(Vec<int32_t> a) { return {_mm512_cvtepi32_pd(_mm512_extracti32x8_epi32(a.v, 1))}; }
 // The low 32 bits of each lane, a signed integer, as a double; exact.
 template <Integer64 T> LUM_INLINE Vec<double> to_double(Vec<T> a) { return {_mm512_cvtepi32_pd(_mm512_cvtepi64_epi32(a.v))}; }
 // All bits of a lane set where the mask is.

@@ -24,11 +24,6 @@ requires(sizeof(T) == sizeof(I)) LUM_INLINE Vec<T> permute2(Vec<T> low, Vec<T> h
   else if constexpr (is32<T>) return {_mm512_permutex2var_epi32(low.v, index.v, high.v)};
   else return {_mm512_permutex2var_epi64(low.v, index.v, high.v)};
 }
-// The same on 16-bit words: 64 entries, each lane of the index holding two.
-template <Integer32 T, Integer I>
-requires(sizeof(T) == sizeof(I)) LUM_INLINE Vec<T> permute2_words(Vec<T> low, Vec<T> high, Vec<I> index) {
-  return {_mm512_permutex2var_epi16(low.v, index.v, high.v)};
-}
 // base[index] per lane, the index signed and of the lane's width, in the lanes of the mask, which alone are read; the others
 // from old.
 template <Lane T, Integer I>

@@ -281,7 +281,6 @@ template <Lane T> LUM_INLINE Mask<T> ne(const Vec<T>& a, const Vec<T>& b) { retu
 template <Lane T> LUM_INLINE Mask<T> nlt(const Vec<T>& a, const Vec<T>& b) { return compare<5>(a, b); }
 template <Lane T> LUM_INLINE Mask<T> nle(const Vec<T>& a, const Vec<T>& b) { return compare<6>(a, b); }
 template <Floating T> LUM_INLINE Mask<T> unord(const Vec<T>& a, const Vec<T>& b) { return compare<3>(a, b); }
-template <Floating T> LUM_INLINE Mask<T> ord(const Vec<T>& a, const Vec<T>& b) { return compare<7>(a, b); }
 
 // Lanes whose class is in the set imm: bit 0 quiet NaN, 1 +0, 2 -0, 3 +infinity, 4 -infinity, 5 denormal, 6 negative finite
 // other than -0, 7 signalling NaN.
@@ -316,13 +315,6 @@ template <Floating T> LUM_INLINE Vec<T> sub_or_zero(Mask<T> m, Vec<T> a, Vec<T> 
 // Per lane m ? a : +0.
 template <Lane T> LUM_INLINE Vec<T> zero_unless(const Mask<T>& m, const Vec<T>& a) {
   return each_lane<T>([&](int i) { return std::bit_cast<T>(std::bit_cast<UnsignedOf<T>>(a.lane[i]) & m.bits_of(i)); });
-}
-// a, replaced by the special value that the 4-bit token of b's class names (quiet NaN, signalling NaN, zero, 1, -infinity,
-// +infinity, negative, positive, from the low token up).
-template <int imm>
-[[gnu::noinline]] Vec<double> fixupimm(const Vec<double>& a, const Vec<double>& b, const Vec<uint64_t>& tokens) {
-  static_assert(imm >= 0, "says only which exceptions are raised, and none is");
-  return each_lane<double>([&](int i) { return lane::fixupimm(a.lane[i], b.lane[i], tokens.lane[i]); });
 }
 // Bit i of imm is the result for the operand bits a, b, c with i = 4 a + 2 b + c.
 template <int imm, Integer T> LUM_INLINE Vec<T> ternary(const Vec<T>& a, const Vec<T>& b, const Vec<T>& c) {

@@ -55,11 +55,6 @@ template <Lane T> LUM_INLINE Vec<T> all(T x) {
   return each_lane<T>([&](int) { return x; });
 }
 
-// The lane numbers 0, 1, 2, ...
-template <Integer T> LUM_INLINE Vec<T> iota() {
-  return each_lane<T>([&](int i) { return static_cast<T>(i); });
-}
-
 // A whole vector from memory of any alignment.
 template <Lane T> LUM_INLINE Vec<T> load(const T* p) {
   Vec<T> r;
@@ -81,10 +76,6 @@ template <Lane T> LUM_INLINE void store(const Mask<T>& mask, T* p, const Vec<T>&
   for (int i = 0; i < lanes_of<T>; ++i)
     if (mask.bits_of(i)) std::memcpy(p + i, &a.lane[i], sizeof(T));
 }
-// Writes the first count lanes, 0 <= count <= lanes, and touches no other memory.
-template <Lane T> LUM_INLINE void store_first(int count, T* p, const Vec<T>& a) {
-  std::memcpy(p, &a, static_cast<size_t>(count) * sizeof(T));
-}
 
 // ---- Reinterpretation
 
@@ -94,10 +85,6 @@ template <Integer64 T> LUM_INLINE Vec<double> as_float(const Vec<T>& a) { return
 template <Integer T> LUM_INLINE Vec<SignedOf<T>> as_signed(const Vec<T>& a) { return std::bit_cast<Vec<SignedOf<T>>>(a); }
 template <Integer T> LUM_INLINE Vec<UnsignedOf<T>> as_unsigned(const Vec<T>& a) { return std::bit_cast<Vec<UnsignedOf<T>>>(a); }
 // The lanes of one width seen as lanes of the other, the low half first.
-template <Integer32 T> LUM_INLINE Vec<uint64_t> as_lanes64(const Vec<T>& a) {
-  return each_lane<uint64_t>(
-      [&](int i) { return static_cast<uint32_t>(a.lane[2 * i]) | uint64_t{static_cast<uint32_t>(a.lane[2 * i + 1])} << 32; });
-}
 template <Integer64 T> LUM_INLINE Vec<uint32_t> as_lanes32(const Vec<T>& a) {
   return each_lane<uint32_t>(
       [&](int i) { return static_cast<uint32_t>(static_cast<uint64_t>(a.lane[i / 2]) >> (i % 2 ? 32 : 0)); });
@@ -109,6 +96,9 @@ template <Integer64 T> LUM_INLINE Vec<uint32_t> as_lanes32(const Vec<T>& a) {
 template <Lane T> LUM_INLINE Mask<T> first_lanes(int count) {
   return each_mask_lane<T>([&](int i) { return i < count; });
 }
+// Writes the first count lanes, 0 <= count <= lanes, and touches no other memory. Not by one copy of that size, which would be
+// a call of the C library.
+template <Lane T> LUM_INLINE void store_first(int count, T* p, const Vec<T>& a) { store(first_lanes<T>(count), p, a); }
 template <Lane T> LUM_INLINE Mask<T> mask_of(uint32_t lane_bits) {
   return each_mask_lane<T>([&](int i) { return (lane_bits & (1u << i)) != 0; });
 }

@@ -41,14 +41,6 @@ template <Integer T> LUM_INLINE Vec<T> operator*(const Vec<T>& a, const Vec<T>& 
 LUM_INLINE Vec<uint64_t> mul_low_halves(const Vec<uint64_t>& a, const Vec<uint64_t>& b) {
   return each_lane<uint64_t>([&](int i) { return (a.lane[i] & 0xFFFFFFFF) * (b.lane[i] & 0xFFFFFFFF); });
 }
-// Signed 16-bit words multiplied, the two products of a lane added.
-LUM_INLINE Vec<int32_t> mul_add_pairs(const Vec<int32_t>& a, const Vec<int32_t>& b) {
-  return each_lane<int32_t>([&](int i) {
-    const auto low = [](int32_t x) { return int32_t{static_cast<int16_t>(x & 0xFFFF)}; };
-    const auto high = [](int32_t x) { return x >> 16; };
-    return static_cast<int32_t>(raw(low(a.lane[i]) * low(b.lane[i])) + raw(high(a.lane[i]) * high(b.lane[i])));
-  });
-}
 
 template <int n, Integer T> LUM_INLINE Vec<T> shift_left(const Vec<T>& a) {
   if constexpr (n >= 8 * sizeof(T)) return all(T{0});
@@ -137,12 +129,6 @@ template <Integer64 T> LUM_INLINE auto narrow(const Vec<T>& low, const Vec<T>& h
 // Integers as floating-point numbers, rounded to nearest.
 LUM_INLINE Vec<float> to_float(const Vec<int32_t>& a) {
   return each_lane<float>([&](int i) { return static_cast<float>(a.lane[i]); });
-}
-LUM_INLINE Vec<double> to_double_low(const Vec<int32_t>& a) {
-  return each_lane<double>([&](int i) { return static_cast<double>(a.lane[i]); });
-}
-LUM_INLINE Vec<double> to_double_high(const Vec<int32_t>& a) {
-  return each_lane<double>([&](int i) { return static_cast<double>(a.lane[i + 8]); });
 }
 // The low 32 bits of each lane, a signed integer, as a double; exact.
 template <Integer64 T> LUM_INLINE Vec<double> to_double(const Vec<T>& a) {

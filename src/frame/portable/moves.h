@@ -29,16 +29,6 @@ requires(sizeof(T) == sizeof(I)) LUM_INLINE Vec<T> permute2(const Vec<T>& low, c
   const JoinedTable<T> table(low, high);
   return each_lane<T>([&](int i) { return table.entry[raw(index.lane[i]) & (2 * lanes_of<T> - 1)]; });
 }
-// The same on 16-bit words: 64 entries, each lane of the index holding two.
-template <Integer32 T, Integer I>
-requires(sizeof(T) == sizeof(I)) LUM_INLINE Vec<T> permute2_words(const Vec<T>& low, const Vec<T>& high, const Vec<I>& index) {
-  const JoinedTable<T> table(low, high);
-  const auto word = [&](uint32_t entry) { return (raw(table.entry[entry / 2]) >> (entry % 2 ? 16 : 0)) & 0xFFFF; };
-  return each_lane<T>([&](int i) {
-    const uint32_t pair = raw(index.lane[i]);
-    return static_cast<T>(word(pair & 63) | word((pair >> 16) & 63) << 16);
-  });
-}
 // base[index] per lane, the index signed and of the lane's width.
 template <Lane T, Integer I>
 requires(sizeof(T) == sizeof(I)) LUM_INLINE Vec<T> gather(const T* base, const Vec<I>& index) {

@@ -30,12 +30,12 @@ def words(integer, count, width):
     return [f"0x{integer >> (width * (count - 1 - i)) & mask:0{width // 4}X}" for i in range(count)]
 
 
-def wide_reduction(directory):
+def large_reduction(directory):
     inverse = over_pi(1)
     for width, rows, shift in ((64, 2048, 884), (32, 256, 55)):
         span = 2 ** (3 * width)
         values = [words(floor(inverse * Fraction(2) ** (e - shift)) % span, 3, width) for e in range(rows)]
-        write(f"wide_reduction_{width}", SCRIPT,
+        write(f"large_reduction_{width}", SCRIPT,
               f"Row e: floor(2^(e - {shift}) / pi) mod 2^{3 * width}, the most significant word first.", values, width, directory)
 
 
@@ -140,7 +140,7 @@ def tangents(directory):
 
 
 def generate(directory):
-    wide_reduction(directory)
+    large_reduction(directory)
     residue(directory)
     chunks(directory)
     angles(directory)

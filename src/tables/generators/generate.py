@@ -30,7 +30,7 @@ def check(modules):
         generate(modules, scratch)
         fresh = {p.name for p in Path(scratch).iterdir()}
         stored = {p.name for p in binary.GENERATED.iterdir()}
-        # Of some modules alone it is not known which files are the others'.
+        # With some modules alone it is not known which files are the others'.
         wrong = sorted(fresh ^ stored if modules == all_modules() else fresh - stored)
         wrong += [n for n in sorted(fresh & stored) if not filecmp.cmp(Path(scratch) / n, binary.GENERATED / n, shallow=False)]
     for name in wrong:

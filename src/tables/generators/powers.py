@@ -44,7 +44,7 @@ def centre(i, count, unit):
     return 1 + 2 * i * unit if 8 * i < 3 * (count - 1) else 1 - (count - 1 - i) * unit
 
 
-# Of a type: rows of the stages, unit of the stages after the first (two units a row), grid of their reciprocals, scale, grid of
+# By type: rows of the stages, unit of the stages after the first (two units a row), grid of their reciprocals, scale, grid of
 # the logarithms. The scale is a short number next to 1/ln 2.
 STAGES = {
     32: ((9, 9, 17), (Fraction(1, 64), Fraction(1, 512)), (-6, -8, -8), from_bits(0x3FB88000, 32), -16),

@@ -1,0 +1,41 @@
+// What the paths of arccosine, arcsine and their hyperbolic counterparts share. As in the cores, r and s are the distances of
+// (u, v) to -1 and 1 and A half their sum; but in pairs one form of each difference serves everywhere, r - b = v^2/(r + b) and
+// the like with b = u + 1 and a = u - 1.
+#pragma once
+
+#include "complex/core_kernel.h"
+#include "complex/pairs/angle.h"
+#include "complex/pairs/logarithm.h"
+
+namespace lum::inline LUM_LAYER {
+
+// The angle arccos(u/A) or arcsin(u/A), and arcosh A, for u, v > 0.
+struct AngleAndLogarithm {
+  HeadTail angle, logarithm;
+};
+enum class Arc { cosine, sine };
+
+template <Arc arc> LUM_INLINE AngleAndLogarithm InverseParts(Vec<Lum64f> u, Vec<Lum64f> v) {
+  const auto one = all(1.0);
+  const auto a = two_sum(u, negate(one)), b = two_sum(u, one);
+  const auto v2 = ExactSquare(v);
+  const auto r = SquareRoot(Add(Square(b), v2)), s = SquareRoot(Add(Square(a), v2));
+  const auto near = Quotient(v2, Add(r, b));                         // r - b
+  const auto far = Add(s, Magnitude(a)), other = Quotient(v2, far);  // s + |a| and s - |a|
+  const auto is_inside = lt(u, one);
+  const auto above_u = Scaled(Add(near, Select(is_inside, far, other)), 0.5);    // A - u
+  const auto above_one = Scaled(Add(near, Select(is_inside, other, far)), 0.5);  // A - 1
+  const auto side = SquareRoot(Product(above_u, Add(above_u, u + u)));
+  const HeadTail exact_u{u, all(0.0)};
+  const auto angle = arc == Arc::cosine ? Angle(side, exact_u) : Angle(exact_u, side);
+  const auto root = SquareRoot(Product(above_one, Add(above_one, all(2.0))));
+  return {angle, LogarithmOfOnePlus(Add(above_one, root))};
+}
+
+// The core's steps add up to this.
+constexpr double inverse_error = 16;
+
+// On the axes one of the differences is zero.
+LUM_INLINE Mask<Lum64f> IsRefused(ComplexVec<Lum64f> z) { return HasFarPart(z) | IsZero(z.re) | IsZero(z.im); }
+
+}  // namespace lum::inline LUM_LAYER

@@ -1,0 +1,25 @@
+// What the paths of the circular and hyperbolic functions share: sine and cosine of one part, hyperbolic sine and cosine of the
+// other, whose products they form as the cores do.
+#pragma once
+
+#include "complex/core_kernel.h"
+#include "complex/pairs/circular.h"
+#include "complex/pairs/exponential.h"
+
+namespace lum::inline LUM_LAYER {
+
+struct Factors {
+  HeadTail sine, cosine, sinh, cosh;
+  Mask<Lum64f> refused;
+};
+LUM_INLINE Factors FactorsOf(Vec<Lum64f> exponent, Vec<Lum64f> angle, double largest) {
+  const auto circular = SineCosineOf(angle);
+  const auto hyperbolic = HyperbolicPair(exponent);
+  const auto refused = circular.refused | IsFar(exponent, largest) | IsFar(angle, largest_angle);
+  return {circular.sine, circular.cosine, hyperbolic.sinh, hyperbolic.cosh, refused};
+}
+
+// A product of two factors that are right to 0.56 units in the last place of Extended, rounded.
+constexpr double product_error = 5;
+
+}  // namespace lum::inline LUM_LAYER

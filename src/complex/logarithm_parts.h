@@ -1,0 +1,30 @@
+// ln |z| and arg z as pairs, for the paths of Log10 and of the powers.
+#pragma once
+
+#include "complex/core_kernel.h"
+#include "complex/pairs/angle.h"
+#include "complex/pairs/logarithm.h"
+
+namespace lum::inline LUM_LAYER {
+
+// With units of error of the core's parts.
+struct LogarithmValue {
+  HeadTail modulus, angle;
+  Vec<Lum64f> modulus_error, angle_error;
+  Mask<Lum64f> refused;
+};
+LUM_INLINE LogarithmValue LogarithmParts(ComplexVec<Lum64f> z) {
+  const auto ax = abs(z.re), ay = abs(z.im);
+  const auto square = Add(two_product(ax, ax), two_product(ay, ay));
+  const auto modulus = Scaled(Logarithm(square), 0.5);
+  const auto angle = Angle({ay, all(0.0)}, {z.re, all(0.0)});
+  // Off the circle the core's square is rounded; near it, its difference from 1 is nearly exact.
+  const auto magnitude = abs(modulus.head);
+  const auto is_off = nle(abs(square.head - all(1.0)), all(0.0299));
+  const auto error = select(is_off, fma(magnitude, all(2.0), all(1.25)), magnitude * all(6.0));
+  // Where it is as small as here it has lost bits: the square was right to 2^-105.
+  const auto refused = HasFarPart(z) | nle(all(0x1p-36), magnitude);
+  return {modulus, XorSign(z.im, angle), error, angle.head * all(2.0), refused};
+}
+
+}  // namespace lum::inline LUM_LAYER

@@ -1,0 +1,236 @@
+// What a kernel is, and its paths on one vector.
+//
+// A kernel is described by a struct K derived from Kernel<Input, Output>:
+//   VectorPath(x...)
+//     A pure function of packed inputs. Returns Packed<Output>, or Lanes<Output> with the mask of refused lanes; with two
+//     outputs TwoValues<Output> or TwoLanes<Output>.
+//   LaneRoutine(x..., r...)
+//     Finishes one refused element: scalars in, results by reference, which hold the vector path's values. Returns the
+//     element's LumStatus; a silent kernel's returns void, and the kernel's status is then always 0.
+//   SecondPath(x..., lanes)
+//     Optional: a vector path for the lanes that the first one refuses. Given what VectorPath returned, it returns the same
+//     with values in the lanes that it finishes and the mask of those that remain for the lane routine; as Finished<Output>,
+//     also the lanes that report, by status. Values and statuses are those of the lane routine.
+// Constants that a kernel may override: variant, vectors (in a block), fill (of inactive lanes: never to be refused), is_short
+// (a vector path of a few operations, which is inlined in either layer), and those of the second path:
+//   second_is_short: a few operations, so that it costs less to run it than to see whether a vector needs it.
+//   hides_refused: the processor would stop at denormal numbers that the first path makes of refused arguments, so the loop
+//   over
+//     both paths has the fill in their place.
+//   second_in_all_layers: the lane routine knows only what the second path leaves. Otherwise the portable layer has the
+//     routine alone, which is faster there.
+// A kernel with a parameter has it as a data member; all others are empty.
+#pragma once
+
+#include <array>
+#include <bit>
+#include <cstdint>
+#include <type_traits>
+#include <utility>
+
+#include "frame/element_hook.h"
+#include "frame/environment.h"
+#include "frame/packed.h"
+
+namespace lum::inline LUM_LAYER {
+
+template <class InputElement, class OutputElement = InputElement> struct Kernel {
+  using Input = InputElement;
+  using Output = OutputElement;
+  static constexpr Variant variant = common_variant;
+  static constexpr int vectors = 2;
+  static constexpr bool is_short = false;
+  static constexpr Real<Input> fill = Real<Input>(0.75);
+  static constexpr bool second_is_short = false;
+  static constexpr bool hides_refused = false;
+  static constexpr bool second_in_all_layers = false;
+  static constexpr bool hook_has_first_source_only = false;  // in the place of the second, too
+};
+
+template <class E, class Refused = Mask<Real<E>>> struct Lanes {
+  Packed<E> value;
+  Refused refused;
+};
+template <class E> struct TwoValues { Packed<E> value1, value2; };
+template <class E> struct TwoLanes {
+  Packed<E> value1, value2;
+  Mask<Real<E>> refused;
+};
+
+// Lanes that report, by status; at most one for each lane.
+template <class T> struct Reports { Mask<T> domain{}, singularity{}, overflow{}, underflow{}; };
+struct NoReports {};
+// What a second path gives where elements may report.
+template <class E> struct Finished {
+  Packed<E> value;
+  Mask<Real<E>> refused;
+  Reports<Real<E>> reports;
+};
+template <class E> struct TwoFinished {
+  Packed<E> value1, value2;
+  Mask<Real<E>> refused;
+  Reports<Real<E>> reports;
+};
+
+// The arrays of one call: n inputs, m outputs.
+template <class K, int n, int m> struct Arrays {
+  std::array<const typename K::Input*, n> src;
+  std::array<typename K::Output*, m> dst;
+};
+
+// What a call carries besides its arrays.
+struct Call {
+  Environment environment;
+  LumStatus status = lumStsOk;
+};
+
+// A kernel's own word for the hook.
+template <class K> inline uint32_t hook_cell = 0;
+
+template <class K> inline constexpr int step_of = lanes_of<Real<typename K::Input>>;
+// A layer whose registers hold one stream of a kernel takes its blocks vector by vector.
+template <class K> inline constexpr int vectors_of = streams_fit_registers ? K::vectors : 1;
+template <class K> inline constexpr int block_of = step_of<K>* vectors_of<K>;
+
+namespace frame {
+
+template <class K, int n> using Inputs = std::array<Packed<typename K::Input>, n>;
+template <class K, int m> using Outputs = std::array<Packed<typename K::Output>, m>;
+
+template <class K, int n> LUM_INLINE auto VectorPathOf(const K& kernel, const Inputs<K, n>& x) {
+  if constexpr (n == 1) return kernel.VectorPath(x[0]);
+  else return kernel.VectorPath(x[0], x[1]);
+}
+template <class K, int n> [[gnu::noinline]] auto CalledVectorPath(const K& kernel, const Inputs<K, n>& x) {
+  return VectorPathOf<K, n>(kernel, x);
+}
+template <class K, int n>
+concept RefusesLanes = requires(const K kernel, const Inputs<K, n> x) {
+  VectorPathOf<K, n>(kernel, x).refused;
+};
+
+// In the portable layer, where every intermediate vector has its place on the stack, blocks, tail and refused lanes share one
+// copy of the vector path: a call then needs the stack of one, and the library is half the size.
+template <class K, int n> LUM_INLINE auto Compute(const K& kernel, const Inputs<K, n>& x) {
+  if constexpr (RefusesLanes<K, n> && !vectors_fit_registers && !K::is_short) return CalledVectorPath<K, n>(kernel, x);
+  else return VectorPathOf<K, n>(kernel, x);
+}
+
+template <class K, int n, class Result> LUM_INLINE auto SecondPathOf(const K& kernel, const Inputs<K, n>& x, const Result& r) {
+  if constexpr (n == 1) return kernel.SecondPath(x[0], r);
+  else return kernel.SecondPath(x[0], x[1], r);
+}
+template <class K, int n, class Result>
+[[gnu::noinline]] auto CalledSecondPath(const K& kernel, const Inputs<K, n>& x, const Result& r) {
+  return SecondPathOf<K, n>(kernel, x, r);
+}
+// Lanes with NaNs in several places, of which the result is that of the first: where operations do not order them, the lane
+// routine does.
+template <class K, int n> LUM_INLINE auto SeveralNans(const Inputs<K, n>& x) {
+  const auto is_nan = [](auto v) { return unord(v, v); };
+  if constexpr (is_complex<typename K::Input>) {
+    const auto z = split(x[0]), w = split(x[n - 1]);
+    const auto re = is_nan(z.re), im = is_nan(z.im);
+    if constexpr (n == 1) return re & im;
+    else return (re & im) | (is_nan(w.re) & is_nan(w.im)) | ((re | im) & (is_nan(w.re) | is_nan(w.im)));
+  } else if constexpr (n == 1) {
+    return mask_of<Real<typename K::Input>>(0);
+  } else {
+    return is_nan(x[0]) & is_nan(x[1]);
+  }
+}
+template <class K, int n, class Result> LUM_INLINE auto ComputeSecond(const K& kernel, const Inputs<K, n>& x, const Result& r) {
+  if constexpr (!vectors_fit_registers) {
+    return CalledSecondPath<K, n>(kernel, x, r);
+  } else if constexpr (orders_nans || !requires { ~r.refused; }) {
+    return SecondPathOf<K, n>(kernel, x, r);
+  } else {
+    auto second = SecondPathOf<K, n>(kernel, x, r);
+    second.refused = second.refused | (r.refused & SeveralNans<K, n>(x));
+    return second;
+  }
+}
+template <class K>
+concept HasSecondPath = (has_second_paths || K::second_in_all_layers) && requires {
+  &K::SecondPath;
+};
+
+template <class K, int m, class Result> LUM_INLINE Outputs<K, m> Values(const Result& r) {
+  if constexpr (requires { r.value; }) return {r.value};
+  else if constexpr (requires { r.value1; }) return {r.value1, r.value2};
+  else return {r};
+}
+
+// What both paths make of a vector.
+template <class K, int m, class Remaining, class Reported> struct BothPaths {
+  Outputs<K, m> values;
+  bool any_refused;     // by the first path
+  Remaining remaining;  // for the lane routine
+  Reported reports;
+};
+template <class K, int m, class Result> LUM_INLINE auto AsBothPaths(const Result& r, bool any_refused) {
+  using Remaining = decltype(r.refused);
+  if constexpr (requires { r.reports; }) {
+    return BothPaths<K, m, Remaining, decltype(r.reports)>{Values<K, m>(r), any_refused, r.refused, r.reports};
+  } else {
+    return BothPaths<K, m, Remaining, NoReports>{Values<K, m>(r), any_refused, r.refused, {}};
+  }
+}
+
+// The first path where both run.
+template <class K, int n> LUM_INLINE auto ComputeFirst(const K& kernel, const Inputs<K, n>& x) {
+  auto r = Compute<K, n>(kernel, x);
+  if constexpr (K::hides_refused) {
+    Inputs<K, n> hidden = x;
+    for (auto& values : hidden) values = select(r.refused, all(K::fill), values);
+    const auto refused = r.refused;
+    r = Compute<K, n>(kernel, hidden);
+    r.refused = refused;
+  }
+  return r;
+}
+
+template <class K, int n, int m> LUM_INLINE auto ComputeBoth(const K& kernel, const Inputs<K, n>& x) {
+  const auto first = ComputeFirst<K, n>(kernel, x);
+  if constexpr (!HasSecondPath<K>) {
+    return AsBothPaths<K, m>(first, any(first.refused));
+  } else if constexpr (K::second_is_short) {
+    return AsBothPaths<K, m>(ComputeSecond<K, n>(kernel, x, first), any(first.refused));
+  } else {
+    using Result = decltype(AsBothPaths<K, m>(ComputeSecond<K, n>(kernel, x, first), true));
+    if constexpr (requires { ~first.refused; }) {
+      // There is no need for the first path's values where it refuses all.
+      if (none(~first.refused)) {
+        std::remove_const_t<decltype(first)> no_values{};
+        no_values.refused = first.refused;
+        return AsBothPaths<K, m>(ComputeSecond<K, n>(kernel, x, no_values), true);
+      }
+    }
+    if (any(first.refused)) return AsBothPaths<K, m>(ComputeSecond<K, n>(kernel, x, first), true);
+    return Result{Values<K, m>(first), false, {}, {}};
+  }
+}
+
+template <class K, int n, int m> LUM_INLINE Inputs<K, n> LoadStep(const Arrays<K, n, m>& a, int64_t i) {
+  Inputs<K, n> x;
+  for (int j = 0; j < n; ++j) x[j] = LoadElements(a.src[j] + i);
+  return x;
+}
+template <class K, int n, int m> LUM_INLINE Inputs<K, n> LoadStep(const Arrays<K, n, m>& a, int64_t i, int count) {
+  Inputs<K, n> x;
+  for (int j = 0; j < n; ++j) x[j] = LoadElements(count, a.src[j] + i, K::fill);
+  return x;
+}
+
+template <class K, int n, int m, class Result> LUM_INLINE void StoreStep(const Arrays<K, n, m>& a, int64_t i, const Result& r) {
+  if constexpr (m == 2) {
+    StoreElements(a.dst[0] + i, r.value1);
+    StoreElements(a.dst[1] + i, r.value2);
+  } else {
+    StoreElements(a.dst[0] + i, Values<K, m>(r)[0]);
+  }
+}
+
+}  // namespace frame
+
+}  // namespace lum::inline LUM_LAYER
