@@ -10,7 +10,7 @@ namespace {
 template <class E> struct AbsKernel : Kernel<E, Real<E>> {
   using T = Real<E>;
   static void LaneRoutine(const E& z, T& result) {
-    [[maybe_unused]] const ExtendedPrecision precision;
+    const ExtendedPrecision precision;
     Lum64f modulus;
     CoreAbs(modulus, Widened(z));
     result = static_cast<T>(modulus);

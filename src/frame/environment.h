@@ -168,7 +168,7 @@ inline bool X87Prepare(Environment& environment) {
   environment.x87_prepared = true;
   return false;
 }
-struct ExtendedPrecision {};
+struct [[maybe_unused]] ExtendedPrecision {};  // an object of it is made for its effect
 
 template <Variant variant> inline Environment Enter() {
   Environment environment;
