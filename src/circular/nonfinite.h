@@ -2,6 +2,7 @@
 #pragma once
 
 #include "frame/kernel_frame.h"
+#include "frame/lane_format.h"
 #include "frame/types.h"
 
 namespace lum::inline LUM_LAYER {
@@ -9,7 +10,7 @@ namespace lum::inline LUM_LAYER {
 // sin, cos or tan of an infinity is a NaN with a status, that of a NaN is the NaN, quieted.
 template <class T> LumStatus CircularOfNonFinite(T x, T& result) {
   const bool is_nan = x != x;
-  result = is_nan ? x * x : x * 0;
+  result = lane::nan_of(x);
   return is_nan ? lumStsOk : lumStsDomain;
 }
 

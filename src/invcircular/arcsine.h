@@ -5,6 +5,7 @@
 #pragma once
 
 #include "frame/kernel_frame.h"
+#include "frame/lane_format.h"
 #include "frame/numbers.h"
 #include "invcircular/polynomials.h"
 
@@ -85,9 +86,9 @@ LUM_INLINE SplitRoot<Lum64f> SplitRootOf(Vec<Lum64f> y) {
   return {head, fms(RootSeries<4>(e), head * e, tail)};
 }
 
-// Refused arguments are a NaN, which the difference quiets, or lie outside [-1, 1], where 0/0 gives a NaN.
+// Refused arguments are a NaN, which is quieted, or lie outside [-1, 1]: an invalid operation.
 template <class T> LumStatus OutsideUnitInterval(T x, T& result) {
-  result = (x - x) / (x - x);
+  result = lane::nan_of(x);
   return x != x ? lumStsOk : lumStsDomain;
 }
 

@@ -7,6 +7,7 @@
 #include <type_traits>
 
 #include "frame/kernel_frame.h"
+#include "frame/lane_format.h"
 #include "frame/kernels.h"
 
 namespace lum::inline LUM_LAYER {
@@ -15,7 +16,7 @@ namespace {
 template <class T> struct DivKernel : Kernel<T> {
   // Only a zero divisor reports, whatever the dividend.
   static LumStatus LaneRoutine(T x, T y, T& result) {
-    result = x / y;
+    result = lane::with_nan(x / y, x, y);
     return y == 0 ? lumStsSingularity : lumStsOk;
   }
   static constexpr bool second_is_short = true;

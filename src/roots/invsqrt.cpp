@@ -4,6 +4,7 @@
 #include <limits>
 
 #include "frame/kernel_frame.h"
+#include "frame/lane_format.h"
 #include "frame/kernels.h"
 #include "roots/polynomials.h"
 
@@ -24,7 +25,7 @@ template <class T> struct InvSqrtKernel : Kernel<T> {
       return lumStsOk;
     }
     // The NaN of minus infinity has its sign set, as an invalid operation gives it; that of finite numbers has not.
-    result = x == -infinity ? x / x : std::numeric_limits<T>::quiet_NaN();
+    result = x == -infinity ? lane::default_nan<T>() : std::numeric_limits<T>::quiet_NaN();
     return lumStsDomain;
   }
   static constexpr bool second_is_short = true;

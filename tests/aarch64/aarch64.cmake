@@ -38,6 +38,6 @@ add_test(NAME aarch64.build COMMAND ${CMAKE_COMMAND} --build ${PROJECT_BINARY_DI
 add_test(NAME aarch64.bits COMMAND ${emulated} ${aarch64_dir}/tests/aarch64/test.golden.bits)
 add_test(NAME aarch64.operations COMMAND ${emulated} ${aarch64_dir}/tests/aarch64/vec_operations_test)
 add_test(NAME aarch64.vector_loops COMMAND ${Python3_EXECUTABLE} ${CMAKE_CURRENT_SOURCE_DIR}/aarch64/vector_loops.py
-                                           aarch64-linux-gnu-objdump ${aarch64_dir}/liblumvmp0.so)
+                                           aarch64-linux-gnu-objdump ${aarch64_dir}/CMakeFiles/lumvmp0_objects.dir)
 set_tests_properties(aarch64.build PROPERTIES FIXTURES_SETUP aarch64 TIMEOUT 3600 PROCESSORS 2)
 set_tests_properties(aarch64.bits aarch64.operations aarch64.vector_loops PROPERTIES FIXTURES_REQUIRED aarch64)

@@ -17,7 +17,7 @@ void CoreCosh(ComplexDouble& result, const ComplexDouble& z) {
   const bool opposite_signs = IsNegative(x) != IsNegative(y);
   if (IsZero(y)) return FinishCosh(result, core::Rounded<ExtCosh>(x), IsNan(x) ? y : WithSign(opposite_signs, 0));
   if (!IsFinite(y)) {
-    const Lum64f not_a_number = y - y;
+    const Lum64f not_a_number = Difference(y, y);
     const Lum64f re = IsFinite(x) ? not_a_number : core::Rounded<ExtCosh>(x);
     const Lum64f im_of_zero = IsInfinite(y) ? WithSign(opposite_signs, 0) : Negated(x);
     return FinishCosh(result, re, IsZero(x) ? im_of_zero : not_a_number);

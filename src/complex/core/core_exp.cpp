@@ -39,13 +39,13 @@ void ExpOfOrdinary(ComplexDouble& result, Lum64f x, Lum64f y) {
 // The imaginary part is an infinity or a NaN.
 void ExpOfNonFinite(ComplexDouble& result, Lum64f x, Lum64f y) {
   if (IsNan(x)) {
-    Finish(result, x * y, x * y);
+    Finish(result, Product(x, y), Product(x, y));
   } else if (IsFinite(x)) {
-    Finish(result, -0.0 * y, -0.0 * y);
+    Finish(result, Product(-0.0, y), Product(-0.0, y));
   } else if (IsNegative(x)) {
     Finish(result, 0, IsInfinite(y) ? WithSignOf(y, 0.0) : 0.0);
   } else {
-    Finish(result, infinity, y - y);
+    Finish(result, infinity, Difference(y, y));
   }
 }
 

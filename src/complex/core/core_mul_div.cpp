@@ -26,7 +26,7 @@ Lum64f RoundedSum(Extended a, Extended c, Extended b, Extended d) {
 // a + b; of two NaNs the first, however the compiler orders the operands of a sum.
 Lum64f NonFiniteSum(Lum64f a, Lum64f b) {
   if (IsNan(a)) return a;
-  return IsNan(b) ? b : a + b;
+  return IsNan(b) ? b : Sum(a, b);
 }
 
 // 1 or 0 for an infinity or a finite number, with the sign.
@@ -34,14 +34,15 @@ Lum64f Boxed(Lum64f x) { return WithSignOf(x, IsInfinite(x) ? 1.0 : 0.0); }
 
 // A zero or an infinity in the direction of z conj(w).
 void DirectedQuotient(ComplexDouble& result, Lum64f size, const ComplexDouble& z, const ComplexDouble& w) {
-  result = {size * (z.re * w.re + z.im * w.im), size * (z.im * w.re - z.re * w.im)};
+  result = {Product(size, Sum(z.re * w.re, z.im * w.im)), Product(size, Difference(z.im * w.re, z.re * w.im))};
 }
 
 }  // namespace
 
 void CoreMul(ComplexDouble& result, const ComplexDouble& z, const ComplexDouble& w) {
   if (!BothFinite(z) || !BothFinite(w)) {
-    result = {NonFiniteSum(z.re * w.re, Negated(z.im * w.im)), NonFiniteSum(z.re * w.im, z.im * w.re)};
+    result = {NonFiniteSum(Product(z.re, w.re), Negated(Product(z.im, w.im))),
+              NonFiniteSum(Product(z.re, w.im), Product(z.im, w.re))};
     return;
   }
   Finish(result, RoundedSum(z.re, w.re, Negated(z.im), w.im), RoundedSum(z.re, w.im, z.im, w.re));
@@ -54,13 +55,13 @@ void CoreMulByConj(ComplexDouble& result, const ComplexDouble& z, const ComplexD
 // By zero: infinities with the signs of z, or NaN. Beside an infinity the finite number counts by its direction alone.
 void CoreDiv(ComplexDouble& result, const ComplexDouble& z, const ComplexDouble& w) {
   if (BothFinite(z) && BothZero(w)) {
-    result = {z.re * infinity, z.im * infinity};
+    result = {Product(z.re, infinity), Product(z.im, infinity)};
   } else if (BothFinite(z) && AnyInfinite(w)) {
     DirectedQuotient(result, 0.0, z, {Boxed(w.re), Boxed(w.im)});
   } else if (AnyInfinite(z) && BothFinite(w)) {
     DirectedQuotient(result, infinity, {Boxed(z.re), Boxed(z.im)}, w);
   } else if (!BothFinite(z) || !BothFinite(w)) {
-    const Lum64f not_a_number = NonFiniteSum(z.re * w.re, z.im * w.im) * 0.0;
+    const Lum64f not_a_number = Product(NonFiniteSum(Product(z.re, w.re), Product(z.im, w.im)), 0.0);
     result = {not_a_number - not_a_number, not_a_number - not_a_number};
   } else {
     const ExtendedPair square = SumOfProducts(w.re, w.re, w.im, w.im);

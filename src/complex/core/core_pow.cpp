@@ -1,5 +1,5 @@
 // z^w = e^(w ln z), by the cores of logarithm and exponential.
-#include "complex/core/cores.h"
+#include "complex/core/parts.h"
 
 namespace lum::inline LUM_LAYER {
 
@@ -7,8 +7,9 @@ namespace lum::inline LUM_LAYER {
 void CorePow(ComplexDouble& result, const ComplexDouble& z, const ComplexDouble& exponent) {
   ComplexDouble logarithm;
   CoreLog(logarithm, z);
-  const ComplexDouble product = {exponent.re * logarithm.re - exponent.im * logarithm.im,
-                                 exponent.re * logarithm.im + exponent.im * logarithm.re};
+  const ComplexDouble product = {
+      Difference(Product(exponent.re, logarithm.re), Product(exponent.im, logarithm.im)),
+      Sum(Product(exponent.re, logarithm.im), Product(exponent.im, logarithm.re))};
   CoreExp(result, product);
 }
 

@@ -7,7 +7,7 @@ void CoreSinh(ComplexDouble& result, const ComplexDouble& z) {
   const auto [x, y] = z;
   if (IsZero(y)) return Finish(result, core::Rounded<ExtSinh>(x), y);
   if (!IsFinite(y)) {
-    const Lum64f not_a_number = y - y;
+    const Lum64f not_a_number = Difference(y, y);
     return Finish(result, IsFiniteNonZero(x) ? x * not_a_number : core::Rounded<ExtSinh>(x), not_a_number);
   }
   if (IsNan(x)) return Finish(result, x * x, x * x);

@@ -44,7 +44,7 @@ void CoreTanh(ComplexDouble& result, const ComplexDouble& z) {
     return Finish(result, not_a_number, IsZero(y) ? y : not_a_number);
   }
   if (IsInfinite(x)) return TanhOfInfinite(result, x, y);
-  if (!IsFinite(y)) return Finish(result, y - y, y - y);
+  if (!IsFinite(y)) return Finish(result, Difference(y, y), Difference(y, y));
   if (IsZero(x)) return IsZero(y) ? Finish(result, x, y) : Finish(result, x, core::Rounded<ExtTan>(y));
   TanhOfFiniteNonZero(result, x, y);
 }

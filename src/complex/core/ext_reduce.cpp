@@ -73,17 +73,15 @@ struct Accumulator {
 
 // x times 4/pi modulo 8, x > 0.
 Accumulator OctantsOf(Extended x, int exponent) {
-  // In a wider format the tail reaches further down and remainders are smaller: the pieces start earlier and end later.
-  constexpr int further = (extended_digits - 64 + 30) / 31;
   const int beyond = exponent > field_of(34) ? exponent - field_of(34) : 0;
   const int row = (beyond * 0x4211) >> 19;  // beyond / 31
-  const int last = row + (beyond - 31 * row >= 17 ? 8 : 7) + further;
+  const int last = row + (beyond - 31 * row >= 17 ? 8 : 7);
   const Extended scaled = x * constant_power_of_two(-217);
   ExtendedFields leading = fields(scaled);
   leading.significand &= uint64_t{0xffffffff} << 32;
   const Extended head = from_fields(leading), tail = scaled - head;
   Accumulator sum;
-  for (int i = row > further ? row - further : 0; i <= last; ++i) {
+  for (int i = row; i <= last; ++i) {
     const Extended piece = FourOverPiPiece(i);
     sum.Add(ModuloEight(head * piece));
     sum.Add(ModuloEight(tail * piece));
@@ -101,16 +99,13 @@ OctantRemainder ReduceHuge(Extended x, int exponent) {
 }  // namespace
 
 int64_t ExtReducePi4(ExtendedPair& remainder, const Extended& x) {
-  // Numbers of a wider format come closer to multiples of pi/4 than the parts reach.
-  constexpr bool parts_suffice = extended_digits == 64;
   const int exponent = exponent_field(x);
   const Extended positive = magnitude(x);
   if (exponent <= direct_limit && positive * four_over_pi < 1) {
     remainder = {x, 0};
     return 0;
   }
-  const bool is_direct = parts_suffice && exponent <= direct_limit;
-  const OctantRemainder r = is_direct ? ReduceDirectly(positive, exponent) : ReduceHuge(positive, exponent);
+  const OctantRemainder r = exponent <= direct_limit ? ReduceDirectly(positive, exponent) : ReduceHuge(positive, exponent);
   const bool is_negative = sign_bit(x);
   remainder = scale(r.remainder, sign_factor(is_negative));
   return is_negative ? -r.count : r.count;

@@ -1,7 +1,6 @@
-// The number format of the complex scalar cores, and their private real functions in it. The format is `long double`
-// where that has 64 or more significand bits: natively on the x87 unit, as binary128 elsewhere. With 11 bits to spare over
-// binary64, a result that is right to a few units in the last place of Extended rounds to the nearest binary64 except next
-// to a tie.
+// The number format of the complex scalar cores, and their private real functions in it. The format is the 80-bit one of the
+// x87 unit: `long double` where that is it, else the same in integers. With 11 bits to spare over binary64, a result that is
+// right to a few units in the last place of Extended rounds to the nearest binary64 except next to a tie.
 //
 // The functions expect all exceptions masked, extended precision and round to nearest. Results go through references:
 // given first where there is one, after the argument where there are two.
@@ -9,12 +8,19 @@
 
 #include <limits>
 
+#include "complex/core/soft_extended.h"
 #include "frame/types.h"
 
 namespace lum::inline LUM_LAYER {
 
+#if __LDBL_MANT_DIG__ == 64 && !defined(LUM_SOFT_EXTENDED)
 using Extended = long double;
-static_assert(std::numeric_limits<Extended>::digits >= 64, "the complex cores need 64 significand bits");
+inline Extended magnitude(Extended x) { return __builtin_fabsl(x); }
+#else
+using Extended = SoftExtended;
+#endif
+using ExtendedLimits = std::numeric_limits<Extended>;
+static_assert(ExtendedLimits::digits == 64 && ExtendedLimits::max_exponent == 16384);
 
 // Magnitudes. ExtAbs quiets a signalling NaN.
 void ExtAbs64(Lum64f& result, const Lum64f& x);

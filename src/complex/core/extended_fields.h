@@ -1,6 +1,5 @@
-// The sign, exponent and leading significand bits of an Extended, and what depends on its width: rounding to a multiple of a
-// power of two, powers of two, values whose only effect is the inexact flag. Two layouts are known: the 80-bit format of the
-// x87 unit with its explicit leading bit, and little-endian binary128.
+// The sign, exponent and significand bits of an Extended, and what depends on them: rounding to a multiple of a power of two,
+// powers of two, values whose only effect is the inexact flag.
 #pragma once
 
 #include <bit>
@@ -10,49 +9,33 @@
 
 namespace lum::inline LUM_LAYER {
 
-using ExtendedLimits = std::numeric_limits<Extended>;
 inline constexpr int extended_digits = ExtendedLimits::digits;
 inline constexpr int extended_bias = 0x3fff;
 // The exponent field of the numbers from 2^n on, below 2^(n + 1).
 consteval int field_of(int n) { return n + extended_bias; }
 inline constexpr int extended_special = 0x7fff;  // exponent field of infinity and NaN
-inline constexpr size_t extended_bytes = extended_digits == 64 ? 10 : 16;
-static_assert(extended_digits == 64 || extended_digits == 113, "an unknown layout");
-static_assert(ExtendedLimits::max_exponent == 16384, "the exponent field has 15 bits");
+inline constexpr size_t extended_bytes = 10;
 static_assert(std::endian::native == std::endian::little, "an unknown layout");
 
-// The sign bit above the exponent field, and the leading 64 significand bits. The first of them is the integer bit.
+// The sign bit above the exponent field, and the significand, whose first bit is the integer bit.
 struct ExtendedFields {
   uint32_t sign_and_exponent;
   uint64_t significand;
 };
 
 inline ExtendedFields fields(const Extended& x) {
-  if constexpr (extended_digits == 64) {
-    // Two loads from where x lies, which do not wait for a copy.
-    uint64_t significand;
-    uint16_t sign_and_exponent;
-    std::memcpy(&significand, &x, sizeof significand);
-    std::memcpy(&sign_and_exponent, reinterpret_cast<const char*>(&x) + sizeof significand, sizeof sign_and_exponent);
-    return {sign_and_exponent, significand};
-  } else {
-    uint64_t words[2] = {};
-    std::memcpy(words, &x, extended_bytes);
-    const uint32_t upper = static_cast<uint32_t>(words[1] >> 48);
-    const uint64_t integer_bit = (upper & 0x7fff) != 0 ? uint64_t{1} << 63 : 0;
-    return {upper, integer_bit | (words[1] & 0xffffffffffff) << 15 | words[0] >> 49};
-  }
+  // Two loads from where x lies, which do not wait for a copy.
+  uint64_t significand;
+  uint16_t sign_and_exponent;
+  std::memcpy(&significand, &x, sizeof significand);
+  std::memcpy(&sign_and_exponent, reinterpret_cast<const char*>(&x) + sizeof significand, sizeof sign_and_exponent);
+  return {sign_and_exponent, significand};
 }
 
-// The number with these fields and no significand bits beyond the leading 64.
 inline Extended from_fields(ExtendedFields f) {
-  uint64_t words[2] = {f.significand, f.sign_and_exponent};
-  if constexpr (extended_digits != 64) {
-    words[1] = uint64_t{f.sign_and_exponent} << 48 | (f.significand << 1) >> 16;
-    words[0] = f.significand << 49;
-  }
+  const uint64_t words[2] = {f.significand, f.sign_and_exponent};
   Extended x = 0;
-  std::memcpy(&x, words, extended_bytes);
+  std::memcpy(static_cast<void*>(&x), words, extended_bytes);
   return x;
 }
 
@@ -102,8 +85,6 @@ inline Extended inexact_identity(Extended x) {
   constexpr Extended up = constant_power_of_two(extended_digits + 11), down = constant_power_of_two(-extended_digits - 11);
   return x == 0 ? x : (x * up - x) * down;
 }
-
-inline Extended magnitude(Extended x) { return __builtin_fabsl(x); }
 
 // 1 or -1: a factor, where a branch on a sign would be foreseen half of the time.
 inline constexpr float unit_signs[] = {1, -1};

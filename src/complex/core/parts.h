@@ -37,6 +37,11 @@ inline Lum64f Negated(Lum64f x) { return std::bit_cast<Lum64f>(std::bit_cast<uin
 inline Lum64f WithSign(bool negative, Lum64f magnitude) { return negative ? Negated(magnitude) : magnitude; }
 inline Lum64f WithSignOf(Lum64f sign, Lum64f magnitude) { return WithSign(IsNegative(sign), magnitude); }
 
+// Operations that may be invalid: their NaN has its sign set, on processors too that would give a positive one.
+inline Lum64f Sum(Lum64f a, Lum64f b) { return lane::with_nan(a + b, a, b); }
+inline Lum64f Difference(Lum64f a, Lum64f b) { return lane::with_nan(a - b, a, b); }
+inline Lum64f Product(Lum64f a, Lum64f b) { return lane::with_nan(a * b, a, b); }
+
 // An operation that is wanted for the floating-point flags it raises.
 inline void Discard(Lum64f value) {
   volatile Lum64f sink = value;
