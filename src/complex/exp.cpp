@@ -39,7 +39,7 @@ struct DoubleExponential {
 
   static LUM_INLINE Vec<Lum64f> Half(Vec<Lum64f> x) {
     static constexpr auto table = table64({
-#include "tables/generated/exp2_1024_sixth.inc"
+#include "tables/generated/exp2_sixth_64f_1024.inc"
     });
     constexpr auto shifter = rounding_shifter<Lum64f>();
     const auto t = fma(x, all(1024 * numbers::log2_e<Lum64f>), all(shifter));
@@ -61,7 +61,7 @@ struct SingleExponential {
 
   static LUM_INLINE Values Of(Vec<Lum32f> x) {
     static constexpr auto table = table32({
-#include "tables/generated/exp2_float_128_pairs.inc"
+#include "tables/generated/exp2_32f_128_pairs.inc"
     });
     constexpr auto shifter = rounding_shifter<Lum32f>();
     const auto t = fma(x, all(128 * numbers::log2_e<Lum32f>), all(shifter));
@@ -113,10 +113,10 @@ struct A26_64fc : Kernel<Lum64fc> {
 
 LUM_INLINE Vec<Lum64f> A26_64fc::ExponentialOf(Vec<Lum64f> x) {
   static constexpr auto heads = table64({
-#include "tables/generated/exp2_double_16_head.inc"
+#include "tables/generated/exp2_64f_16_head.inc"
   });
   static constexpr auto tails = table64({
-#include "tables/generated/exp2_double_16_tail.inc"
+#include "tables/generated/exp2_64f_16_tail.inc"
   });
   // The low bits leave the index at zero and are subtracted out again.
   constexpr auto shifter = rounding_shifter<Lum64f>(4) + 0x3FF0p-4;
@@ -145,7 +145,7 @@ struct A53_64fc : Kernel<Lum64fc> {
   };
   static LUM_INLINE Exponential ExponentialOf(Vec<Lum64f> x) {
     static constexpr auto table = table64({
-#include "tables/generated/exp2_64_pairs.inc"
+#include "tables/generated/exp2_64f_64_pairs.inc"
     });
     constexpr auto shifter = rounding_shifter<Lum64f>();
     const auto t = fma(x, all(64 * numbers::log2_e<Lum64f>), all(shifter));
@@ -162,7 +162,7 @@ struct A53_64fc : Kernel<Lum64fc> {
   };
   static LUM_INLINE Turned SineCosineOf(Vec<Lum64f> y) {
     static constexpr auto table = table64({
-#include "tables/generated/sine_cosine_32.inc"
+#include "tables/generated/sine_cosine_64f_64_pairs.inc"
     });
     constexpr auto shifter = rounding_shifter<Lum64f>();
     const auto t = fma(y, all(32 * numbers::inverse_pi<Lum64f>), all(shifter));

@@ -35,12 +35,12 @@ template <class E> struct LnKernel : Kernel<E> {
 template <int degree> struct Segments;
 template <> struct Segments<3> {
   static constexpr auto columns = by_columns<3>(table32({
-#include "tables/generated/ln_segments_3.inc"
+#include "tables/generated/ln_segments_32f_16_degree_3.inc"
   }));
 };
 template <> struct Segments<4> {
   static constexpr auto columns = by_columns<4>(table32({
-#include "tables/generated/ln_segments_4.inc"
+#include "tables/generated/ln_segments_32f_16_degree_4.inc"
   }));
 };
 

@@ -63,7 +63,7 @@ struct Split {
 };
 
 constexpr auto erf_table = table64({
-#include "tables/generated/erf_128.inc"
+#include "tables/generated/erf_64f_768.inc"
 });
 
 struct Plain {
@@ -101,7 +101,7 @@ struct A50_64f : Erf<Lum64f, 2> {
 
 struct A53_64f : Erf<Lum64f, 2> {
   static constexpr auto table = table64({
-#include "tables/generated/erf_128_packed.inc"
+#include "tables/generated/erf_64f_768_packed.inc"
   });
   // (2/sqrt pi) (1 + E) - 1.
   static LUM_INLINE Vec<Lum64f> Series(Vec<Lum64f> w, Vec<Lum64f> v) {

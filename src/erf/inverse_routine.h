@@ -31,7 +31,7 @@ inline TwoParts<double> MinusLog(double q) {
 // pieces of the t axis.
 inline TwoParts<double> ErfcInvOfTail(double q) {
   static constexpr auto table = table64({
-#include "tables/generated/erfcinv_tail.inc"
+#include "tables/generated/erfcinv_tail_64f_6.inc"
   });
   constexpr size_t row_size = 17;
   const TwoParts<double> square = MinusLog(q);

@@ -20,10 +20,10 @@ template <> struct ExpConstants<Lum32f> {
   static constexpr auto shifter = rounding_shifter<Lum32f>(4);
   static constexpr auto threshold = -ExpLimits<Lum32f>::denormal;
   static constexpr auto head = table32({
-#include "tables/generated/exp2_16_head.inc"
+#include "tables/generated/exp2_32f_16_head.inc"
   });
   static constexpr auto tail = table32({
-#include "tables/generated/exp2_16_tail.inc"
+#include "tables/generated/exp2_32f_16_tail.inc"
   });
 };
 template <> struct ExpConstants<Lum64f> {
@@ -31,10 +31,10 @@ template <> struct ExpConstants<Lum64f> {
   static constexpr auto shifter = rounding_shifter<Lum64f>(3) + 0x3FF0p-3;
   static constexpr auto threshold = f64(0x40861DA04CBAFE44, 707.7032713517042);
   static constexpr auto head = table64({
-#include "tables/generated/exp2_8_head.inc"
+#include "tables/generated/exp2_64f_8_head.inc"
   });
   static constexpr auto tail = table64({
-#include "tables/generated/exp2_8_tail.inc"
+#include "tables/generated/exp2_64f_8_tail.inc"
   });
 };
 

@@ -33,7 +33,7 @@ struct ExpDoubleValue {
 LUM_INLINE ExpDoubleValue ExpDoubleAtEnds(Vec<Lum64f> x) {
   const auto a = ExpDoubleReduced(x);
   const auto j = shift_left<1>(bits(a.shifted) & all(uint64_t{63}));
-  const auto head = gather<Lum64f>(exp2_64, j), tail = gather<Lum64f>(exp2_64 + 1, j);
+  const auto head = gather<Lum64f>(exp2_pairs, j), tail = gather<Lum64f>(exp2_pairs + 1, j);
   return {head, (a.u + tail) * head, a.k * all(1.0 / 64)};  // scalef takes the floor of the exponent
 }
 

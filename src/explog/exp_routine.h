@@ -101,8 +101,8 @@ inline double ExpScaled(double s, int64_t e) {
 }
 
 // 2^(j/64) in two parts.
-inline constexpr auto exp2_64 = table64({
-#include "tables/generated/exp2_64_pairs.inc"
+inline constexpr auto exp2_pairs = table64({
+#include "tables/generated/exp2_64f_64_pairs.inc"
 });
 
 // x = k ln(2)/64 + r,  e^r = 1 + u; k also in the low bits of `shifted`.
@@ -129,8 +129,8 @@ template <class T> LumStatus ExpDoubleRoutine(T argument, T& result) {
   const auto count = static_cast<int64_t>(k);
   const auto j = static_cast<size_t>(count & 63);
   const int64_t e = count >> 6;
-  const double head = exp2_64[2 * j];
-  const double p = (u + exp2_64[2 * j + 1]) * head;
+  const double head = exp2_pairs[2 * j];
+  const double p = (u + exp2_pairs[2 * j + 1]) * head;
   const bool is_denormal = argument < ExpLimits<T>::denormal;
   if (std::is_same_v<T, Lum64f> && is_denormal) result = static_cast<T>(ExpScaledToDenormal(head, p, e));
   else result = static_cast<T>(ExpScaled(head + p, e));

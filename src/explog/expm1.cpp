@@ -20,29 +20,29 @@ template <class T, int entries> struct Grid;
 template <> struct Grid<Lum32f, 32> {
   static constexpr auto shifter = rounding_shifter<Lum32f>(5);
   static constexpr auto head = table32({
-#include "tables/generated/exp2_32_head.inc"
+#include "tables/generated/exp2_32f_32_head.inc"
   });
   static constexpr auto tail = table32({
-#include "tables/generated/exp2_32_tail.inc"
+#include "tables/generated/exp2_32f_32_tail.inc"
   });
 };
 template <> struct Grid<Lum32f, 16> {
   static constexpr auto shifter = rounding_shifter<Lum32f>(4);
   static constexpr auto head = table32({
-#include "tables/generated/exp2_16_head.inc"
+#include "tables/generated/exp2_32f_16_head.inc"
   });
   static constexpr auto tail = table32({
-#include "tables/generated/exp2_16_tail.inc"
+#include "tables/generated/exp2_32f_16_tail.inc"
   });
 };
 template <> struct Grid<Lum64f, 16> {
   // The low bits leave the index bits at zero and are subtracted out again.
   static constexpr auto shifter = rounding_shifter<Lum64f>(4) + 0x3FF0p-4;
   static constexpr auto head = table64({
-#include "tables/generated/exp2_double_16_head.inc"
+#include "tables/generated/exp2_64f_16_head.inc"
   });
   static constexpr auto tail = table64({
-#include "tables/generated/exp2_double_16_tail.inc"
+#include "tables/generated/exp2_64f_16_tail.inc"
   });
 };
 

@@ -18,7 +18,7 @@ struct ShortLnTerms {
   static constexpr int refused_classes = classes::zero | classes::infinity | classes::negative;  // a NaN passes through
   static LUM_INLINE LogarithmTerms Terms(const ReciprocalReduction& a) {
     static constexpr auto rows = table64({
-#include "tables/generated/ln_8.inc"
+#include "tables/generated/minus_ln_64f_8.inc"
     });
     const auto base = fma(a.e, all(numbers::ln2<Lum64f>), permute(load<Lum64f>(rows), a.j));
     return {base, all(0.0), a.r};
@@ -41,7 +41,7 @@ struct LnTerms_A53 {
   static constexpr int refused_classes = classes::not_positive_finite;
   static LUM_INLINE LogarithmTerms Terms(const ReciprocalReduction& a) {
     static constexpr auto pairs = by_columns<2>(table64({
-#include "tables/generated/ln_8_pairs.inc"
+#include "tables/generated/minus_ln_64f_8_pairs.inc"
     }));
     const auto base = fma(a.e, all(numbers::ln2_head<Lum64f>), permute(load<Lum64f>(pairs), a.j));  // exact
     const auto tail = fma(a.e, all(numbers::ln2_rest<Lum64f>), permute(load(pairs + 8), a.j));

@@ -18,7 +18,7 @@ using Double = LogarithmKernel<Lum64f, Log10Routine<Lum64f>>;
 
 struct A11_32f : Float {
   static constexpr auto columns = by_columns<3>(table32({
-#include "tables/generated/log10_segments_3.inc"
+#include "tables/generated/log10_segments_32f_16_degree_3.inc"
   }));
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
     return {SegmentLogarithm<3>(x, columns, numbers::log10_2<Lum32f>), ZeroInfiniteOrNegative(x)};
@@ -27,7 +27,7 @@ struct A11_32f : Float {
 
 struct A21_32f : Float {
   static constexpr auto columns = by_columns<4>(table32({
-#include "tables/generated/log10_segments_4.inc"
+#include "tables/generated/log10_segments_32f_16_degree_4.inc"
   }));
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
     return {SegmentLogarithm<4>(x, columns, numbers::log10_2<Lum32f>), ZeroInfiniteOrNegative(x)};
@@ -44,7 +44,7 @@ template <class T> LUM_INLINE Vec<T> Compensated(Vec<T> b, Vec<T> lo, Vec<T> r, 
 struct A24_32f : Float {
   // hi, then lo.
   static constexpr auto half_inverse = by_columns<2>(table32({
-#include "tables/generated/log10_float_32_half_pairs.inc"
+#include "tables/generated/minus_log10_below_one_32f_32_pairs.inc"
   }));
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
     constexpr auto shifter = rounding_shifter<Lum32f>(5);
@@ -64,7 +64,7 @@ struct A24_32f : Float {
 };
 
 constexpr auto rows = table64({
-#include "tables/generated/log10_16.inc"
+#include "tables/generated/minus_log10_64f_16.inc"
 });
 LUM_INLINE Vec<Lum64f> Row(const ReciprocalReduction& a) { return permute2(load<Lum64f>(rows), load(rows + 8), a.j); }
 
@@ -101,7 +101,7 @@ struct A50_64f : Double {
 
 struct A53_64f : Double {
   static constexpr auto pairs = by_columns<2>(table64({
-#include "tables/generated/log10_16_pairs.inc"
+#include "tables/generated/minus_log10_64f_16_pairs.inc"
   }));
   static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
     const auto a = ReduceByReciprocal<5>(x);

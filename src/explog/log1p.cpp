@@ -105,7 +105,7 @@ template <class T> LUM_INLINE Lanes<T> JoinPairs(Vec<T> x, Vec<T> hi, Vec<T> lo,
 struct A24_32f : Log1p<Lum32f> {
   // hi, then lo.
   static constexpr auto pairs = by_columns<2>(table32({
-#include "tables/generated/ln_float_32_half_pairs.inc"
+#include "tables/generated/minus_ln_below_one_32f_32_pairs.inc"
   }));
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
     const auto a = TakeReciprocal<6>(x);
@@ -122,7 +122,7 @@ struct A24_32f : Log1p<Lum32f> {
 LUM_INLINE Vec<Lum64f> RaisedExponent(const Reciprocal<Lum64f>& a) { return add(lt(a.w, all(0.75)), a.e, all(1.0)); }
 
 constexpr auto rows = table64({
-#include "tables/generated/ln_16.inc"
+#include "tables/generated/minus_ln_64f_16.inc"
 });
 LUM_INLINE Vec<Lum64f> ReducedInOnePart(const Reciprocal<Lum64f>& a) { return fma(a.w, a.c, fms(a.w, a.m, all(1.0))); }
 LUM_INLINE Lanes<Lum64f> JoinOnePart(Vec<Lum64f> x, const Reciprocal<Lum64f>& a, Vec<Lum64f> r, Vec<Lum64f> p) {
@@ -161,7 +161,7 @@ struct A50_64f : Log1p<Lum64f> {
 
 struct A53_64f : Log1p<Lum64f> {
   static constexpr auto pairs = by_columns<2>(table64({
-#include "tables/generated/ln_16_pairs.inc"
+#include "tables/generated/minus_ln_64f_16_pairs.inc"
   }));
   static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
     const auto a = TakeReciprocal<5>(x);

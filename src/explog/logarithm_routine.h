@@ -45,7 +45,7 @@ struct LnParts {
 };
 inline LnParts SplitLn(double x) {
   static constexpr auto table = table64({
-#include "tables/generated/ln_routine.inc"
+#include "tables/generated/ln_routine_64f_65.inc"
   });
   double e = 0;
   if (x < std::numeric_limits<double>::min()) {
@@ -81,7 +81,7 @@ template <class T> LumStatus LnRoutine(T x, T& result) { return LogarithmRoutine
 template <class T> struct Log10Constants;
 template <> struct Log10Constants<Lum32f> {
   static constexpr auto table = table32({
-#include "tables/generated/log10_routine_float.inc"
+#include "tables/generated/log10_routine_32f_65.inc"
   });
   static constexpr auto denormal_scale = 0x1p40f;
   static constexpr float denormal_exponent = -40;
@@ -93,7 +93,7 @@ template <> struct Log10Constants<Lum32f> {
 };
 template <> struct Log10Constants<Lum64f> {
   static constexpr auto table = table64({
-#include "tables/generated/log10_routine.inc"
+#include "tables/generated/log10_routine_64f_65.inc"
   });
   static constexpr auto denormal_scale = 0x1p60;
   static constexpr double denormal_exponent = -60;

@@ -42,13 +42,13 @@ template <class T> struct HalfPowerTable;
 template <> struct HalfPowerTable<Lum32f> {
   static constexpr int row_bits = 5;
   static constexpr auto columns = by_columns<4>(table32({
-#include "tables/generated/half_exp2_float_32.inc"
+#include "tables/generated/half_exp2_32f_32.inc"
   }));
 };
 template <> struct HalfPowerTable<Lum64f> {
   static constexpr int row_bits = 4;
   static constexpr auto columns = by_columns<4>(table64({
-#include "tables/generated/half_exp2_16.inc"
+#include "tables/generated/half_exp2_64f_16.inc"
   }));
 };
 template <int column, class T> LUM_INLINE Vec<UnsignedOf<T>> LookupHalfPower(Vec<UnsignedOf<T>> count) {

@@ -18,10 +18,10 @@ template <> struct LogTable<Lum32f> {
   static constexpr int index_shift = 18;
 
   static constexpr auto single = table32({
-#include "tables/generated/ln_above_one_float_32.inc"
+#include "tables/generated/ln_above_one_32f_32.inc"
   });
   static constexpr auto pairs = by_columns<2>(table32({
-#include "tables/generated/ln_above_one_float_32_pairs.inc"
+#include "tables/generated/ln_above_one_32f_32_pairs.inc"
   }));
 };
 template <> struct LogTable<Lum64f> {
@@ -29,10 +29,10 @@ template <> struct LogTable<Lum64f> {
   static constexpr int index_shift = 48;
 
   static constexpr auto single = table64({
-#include "tables/generated/ln_above_one_16.inc"
+#include "tables/generated/ln_above_one_64f_16.inc"
   });
   static constexpr auto pairs = by_columns<2>(table64({
-#include "tables/generated/ln_above_one_16_pairs.inc"
+#include "tables/generated/ln_above_one_64f_16_pairs.inc"
   }));
 };
 

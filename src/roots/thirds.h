@@ -32,34 +32,34 @@ template <> struct ThirdsConstants<Lum64f> {
 template <class T, bool negative> struct ThirdsOfTwo;
 template <> struct ThirdsOfTwo<Lum32f, false> {
   static constexpr auto head = table32({
-#include "tables/generated/two_to_thirds_32_head.inc"
+#include "tables/generated/two_to_thirds_32f_16_head.inc"
   });
   static constexpr auto tail = table32({
-#include "tables/generated/two_to_thirds_32_tail.inc"
+#include "tables/generated/two_to_thirds_32f_16_tail.inc"
   });
 };
 template <> struct ThirdsOfTwo<Lum32f, true> {
   static constexpr auto head = table32({
-#include "tables/generated/two_to_minus_thirds_32_head.inc"
+#include "tables/generated/two_to_minus_thirds_32f_16_head.inc"
   });
   static constexpr auto tail = table32({
-#include "tables/generated/two_to_minus_thirds_32_tail.inc"
+#include "tables/generated/two_to_minus_thirds_32f_16_tail.inc"
   });
 };
 template <> struct ThirdsOfTwo<Lum64f, false> {
   static constexpr auto head = table64({
-#include "tables/generated/two_to_thirds_64_head.inc"
+#include "tables/generated/two_to_thirds_64f_8_head.inc"
   });
   static constexpr auto tail = table64({
-#include "tables/generated/two_to_thirds_64_tail.inc"
+#include "tables/generated/two_to_thirds_64f_8_tail.inc"
   });
 };
 template <> struct ThirdsOfTwo<Lum64f, true> {
   static constexpr auto head = table64({
-#include "tables/generated/two_to_minus_thirds_64_head.inc"
+#include "tables/generated/two_to_minus_thirds_64f_8_head.inc"
   });
   static constexpr auto tail = table64({
-#include "tables/generated/two_to_minus_thirds_64_tail.inc"
+#include "tables/generated/two_to_minus_thirds_64f_8_tail.inc"
   });
 };
 
