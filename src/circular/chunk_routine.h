@@ -13,7 +13,7 @@
 #include "frame/constant.h"
 #include "frame/numbers.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::circular {
 
 // Entry j + 1: bits 25 j to 25 j + 24 of 4/pi, in its place times 2^200.
 inline constexpr auto four_over_pi_chunks = table64({
@@ -149,4 +149,4 @@ inline LumStatus SineAndCosine(double x, double& sine, double& cosine) {
   return lumStsOk;
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::circular

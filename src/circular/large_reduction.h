@@ -12,7 +12,7 @@
 #include "frame/vec.h"
 #include "tables/table.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::circular {
 
 // Row e, for the exponent field e of x: three words with (1/pi) 2^(e - 884) modulo 2^192, or 2^(e - 55) modulo 2^96.
 // One more word, since rows are read four words at a time.
@@ -160,4 +160,4 @@ template <class T> LUM_INLINE Vec<T> LargeCosine(Vec<T> x) {
   return CosineOf(a.index, a.hi, a.lo);
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::circular

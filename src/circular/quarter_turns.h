@@ -10,7 +10,7 @@
 #include "frame/vec.h"
 #include "tables/table.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::circular {
 
 template <class T> struct SineAndCosineValues {
   Vec<T> sine, cosine;
@@ -134,4 +134,4 @@ struct QuarterTurns_A24 {
   }
 };
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::circular

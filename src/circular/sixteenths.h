@@ -8,7 +8,7 @@
 #include "frame/vec.h"
 #include "tables/table.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::circular {
 
 // x = n pi/16 + hi + lo, n in the low bits of `shifted`; for |x| up to 2^24.
 struct Sixteenths {
@@ -78,4 +78,4 @@ LUM_INLINE Vec<uint64_t> HalfTurnSign(const Sixteenths& r, Vec<Lum64f> x) {
   return ternary<(A ^ B) & C>(shift_left<59>(r.shifted), bits(x), all(sign_bit<Lum64f>));
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::circular

@@ -14,6 +14,8 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
+using namespace circular;
+
 // x = k pi/N + hi + lo; k in the low bits. Tiers without tails have lo = 0.
 template <class T> struct Reduced {
   Vec<T> hi, lo;

@@ -15,6 +15,8 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
+using namespace erf;
+
 // From here down the vector paths refuse.
 template <class T> constexpr T limit = f32(0xC162B914, -14.170185089111328);
 template <> constexpr Lum64f limit<Lum64f> = f64(0xC0433E21DC3F3BD7, -38.485408335567335);

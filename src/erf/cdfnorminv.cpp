@@ -11,6 +11,8 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
+using namespace erf;
+
 constexpr auto minus_root2 = -numbers::root_two_parts<Lum64f>[0];
 constexpr auto minus_root2_rest = -numbers::root_two_parts<Lum64f>[1];
 

@@ -12,6 +12,8 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
+using namespace erf;
+
 // No argument is refused.
 template <class T, int vectors_in_block> struct Erf : Kernel<T> {
   static constexpr Variant variant = pure_vector_variant;

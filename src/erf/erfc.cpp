@@ -14,6 +14,8 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
+using namespace erf;
+
 // From here on the vector paths refuse.
 template <class T> constexpr T limit = f32(0x4120DDFB, 10.054194450378418);
 template <> constexpr Lum64f limit<Lum64f> = f64(0x403B39DC41E48BFD, 27.226017111108366);

@@ -8,7 +8,7 @@
 #include "frame/numbers.h"
 #include "tables/table.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::erf {
 
 // The tables of erfinv and erfcinv.
 template <int degree> struct ErrorPolynomials;
@@ -58,4 +58,4 @@ template <class C, int degree> LUM_INLINE Vec<Lum32f> EvaluatePolynomial(Vec<Lum
   }
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::erf

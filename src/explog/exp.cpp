@@ -15,6 +15,8 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
+using namespace explog;
+
 template <class T> struct ExpConstants;
 template <> struct ExpConstants<Lum32f> {
   static constexpr auto shifter = rounding_shifter<Lum32f>(4);
@@ -70,7 +72,7 @@ struct Float : ExpKernel<Lum32f> {
         x, lanes, [](Vec<Lum32f> between) __attribute__((always_inline)) { return ExpFloatAtEnds(between); });
   }
 };
-// Those where it computes in binary64.
+// The tiers whose lane routine computes in binary64.
 template <class T> struct ByDouble : ExpKernel<T> {
   static LumStatus LaneRoutine(T x, T& result) { return ExpDoubleRoutine(x, result); }
   static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) {

@@ -7,7 +7,7 @@
 #include "frame/numbers.h"
 #include "tables/table.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::explog {
 
 struct LogarithmTerms {
   Vec<Lum64f> base, base_tail, r;
@@ -49,11 +49,10 @@ struct LnTerms_A53 {
   }
   static LUM_INLINE LogarithmTerms Corrected(const LogarithmTerms& t, Vec<Lum64f> x) { return {t.base, t.base_tail + x, t.r}; }
   static LUM_INLINE Vec<Lum64f> Sum(const LogarithmTerms& t) {
-    const auto s = t.base + t.r;
-    const auto u = t.r - (s - t.base);
+    const auto s = fast_two_sum(t.base, t.r);
     const auto p = horner(t.r, explog::ln_A53);
-    return s + (fma(p, t.r * t.r, u) + t.base_tail);
+    return s.head + (fma(p, t.r * t.r, s.tail) + t.base_tail);
   }
 };
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::explog

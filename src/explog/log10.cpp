@@ -13,6 +13,8 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
+using namespace explog;
+
 using Float = LogarithmKernel<Lum32f, Log10Routine<Lum32f>>;
 using Double = LogarithmKernel<Lum64f, Log10Routine<Lum64f>>;
 
@@ -21,7 +23,7 @@ struct A11_32f : Float {
 #include "tables/generated/log10_segments_32f_16_degree_3.inc"
   }));
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
-    return {SegmentLogarithm<3>(x, columns, numbers::log10_2<Lum32f>), ZeroInfiniteOrNegative(x)};
+    return {SegmentLogarithm<3>(x, columns, numbers::log10_2<Lum32f>), Refused(x)};
   }
 };
 
@@ -30,7 +32,7 @@ struct A21_32f : Float {
 #include "tables/generated/log10_segments_32f_16_degree_4.inc"
   }));
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
-    return {SegmentLogarithm<4>(x, columns, numbers::log10_2<Lum32f>), ZeroInfiniteOrNegative(x)};
+    return {SegmentLogarithm<4>(x, columns, numbers::log10_2<Lum32f>), Refused(x)};
   }
 };
 
@@ -59,7 +61,7 @@ struct A24_32f : Float {
     const auto tail = horner(r, explog::log10_A24);
     return {Compensated(fma(k, all(numbers::log10_2_short<Lum32f>), hi), fma(k, all(numbers::log10_2_short_tail<Lum32f>), lo),
                         r, numbers::log10_e<Lum32f>, tail),
-            ZeroInfiniteOrNegative(x)};
+            Refused(x)};
   }
 };
 
@@ -69,26 +71,17 @@ constexpr auto rows = table64({
 LUM_INLINE Vec<Lum64f> Row(const ReciprocalReduction& a) { return permute2(load<Lum64f>(rows), load(rows + 8), a.j); }
 
 // The coefficients behind the first, which A50 and A53 have in common.
-LUM_INLINE Vec<Lum64f> LongTail(Vec<Lum64f> r) {
-  const auto p2 = horner(r, part<1, 2>(explog::log10_A50));
-  const auto p4 = horner(r, part<3, 4>(explog::log10_A50));
-  const auto p6 = horner(r, part<5, 6>(explog::log10_A50));
-  const auto p8 = horner(r, part<7, 8>(explog::log10_A50));
-  const auto r2 = r * r;
-  return fma(fma(p8, r2, p6), r2 * r2, fma(p4, r2, p2));
-}
+LUM_INLINE Vec<Lum64f> LongTail(Vec<Lum64f> r) { return estrin(r, part<1, 8>(explog::log10_A50)); }
 
 LUM_INLINE Lanes<Lum64f> OnePart(Vec<Lum64f> x, const ReciprocalReduction& a, Vec<Lum64f> tail, Lum64f first_coefficient) {
   const auto p = fma(fma(tail, a.r, all(first_coefficient)), a.r, Row(a));
-  return {fma(a.e, all(numbers::log10_2<Lum64f>), p), ZeroInfiniteOrNegative(x)};
+  return {fma(a.e, all(numbers::log10_2<Lum64f>), p), Refused(x)};
 }
 
 struct A26_64f : Double {
   static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
     const auto a = ReduceByReciprocal<5>(x);
-    const auto p2 = horner(a.r, part<1, 2>(explog::log10_A26));
-    const auto p4 = horner(a.r, part<3, 4>(explog::log10_A26));
-    return OnePart(x, a, fma(p4, a.r * a.r, p2), explog::log10_A26.c[0]);
+    return OnePart(x, a, horner_of_pairs(a.r, a.r * a.r, part<1, 4>(explog::log10_A26)), explog::log10_A26.c[0]);
   }
 };
 
@@ -110,7 +103,7 @@ struct A53_64f : Double {
     const auto tail = fma(LongTail(a.r), a.r, all(explog::log10_A53.c[0]));
     return {Compensated(fma(a.e, all(numbers::log10_2_short<Lum64f>), hi),  // exact
                         fma(a.e, all(numbers::log10_2_short_tail<Lum64f>), lo), a.r, numbers::log10_e<Lum64f>, tail),
-            ZeroInfiniteOrNegative(x)};
+            Refused(x)};
   }
 };
 

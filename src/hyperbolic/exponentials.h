@@ -11,7 +11,7 @@
 #include "frame/numbers.h"
 #include "tables/table.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::hyperbolic {
 
 template <class T> inline constexpr int fraction_bits = std::numeric_limits<T>::digits - 1;
 
@@ -56,4 +56,4 @@ template <int column, class T> LUM_INLINE Vec<UnsignedOf<T>> LookupHalfPower(Vec
   return bits(permute2(load(entries), load(entries + lanes_of<T>), count));
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::hyperbolic

@@ -15,7 +15,7 @@
 #include "hyperbolic/polynomials.h"
 #include "tables/table.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::hyperbolic {
 
 // m = count ln(2)/64 + q for 0 <= m < 711.
 struct ScalarReduced {
@@ -130,4 +130,4 @@ template <class T> LumStatus CoshRoutine(T x, T& result) {
   return lumStsOk;
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::hyperbolic

@@ -9,7 +9,7 @@
 #include "hyperbolic/polynomials.h"
 #include "tables/table.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::hyperbolic {
 
 // The columns hi and lo of ln(1 + i/N): his are short, so that sums of them and of multiples of ln2_head are exact.
 template <class T> struct LogTable;
@@ -60,4 +60,4 @@ LUM_INLINE Vec<Lum64f> LogRatio(Vec<Lum64f> r) { return horner(r, hyperbolic::lo
 // (ln(1 + r) - r) / r^2 to the accuracy of A26.
 LUM_INLINE Vec<Lum64f> ShortLogRatio(Vec<Lum64f> r) { return horner(r, hyperbolic::log1p_A26); }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::hyperbolic

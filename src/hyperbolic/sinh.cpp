@@ -9,6 +9,8 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
+using namespace hyperbolic;
+
 template <class T> struct HyperbolicSine : Kernel<T> {
   static LumStatus LaneRoutine(T x, T& result) { return SinhRoutine(x, result); }
 };

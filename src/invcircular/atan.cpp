@@ -11,6 +11,8 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
+using namespace invcircular;
+
 template <class T> struct Grid;
 template <> struct Grid<Lum32f> {
   static constexpr auto shifter = 0x1p21f;  // the last bit is worth 1/4

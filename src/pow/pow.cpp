@@ -15,6 +15,8 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
+using namespace pow;
+
 template <class T> struct PowConstants;
 template <> struct PowConstants<Lum32f> {
   static constexpr auto limit = 125.5f;

@@ -16,7 +16,7 @@
 #include "pow/polynomials.h"
 #include "tables/table.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::pow {
 
 // What the scheme of PowerMagnitude takes in either type. A table of a stage has rows c, hi, lo.
 template <class T> struct PowerConstants;
@@ -227,4 +227,4 @@ template <class T> LumStatus PowerRoutine(T x, T y, T& result) {
   return lumStsOk;
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::pow

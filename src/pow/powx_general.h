@@ -12,7 +12,7 @@
 #include "pow/power_path.h"
 #include "tables/table.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::pow {
 
 template <class T> struct PowxGeneral : Kernel<T> {
   T value;
@@ -276,4 +276,4 @@ struct PowxA53_64f : PowxGeneral<Lum64f> {
   }
 };
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::pow

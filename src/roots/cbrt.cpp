@@ -8,6 +8,8 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
+using namespace roots;
+
 struct Data {
   static constexpr auto power = Power::one_third;
   static constexpr auto head_32f = table32({

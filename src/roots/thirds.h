@@ -8,7 +8,7 @@
 #include "frame/kernel_frame.h"
 #include "tables/table.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::roots {
 
 enum class Power { one_third, minus_one_third, two_thirds };
 
@@ -94,18 +94,6 @@ template <class T, size_t n> LUM_INLINE Vec<T> AtReciprocal(const Table<T, n>& t
   return permute2(load<T>(table), thirds, index);
 }
 
-// c0 + x c1 + x^2 (c2 + x c3 + x^2 (...)): pairs joined by the square in turn.
-template <size_t first = 0, Floating T, size_t n>
-LUM_INLINE Vec<T> horner_of_pairs(Vec<T> x, Vec<T> square, const Polynomial<T, n>& p) {
-  if constexpr (first + 1 == n) {
-    return all(p.c[first]);
-  } else {
-    const auto pair = fma(all(p.c[first + 1]), x, all(p.c[first]));
-    if constexpr (first + 2 == n) return pair;
-    else return fma(horner_of_pairs<first + 2>(x, square, p), square, pair);
-  }
-}
-
 enum class Tier { low, mid, high };
 
 // A power by what its Data hold: the power, the tables of c^power as head and tail of either type, and the polynomials
@@ -150,4 +138,4 @@ template <class F, Tier tier, class T> LUM_INLINE Vec<T> ThirdsMagnitude(const T
   }
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::roots
