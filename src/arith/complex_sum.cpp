@@ -9,6 +9,8 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
+using namespace arith;
+
 template <class T> bool IsInfinite(T x) {
   return x == std::numeric_limits<T>::infinity() || x == -std::numeric_limits<T>::infinity();
 }

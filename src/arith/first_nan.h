@@ -6,7 +6,7 @@
 
 #include "frame/vec.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::arith {
 
 // x86 instructions choose the first operand, and those of AVX-512 are written with their operands in order. In C++ a compiler
 // may exchange the terms of a sum or a product, and does so by element; the other layers name the instruction where they have
@@ -76,4 +76,4 @@ template <Floating T> LUM_INLINE Vec<T> SumInOrder(Vec<T> a, Vec<T> b) { return 
 template <Floating T> LUM_INLINE Vec<T> ProductInOrder(Vec<T> a, Vec<T> b) { return a * b; }
 #endif
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::arith

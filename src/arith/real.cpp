@@ -8,6 +8,8 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
+using namespace arith;
+
 template <class T> struct PlainKernel : Kernel<T> {
   static constexpr Variant variant = pure_vector_variant;
   static constexpr int vectors = 4;

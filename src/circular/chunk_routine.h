@@ -13,11 +13,11 @@
 #include "frame/constant.h"
 #include "frame/numbers.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::circular {
 
 // Entry j + 1: bits 25 j to 25 j + 24 of 4/pi, in its place times 2^200.
-inline constexpr auto ChunkTable25 = table64({
-#include "tables/generated/chunks_25.inc"
+inline constexpr auto four_over_pi_chunks = table64({
+#include "tables/generated/four_over_pi_chunks_64f_56.inc"
 });
 
 // A sum of numbers with their rounding errors.
@@ -49,7 +49,7 @@ inline ReducedArgument ReduceByChunks(double magnitude) {
   const auto xh = std::bit_cast<double>(std::bit_cast<uint64_t>(x) & 0xFFFFFFFFF8000000);
   const double xl = x - xh;
   const int exponent = static_cast<int>(pattern >> 52);
-  const double* p = &ChunkTable25.entries[(exponent - 1052) / 25];
+  const double* p = &four_over_pi_chunks.entries[(exponent - 1052) / 25];
 
   CompensatedSum octants;
   const auto add_pairs = [&](int first, int last) {
@@ -100,9 +100,9 @@ inline ReducedArgument ReduceByParts(double magnitude) {
   return {r.hi, r.lo, (whole + 1) >> 1};
 }
 
-// The sine of the angle of a row of AngleTable512, plus hi + lo.
+// The sine of the angle of a row of angles_64f, plus hi + lo.
 inline double SineAtRow(int64_t row, double hi, double lo) {
-  const double* entry = &AngleTable512.entries[4 * row];
+  const double* entry = &angles_64f.entries[4 * row];
   const double cos_tail = entry[0], cos_head = entry[1], sin_head = entry[2], sin_tail = entry[3];
   const double by_head = cos_head * hi, by_tail = cos_tail * hi;
   const double p = sin_head + by_head;
@@ -149,4 +149,4 @@ inline LumStatus SineAndCosine(double x, double& sine, double& cosine) {
   return lumStsOk;
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::circular

@@ -7,6 +7,8 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
+using namespace circular;
+
 template <class T> struct ComplexOf;
 template <> struct ComplexOf<Lum32f> { using Type = Lum32fc; };
 template <> struct ComplexOf<Lum64f> { using Type = Lum64fc; };

@@ -14,6 +14,8 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
+using namespace circular;
+
 struct Float : Kernel<Lum32f> {
   static constexpr bool second_in_all_layers = true;
   static LUM_INLINE Finished<Lum32f> SecondPath(Vec<Lum32f> x, const Lanes<Lum32f>& lanes) {

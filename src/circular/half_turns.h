@@ -6,7 +6,7 @@
 #include "frame/types.h"
 #include "frame/vec.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::circular {
 
 // The integer nearest to x/pi; in the low bits of `shifted` as an integer too.
 template <class T> struct HalfTurns { Vec<T> n, shifted; };
@@ -41,4 +41,4 @@ template <class T> LUM_INLINE Vec<UnsignedOf<T>> OddParitySign(Vec<T> shifted, V
   return ternary<A ^ B ^ C>(ParitySign(shifted), bits(x), bits(magnitude));
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::circular

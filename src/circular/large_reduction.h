@@ -12,29 +12,29 @@
 #include "frame/vec.h"
 #include "tables/table.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::circular {
 
 // Row e, for the exponent field e of x: three words with (1/pi) 2^(e - 884) modulo 2^192, or 2^(e - 55) modulo 2^96.
 // One more word, since rows are read four words at a time.
-inline constexpr Table<uint64_t, 3 * 2048 + 1> LargeReductionTable64 = {{
-#include "tables/generated/large_reduction_64.inc"
+inline constexpr Table<uint64_t, 3 * 2048 + 1> large_reduction_64f = {{
+#include "tables/generated/large_reduction_64f_2048.inc"
 }};
-inline constexpr Table<uint32_t, 3 * 256 + 1> LargeReductionTable32 = {{
-#include "tables/generated/large_reduction_32.inc"
+inline constexpr Table<uint32_t, 3 * 256 + 1> large_reduction_32f = {{
+#include "tables/generated/large_reduction_32f_256.inc"
 }};
 // Row i, for the angle of i/512 turn: tail and head of the cosine, head and tail of the sine. The head of the cosine is a power
 // of 2, so that its products are exact.
-inline constexpr auto AngleTable512 = table64({
-#include "tables/generated/angles_512.inc"
+inline constexpr auto angles_64f = table64({
+#include "tables/generated/angles_64f_512.inc"
 });
 // Row i, for the angle of i/256 turn: tail of the cosine, head and tail of the sine, head of the cosine.
-inline constexpr auto AngleTable256 = table32({
-#include "tables/generated/angles_256.inc"
+inline constexpr auto angles_32f = table32({
+#include "tables/generated/angles_32f_256.inc"
 });
 
 template <class T> struct LargeConstants;
 template <> struct LargeConstants<Lum64f> {
-  static constexpr const uint64_t* table = LargeReductionTable64;
+  static constexpr const uint64_t* table = large_reduction_64f;
   static constexpr int fraction_bits = 52;
   static constexpr uint64_t one = 0x3FF0000000000000, mid_unit = 0x3CB0000000000000, low_unit = 0x3970000000000000;
   static constexpr auto shifter = rounding_shifter<Lum64f>(9);  // the last bit of the sum is worth 1/512
@@ -42,7 +42,7 @@ template <> struct LargeConstants<Lum64f> {
   static constexpr uint64_t quarter = 128, index_mask = 511;
 };
 template <> struct LargeConstants<Lum32f> {
-  static constexpr const uint32_t* table = LargeReductionTable32;
+  static constexpr const uint32_t* table = large_reduction_32f;
   static constexpr int fraction_bits = 23;
   static constexpr uint32_t one = 0x3F800000, mid_unit = 0x34000000, low_unit = 0x28800000;
   static constexpr auto shifter = rounding_shifter<Lum32f>(8);  // the last bit of the sum is worth 1/256
@@ -117,7 +117,7 @@ template <class T> LUM_STAGE LargeAngle<T> ReduceLarge(VecIn<T> x, VecIn<Unsigne
 
 // sin(index + hi + lo), by the addition theorem with polynomials for the sine and cosine of hi.
 LUM_STAGE Vec<Lum64f> SineOf(VecIn<uint64_t> index, VecIn<Lum64f> hi, VecIn<Lum64f> lo) {
-  const auto [cos_tail, cos_head, sin_head, sin_tail] = gather_rows<Lum64f>(AngleTable512, shift_left<2>(index));
+  const auto [cos_tail, cos_head, sin_head, sin_tail] = gather_rows<Lum64f>(angles_64f, shift_left<2>(index));
   const auto p = fma(cos_head, hi, sin_head);
   const auto result = fma(cos_tail, hi, p);
   const auto error = fma(cos_tail, hi, p - result) + fma(cos_head, hi, sin_head - p);
@@ -130,7 +130,7 @@ LUM_STAGE Vec<Lum64f> SineOf(VecIn<uint64_t> index, VecIn<Lum64f> hi, VecIn<Lum6
   return result + (sum + fma(lo, slope, sin_tail));
 }
 LUM_STAGE Vec<Lum32f> SineOf(VecIn<uint32_t> index, VecIn<Lum32f> hi, VecIn<Lum32f> lo) {
-  const auto [cos_tail, sin_head, sin_tail, cos_head] = gather_rows<Lum32f>(AngleTable256, shift_left<2>(index));
+  const auto [cos_tail, sin_head, sin_tail, cos_head] = gather_rows<Lum32f>(angles_32f, shift_left<2>(index));
   const auto slope = fnma(sin_head, hi, cos_tail + cos_head);
   const auto q = hi * hi;
   const auto cosine_part = horner(q, circular::large_cosine_32f) * q;
@@ -160,4 +160,4 @@ template <class T> LUM_INLINE Vec<T> LargeCosine(Vec<T> x) {
   return CosineOf(a.index, a.hi, a.lo);
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::circular

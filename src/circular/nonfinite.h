@@ -5,7 +5,7 @@
 #include "frame/lane_format.h"
 #include "frame/types.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::circular {
 
 // sin, cos or tan of an infinity is a NaN with a status, that of a NaN is the NaN, quieted.
 template <class T> LumStatus CircularOfNonFinite(T x, T& result) {
@@ -27,4 +27,4 @@ template <class T> LUM_INLINE Finished<T> MergeLarge(Vec<T> x, const Lanes<T>& l
   return {SelectNonFinite(x, value), mask_of<T>(0), {.domain = fpclass<classes::infinity>(x)}};
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::circular

@@ -10,7 +10,7 @@
 #include "frame/vec.h"
 #include "tables/table.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::circular {
 
 template <class T> struct SineAndCosineValues {
   Vec<T> sine, cosine;
@@ -24,11 +24,11 @@ struct QuarterTurn {
 };
 
 // 2/pi, and from entry 1 on 2/pi modulo 2^(2 - 8k).
-inline constexpr auto ResidueHi = table64({
-#include "tables/generated/residue_head.inc"
+inline constexpr auto two_over_pi_heads = table64({
+#include "tables/generated/two_over_pi_residue_64f_16_head.inc"
 });
-inline constexpr auto ResidueLo = table64({
-#include "tables/generated/residue_tail.inc"
+inline constexpr auto two_over_pi_tails = table64({
+#include "tables/generated/two_over_pi_residue_64f_16_tail.inc"
 });
 
 // For a binary32 a >= 2^19. From 2^(23 + 8k) on, what entry k lacks of 2/pi gives whole multiples of four quarter turns.
@@ -36,8 +36,8 @@ LUM_INLINE QuarterTurn ReduceByResidue(Vec<Lum64f> a) {
   constexpr auto shifter = rounding_shifter<Lum64f>();
   const auto y = max(a, all(0x1p23));
   const auto k = shift_right<3>(shift_right<52>(bits(y)) - all(uint64_t{0x416}));
-  const auto hi = permute2(load<Lum64f>(ResidueHi), load(ResidueHi + 8), k);
-  const auto lo = permute2(load<Lum64f>(ResidueLo), load(ResidueLo + 8), k);
+  const auto hi = permute2(load<Lum64f>(two_over_pi_heads), load(two_over_pi_heads + 8), k);
+  const auto lo = permute2(load<Lum64f>(two_over_pi_tails), load(two_over_pi_tails + 8), k);
   const auto p = a * hi;
   const auto e = fma(a, lo, fms(a, hi, p));
   const auto t = p + all(shifter);
@@ -134,4 +134,4 @@ struct QuarterTurns_A24 {
   }
 };
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::circular

@@ -6,6 +6,8 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
+using namespace circular;
+
 template <class T> LUM_INLINE TwoLanes<T> Both(const SineAndCosineValues<T>& v) { return {v.sine, v.cosine, v.refused}; }
 
 // A tier without a second vector path finishes all refused lanes by the routine.

@@ -10,7 +10,7 @@
 #include "circular/quarter_turns.h"
 #include "circular/sixteenths.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::circular {
 
 // The results of the large reduction in the lanes beyond the threshold.
 LUM_INLINE SineAndCosineValues<Lum64f> MergeLarge(Vec<Lum64f> x, const SineAndCosineValues<Lum64f>& ordinary) {
@@ -71,4 +71,4 @@ inline LumStatus SineAndCosineRoutine(Lum32f x, Lum32f& sine, Lum32f& cosine) {
 }
 inline LumStatus SineAndCosineRoutine(Lum64f x, Lum64f& sine, Lum64f& cosine) { return SineAndCosine(x, sine, cosine); }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::circular

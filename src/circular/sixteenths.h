@@ -8,7 +8,7 @@
 #include "frame/vec.h"
 #include "tables/table.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::circular {
 
 // x = n pi/16 + hi + lo, n in the low bits of `shifted`; for |x| up to 2^24.
 struct Sixteenths {
@@ -30,15 +30,15 @@ LUM_INLINE Sixteenths TakeSixteenths(Vec<Lum64f> x) {
   return {hi, error2 + fnma(n, part3, r2 - hi), bits(t)};
 }
 
-inline constexpr auto sine_16 = table64({
-#include "tables/generated/sine_16.inc"
+inline constexpr auto sine_heads = table64({
+#include "tables/generated/sine_64f_16_head.inc"
 });
-inline constexpr auto cosine_16 = table64({
-#include "tables/generated/cosine_16.inc"
+inline constexpr auto cosine_heads = table64({
+#include "tables/generated/cosine_64f_16_head.inc"
 });
 // The tail of the cosine in the upper halves, below its last place that of the sine.
-inline constexpr auto tails_16 = table64({
-#include "tables/generated/sine_cosine_tails_16.inc"
+inline constexpr auto sine_cosine_tails = table64({
+#include "tables/generated/sine_cosine_64f_16_tails.inc"
 });
 
 // sin and cos of k pi/16, k the low four bits of the count, and what they lack.
@@ -50,8 +50,8 @@ LUM_INLINE Vec<Lum64f> Entry16(const double* table, Vec<uint64_t> index) {
   return permute2(load(table), load(table + 8), index);
 }
 LUM_INLINE TableAngle AngleOf(Vec<uint64_t> shifted) {
-  const auto tails = Entry16(tails_16, shifted);
-  return {Entry16(sine_16, shifted), Entry16(cosine_16, shifted), as_float(shift_left<32>(bits(tails))), tails};
+  const auto tails = Entry16(sine_cosine_tails, shifted);
+  return {Entry16(sine_heads, shifted), Entry16(cosine_heads, shifted), as_float(shift_left<32>(bits(tails))), tails};
 }
 
 // sin(k pi/16 + r), and the same of the cosine; the sign of a half turn, bit 4 of the count, is still to be applied.
@@ -78,4 +78,4 @@ LUM_INLINE Vec<uint64_t> HalfTurnSign(const Sixteenths& r, Vec<Lum64f> x) {
   return ternary<(A ^ B) & C>(shift_left<59>(r.shifted), bits(x), all(sign_bit<Lum64f>));
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::circular

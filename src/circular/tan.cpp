@@ -14,6 +14,8 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
+using namespace circular;
+
 // x = k pi/N + hi + lo; k in the low bits. Tiers without tails have lo = 0.
 template <class T> struct Reduced {
   Vec<T> hi, lo;
@@ -23,10 +25,10 @@ template <class T> struct Reduced {
 template <class T> struct TanConstants;
 template <> struct TanConstants<Lum32f> {  // N = 32
   static constexpr auto table = table32({
-#include "tables/generated/tangent_32.inc"
+#include "tables/generated/tangent_32f_32_head.inc"
   });
   static constexpr auto tails = table32({
-#include "tables/generated/tangent_32_tail.inc"
+#include "tables/generated/tangent_32f_32_tail.inc"
   });
   static constexpr auto large_step = numbers::pi<Lum32f> / 128,
                         large_step_tail = numbers::pi_tail<Lum32f> / 128;  // turn/256
@@ -34,10 +36,10 @@ template <> struct TanConstants<Lum32f> {  // N = 32
 };
 template <> struct TanConstants<Lum64f> {  // N = 16
   static constexpr auto table = table64({
-#include "tables/generated/tangent_16.inc"
+#include "tables/generated/tangent_64f_16_head.inc"
   });
   static constexpr auto tails = table64({
-#include "tables/generated/tangent_16_tail.inc"
+#include "tables/generated/tangent_64f_16_tail.inc"
   });
   static constexpr auto large_step = numbers::pi<Lum64f> / 256,
                         large_step_tail = numbers::pi_tail<Lum64f> / 256;  // turn/512

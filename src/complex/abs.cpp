@@ -23,8 +23,8 @@ template <class E> struct AbsKernel : Kernel<E, Real<E>> {
   static LUM_INLINE Vec<T> PlainSquare(ComplexVec<T> z) { return fma(z.re, z.re, z.im * z.im); }
 };
 
-template <class T> LUM_INLINE Roots<T> RootsOf(Vec<T> s) {
-  const auto start = Start(s, rsqrt14_normal(s));
+template <class T> LUM_INLINE roots::Roots<T> RootsOf(Vec<T> s) {
+  const auto start = roots::Start(s, rsqrt14_normal(s));
   if constexpr (sizeof(T) == 4) return start;
   else return CoupledStep(start);
 }
@@ -41,7 +41,7 @@ struct A26_64fc : AbsKernel<Lum64fc> {
   static LUM_INLINE Lanes<Lum64f> VectorPath(Interleaved<Lum64f> packed) {
     const auto z = split(packed);
     const auto s = PlainSquare(z);
-    return {CoupledStep(Start(s, rsqrt14_normal(s))).g, IsFar(z)};
+    return {CoupledStep(roots::Start(s, rsqrt14_normal(s))).g, IsFar(z)};
   }
 };
 

@@ -15,17 +15,17 @@ template <class E, class Path> struct ArgKernel : Kernel<E, Real<E>> {
   static constexpr bool second_is_short = true;
   static LUM_INLINE Lanes<Real<E>> SecondPath(Packed<E> packed, const Lanes<Real<E>>& lanes) {
     const auto z = split(packed);
-    return Atan2OfSpecial(z.im, z.re, lanes);
+    return invcircular::Atan2OfSpecial(z.im, z.re, lanes);
   }
-  static void LaneRoutine(const E& z, Real<E>& result) { Atan2Routine(z.im, z.re, result); }
+  static void LaneRoutine(const E& z, Real<E>& result) { invcircular::Atan2Routine(z.im, z.re, result); }
 };
 
-using A11_32fc = ArgKernel<Lum32fc, arctan2::Low<Lum32f>>;
-using A21_32fc = ArgKernel<Lum32fc, arctan2::A21_32f>;
-using A24_32fc = ArgKernel<Lum32fc, arctan2::A24_32f>;
-using A26_64fc = ArgKernel<Lum64fc, arctan2::Low<Lum64f>>;
-using A50_64fc = ArgKernel<Lum64fc, arctan2::A50_64f>;
-using A53_64fc = ArgKernel<Lum64fc, arctan2::A53_64f>;
+using A11_32fc = ArgKernel<Lum32fc, invcircular::arctan2::Low<Lum32f>>;
+using A21_32fc = ArgKernel<Lum32fc, invcircular::arctan2::A21_32f>;
+using A24_32fc = ArgKernel<Lum32fc, invcircular::arctan2::A24_32f>;
+using A26_64fc = ArgKernel<Lum64fc, invcircular::arctan2::Low<Lum64f>>;
+using A50_64fc = ArgKernel<Lum64fc, invcircular::arctan2::A50_64f>;
+using A53_64fc = ArgKernel<Lum64fc, invcircular::arctan2::A53_64f>;
 
 }  // namespace
 

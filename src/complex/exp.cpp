@@ -20,11 +20,11 @@ struct SineCosine {
 };
 
 // sin r of |r| <= pi/2, for binary32 results.
-LUM_INLINE Vec<Lum64f> SineOf(Vec<Lum64f> r) { return OddSine(r, circular::sin_A24); }
+LUM_INLINE Vec<Lum64f> SineOf(Vec<Lum64f> r) { return circular::OddSine(r, circular::sin_A24); }
 
 // Sine and cosine of a - n pi; the cosine by way of pi/2 - |r|.
 LUM_INLINE SineCosine SineCosineOf(Vec<Lum64f> a, Vec<Lum64f> n) {
-  const auto r = TakeHalfTurnsExactly(a, n);
+  const auto r = circular::TakeHalfTurnsExactly(a, n);
   const auto to_quarter = r - or_sign(r, all(numbers::pi<Lum64f> / 2));
   return {SineOf(r), negate(xor_sign(r, SineOf(to_quarter)))};
 }
@@ -39,7 +39,7 @@ struct DoubleExponential {
 
   static LUM_INLINE Vec<Lum64f> Half(Vec<Lum64f> x) {
     static constexpr auto table = table64({
-#include "tables/generated/exp2_1024_sixth.inc"
+#include "tables/generated/exp2_sixth_64f_1024.inc"
     });
     constexpr auto shifter = rounding_shifter<Lum64f>();
     const auto t = fma(x, all(1024 * numbers::log2_e<Lum64f>), all(shifter));
@@ -61,7 +61,7 @@ struct SingleExponential {
 
   static LUM_INLINE Values Of(Vec<Lum32f> x) {
     static constexpr auto table = table32({
-#include "tables/generated/exp2_float_128_pairs.inc"
+#include "tables/generated/exp2_32f_128_pairs.inc"
     });
     constexpr auto shifter = rounding_shifter<Lum32f>();
     const auto t = fma(x, all(128 * numbers::log2_e<Lum32f>), all(shifter));
@@ -81,10 +81,10 @@ template <class Exponential> struct Single : Kernel<Lum32fc> {
   static LUM_INLINE Lanes<Lum32fc> VectorPath(Interleaved<Lum32f> z) {
     const auto [x, y] = split(z);
     const auto a = abs(y);
-    const auto [n, shifted] = NearestHalfTurns(a);
+    const auto [n, shifted] = circular::NearestHalfTurns(a);
     const auto e = Exponential::Of(x);
     const auto low = SineCosineOf(widen_low(a), widen_low(n)), high = SineCosineOf(widen_high(a), widen_high(n));
-    const auto parity = ParitySign(shifted);
+    const auto parity = circular::ParitySign(shifted);
     const ComplexVec<Lum32f> result{narrow(e.low * low.cosine, e.high * high.cosine) ^ parity,
                                     narrow(e.low * low.sine, e.high * high.sine) ^ (parity ^ sign_of(y))};
     return {join(result), nlt(abs(x), all(Exponential::limit)) | nle(a, all(10000.0f))};
@@ -102,10 +102,10 @@ struct A26_64fc : Kernel<Lum64fc> {
     const auto [x, y] = split(z);
     const auto e = ExponentialOf(x);
     const auto a = abs(y);
-    const auto r = TakeSixteenths(a);
-    const auto angle = AngleOf(r.shifted);
-    const ComplexVec<Lum64f> result{e * (lum::CosineOf(angle, r) ^ HalfTurnSign(r)),
-                                    e * (lum::SineOf(angle, r) ^ HalfTurnSign(r, y))};
+    const auto r = circular::TakeSixteenths(a);
+    const auto angle = circular::AngleOf(r.shifted);
+    const ComplexVec<Lum64f> result{e * (circular::CosineOf(angle, r) ^ HalfTurnSign(r)),
+                                    e * (circular::SineOf(angle, r) ^ HalfTurnSign(r, y))};
     return {join(result), nle(a, all(0x1p24)) | nlt(e, all(infinity))};
   }
   static LumStatus LaneRoutine(const Lum64fc& z, Lum64fc& result) { return ReportingCoreOnLane<CoreExp>(z, result); }
@@ -113,10 +113,10 @@ struct A26_64fc : Kernel<Lum64fc> {
 
 LUM_INLINE Vec<Lum64f> A26_64fc::ExponentialOf(Vec<Lum64f> x) {
   static constexpr auto heads = table64({
-#include "tables/generated/exp2_double_16_head.inc"
+#include "tables/generated/exp2_64f_16_head.inc"
   });
   static constexpr auto tails = table64({
-#include "tables/generated/exp2_double_16_tail.inc"
+#include "tables/generated/exp2_64f_16_tail.inc"
   });
   // The low bits leave the index at zero and are subtracted out again.
   constexpr auto shifter = rounding_shifter<Lum64f>(4) + 0x3FF0p-4;
@@ -128,8 +128,8 @@ LUM_INLINE Vec<Lum64f> A26_64fc::ExponentialOf(Vec<Lum64f> x) {
   const auto q = r * r;
   const auto c12 = horner(r, part<0, 1>(complex::exp_A26)), c34 = horner(r, part<2, 3>(complex::exp_A26)),
              c56 = horner(r, part<4, 5>(complex::exp_A26));
-  const auto p = fma(fma(fma(c56, q, c34), q, c12), r, Entry16(tails, bits(t)));
-  const auto head = Entry16(heads, bits(t));
+  const auto p = fma(fma(fma(c56, q, c34), q, c12), r, circular::Entry16(tails, bits(t)));
+  const auto head = circular::Entry16(heads, bits(t));
   return scalef(fma(p, head, head), n);
 }
 
@@ -145,7 +145,7 @@ struct A53_64fc : Kernel<Lum64fc> {
   };
   static LUM_INLINE Exponential ExponentialOf(Vec<Lum64f> x) {
     static constexpr auto table = table64({
-#include "tables/generated/exp2_64_pairs.inc"
+#include "tables/generated/exp2_64f_64_pairs.inc"
     });
     constexpr auto shifter = rounding_shifter<Lum64f>();
     const auto t = fma(x, all(64 * numbers::log2_e<Lum64f>), all(shifter));
@@ -162,7 +162,7 @@ struct A53_64fc : Kernel<Lum64fc> {
   };
   static LUM_INLINE Turned SineCosineOf(Vec<Lum64f> y) {
     static constexpr auto table = table64({
-#include "tables/generated/sine_cosine_32.inc"
+#include "tables/generated/sine_cosine_64f_64_pairs.inc"
     });
     constexpr auto shifter = rounding_shifter<Lum64f>();
     const auto t = fma(y, all(32 * numbers::inverse_pi<Lum64f>), all(shifter));

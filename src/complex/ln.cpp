@@ -26,7 +26,7 @@ template <class E> struct LnKernel : Kernel<E> {
                infinite = fpclass<classes::infinity>(z.re) | fpclass<classes::infinity>(z.im);
     const auto finished = lanes.refused & (zero | infinite) & ~unord(z.re, z.im);
     const auto log = select(zero, all(-unbounded), all(unbounded));
-    const auto angle = Atan2OfSpecial(z.im, z.re, Lanes<T>{value.im, finished});
+    const auto angle = invcircular::Atan2OfSpecial(z.im, z.re, Lanes<T>{value.im, finished});
     return {join(ComplexVec<T>{select(finished, log, value.re), angle.value}), lanes.refused & ~finished};
   }
 };
@@ -35,12 +35,12 @@ template <class E> struct LnKernel : Kernel<E> {
 template <int degree> struct Segments;
 template <> struct Segments<3> {
   static constexpr auto columns = by_columns<3>(table32({
-#include "tables/generated/ln_segments_3.inc"
+#include "tables/generated/ln_segments_32f_16_degree_3.inc"
   }));
 };
 template <> struct Segments<4> {
   static constexpr auto columns = by_columns<4>(table32({
-#include "tables/generated/ln_segments_4.inc"
+#include "tables/generated/ln_segments_32f_16_degree_4.inc"
   }));
 };
 
@@ -81,7 +81,7 @@ template <int segment_degree> LUM_STAGE Vec<Lum32f> LogOfModulus(VecIn<Lum32f> x
   const auto r = select(is_near, t, m - all(1.0f));
   const auto k = zero_unless(~is_near, (getexp(s.head) - getexp(m)) + (s.exponent + s.exponent));
   const auto log =
-      fma(r, SegmentPolynomial<segment_degree>(m, r, Segments<segment_degree>::columns), k * all(numbers::ln2<Lum32f>));
+      fma(r, explog::SegmentPolynomial<segment_degree>(m, r, Segments<segment_degree>::columns), k * all(numbers::ln2<Lum32f>));
   return all(0.5f) * log;
 }
 
@@ -95,18 +95,18 @@ template <int segment_degree, class Angle> struct Single : LnKernel<Lum32fc> {
 
 // In binary64 the squares of binary32 numbers are exact, and x^2 - 1 is where s is near 1.
 LUM_STAGE Vec<Lum64f> HalfLogOfSquares(VecIn<Lum64f> large, VecIn<Lum64f> small) {
-  auto terms = LnTerms_A26::Terms(ReduceByReciprocal<4>(fma(large, large, small * small)));
+  auto terms = explog::LnTerms_A26::Terms(explog::ReduceByReciprocal<4>(fma(large, large, small * small)));
   const auto t = fma(large, large, all(-1.0)) + small * small;
   const auto is_near = lt(abs(t), all(0.0625));
   terms.base = zero_unless(~is_near, terms.base);
   terms.r = select(is_near, t, terms.r);
-  return all(0.5) * LnTerms_A26::Sum(terms);
+  return all(0.5) * explog::LnTerms_A26::Sum(terms);
 }
 
 struct A24_32fc : LnKernel<Lum32fc> {
   static LUM_INLINE Lanes<Lum32fc> VectorPath(Interleaved<Lum32f> packed) {
     const auto z = split(packed);
-    const auto angle = arctan2::A24_32f::VectorPath(z.im, z.re);
+    const auto angle = invcircular::arctan2::A24_32f::VectorPath(z.im, z.re);
     const auto x = abs(z.re), y = abs(z.im);
     const auto large = max(x, y), small = min(x, y);
     const auto low = HalfLogOfSquares(widen_low(large), widen_low(small));
@@ -117,7 +117,7 @@ struct A24_32fc : LnKernel<Lum32fc> {
 
 template <class Ln, bool has_all_places> LUM_STAGE Vec<Lum64f> LogOfModulus(VecIn<Lum64f> x, VecIn<Lum64f> y) {
   const auto s = SquareOfModulus(x, y);
-  auto reduction = ReduceByReciprocal<4>(s.head);
+  auto reduction = explog::ReduceByReciprocal<4>(s.head);
   reduction.e = reduction.e + (s.exponent + s.exponent);
   auto terms = Ln::Terms(reduction);
 
@@ -135,11 +135,11 @@ template <class Ln, class Angle, bool has_all_places = false> struct Double : Ln
   }
 };
 
-using A11_32fc = Single<3, arctan2::Low<Lum32f>>;
-using A21_32fc = Single<4, arctan2::A21_32f>;
-using A26_64fc = Double<LnTerms_A26, arctan2::Low<Lum64f>>;
-using A50_64fc = Double<LnTerms_A50, arctan2::A50_64f>;
-using A53_64fc = Double<LnTerms_A53, arctan2::A53_64f, true>;
+using A11_32fc = Single<3, invcircular::arctan2::Low<Lum32f>>;
+using A21_32fc = Single<4, invcircular::arctan2::A21_32f>;
+using A26_64fc = Double<explog::LnTerms_A26, invcircular::arctan2::Low<Lum64f>>;
+using A50_64fc = Double<explog::LnTerms_A50, invcircular::arctan2::A50_64f>;
+using A53_64fc = Double<explog::LnTerms_A53, invcircular::arctan2::A53_64f, true>;
 
 }  // namespace
 

@@ -78,9 +78,9 @@ struct A50_64fc : SqrtKernel<Lum64fc> {
     const auto y = abs(z.im);
     const auto s = Scale(abs(z.re), y);
     const auto square = fma(s.a, s.a, s.b * s.b);
-    const auto modulus = HeronStep(square, CoupledStep(Start(square, rsqrt14(square))));
+    const auto modulus = HeronStep(square, CoupledStep(roots::Start(square, rsqrt14(square))));
     const auto u = all(0.5) * (s.a + modulus);
-    const auto roots = CoupledStep(Start(u, rsqrt14(u)));
+    const auto roots = CoupledStep(roots::Start(u, rsqrt14(u)));
     const auto root = HeronStep(u, roots);
     const auto half_reciprocal = fma(fnma(root, roots.h, all(0.5)), roots.h + roots.h, roots.h);
     const auto large = root * PowerOfTwo<Lum64f>(s.h);
@@ -93,7 +93,7 @@ struct A50_64fc : SqrtKernel<Lum64fc> {
 LUM_INLINE Vec<Lum64f> DoubleRoot(Vec<Lum64f> x) {
   const auto is_small = lt(x, all(0.5));
   const auto scaled = select(is_small, x * all(0x1p108), x);
-  const auto root = HeronStep(scaled, CoupledStep(Start(scaled, rsqrt14(scaled))));
+  const auto root = HeronStep(scaled, CoupledStep(roots::Start(scaled, rsqrt14(scaled))));
   const auto unscaled = select(is_small, root * all(0x1p-54), root);
   return zero_unless(ne(x, all(0.0)), unscaled);
 }

@@ -15,6 +15,8 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
+using namespace erf;
+
 // From here down the vector paths refuse.
 template <class T> constexpr T limit = f32(0xC162B914, -14.170185089111328);
 template <> constexpr Lum64f limit<Lum64f> = f64(0xC0433E21DC3F3BD7, -38.485408335567335);
@@ -49,7 +51,7 @@ struct Float : Kernel<Lum32f> {
 };
 
 constexpr Table<uint64_t, 908> float_table = {{
-#include "tables/generated/cdfnorm_64_float.inc"
+#include "tables/generated/cdfnorm_32f_908.inc"
 }};
 
 struct A11_32f : Float {
@@ -71,7 +73,7 @@ struct A21_32f : Float {
 
 struct A24_32f : Float {
   static constexpr Table<uint64_t, 908> table = {{
-#include "tables/generated/cdfnorm_64_float_packed.inc"
+#include "tables/generated/cdfnorm_32f_908_packed.inc"
   }};
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
     const auto [d, w, v, row] = DistanceIn(x);
@@ -91,7 +93,7 @@ struct Double : Kernel<Lum64f> {
 
 struct A26_64f : Double {
   static constexpr auto table = table64({
-#include "tables/generated/cdfnorm_64.inc"
+#include "tables/generated/cdfnorm_64f_2468.inc"
   });
   static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
     const auto [d, w, v, row] = DistanceOf(x, last_centre, least_distance, 2 * shifter);
@@ -103,7 +105,7 @@ struct A26_64f : Double {
 
 struct A50_64f : Double {
   static constexpr auto table = table64({
-#include "tables/generated/cdfnorm_128.inc"
+#include "tables/generated/cdfnorm_64f_4928.inc"
   });
   static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
     const auto [d, w, v, row] = DistanceOf(x, last_centre, least_distance, shifter);
@@ -117,7 +119,7 @@ struct A50_64f : Double {
 
 struct A53_64f : Double {
   static constexpr auto table = table64({
-#include "tables/generated/cdfnorm_128_packed.inc"
+#include "tables/generated/cdfnorm_64f_4928_packed.inc"
   });
   static LUM_INLINE Vec<Lum64f> Series(Vec<Lum64f> w, Vec<Lum64f> v) {
     const auto in_w = horner(w, erf::cdfnorm_A53_w);

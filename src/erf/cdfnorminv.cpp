@@ -11,6 +11,8 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
+using namespace erf;
+
 constexpr auto minus_root2 = -numbers::root_two_parts<Lum64f>[0];
 constexpr auto minus_root2_rest = -numbers::root_two_parts<Lum64f>[1];
 
@@ -37,17 +39,17 @@ template <class T> LumStatus FinishRefused(T x, T& result) {
 template <int degree> struct FloatTable;
 template <> struct FloatTable<3> {
   static constexpr auto table = table32({
-#include "tables/generated/cdfnorminv_float_3.inc"
+#include "tables/generated/cdfnorminv_32f_32_degree_3.inc"
   });
 };
 template <> struct FloatTable<7> {
   static constexpr auto table = table32({
-#include "tables/generated/cdfnorminv_float_7.inc"
+#include "tables/generated/cdfnorminv_32f_32_degree_7.inc"
   });
 };
 template <> struct FloatTable<9> {
   static constexpr auto table = table32({
-#include "tables/generated/cdfnorminv_float_9.inc"
+#include "tables/generated/cdfnorminv_32f_32_degree_9.inc"
   });
   static constexpr auto centre_rest = numbers::root_two_pi_parts<Lum32f>[1];  // sqrt(2 pi) less its binary32 number
 };

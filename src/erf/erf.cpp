@@ -12,6 +12,8 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
+using namespace erf;
+
 // No argument is refused.
 template <class T, int vectors_in_block> struct Erf : Kernel<T> {
   static constexpr Variant variant = pure_vector_variant;
@@ -63,7 +65,7 @@ struct Split {
 };
 
 constexpr auto erf_table = table64({
-#include "tables/generated/erf_128.inc"
+#include "tables/generated/erf_64f_768.inc"
 });
 
 struct Plain {
@@ -101,7 +103,7 @@ struct A50_64f : Erf<Lum64f, 2> {
 
 struct A53_64f : Erf<Lum64f, 2> {
   static constexpr auto table = table64({
-#include "tables/generated/erf_128_packed.inc"
+#include "tables/generated/erf_64f_768_packed.inc"
   });
   // (2/sqrt pi) (1 + E) - 1.
   static LUM_INLINE Vec<Lum64f> Series(Vec<Lum64f> w, Vec<Lum64f> v) {

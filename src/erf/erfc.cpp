@@ -14,6 +14,8 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
+using namespace erf;
+
 // From here on the vector paths refuse.
 template <class T> constexpr T limit = f32(0x4120DDFB, 10.054194450378418);
 template <> constexpr Lum64f limit<Lum64f> = f64(0x403B39DC41E48BFD, 27.226017111108366);
@@ -43,7 +45,7 @@ constexpr auto float_shifter = 0x1p17f;  // the last place is 1/64
 
 struct A21_32f : Float {
   static constexpr Table<uint64_t, 648> table = {{
-#include "tables/generated/erfc_64_float.inc"
+#include "tables/generated/erfc_32f_648.inc"
   }};
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
     const auto [d, w, v, row] = DistanceOf(x, 10.0625f, 0x1p-48f, float_shifter);
@@ -57,7 +59,7 @@ struct A21_32f : Float {
 
 struct A24_32f : Float {
   static constexpr Table<uint64_t, 648> table = {{
-#include "tables/generated/erfc_64_float_packed.inc"
+#include "tables/generated/erfc_32f_648_packed.inc"
   }};
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
     const auto [d, w, v, row] = DistanceOf(x, 10.046875f, 0x1p-32f, float_shifter);
@@ -77,7 +79,7 @@ constexpr auto least_distance = 0x1p-128;
 
 struct A26_64f : Double {
   static constexpr auto table = table64({
-#include "tables/generated/erfc_64.inc"
+#include "tables/generated/erfc_64f_1744.inc"
   });
   static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
     constexpr auto shifter = 0x1p46;  // the last place is 1/64
@@ -92,7 +94,7 @@ struct A26_64f : Double {
 
 struct A50_64f : Double {
   static constexpr auto table = table64({
-#include "tables/generated/erfc_128.inc"
+#include "tables/generated/erfc_64f_3488.inc"
   });
   static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
     const auto [d, w, v, row] = DistanceOf(x, 27.2421875, least_distance, double_shifter);
@@ -109,7 +111,7 @@ struct A50_64f : Double {
 
 struct A53_64f : Double {
   static constexpr auto table = table64({
-#include "tables/generated/erfc_128_packed.inc"
+#include "tables/generated/erfc_64f_3488_packed.inc"
   });
   static LUM_INLINE Vec<Lum64f> Series(Vec<Lum64f> w, Vec<Lum64f> v) {
     const auto in_v = horner(w, erf::erfc_A53_v);

@@ -10,6 +10,8 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
+using namespace erf;
+
 // The function of any argument; the refused lanes hold 1, numbers next to 0 and 2, and those outside of the domain.
 template <class T> LumStatus FinishRefused(T x, T& result) {
   if (x != x) {

@@ -11,6 +11,8 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
+using namespace erf;
+
 // The function of any argument; the refused lanes hold numbers next to 0, the ends of the domain, and those outside of it.
 template <class T> LumStatus FinishRefused(T x, T& result) {
   if (x != x) {

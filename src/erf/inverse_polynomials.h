@@ -8,23 +8,23 @@
 #include "frame/numbers.h"
 #include "tables/table.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::erf {
 
 // The tables of erfinv and erfcinv.
 template <int degree> struct ErrorPolynomials;
 template <> struct ErrorPolynomials<3> {
   static constexpr auto table = table32({
-#include "tables/generated/erfcinv_float_3.inc"
+#include "tables/generated/erfcinv_32f_32_degree_3.inc"
   });
 };
 template <> struct ErrorPolynomials<7> {
   static constexpr auto table = table32({
-#include "tables/generated/erfcinv_float_7.inc"
+#include "tables/generated/erfcinv_32f_32_degree_7.inc"
   });
 };
 template <> struct ErrorPolynomials<9> {
   static constexpr auto table = table32({
-#include "tables/generated/erfcinv_float_9.inc"
+#include "tables/generated/erfcinv_32f_32_degree_9.inc"
   });
   static constexpr auto centre_rest = numbers::half_root_pi_parts<Lum32f>[1];  // sqrt(pi)/2 less its binary32 number
 };
@@ -58,4 +58,4 @@ template <class C, int degree> LUM_INLINE Vec<Lum32f> EvaluatePolynomial(Vec<Lum
   }
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::erf

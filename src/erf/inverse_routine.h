@@ -12,11 +12,11 @@
 #include "frame/types.h"
 #include "tables/table.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::erf {
 
 // -ln q for 0 < q < 1/2.
 inline TwoParts<double> MinusLog(double q) {
-  const auto [hi, lo, v, w] = SplitLn(q);
+  const auto [hi, lo, v, w] = explog::SplitLn(q);
   const double t = v + w;
   const double tail =
       t * t *
@@ -31,7 +31,7 @@ inline TwoParts<double> MinusLog(double q) {
 // pieces of the t axis.
 inline TwoParts<double> ErfcInvOfTail(double q) {
   static constexpr auto table = table64({
-#include "tables/generated/erfcinv_tail.inc"
+#include "tables/generated/erfcinv_tail_64f_6.inc"
   });
   constexpr size_t row_size = 17;
   const TwoParts<double> square = MinusLog(q);
@@ -56,4 +56,4 @@ template <class T> LumStatus OutsideDomain(T& result) {
   return lumStsDomain;
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::erf

@@ -9,12 +9,12 @@
 #include "frame/numbers.h"
 #include "tables/table.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::erf {
 
 // Word 0 of a row: erfcinv q0 cut toward zero, its pattern less a constant, in the low 58 bits; above them the count of units
 // of its relative tail, 2^-58. Word 1: the slope exp(y0^2).
 inline constexpr auto inverse_table = table64({
-#include "tables/generated/erfcinv_rows.inc"
+#include "tables/generated/erfcinv_64f_13313.inc"
 });
 
 struct Expansion {
@@ -86,4 +86,4 @@ template <int terms, bool has_tail> LUM_INLINE Vec<Lum64f> SumOf(Vec<Lum64f> y, 
   else return fma(series, d, y);
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::erf

@@ -6,7 +6,7 @@
 #include "erf/rows.h"
 #include "frame/lane_format.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::erf {
 
 template <class T> struct PackedRow;
 template <> struct PackedRow<Lum32f> {
@@ -40,4 +40,4 @@ template <class T> LUM_INLINE Vec<T> Fall(const Unpacked<T>& row, Vec<T> d, Vec<
   return head + fnma(row.slope * d, series, rest);
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::erf

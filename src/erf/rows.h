@@ -3,7 +3,7 @@
 
 #include "frame/packed.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::erf {
 
 template <class T> struct Centre {
   Vec<T> c;
@@ -40,4 +40,4 @@ LUM_INLINE RowOfTwo<Lum32f> GatherRow(const uint64_t* table, Vec<uint32_t> row) 
   return {first, second};
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::erf

@@ -15,15 +15,17 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
+using namespace explog;
+
 template <class T> struct ExpConstants;
 template <> struct ExpConstants<Lum32f> {
   static constexpr auto shifter = rounding_shifter<Lum32f>(4);
   static constexpr auto threshold = -ExpLimits<Lum32f>::denormal;
   static constexpr auto head = table32({
-#include "tables/generated/exp2_16_head.inc"
+#include "tables/generated/exp2_32f_16_head.inc"
   });
   static constexpr auto tail = table32({
-#include "tables/generated/exp2_16_tail.inc"
+#include "tables/generated/exp2_32f_16_tail.inc"
   });
 };
 template <> struct ExpConstants<Lum64f> {
@@ -31,10 +33,10 @@ template <> struct ExpConstants<Lum64f> {
   static constexpr auto shifter = rounding_shifter<Lum64f>(3) + 0x3FF0p-3;
   static constexpr auto threshold = f64(0x40861DA04CBAFE44, 707.7032713517042);
   static constexpr auto head = table64({
-#include "tables/generated/exp2_8_head.inc"
+#include "tables/generated/exp2_64f_8_head.inc"
   });
   static constexpr auto tail = table64({
-#include "tables/generated/exp2_8_tail.inc"
+#include "tables/generated/exp2_64f_8_tail.inc"
   });
 };
 
@@ -70,7 +72,7 @@ struct Float : ExpKernel<Lum32f> {
         x, lanes, [](Vec<Lum32f> between) __attribute__((always_inline)) { return ExpFloatAtEnds(between); });
   }
 };
-// Those where it computes in binary64.
+// The tiers whose lane routine computes in binary64.
 template <class T> struct ByDouble : ExpKernel<T> {
   static LumStatus LaneRoutine(T x, T& result) { return ExpDoubleRoutine(x, result); }
   static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) {

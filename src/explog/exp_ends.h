@@ -7,12 +7,12 @@
 #include "explog/exp_routine.h"
 #include "frame/kernel_frame.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::explog {
 
 // v / 2^scale rounded to a multiple of the smallest positive number of T, for 0 <= v <= 2^scale times the smallest normal one.
 // The sum is in the binade of the addend, or next above it exactly; so its pattern less the addend's counts the multiples.
 template <int scale> LUM_INLINE Vec<Lum32f> RoundedToDenormal(Vec<Lum32f> v) {
-  constexpr auto addend = std::bit_cast<Lum32f>(static_cast<uint32_t>(1 + scale) << 23);
+  constexpr auto addend = lane::power_of_two<Lum32f>(1 + scale - lane::Format<Lum32f>::bias);
   return as_float(bits(v + all(addend)) - bits(all(addend)));
 }
 
@@ -33,7 +33,7 @@ struct ExpDoubleValue {
 LUM_INLINE ExpDoubleValue ExpDoubleAtEnds(Vec<Lum64f> x) {
   const auto a = ExpDoubleReduced(x);
   const auto j = shift_left<1>(bits(a.shifted) & all(uint64_t{63}));
-  const auto head = gather<Lum64f>(exp2_64, j), tail = gather<Lum64f>(exp2_64 + 1, j);
+  const auto head = gather<Lum64f>(exp2_pairs, j), tail = gather<Lum64f>(exp2_pairs + 1, j);
   return {head, (a.u + tail) * head, a.k * all(1.0 / 64)};  // scalef takes the floor of the exponent
 }
 
@@ -42,7 +42,7 @@ LUM_INLINE Vec<Lum64f> ExpAtEnds(Vec<Lum64f> x) {
   const auto normal = scalef(a.head + a.p, a.exponent);
   const auto denormal = lt(x, all(ExpLimits<Lum64f>::denormal));
   if (!any(denormal)) return normal;
-  // As ExpScaledToDenormal.
+  // The steps of ExpScaledToDenormal.
   const auto exponent = select(denormal, a.exponent, all(-1000.0)) + all(60.0);
   const auto up = scalef(a.p, exponent), b = scalef(a.head, exponent);
   const auto s = b + up;
@@ -54,7 +54,7 @@ LUM_INLINE Vec<Lum64f> ExpAtEnds(Vec<Lum64f> x) {
   const auto hi = (w + s) - w;
   const auto lo = (s - hi) + ((b - s) + up);
   const auto in_two_parts = counted(hi, unit) + counted(lo, 1.5 * unit);
-  const auto is_short = lt(exponent, all(static_cast<double>(0x33 - 1023)));
+  const auto is_short = lt(exponent, all(exp_last_short + 60 + 1.0));
   const auto count = select(mask_cast<uint64_t>(is_short), counted(s, unit), in_two_parts);
   return select(denormal, as_float(count), normal);
 }
@@ -86,4 +86,4 @@ template <class T, class AtEnds> LUM_INLINE Finished<T> ExpSecondPath(Vec<T> x, 
   return {value, mask_of<T>(0), {.overflow = above & finite, .underflow = denormal}};
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::explog

@@ -10,12 +10,13 @@
 
 #include "explog/polynomials.h"
 #include "frame/constant.h"
+#include "frame/lane_format.h"
 #include "frame/literals.h"
 #include "frame/numbers.h"
 #include "frame/types.h"
 #include "tables/table.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::explog {
 
 // Where the results of the lane routines change their kind, in either type.
 template <class T> struct ExpLimits;
@@ -48,46 +49,42 @@ template <class T> bool ExpIsSpecial(T x, T& result, LumStatus& status) {
   return true;
 }
 
-// e^x = 2^m p in binary32 arithmetic, to about 22 bits; m also in the low bits of `shifted`.
-template <class V> struct ExpFloatParts { V shifted, m, p; };
+// e^x = 2^m p in binary32 arithmetic, to about 22 bits.
+template <class V> struct ExpFloatParts { V m, p; };
 template <class V> LUM_INLINE ExpFloatParts<V> ExpFloatReduced(V x) {
   const auto c = [](float value) { return Constant<V>(value); };
   constexpr auto shifter = rounding_shifter<Lum32f>();
   const V t = x * c(numbers::log2_e<Lum32f>) + c(shifter);
   const V m = t - c(shifter);
   const V r = (x + m * c(-numbers::ln2_short<Lum32f>)) + m * c(-numbers::ln2_short_tail<Lum32f>);
-  return {t, m, unfused_horner(r, explog::exp_routine_32f)};
+  return {m, unfused_horner(r, explog::exp_routine_32f)};
 }
 
 // e^x in binary32 arithmetic.
 inline LumStatus ExpFloatRoutine(Lum32f x, Lum32f& result) {
   LumStatus status;
   if (ExpIsSpecial(x, result, status)) return status;
-  const auto [shifted, m, p] = ExpFloatReduced(x);
-  const uint32_t exponent = std::bit_cast<uint32_t>(shifted) << 23;  // m in the place of the exponent
+  const auto [m, p] = ExpFloatReduced(x);
+  const int n = static_cast<int>(m);
   if (x < ExpLimits<Lum32f>::denormal) {
-    const auto scale = std::bit_cast<float>((exponent + 0x5D800000u) & 0x7F800000u);  // 2^(m + 60)
-    result = p * scale * 0x1p-60f;
+    result = p * lane::power_of_two<Lum32f>(n + 60) * 0x1p-60f;
     return lumStsUnderflow;
   }
-  if (m < 128) {
-    result = p * std::bit_cast<float>(exponent + 0x3F800000u);
-  } else {
-    result = p * std::bit_cast<float>(exponent + 0x3F000000u) * 2.0f;
-  }
+  result = n < 128 ? p * lane::power_of_two<Lum32f>(n) : p * 0x1p127f * 2.0f;
   return lumStsOk;
 }
 
+// Up to this exponent a denormal result has so few bits that rounding the sum before does no harm.
+inline constexpr int exp_last_short = -1033;
 // 2^e s for e^x = 2^e (head + p) with a denormal result, rounded once: s = head + p and its rounding error are split so that
 // the last sum alone is inexact.
-inline double ExpScaledToDenormal(double head, double p, int64_t e) {
-  const int64_t field = e + 0x43B;
-  const auto scale = std::bit_cast<double>(field << 52);  // 2^(e + 60)
+inline double ExpScaledToDenormal(double head, double p, int e) {
+  const auto scale = lane::power_of_two<double>(e + 60);
   const double a = p * scale;
   const double b = head * scale;
   const double s = b + a;
   constexpr double down = 0x1p-60;
-  if (field <= 0x32) return s * down;
+  if (e <= exp_last_short) return s * down;
   const double w = s * 0x1.8p32;
   const double hi = (w + s) - w;
   const double lo = (s - hi) + ((b - s) + a);
@@ -95,14 +92,14 @@ inline double ExpScaledToDenormal(double head, double p, int64_t e) {
 }
 
 // 2^e s, also where 2^e alone would overflow.
-inline double ExpScaled(double s, int64_t e) {
+inline double ExpScaled(double s, int e) {
   if (e == 1024) return s * 0x1p1023 * 2.0;
-  return s * std::bit_cast<double>((e + 1023) << 52);
+  return s * lane::power_of_two<double>(e);
 }
 
 // 2^(j/64) in two parts.
-inline constexpr auto exp2_64 = table64({
-#include "tables/generated/exp2_64_pairs.inc"
+inline constexpr auto exp2_pairs = table64({
+#include "tables/generated/exp2_64f_64_pairs.inc"
 });
 
 // x = k ln(2)/64 + r,  e^r = 1 + u; k also in the low bits of `shifted`.
@@ -126,15 +123,15 @@ template <class T> LumStatus ExpDoubleRoutine(T argument, T& result) {
     return lumStsOk;
   }
   const auto [shifted, k, u] = ExpDoubleReduced(x);
-  const auto count = static_cast<int64_t>(k);
+  const auto count = static_cast<int>(k);
   const auto j = static_cast<size_t>(count & 63);
-  const int64_t e = count >> 6;
-  const double head = exp2_64[2 * j];
-  const double p = (u + exp2_64[2 * j + 1]) * head;
+  const int e = count >> 6;
+  const double head = exp2_pairs[2 * j];
+  const double p = (u + exp2_pairs[2 * j + 1]) * head;
   const bool is_denormal = argument < ExpLimits<T>::denormal;
   if (std::is_same_v<T, Lum64f> && is_denormal) result = static_cast<T>(ExpScaledToDenormal(head, p, e));
   else result = static_cast<T>(ExpScaled(head + p, e));
   return is_denormal ? lumStsUnderflow : lumStsOk;
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::explog

@@ -15,34 +15,36 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
+using namespace explog;
+
 // n has N = entries steps a unit.
 template <class T, int entries> struct Grid;
 template <> struct Grid<Lum32f, 32> {
   static constexpr auto shifter = rounding_shifter<Lum32f>(5);
   static constexpr auto head = table32({
-#include "tables/generated/exp2_32_head.inc"
+#include "tables/generated/exp2_32f_32_head.inc"
   });
   static constexpr auto tail = table32({
-#include "tables/generated/exp2_32_tail.inc"
+#include "tables/generated/exp2_32f_32_tail.inc"
   });
 };
 template <> struct Grid<Lum32f, 16> {
   static constexpr auto shifter = rounding_shifter<Lum32f>(4);
   static constexpr auto head = table32({
-#include "tables/generated/exp2_16_head.inc"
+#include "tables/generated/exp2_32f_16_head.inc"
   });
   static constexpr auto tail = table32({
-#include "tables/generated/exp2_16_tail.inc"
+#include "tables/generated/exp2_32f_16_tail.inc"
   });
 };
 template <> struct Grid<Lum64f, 16> {
   // The low bits leave the index bits at zero and are subtracted out again.
   static constexpr auto shifter = rounding_shifter<Lum64f>(4) + 0x3FF0p-4;
   static constexpr auto head = table64({
-#include "tables/generated/exp2_double_16_head.inc"
+#include "tables/generated/exp2_64f_16_head.inc"
   });
   static constexpr auto tail = table64({
-#include "tables/generated/exp2_double_16_tail.inc"
+#include "tables/generated/exp2_64f_16_tail.inc"
   });
 };
 
@@ -84,8 +86,9 @@ template <class T, size_t entries> LUM_INLINE Vec<T> Lookup(const Table<T, entri
 // s q + (s - 1) with the sign of x.
 template <class T> LUM_INLINE Vec<T> Join(Vec<T> x, Vec<T> s, Vec<T> q) { return or_sign(x, fma(s, q, s - all(T(1)))); }
 
-template <class T> LUM_INLINE Mask<T> AboveThreshold(Vec<T> x) { return le(all(Expm1Constants<T>::threshold), x); }
-template <class T> LUM_INLINE Mask<T> AboveThresholdOrNan(Vec<T> x) { return nlt(x, all(Expm1Constants<T>::threshold)); }
+// Large positive arguments; without a NaN, which runs through, or with it.
+template <class T> LUM_INLINE Mask<T> Refused(Vec<T> x) { return le(all(Expm1Constants<T>::threshold), x); }
+template <class T> LUM_INLINE Mask<T> RefusedWithNan(Vec<T> x) { return nlt(x, all(Expm1Constants<T>::threshold)); }
 
 // s, kept from vanishing, so that s - 1 has a well-formed error.
 template <class T> LUM_INLINE Vec<T> LowerBoundedScale(Vec<T> head, Vec<T> n) {
@@ -118,7 +121,7 @@ struct A11_32f : Kernel<Lum32f> {
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
     const auto a = Reduce<32, 1>(x);
     const auto q = fma(a.r * a.r, horner(a.r, explog::expm1_A11), a.r);
-    return {Join(x, scalef(Lookup(Grid<Lum32f, 32>::head, a.j), a.n), q), AboveThreshold(x)};
+    return {Join(x, scalef(Lookup(Grid<Lum32f, 32>::head, a.j), a.n), q), Refused(x)};
   }
   static LumStatus LaneRoutine(Lum32f x, Lum32f& result) { return LaneRoutineBy(ExpFloatRoutine, x, result); }
 };
@@ -129,7 +132,7 @@ struct A21_32f : Kernel<Lum32f> {
     const auto a = Reduce<32, 2>(x);
     const auto p = horner(a.r, explog::expm1_A21);
     const auto q = fma(a.r * a.r, p, Lookup(G::tail, a.j)) + a.r;
-    return {Join(x, scalef(Lookup(G::head, a.j), a.n), q), AboveThreshold(x)};
+    return {Join(x, scalef(Lookup(G::head, a.j), a.n), q), Refused(x)};
   }
   static LumStatus LaneRoutine(Lum32f x, Lum32f& result) { return LaneRoutineBy(ExpFloatRoutine, x, result); }
 };
@@ -140,7 +143,7 @@ struct A24_32f : Kernel<Lum32f> {
     const auto a = Reduce<16, 2>(x);
     const auto p = horner(a.r, explog::expm1_A24);
     const auto s = LowerBoundedScale(Lookup(G::head, a.j), a.n);
-    return {JoinCompensated(x, a, Lookup(G::tail, a.j), s, p), AboveThresholdOrNan(x)};
+    return {JoinCompensated(x, a, Lookup(G::tail, a.j), s, p), RefusedWithNan(x)};
   }
   static LumStatus LaneRoutine(Lum32f x, Lum32f& result) { return LaneRoutineBy(ExpDoubleRoutine<Lum32f>, x, result); }
 };
@@ -153,11 +156,9 @@ struct Double : Kernel<Lum64f> {
 struct A26_64f : Double {
   static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
     const auto a = Reduce<16, 1>(x);
-    const auto p2 = horner(a.r, part<0, 1>(explog::expm1_A26));
-    const auto p4 = horner(a.r, part<2, 3>(explog::expm1_A26));
     const auto r2 = a.r * a.r;
-    const auto q = fma(r2, fma(r2, p4, p2), a.r);
-    return {Join(x, scalef(Lookup(G::head, a.j), a.n), q), AboveThreshold(x)};
+    const auto q = fma(r2, horner_of_pairs(a.r, r2, explog::expm1_A26), a.r);
+    return {Join(x, scalef(Lookup(G::head, a.j), a.n), q), Refused(x)};
   }
 };
 
@@ -170,20 +171,17 @@ struct A50_64f : Double {
     const auto r2 = a.r * a.r;
     const auto p = fma(r2, fma(r2, p6, p4), p2);
     const auto q = fma(r2, p, Lookup(G::tail, a.j)) + a.r;
-    return {Join(x, LowerBoundedScale(Lookup(G::head, a.j), a.n), q), AboveThresholdOrNan(x)};
+    return {Join(x, LowerBoundedScale(Lookup(G::head, a.j), a.n), q), RefusedWithNan(x)};
   }
 };
 
 struct A53_64f : Double {
   static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
     const auto a = Reduce<16, 2>(x);
-    const auto p3 = horner(a.r, part<1, 2>(explog::expm1_A53));
-    const auto p5 = horner(a.r, part<3, 4>(explog::expm1_A53));
-    const auto p7 = horner(a.r, part<5, 6>(explog::expm1_A53));
-    const auto r2 = a.r * a.r;
-    const auto p = fma(fma(r2, fma(r2, p7, p5), p3), a.r, all(explog::expm1_A53.c[0]));
+    const auto p1 = horner_of_pairs(a.r, a.r * a.r, part<1, 6>(explog::expm1_A53));
+    const auto p = fma(p1, a.r, all(explog::expm1_A53.c[0]));
     const auto s = LowerBoundedScale(Lookup(G::head, a.j), a.n);
-    return {JoinCompensated(x, a, Lookup(G::tail, a.j), s, p), AboveThresholdOrNan(x)};
+    return {JoinCompensated(x, a, Lookup(G::tail, a.j), s, p), RefusedWithNan(x)};
   }
 };
 

@@ -13,42 +13,43 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
+using namespace explog;
+
 using Float = LogarithmKernel<Lum32f, LnRoutine<Lum32f>>;
 using Double = LogarithmKernel<Lum64f, LnRoutine<Lum64f>>;
 
 struct A11_32f : Float {
   static constexpr auto columns = by_columns<3>(table32({
-#include "tables/generated/ln_segments_3.inc"
+#include "tables/generated/ln_segments_32f_16_degree_3.inc"
   }));
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
-    return {SegmentLogarithm<3>(x, columns, numbers::ln2<Lum32f>), ZeroInfiniteOrNegative(x)};
+    return {SegmentLogarithm<3>(x, columns, numbers::ln2<Lum32f>), Refused(x)};
   }
 };
 
 struct A21_32f : Float {
   static constexpr auto columns = by_columns<4>(table32({
-#include "tables/generated/ln_segments_4.inc"
+#include "tables/generated/ln_segments_32f_16_degree_4.inc"
   }));
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
-    return {SegmentLogarithm<4>(x, columns, numbers::ln2<Lum32f>), ZeroInfiniteOrNegative(x)};
+    return {SegmentLogarithm<4>(x, columns, numbers::ln2<Lum32f>), Refused(x)};
   }
 };
 
 struct A24_32f : Float {
   // hi, then lo.
   static constexpr auto inverse = by_columns<2>(table32({
-#include "tables/generated/ln_float_16_pairs.inc"
+#include "tables/generated/minus_ln_above_one_32f_16_pairs.inc"
   }));
   static constexpr auto half_inverse = by_columns<2>(table32({
-#include "tables/generated/ln_float_16_half_pairs.inc"
+#include "tables/generated/minus_ln_below_one_32f_16_pairs.inc"
   }));
 
   // hi + lo + ln(1 + r), where hi is 0 or larger than r.
   static LUM_INLINE Vec<Lum32f> Join(Vec<Lum32f> hi, Vec<Lum32f> lo, Vec<Lum32f> r) {
-    const auto s = hi + r;
-    const auto u = r - (s - hi);
+    const auto s = fast_two_sum(hi, r);
     const auto p = horner(r, explog::ln_A24);
-    return s + (u + fma(p, r * r, lo));
+    return s.head + (s.tail + fma(p, r * r, lo));
   }
 
   // By the reciprocal of the significand: for denormal x, and for x so large that 1/x is denormal or zero.

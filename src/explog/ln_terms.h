@@ -7,7 +7,7 @@
 #include "frame/numbers.h"
 #include "tables/table.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::explog {
 
 struct LogarithmTerms {
   Vec<Lum64f> base, base_tail, r;
@@ -18,7 +18,7 @@ struct ShortLnTerms {
   static constexpr int refused_classes = classes::zero | classes::infinity | classes::negative;  // a NaN passes through
   static LUM_INLINE LogarithmTerms Terms(const ReciprocalReduction& a) {
     static constexpr auto rows = table64({
-#include "tables/generated/ln_8.inc"
+#include "tables/generated/minus_ln_64f_8.inc"
     });
     const auto base = fma(a.e, all(numbers::ln2<Lum64f>), permute(load<Lum64f>(rows), a.j));
     return {base, all(0.0), a.r};
@@ -41,7 +41,7 @@ struct LnTerms_A53 {
   static constexpr int refused_classes = classes::not_positive_finite;
   static LUM_INLINE LogarithmTerms Terms(const ReciprocalReduction& a) {
     static constexpr auto pairs = by_columns<2>(table64({
-#include "tables/generated/ln_8_pairs.inc"
+#include "tables/generated/minus_ln_64f_8_pairs.inc"
     }));
     const auto base = fma(a.e, all(numbers::ln2_head<Lum64f>), permute(load<Lum64f>(pairs), a.j));  // exact
     const auto tail = fma(a.e, all(numbers::ln2_rest<Lum64f>), permute(load(pairs + 8), a.j));
@@ -49,11 +49,10 @@ struct LnTerms_A53 {
   }
   static LUM_INLINE LogarithmTerms Corrected(const LogarithmTerms& t, Vec<Lum64f> x) { return {t.base, t.base_tail + x, t.r}; }
   static LUM_INLINE Vec<Lum64f> Sum(const LogarithmTerms& t) {
-    const auto s = t.base + t.r;
-    const auto u = t.r - (s - t.base);
+    const auto s = fast_two_sum(t.base, t.r);
     const auto p = horner(t.r, explog::ln_A53);
-    return s + (fma(p, t.r * t.r, u) + t.base_tail);
+    return s.head + (fma(p, t.r * t.r, s.tail) + t.base_tail);
   }
 };
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::explog

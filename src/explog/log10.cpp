@@ -13,24 +13,26 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
+using namespace explog;
+
 using Float = LogarithmKernel<Lum32f, Log10Routine<Lum32f>>;
 using Double = LogarithmKernel<Lum64f, Log10Routine<Lum64f>>;
 
 struct A11_32f : Float {
   static constexpr auto columns = by_columns<3>(table32({
-#include "tables/generated/log10_segments_3.inc"
+#include "tables/generated/log10_segments_32f_16_degree_3.inc"
   }));
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
-    return {SegmentLogarithm<3>(x, columns, numbers::log10_2<Lum32f>), ZeroInfiniteOrNegative(x)};
+    return {SegmentLogarithm<3>(x, columns, numbers::log10_2<Lum32f>), Refused(x)};
   }
 };
 
 struct A21_32f : Float {
   static constexpr auto columns = by_columns<4>(table32({
-#include "tables/generated/log10_segments_4.inc"
+#include "tables/generated/log10_segments_32f_16_degree_4.inc"
   }));
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
-    return {SegmentLogarithm<4>(x, columns, numbers::log10_2<Lum32f>), ZeroInfiniteOrNegative(x)};
+    return {SegmentLogarithm<4>(x, columns, numbers::log10_2<Lum32f>), Refused(x)};
   }
 };
 
@@ -44,7 +46,7 @@ template <class T> LUM_INLINE Vec<T> Compensated(Vec<T> b, Vec<T> lo, Vec<T> r, 
 struct A24_32f : Float {
   // hi, then lo.
   static constexpr auto half_inverse = by_columns<2>(table32({
-#include "tables/generated/log10_float_32_half_pairs.inc"
+#include "tables/generated/minus_log10_below_one_32f_32_pairs.inc"
   }));
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
     constexpr auto shifter = rounding_shifter<Lum32f>(5);
@@ -59,36 +61,27 @@ struct A24_32f : Float {
     const auto tail = horner(r, explog::log10_A24);
     return {Compensated(fma(k, all(numbers::log10_2_short<Lum32f>), hi), fma(k, all(numbers::log10_2_short_tail<Lum32f>), lo),
                         r, numbers::log10_e<Lum32f>, tail),
-            ZeroInfiniteOrNegative(x)};
+            Refused(x)};
   }
 };
 
 constexpr auto rows = table64({
-#include "tables/generated/log10_16.inc"
+#include "tables/generated/minus_log10_64f_16.inc"
 });
 LUM_INLINE Vec<Lum64f> Row(const ReciprocalReduction& a) { return permute2(load<Lum64f>(rows), load(rows + 8), a.j); }
 
 // The coefficients behind the first, which A50 and A53 have in common.
-LUM_INLINE Vec<Lum64f> LongTail(Vec<Lum64f> r) {
-  const auto p2 = horner(r, part<1, 2>(explog::log10_A50));
-  const auto p4 = horner(r, part<3, 4>(explog::log10_A50));
-  const auto p6 = horner(r, part<5, 6>(explog::log10_A50));
-  const auto p8 = horner(r, part<7, 8>(explog::log10_A50));
-  const auto r2 = r * r;
-  return fma(fma(p8, r2, p6), r2 * r2, fma(p4, r2, p2));
-}
+LUM_INLINE Vec<Lum64f> LongTail(Vec<Lum64f> r) { return estrin(r, part<1, 8>(explog::log10_A50)); }
 
 LUM_INLINE Lanes<Lum64f> OnePart(Vec<Lum64f> x, const ReciprocalReduction& a, Vec<Lum64f> tail, Lum64f first_coefficient) {
   const auto p = fma(fma(tail, a.r, all(first_coefficient)), a.r, Row(a));
-  return {fma(a.e, all(numbers::log10_2<Lum64f>), p), ZeroInfiniteOrNegative(x)};
+  return {fma(a.e, all(numbers::log10_2<Lum64f>), p), Refused(x)};
 }
 
 struct A26_64f : Double {
   static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
     const auto a = ReduceByReciprocal<5>(x);
-    const auto p2 = horner(a.r, part<1, 2>(explog::log10_A26));
-    const auto p4 = horner(a.r, part<3, 4>(explog::log10_A26));
-    return OnePart(x, a, fma(p4, a.r * a.r, p2), explog::log10_A26.c[0]);
+    return OnePart(x, a, horner_of_pairs(a.r, a.r * a.r, part<1, 4>(explog::log10_A26)), explog::log10_A26.c[0]);
   }
 };
 
@@ -101,7 +94,7 @@ struct A50_64f : Double {
 
 struct A53_64f : Double {
   static constexpr auto pairs = by_columns<2>(table64({
-#include "tables/generated/log10_16_pairs.inc"
+#include "tables/generated/minus_log10_64f_16_pairs.inc"
   }));
   static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
     const auto a = ReduceByReciprocal<5>(x);
@@ -110,7 +103,7 @@ struct A53_64f : Double {
     const auto tail = fma(LongTail(a.r), a.r, all(explog::log10_A53.c[0]));
     return {Compensated(fma(a.e, all(numbers::log10_2_short<Lum64f>), hi),  // exact
                         fma(a.e, all(numbers::log10_2_short_tail<Lum64f>), lo), a.r, numbers::log10_e<Lum64f>, tail),
-            ZeroInfiniteOrNegative(x)};
+            Refused(x)};
   }
 };
 

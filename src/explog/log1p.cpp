@@ -16,15 +16,12 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
-// s + c = 1 + x exactly, s the rounded sum. max and min give their second operand when either is a NaN, so that a NaN x is both
-// addends.
-template <class T> struct OnePlus { Vec<T> s, c; };
-template <class T> LUM_INLINE OnePlus<T> AddOne(Vec<T> x) {
+using namespace explog;
+
+// 1 + x exactly. max and min give their second operand when either is a NaN, so that a NaN x is both addends.
+template <class T> LUM_INLINE TwoParts<Vec<T>> AddOne(Vec<T> x) {
   const auto one = all(T(1));
-  const auto high = max(one, x);
-  const auto low = min(one, x);
-  const auto s = high + low;
-  return {s, low - (s - high)};
+  return fast_two_sum(max(one, x), min(one, x));
 }
 
 // Refused are those s = 1 + x that are not positive, infinite or NaN.
@@ -90,22 +87,19 @@ template <int fraction_bits, class T> LUM_INLINE Reciprocal<T> TakeReciprocal(Ve
 // The reduced argument r and what its sum has lost.
 template <class T> LUM_INLINE TwoParts<Vec<T>> ReduceInTwoParts(const Reciprocal<T>& a) {
   const auto r0 = fms(a.w, a.m, all(T(1)));
-  const auto c = a.c * a.w;
-  const auto r = r0 + c;
-  return {r, c - (r - r0)};
+  return fast_two_sum(r0, a.c * a.w);
 }
 
-// hi + lo + ln(1 + r) with ln(1 + r) = r + r^2 p. Of an s that is refused, hi is infinite or r NaN, so d is NaN.
+// hi + lo + ln(1 + r) with ln(1 + r) = r + r^2 p. Of an s that is refused, hi is infinite or r NaN, so the sum's tail is NaN.
 template <class T> LUM_INLINE Lanes<T> JoinPairs(Vec<T> x, Vec<T> hi, Vec<T> lo, Vec<T> r, Vec<T> p) {
-  const auto s = hi + r;
-  const auto d = r - (s - hi);
-  return {or_sign(x, s + (fma(r * r, p, lo) + d)), unord(d, d)};
+  const auto s = fast_two_sum(hi, r);
+  return {or_sign(x, s.head + (fma(r * r, p, lo) + s.tail)), unord(s.tail, s.tail)};
 }
 
 struct A24_32f : Log1p<Lum32f> {
   // hi, then lo.
   static constexpr auto pairs = by_columns<2>(table32({
-#include "tables/generated/ln_float_32_half_pairs.inc"
+#include "tables/generated/minus_ln_below_one_32f_32_pairs.inc"
   }));
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
     const auto a = TakeReciprocal<6>(x);
@@ -122,23 +116,13 @@ struct A24_32f : Log1p<Lum32f> {
 LUM_INLINE Vec<Lum64f> RaisedExponent(const Reciprocal<Lum64f>& a) { return add(lt(a.w, all(0.75)), a.e, all(1.0)); }
 
 constexpr auto rows = table64({
-#include "tables/generated/ln_16.inc"
+#include "tables/generated/minus_ln_64f_16.inc"
 });
 LUM_INLINE Vec<Lum64f> ReducedInOnePart(const Reciprocal<Lum64f>& a) { return fma(a.w, a.c, fms(a.w, a.m, all(1.0))); }
 LUM_INLINE Lanes<Lum64f> JoinOnePart(Vec<Lum64f> x, const Reciprocal<Lum64f>& a, Vec<Lum64f> r, Vec<Lum64f> p) {
   const auto q = fma(p, r * r, r);
   const auto b = fma(RaisedExponent(a), all(numbers::ln2<Lum64f>), permute2(load<Lum64f>(rows), load(rows + 8), a.j));
   return {or_sign(x, b + q), unord(q, q)};
-}
-
-// (ln(1 + r) - r) / r^2 to the accuracy of A50 and A53.
-LUM_INLINE Vec<Lum64f> LongPolynomial(Vec<Lum64f> r) {
-  const auto p2 = horner(r, part<0, 1>(explog::log1p_A50));
-  const auto p4 = horner(r, part<2, 3>(explog::log1p_A50));
-  const auto p6 = horner(r, part<4, 5>(explog::log1p_A50));
-  const auto p8 = horner(r, part<6, 7>(explog::log1p_A50));
-  const auto r2 = r * r;
-  return fma(fma(p8, r2, p6), r2 * r2, fma(p4, r2, p2));
 }
 
 struct A26_64f : Log1p<Lum64f> {
@@ -155,13 +139,13 @@ struct A50_64f : Log1p<Lum64f> {
   static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
     const auto a = TakeReciprocal<5>(x);
     const auto r = ReducedInOnePart(a);
-    return JoinOnePart(x, a, r, LongPolynomial(r));
+    return JoinOnePart(x, a, r, estrin(r, explog::log1p_A50));
   }
 };
 
 struct A53_64f : Log1p<Lum64f> {
   static constexpr auto pairs = by_columns<2>(table64({
-#include "tables/generated/ln_16_pairs.inc"
+#include "tables/generated/minus_ln_64f_16_pairs.inc"
   }));
   static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
     const auto a = TakeReciprocal<5>(x);
@@ -169,7 +153,7 @@ struct A53_64f : Log1p<Lum64f> {
     const auto r = ReduceInTwoParts(a);
     const auto hi = fma(e, all(numbers::ln2_short<Lum64f>), permute2(load<Lum64f>(pairs), load(pairs + 8), a.j));
     const auto lo = fma(e, all(numbers::ln2_rest<Lum64f>), permute2(load(pairs + 16), load(pairs + 24), a.j));
-    return JoinPairs(x, hi, lo + r.tail, r.head, LongPolynomial(r.head));
+    return JoinPairs(x, hi, lo + r.tail, r.head, estrin(r.head, explog::log1p_A50));
   }
 };
 

@@ -7,11 +7,11 @@
 #include "frame/types.h"
 #include "frame/vec.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::explog {
 
 // Zeros, infinities and negative numbers, of which a logarithm has to report or whose result is special. NaN is not among them:
 // the significand and the exponent of a NaN are NaN and carry it to the result.
-template <Floating T> LUM_INLINE Mask<T> ZeroInfiniteOrNegative(Vec<T> x) {
+template <Floating T> LUM_INLINE Mask<T> Refused(Vec<T> x) {
   return fpclass<classes::zero | classes::infinity | classes::negative>(x);
 }
 
@@ -65,4 +65,4 @@ template <int fraction_bits> LUM_INLINE ReciprocalReduction ReduceByReciprocal(V
   return {r, add(lt(c, all(0.75)), e, all(1.0)), bits(t)};
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::explog

@@ -8,12 +8,14 @@
 
 #include "explog/polynomials.h"
 #include "frame/constant.h"
+#include "frame/lane_format.h"
 #include "frame/literals.h"
 #include "frame/numbers.h"
+#include "frame/two_parts.h"
 #include "frame/types.h"
 #include "tables/table.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::explog {
 
 // The logarithm of any argument; positive(x) gives that of a positive finite one.
 template <class T, class Positive> LumStatus LogarithmRoutine(T x, T& result, Positive positive) {
@@ -45,16 +47,15 @@ struct LnParts {
 };
 inline LnParts SplitLn(double x) {
   static constexpr auto table = table64({
-#include "tables/generated/ln_routine.inc"
+#include "tables/generated/ln_routine_64f_65.inc"
   });
   double e = 0;
   if (x < std::numeric_limits<double>::min()) {
     x *= 0x1p60;
     e = -60;
   }
-  const auto word = std::bit_cast<uint64_t>(x);
-  e += static_cast<double>(static_cast<int64_t>(word >> 52) - 1023);
-  const auto m = std::bit_cast<double>((word & 0x000FFFFFFFFFFFFF) | 0x3FF0000000000000);
+  e += lane::exponent_field(x) - lane::Format<double>::bias;
+  const auto m = lane::significand_of(x);
 
   const size_t i = std::bit_cast<uint64_t>(m + shifter_to_index<Lum64f>) & 0x7F;
   const double c = table[3 * i], hi = table[3 * i + 1], lo = table[3 * i + 2];
@@ -81,7 +82,7 @@ template <class T> LumStatus LnRoutine(T x, T& result) { return LogarithmRoutine
 template <class T> struct Log10Constants;
 template <> struct Log10Constants<Lum32f> {
   static constexpr auto table = table32({
-#include "tables/generated/log10_routine_float.inc"
+#include "tables/generated/log10_routine_32f_65.inc"
   });
   static constexpr auto denormal_scale = 0x1p40f;
   static constexpr float denormal_exponent = -40;
@@ -93,7 +94,7 @@ template <> struct Log10Constants<Lum32f> {
 };
 template <> struct Log10Constants<Lum64f> {
   static constexpr auto table = table64({
-#include "tables/generated/log10_routine.inc"
+#include "tables/generated/log10_routine_64f_65.inc"
   });
   static constexpr auto denormal_scale = 0x1p60;
   static constexpr double denormal_exponent = -60;
@@ -107,9 +108,7 @@ template <> struct Log10Constants<Lum64f> {
 // log10 x of a positive finite x, by the same split as SplitLn, in the arithmetic of T.
 template <class T> T Log10Positive(T x) {
   using C = Log10Constants<T>;
-  using Word = std::conditional_t<sizeof(T) == 4, uint32_t, uint64_t>;
-  constexpr int fraction_bits = std::numeric_limits<T>::digits - 1;
-  constexpr auto one = std::bit_cast<Word>(T(1));
+  using Word = typename lane::Format<T>::Bits;
   T e = 0;
   if (x < std::numeric_limits<T>::min()) {
     x *= C::denormal_scale;
@@ -121,9 +120,8 @@ template <class T> T Log10Positive(T x) {
     return C::scale * head + (C::scale * (near_one - head) + near_one * C::Tail(near_one));
   }
 
-  const auto word = std::bit_cast<Word>(x);
-  e += static_cast<T>(static_cast<int>(word >> fraction_bits) - static_cast<int>(one >> fraction_bits));
-  const auto m = std::bit_cast<T>((word & ((Word{1} << fraction_bits) - 1)) | one);
+  e += static_cast<T>(lane::exponent_field(x) - lane::Format<T>::bias);
+  const auto m = lane::significand_of(x);
   const size_t i = std::bit_cast<Word>(m + C::index_shifter) & 0x7F;
   const T c = C::table[3 * i], hi = C::table[3 * i + 1], lo = C::table[3 * i + 2];
   const T log10_of_2_hi = C::table[3 * 64 + 1], log10_of_2_lo = C::table[3 * 64 + 2];
@@ -134,10 +132,10 @@ template <class T> T Log10Positive(T x) {
   const T t = v + w;
   const T a = e * log10_of_2_hi + hi;  // exact; 0 or larger than b
   const T b = C::scale * v;
-  const T sum = a + b;
-  return sum + ((b - (sum - a)) + (((e * log10_of_2_lo + lo) + C::scale * w) + t * C::Tail(t)));
+  const auto sum = fast_two_sum(a, b);
+  return sum.head + (sum.tail + (((e * log10_of_2_lo + lo) + C::scale * w) + t * C::Tail(t)));
 }
 
 template <class T> LumStatus Log10Routine(T x, T& result) { return LogarithmRoutine(x, result, Log10Positive<T>); }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::explog

@@ -20,6 +20,7 @@ template <Floating T> struct Format {
   static constexpr Bits infinity = (sign - 1) & ~fraction;
   static constexpr Bits quiet = hidden >> 1;
   static constexpr Bits default_nan = sign | infinity | quiet;
+  static constexpr Bits one = static_cast<Bits>(bias) << fraction_bits;
 };
 
 template <Floating T> LUM_INLINE UnsignedOf<T> to_bits(T x) { return std::bit_cast<UnsignedOf<T>>(x); }
@@ -29,6 +30,14 @@ template <Floating T> LUM_INLINE T magnitude(T x) { return from_bits<T>(to_bits(
 template <Floating T> LUM_INLINE constexpr T power_of_two(int n) {
   using F = Format<T>;
   return std::bit_cast<T>(static_cast<typename F::Bits>(n + F::bias) << F::fraction_bits);
+}
+// The exponent of a normal number, above it `bias`; 0 for zeros and denormals, 2 bias + 1 for infinities and NaN.
+template <Floating T> LUM_INLINE int exponent_field(T x) {
+  return static_cast<int>(to_bits(magnitude(x)) >> Format<T>::fraction_bits);
+}
+// The significand of a positive normal number, in [1, 2).
+template <Floating T> LUM_INLINE T significand_of(T x) {
+  return from_bits<T>((to_bits(x) & Format<T>::fraction) | Format<T>::one);
 }
 // All bits set, or none.
 template <class Bits> LUM_INLINE Bits mask_if(bool condition) { return condition ? static_cast<Bits>(~Bits{0}) : Bits{0}; }

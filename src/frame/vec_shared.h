@@ -4,6 +4,7 @@
 
 #include <utility>
 
+#include "frame/lane_format.h"
 #include "frame/literals.h"
 #include "frame/polynomial.h"
 #include "frame/two_parts.h"
@@ -76,6 +77,31 @@ template <Floating T, size_t n> LUM_INLINE Vec<T> horner(VecIn<T> x, const Polyn
 template <Floating T, size_t n> LUM_INLINE Vec<T> horner(VecIn<T> x, const T (&c)[n]) {
   return [&]<size_t... i>(std::index_sequence<i...>) __attribute__((always_inline)) { return horner(x, c[i]...); }
   (std::make_index_sequence<n>());
+}
+
+// (c0 + x c1) + x^2 ((c2 + x c3) + x^2 (...)): the pairs stand side by side and are joined by the square in turn.
+template <size_t first = 0, Floating T, size_t n>
+LUM_INLINE Vec<T> horner_of_pairs(Vec<T> x, Vec<T> square, const Polynomial<T, n>& p) {
+  if constexpr (first + 1 == n) {
+    return all(p.c[first]);
+  } else {
+    const auto pair = fma(all(p.c[first + 1]), x, all(p.c[first]));
+    if constexpr (first + 2 == n) return pair;
+    else return fma(horner_of_pairs<first + 2>(x, square, p), square, pair);
+  }
+}
+// ((c6 + x c7) x^2 + (c4 + x c5)) x^4 + ((c2 + x c3) x^2 + (c0 + x c1)), G. Estrin's scheme for eight coefficients.
+template <Floating T> LUM_INLINE Vec<T> estrin(Vec<T> x, const Polynomial<T, 8>& p) {
+  const auto square = x * x;
+  return fma(horner_of_pairs(x, square, part<4, 7>(p)), square * square, horner_of_pairs(x, square, part<0, 3>(p)));
+}
+
+// The exponent fields of numbers that are not negative, and 2^(n - bias) for such fields n.
+template <Floating T> LUM_INLINE Vec<UnsignedOf<T>> exponent_field(Vec<T> x) {
+  return shift_right<lane::Format<T>::fraction_bits>(bits(x));
+}
+template <Floating T> LUM_INLINE Vec<T> power_of_two(Vec<UnsignedOf<T>> field) {
+  return as_float(shift_left<lane::Format<T>::fraction_bits>(field));
 }
 
 // a + b exactly, for any two finite numbers without overflow.

@@ -9,6 +9,8 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
+using namespace hyperbolic;
+
 template <class T> struct Routine : Kernel<T> {
   static constexpr T fill = T(2.5);
   static LumStatus LaneRoutine(T x, T& result) {

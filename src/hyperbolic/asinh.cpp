@@ -9,6 +9,8 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
+using namespace hyperbolic;
+
 template <class T> struct Routine : Kernel<T> {
   static void LaneRoutine(T x, T& result) { result = x != x ? x * x : x; }
 };

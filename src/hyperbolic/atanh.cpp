@@ -10,6 +10,8 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
+using namespace hyperbolic;
+
 // One of the two logarithms: ln(1 + r) - ln w.
 template <class T> struct Side { Vec<T> w, r; };
 template <class T> struct Sides {

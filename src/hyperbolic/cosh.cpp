@@ -8,6 +8,8 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
+using namespace hyperbolic;
+
 // The bits of the least magnitude that is refused; those of infinities and NaN lie above.
 template <class T> inline constexpr UnsignedOf<T> first_refused = 0x42AEAC4E;
 template <> inline constexpr uint64_t first_refused<Lum64f> = 0x40861D9A00000000;

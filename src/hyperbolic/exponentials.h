@@ -11,7 +11,7 @@
 #include "frame/numbers.h"
 #include "tables/table.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::hyperbolic {
 
 template <class T> inline constexpr int fraction_bits = std::numeric_limits<T>::digits - 1;
 
@@ -42,13 +42,13 @@ template <class T> struct HalfPowerTable;
 template <> struct HalfPowerTable<Lum32f> {
   static constexpr int row_bits = 5;
   static constexpr auto columns = by_columns<4>(table32({
-#include "tables/generated/half_exp2_float_32.inc"
+#include "tables/generated/half_exp2_32f_32.inc"
   }));
 };
 template <> struct HalfPowerTable<Lum64f> {
   static constexpr int row_bits = 4;
   static constexpr auto columns = by_columns<4>(table64({
-#include "tables/generated/half_exp2_16.inc"
+#include "tables/generated/half_exp2_64f_16.inc"
   }));
 };
 template <int column, class T> LUM_INLINE Vec<UnsignedOf<T>> LookupHalfPower(Vec<UnsignedOf<T>> count) {
@@ -56,4 +56,4 @@ template <int column, class T> LUM_INLINE Vec<UnsignedOf<T>> LookupHalfPower(Vec
   return bits(permute2(load(entries), load(entries + lanes_of<T>), count));
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::hyperbolic

@@ -15,7 +15,7 @@
 #include "hyperbolic/polynomials.h"
 #include "tables/table.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::hyperbolic {
 
 // m = count ln(2)/64 + q for 0 <= m < 711.
 struct ScalarReduced {
@@ -31,15 +31,15 @@ inline ScalarReduced ReduceBySixtyFourths(double m) {
 
 inline double PowerOfTwo(int64_t exponent) { return std::bit_cast<double>((exponent + 1023) << 52); }
 
-inline constexpr auto exp2_64_split = table64({
-#include "tables/generated/exp2_64_split.inc"
+inline constexpr auto exp2_pairs = table64({
+#include "tables/generated/exp2_64f_65_pairs.inc"
 });
 
 // e^m / 2, which is both functions where e^-m does not matter, up to the overflow of binary64.
 inline double HalfExponential(double m) {
   const auto [count, q] = ReduceBySixtyFourths(m);
   const auto i = static_cast<size_t>(count & 63);
-  const double hi = exp2_64_split[2 * i], lo = exp2_64_split[2 * i + 1];
+  const double hi = exp2_pairs[2 * i], lo = exp2_pairs[2 * i + 1];
   const double p = q + q * q * unfused_horner(q, explog::exp_routine_64f);
   const double sum = hi + (hi * p + lo);
   // The largest exponent has no power of 2 of its own.
@@ -56,8 +56,8 @@ inline SumAndDifference HalfPowers(double m) {
   const auto [count, q] = ReduceBySixtyFourths(m);
   const auto i = static_cast<size_t>(count & 63);
   const double up = PowerOfTwo((count >> 6) - 1), down = PowerOfTwo(-(count >> 6) - 2);
-  const TwoParts<double> plus{exp2_64_split[2 * i] * up, exp2_64_split[2 * i + 1] * up};
-  const TwoParts<double> minus{exp2_64_split[2 * (64 - i)] * down, exp2_64_split[2 * (64 - i) + 1] * down};
+  const TwoParts<double> plus{exp2_pairs[2 * i] * up, exp2_pairs[2 * i + 1] * up};
+  const TwoParts<double> minus{exp2_pairs[2 * (64 - i)] * down, exp2_pairs[2 * (64 - i) + 1] * down};
   const TwoParts<double> sum = two_sum(plus.head, minus.head);
   const TwoParts<double> difference = two_sum(plus.head, -minus.head);
   return {{sum.head, sum.tail + (plus.tail + minus.tail)}, {difference.head, difference.tail + (plus.tail - minus.tail)}, q};
@@ -130,4 +130,4 @@ template <class T> LumStatus CoshRoutine(T x, T& result) {
   return lumStsOk;
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::hyperbolic

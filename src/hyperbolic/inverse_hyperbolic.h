@@ -5,7 +5,7 @@
 
 #include "hyperbolic/reciprocal_logarithm.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::hyperbolic {
 
 // ((1 - e)^(-1/2) - 1) / e for |e| up to 2^-13 and a little.
 LUM_INLINE Vec<Lum32f> RootSeries(Vec<Lum32f> e) { return horner(e, hyperbolic::root_32f); }
@@ -98,4 +98,4 @@ struct A26Ratio {
   LUM_INLINE Vec<Lum64f> operator()(Vec<Lum64f> r) const { return ShortLogRatio(r); }
 };
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::hyperbolic

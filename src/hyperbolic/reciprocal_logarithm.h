@@ -9,7 +9,7 @@
 #include "hyperbolic/polynomials.h"
 #include "tables/table.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::hyperbolic {
 
 // The columns hi and lo of ln(1 + i/N): his are short, so that sums of them and of multiples of ln2_head are exact.
 template <class T> struct LogTable;
@@ -18,10 +18,10 @@ template <> struct LogTable<Lum32f> {
   static constexpr int index_shift = 18;
 
   static constexpr auto single = table32({
-#include "tables/generated/ln_above_one_float_32.inc"
+#include "tables/generated/ln_above_one_32f_32.inc"
   });
   static constexpr auto pairs = by_columns<2>(table32({
-#include "tables/generated/ln_above_one_float_32_pairs.inc"
+#include "tables/generated/ln_above_one_32f_32_pairs.inc"
   }));
 };
 template <> struct LogTable<Lum64f> {
@@ -29,10 +29,10 @@ template <> struct LogTable<Lum64f> {
   static constexpr int index_shift = 48;
 
   static constexpr auto single = table64({
-#include "tables/generated/ln_above_one_16.inc"
+#include "tables/generated/ln_above_one_64f_16.inc"
   });
   static constexpr auto pairs = by_columns<2>(table64({
-#include "tables/generated/ln_above_one_16_pairs.inc"
+#include "tables/generated/ln_above_one_64f_16_pairs.inc"
   }));
 };
 
@@ -60,4 +60,4 @@ LUM_INLINE Vec<Lum64f> LogRatio(Vec<Lum64f> r) { return horner(r, hyperbolic::lo
 // (ln(1 + r) - r) / r^2 to the accuracy of A26.
 LUM_INLINE Vec<Lum64f> ShortLogRatio(Vec<Lum64f> r) { return horner(r, hyperbolic::log1p_A26); }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::hyperbolic

@@ -9,6 +9,8 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
+using namespace hyperbolic;
+
 template <class T> struct HyperbolicSine : Kernel<T> {
   static LumStatus LaneRoutine(T x, T& result) { return SinhRoutine(x, result); }
 };
@@ -100,7 +102,7 @@ struct A50_64f : HyperbolicSine<Lum64f> {
   static constexpr int row_bits = 7;
   static constexpr size_t row_count = 128;
   static constexpr auto columns = by_columns<3>(table64({
-#include "tables/generated/half_exp2_128.inc"
+#include "tables/generated/half_exp2_64f_128.inc"
   }));
   static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
     const auto a = as_float(WithoutSign<Lum64f>(bits(x)));

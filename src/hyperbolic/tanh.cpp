@@ -65,13 +65,13 @@ template <bool in_two_parts, int degree, class T> LUM_INLINE Lanes<T> BySegments
 
 constexpr int float_degree = 6, short_degree = 10, long_degree = 16;
 constexpr auto float_columns = by_columns<float_degree + 3>(table32({
-#include "tables/generated/tanh_float_6.inc"
+#include "tables/generated/tanh_32f_32_degree_6.inc"
 }));
 constexpr auto short_columns = by_columns<short_degree + 3>(table64({
-#include "tables/generated/tanh_double_10.inc"
+#include "tables/generated/tanh_64f_16_degree_10.inc"
 }));
 constexpr auto long_columns = by_columns<long_degree + 3>(table64({
-#include "tables/generated/tanh_double_16.inc"
+#include "tables/generated/tanh_64f_16_degree_16.inc"
 }));
 
 struct A11_32f : Kernel<Lum32f> {

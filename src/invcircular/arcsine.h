@@ -9,7 +9,7 @@
 #include "frame/numbers.h"
 #include "invcircular/polynomials.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::invcircular {
 
 // The scale below which y is taken for zero: only |x| = 1 comes there. Its reciprocal root would be infinite.
 template <class T> inline constexpr T smallest_y = 0x1p-32f;
@@ -92,4 +92,4 @@ template <class T> LumStatus OutsideUnitInterval(T x, T& result) {
   return x != x ? lumStsOk : lumStsDomain;
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::invcircular

@@ -5,7 +5,7 @@
 #include "frame/numbers.h"
 #include "invcircular/polynomials.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::invcircular {
 
 // n / d to nearly the last place, by significands and exponents, so that no size of n and d matters.
 LUM_INLINE Vec<Lum32f> SignificandReciprocal(Vec<Lum32f> m) { return rcp14_normal(m); }
@@ -47,4 +47,4 @@ LUM_INLINE Vec<Lum64f> ShortArctangent(Vec<Lum64f> s) { return EvenAndOdd(s, inv
 
 template <class T> inline constexpr T half_pi = numbers::pi<T> / 2;
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::invcircular

@@ -7,6 +7,8 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
+using namespace invcircular;
+
 template <class T> struct Arguments {
   Vec<T> a, y, q;  // |x|, (1 - |x|) / 2, min(x^2, y)
 };

@@ -11,6 +11,8 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
+using namespace invcircular;
+
 template <class T> struct Grid;
 template <> struct Grid<Lum32f> {
   static constexpr auto shifter = 0x1p21f;  // the last bit is worth 1/4
@@ -18,10 +20,10 @@ template <> struct Grid<Lum32f> {
   static constexpr auto clamp = 0x1p32f;  // its arctangent rounds to pi/2
 
   static constexpr auto head = table32({
-#include "tables/generated/atan_float_head.inc"
+#include "tables/generated/atan_32f_32_head.inc"
   });
   static constexpr auto tail = table32({
-#include "tables/generated/atan_float_tail.inc"
+#include "tables/generated/atan_32f_32_tail.inc"
   });
 };
 template <> struct Grid<Lum64f> {
@@ -31,10 +33,10 @@ template <> struct Grid<Lum64f> {
   static constexpr auto clamp = 0x1p128;
 
   static constexpr auto head = table64({
-#include "tables/generated/atan_double_head.inc"
+#include "tables/generated/atan_64f_32_head.inc"
   });
   static constexpr auto tail = table64({
-#include "tables/generated/atan_double_tail.inc"
+#include "tables/generated/atan_64f_32_tail.inc"
   });
 };
 

@@ -6,6 +6,8 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
+using namespace invcircular;
+
 template <class Path, int vectors_in_block = 2> struct TwoArguments : Kernel<typename Path::Element> {
   using T = typename Path::Element;
   static constexpr int vectors = vectors_in_block;

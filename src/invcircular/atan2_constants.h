@@ -8,7 +8,7 @@
 #include "frame/numbers.h"
 #include "frame/types.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::invcircular {
 
 // The angles of the centres in two parts, and that of a ratio beyond all.
 template <class T> struct CentreAngles { T heads[5], tails[5]; };
@@ -33,4 +33,4 @@ template <> struct IntervalConstants<Lum64f> {
                       numbers::arctangent_three_halves_parts<Lum64f>, numbers::half_pi_parts<Lum64f>);
 };
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::invcircular

@@ -11,7 +11,7 @@
 #include "invcircular/atan2_constants.h"
 #include "tables/table.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::invcircular {
 namespace arctan2 {
 
 // Refused are patterns p of |x| or |y| with p - low >= high, as signed integers: exponent fields below that of low or above a
@@ -152,4 +152,4 @@ using A24_32f = High<Lum32f, std::bit_cast<int32_t>(0x81800000u), std::bit_cast<
 using A53_64f = High<Lum64f, Limits<Lum64f>::low, Limits<Lum64f>::high>;
 
 }  // namespace arctan2
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::invcircular

@@ -13,7 +13,7 @@
 #include "invcircular/atan2_constants.h"
 #include "invcircular/polynomials.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::invcircular {
 
 // The significand of a positive number in [1, 2) and its exponent.
 struct ScaledNumber {
@@ -121,4 +121,4 @@ template <class T> void Atan2Routine(T y, T x, T& result) {
   result = std::signbit(y) ? -magnitude : magnitude;
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::invcircular

@@ -15,6 +15,8 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
+using namespace pow;
+
 template <class T> struct PowConstants;
 template <> struct PowConstants<Lum32f> {
   static constexpr auto limit = 125.5f;
@@ -25,13 +27,13 @@ template <> struct PowConstants<Lum32f> {
   static constexpr int fraction_bits = 23;
   static constexpr uint32_t exponent_field = 0x7F800000;
   static constexpr auto rows_16 = table32({
-#include "tables/generated/log2_float_16.inc"
+#include "tables/generated/minus_log2_32f_16.inc"
   });
   static constexpr auto pairs_32 = by_columns<2>(table32({
-#include "tables/generated/log2_float_32_pairs.inc"
+#include "tables/generated/minus_log2_32f_32_pairs.inc"
   }));
   static constexpr auto exp_head = table32({
-#include "tables/generated/exp2_16_head.inc"
+#include "tables/generated/exp2_32f_16_head.inc"
   });
 };
 template <> struct PowConstants<Lum64f> {
@@ -40,23 +42,23 @@ template <> struct PowConstants<Lum64f> {
   static constexpr int fraction_bits = 52;
   static constexpr uint64_t exponent_field = 0x7FF0000000000000;
   static constexpr auto rows_16 = table64({
-#include "tables/generated/log2_double_16.inc"
+#include "tables/generated/minus_log2_64f_16.inc"
   });
   static constexpr auto pairs_32 = by_columns<2>(table64({
-#include "tables/generated/log2_double_32_pairs.inc"
+#include "tables/generated/minus_log2_64f_32_pairs.inc"
   }));
   static constexpr auto exp_head = table64({
-#include "tables/generated/exp2_double_16_head.inc"
+#include "tables/generated/exp2_64f_16_head.inc"
   });
 };
 constexpr auto exp_tail_16 = table64({
-#include "tables/generated/exp2_double_16_tail.inc"
+#include "tables/generated/exp2_64f_16_tail.inc"
 });
 constexpr auto exp_head_32 = table32({
-#include "tables/generated/exp2_32_head.inc"
+#include "tables/generated/exp2_32f_32_head.inc"
 });
 constexpr auto exp_tail_32 = table32({
-#include "tables/generated/exp2_32_tail.inc"
+#include "tables/generated/exp2_32f_32_tail.inc"
 });
 
 // ---- The reduction of x

@@ -4,7 +4,7 @@
 #include "frame/kernel_frame.h"
 #include "pow/power_routine.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::pow {
 
 // A table of rows of so many columns, in columns of 16 or 32 entries or in rows of four.
 template <int columns, size_t entries, class T, size_t n>
@@ -178,4 +178,4 @@ template <class T> LUM_INLINE Finished<T> PowerSecondPath(Vec<T> x, Vec<T> y, co
           {.domain = lanes.refused & (at_pole | (fractional & ~(one | nan)))}};
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::pow

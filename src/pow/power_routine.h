@@ -16,22 +16,22 @@
 #include "pow/polynomials.h"
 #include "tables/table.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::pow {
 
 // What the scheme of PowerMagnitude takes in either type. A table of a stage has rows c, hi, lo.
 template <class T> struct PowerConstants;
 template <> struct PowerConstants<Lum32f> {
   static constexpr auto stage1 = table32({
-#include "tables/generated/power_routine_float_1.inc"
+#include "tables/generated/power_stage1_32f_9.inc"
   });
   static constexpr auto stage2 = table32({
-#include "tables/generated/power_routine_float_2.inc"
+#include "tables/generated/power_stage2_32f_9.inc"
   });
   static constexpr auto stage3 = table32({
-#include "tables/generated/power_routine_float_3.inc"
+#include "tables/generated/power_stage3_32f_17.inc"
   });
   static constexpr auto exp2 = table32({
-#include "tables/generated/exp2_float_128_pairs.inc"
+#include "tables/generated/exp2_32f_128_pairs.inc"
   });
   // Lowest of the significand bits that the rows of a stage stand for, with half a row, and their number.
   static constexpr int index_shift[3] = {20, 18, 15};
@@ -48,16 +48,16 @@ template <> struct PowerConstants<Lum32f> {
 };
 template <> struct PowerConstants<Lum64f> {
   static constexpr auto stage1 = table64({
-#include "tables/generated/power_routine_double_1.inc"
+#include "tables/generated/power_stage1_64f_33.inc"
   });
   static constexpr auto stage2 = table64({
-#include "tables/generated/power_routine_double_2.inc"
+#include "tables/generated/power_stage2_64f_33.inc"
   });
   static constexpr auto stage3 = table64({
-#include "tables/generated/power_routine_double_3.inc"
+#include "tables/generated/power_stage3_64f_129.inc"
   });
   static constexpr auto exp2 = table64({
-#include "tables/generated/exp2_double_128_pairs.inc"
+#include "tables/generated/exp2_64f_128_pairs.inc"
   });
   static constexpr int index_shift[3] = {47, 43, 37};
   static constexpr uint64_t index_mask[3] = {0x000FC00000000000, 0x0000FC0000000000, 0x00000FF000000000};
@@ -227,4 +227,4 @@ template <class T> LumStatus PowerRoutine(T x, T y, T& result) {
   return lumStsOk;
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::pow

@@ -11,6 +11,8 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
+using namespace pow;
+
 // Kernels of a tier. The powers of thirds are null where the general path serves their exponents.
 template <class T> struct RootKernels {
   using Function = LumStatus(const T* src, T* dst, int32_t len);

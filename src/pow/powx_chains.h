@@ -6,7 +6,7 @@
 
 #include "frame/kernel_frame.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::pow {
 
 // x^0 = 1, whatever x: the source is not read.
 template <class T> LumStatus FillWithOnes(const T* src, T* dst, int32_t len) {
@@ -47,4 +47,4 @@ struct ReciprocalA50 : Kernel<Lum64f> {
   }
 };
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::pow

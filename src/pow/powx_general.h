@@ -12,7 +12,7 @@
 #include "pow/power_path.h"
 #include "tables/table.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::pow {
 
 template <class T> struct PowxGeneral : Kernel<T> {
   T value;
@@ -86,7 +86,7 @@ struct PowxA11_32f : PowxGeneral<Lum32f> {
 // split exponent multiplies.
 struct PowxA21_32f : PowxGeneral<Lum32f> {
   static constexpr auto table = by_columns<3>(table32({
-#include "tables/generated/powx_ln_64.inc"
+#include "tables/generated/powx_ln_32f_65.inc"
   }));
   static constexpr int rows = 65;
   struct Parts {
@@ -141,7 +141,7 @@ struct PowxA21_32f : PowxGeneral<Lum32f> {
 // ln x = e ln 2 + T + ln(1 + r), r = c m - 1 with c the integer next to 1024/m, m in [1, 2).
 template <size_t n> LUM_INLINE Vec<Lum64f> GatheredLn(Vec<Lum64f> x, const Polynomial<Lum64f, n>& polynomial) {
   static constexpr auto table = table64({
-#include "tables/generated/powx_ln_512.inc"
+#include "tables/generated/powx_ln_64f_513.inc"
   });
   const auto m = as_float((bits(x) & all(uint64_t{0x000FFFFFFFFFFFFF})) | all(uint64_t{0x3F50000000000000}));  // times 2^-10
   const auto c = rndscale<binary_places(0) | quiet>(rcp14(m));  // from 512 to 1024
@@ -155,7 +155,7 @@ template <size_t n> LUM_INLINE Vec<Lum64f> GatheredLn(Vec<Lum64f> x, const Polyn
 // e^t = 2^N 2^(i/2048) (1 + g), the table scaled so that the error of the last factor is balanced.
 LUM_INLINE Vec<Lum64f> GatheredExp(Vec<Lum64f> t) {
   static constexpr auto table = table64({
-#include "tables/generated/powx_exp2_2048.inc"
+#include "tables/generated/powx_exp2_64f_2048.inc"
   });
   const auto w = t * all(2048 * numbers::log2_e<Lum64f>);
   const auto z = (w - all(0.5)) + all(rounding_shifter<Lum64f>());  // floor(w), but for ties
@@ -205,10 +205,10 @@ LUM_INLINE Vec<Lum64f> HighHalf(Vec<Lum64f> a) { return a & all(uint64_t{0xFFFFF
 // With a short c, scale over m nearly, so that u = c m - scale is nearly log2 of what is left: scale is next to 1/ln 2.
 LUM_INLINE ShortLog2 GatheredLog2(Vec<Lum64f> x) {
   static constexpr auto reciprocals = table64({
-#include "tables/generated/powx_reciprocals_1024.inc"
+#include "tables/generated/powx_reciprocal_64f_1025.inc"
   });
   static constexpr auto logarithms = by_columns<2>(table64({
-#include "tables/generated/powx_log2_1024_pairs.inc"
+#include "tables/generated/powx_log2_64f_1025_pairs.inc"
   }));
   const auto word = bits(x);
   const auto row = shift_right<42>((word & all(uint64_t{0x000FFE0000000000})) + all(uint64_t{0x0000020000000000}));
@@ -248,7 +248,7 @@ LUM_INLINE Exponent128 MultiplyShort(const ShortLog2& log, Vec<Lum64f> y) {
 }
 
 constexpr auto powx_exp2 = by_columns<2>(table64({
-#include "tables/generated/exp2_double_128_pairs.inc"
+#include "tables/generated/exp2_64f_128_pairs.inc"
 }));
 constexpr int powx_exp2_rows = 128;
 
@@ -276,4 +276,4 @@ struct PowxA53_64f : PowxGeneral<Lum64f> {
   }
 };
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::pow

@@ -4,7 +4,7 @@
 
 #include "frame/vec.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::roots {
 
 template <class T> struct Roots {
   Vec<T> g, h;  // near sqrt x and 1 / (2 sqrt x)
@@ -17,4 +17,4 @@ template <class T> LUM_INLINE Roots<T> CoupledStep(Roots<T> a) {
 // g improved by the exact residual.
 template <class T> LUM_INLINE Vec<T> HeronStep(Vec<T> x, Roots<T> a) { return fma(fnma(a.g, a.g, x), a.h, a.g); }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::roots

@@ -17,6 +17,8 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
+using namespace roots;
+
 // The root of m^2 + n^2 for n <= m, m near 1. One step with the exact residual makes the result correct to its last bits.
 double RootOfSquares(double m, double n) {
   const auto p = two_product(m, m), q = two_product(n, n);

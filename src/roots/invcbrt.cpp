@@ -8,19 +8,21 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
+using namespace roots;
+
 struct Data {
   static constexpr auto power = Power::minus_one_third;
   static constexpr auto head_32f = table32({
-#include "tables/generated/invcbrt_32_head.inc"
+#include "tables/generated/invcbrt_32f_16_head.inc"
   });
   static constexpr auto head_64f = table64({
-#include "tables/generated/invcbrt_64_head.inc"
+#include "tables/generated/invcbrt_64f_8_head.inc"
   });
   static constexpr auto tail_32f = table32({
-#include "tables/generated/invcbrt_32_tail.inc"
+#include "tables/generated/invcbrt_32f_16_tail.inc"
   });
   static constexpr auto tail_64f = table64({
-#include "tables/generated/invcbrt_64_tail.inc"
+#include "tables/generated/invcbrt_64f_8_tail.inc"
   });
   static constexpr auto& low_32f = roots::invcbrt_A11;
   static constexpr auto& mid_32f = roots::invcbrt_A21;

@@ -18,13 +18,13 @@ namespace {
 
 constexpr auto midpoint_values = table64({
 // hi, lo
-#include "tables/generated/pow3o2_midpoints.inc"
+#include "tables/generated/pow3o2_64f_64_pairs.inc"
 });
 constexpr auto midpoint_reciprocals = table64({
-#include "tables/generated/pow3o2_reciprocals.inc"
+#include "tables/generated/pow3o2_reciprocal_64f_32.inc"
 });
 constexpr auto pow3o2_64f = polynomial64({
-#include "tables/generated/pow3o2_polynomial.inc"
+#include "tables/generated/pow3o2_polynomial_64f_7.inc"
 });
 
 // ((1 + t)^(3/2) - 1) / t in binary64, for a result of the type T.

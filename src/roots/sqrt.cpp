@@ -12,6 +12,8 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
+using namespace roots;
+
 // Zeros, infinities and negative numbers are refused; NaN and denormals run through.
 template <class T> struct SqrtKernel : Kernel<T> {
   static LUM_INLINE Mask<T> Refused(Vec<T> x) { return fpclass<classes::zero | classes::infinity | classes::negative>(x); }

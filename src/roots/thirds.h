@@ -8,7 +8,7 @@
 #include "frame/kernel_frame.h"
 #include "tables/table.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::roots {
 
 enum class Power { one_third, minus_one_third, two_thirds };
 
@@ -32,34 +32,34 @@ template <> struct ThirdsConstants<Lum64f> {
 template <class T, bool negative> struct ThirdsOfTwo;
 template <> struct ThirdsOfTwo<Lum32f, false> {
   static constexpr auto head = table32({
-#include "tables/generated/two_to_thirds_32_head.inc"
+#include "tables/generated/two_to_thirds_32f_16_head.inc"
   });
   static constexpr auto tail = table32({
-#include "tables/generated/two_to_thirds_32_tail.inc"
+#include "tables/generated/two_to_thirds_32f_16_tail.inc"
   });
 };
 template <> struct ThirdsOfTwo<Lum32f, true> {
   static constexpr auto head = table32({
-#include "tables/generated/two_to_minus_thirds_32_head.inc"
+#include "tables/generated/two_to_minus_thirds_32f_16_head.inc"
   });
   static constexpr auto tail = table32({
-#include "tables/generated/two_to_minus_thirds_32_tail.inc"
+#include "tables/generated/two_to_minus_thirds_32f_16_tail.inc"
   });
 };
 template <> struct ThirdsOfTwo<Lum64f, false> {
   static constexpr auto head = table64({
-#include "tables/generated/two_to_thirds_64_head.inc"
+#include "tables/generated/two_to_thirds_64f_8_head.inc"
   });
   static constexpr auto tail = table64({
-#include "tables/generated/two_to_thirds_64_tail.inc"
+#include "tables/generated/two_to_thirds_64f_8_tail.inc"
   });
 };
 template <> struct ThirdsOfTwo<Lum64f, true> {
   static constexpr auto head = table64({
-#include "tables/generated/two_to_minus_thirds_64_head.inc"
+#include "tables/generated/two_to_minus_thirds_64f_8_head.inc"
   });
   static constexpr auto tail = table64({
-#include "tables/generated/two_to_minus_thirds_64_tail.inc"
+#include "tables/generated/two_to_minus_thirds_64f_8_tail.inc"
   });
 };
 
@@ -92,18 +92,6 @@ template <Power power, class T> LUM_INLINE ThirdsReduced<T> ReduceThirds(Vec<T> 
 template <class T, size_t n> LUM_INLINE Vec<T> AtReciprocal(const Table<T, n>& table, Vec<T> thirds, Vec<T> c) {
   const auto index = shift_right<ThirdsConstants<T>::index_shift>(bits(c));
   return permute2(load<T>(table), thirds, index);
-}
-
-// c0 + x c1 + x^2 (c2 + x c3 + x^2 (...)): pairs joined by the square in turn.
-template <size_t first = 0, Floating T, size_t n>
-LUM_INLINE Vec<T> horner_of_pairs(Vec<T> x, Vec<T> square, const Polynomial<T, n>& p) {
-  if constexpr (first + 1 == n) {
-    return all(p.c[first]);
-  } else {
-    const auto pair = fma(all(p.c[first + 1]), x, all(p.c[first]));
-    if constexpr (first + 2 == n) return pair;
-    else return fma(horner_of_pairs<first + 2>(x, square, p), square, pair);
-  }
 }
 
 enum class Tier { low, mid, high };
@@ -150,4 +138,4 @@ template <class F, Tier tier, class T> LUM_INLINE Vec<T> ThirdsMagnitude(const T
   }
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::roots

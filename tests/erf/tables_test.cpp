@@ -12,13 +12,13 @@ namespace lum::test {
 namespace {
 
 constexpr auto erf_rows = table64({
-#include "tables/generated/erf_128_packed.inc"
+#include "tables/generated/erf_64f_768_packed.inc"
 });
 constexpr auto erfc_rows = table64({
-#include "tables/generated/erfc_128_packed.inc"
+#include "tables/generated/erfc_64f_3488_packed.inc"
 });
 constexpr auto normal_rows = table64({
-#include "tables/generated/cdfnorm_128_packed.inc"
+#include "tables/generated/cdfnorm_64f_4928_packed.inc"
 });
 
 class Number {

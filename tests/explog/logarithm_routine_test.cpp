@@ -16,10 +16,10 @@ template <class T> Arguments1 Positive() {
 }
 
 TEST(LogarithmRoutine, Accuracy) {
-  EXPECT_LT(LargestErrorOf<Lum32f>(LnRoutine<Lum32f>, mpfr_log, Positive<Lum32f>()), 0.51);
-  EXPECT_LT(LargestErrorOf<Lum64f>(LnRoutine<Lum64f>, mpfr_log, Positive<Lum64f>()), 1);
-  EXPECT_LT(LargestErrorOf<Lum32f>(Log10Routine<Lum32f>, mpfr_log10, Positive<Lum32f>()), 1);
-  EXPECT_LT(LargestErrorOf<Lum64f>(Log10Routine<Lum64f>, mpfr_log10, Positive<Lum64f>()), 1);
+  EXPECT_LT(LargestErrorOf<Lum32f>(explog::LnRoutine<Lum32f>, mpfr_log, Positive<Lum32f>()), 0.51);
+  EXPECT_LT(LargestErrorOf<Lum64f>(explog::LnRoutine<Lum64f>, mpfr_log, Positive<Lum64f>()), 1);
+  EXPECT_LT(LargestErrorOf<Lum32f>(explog::Log10Routine<Lum32f>, mpfr_log10, Positive<Lum32f>()), 1);
+  EXPECT_LT(LargestErrorOf<Lum64f>(explog::Log10Routine<Lum64f>, mpfr_log10, Positive<Lum64f>()), 1);
 }
 
 }  // namespace

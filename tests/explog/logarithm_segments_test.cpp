@@ -9,16 +9,16 @@ namespace lum::test {
 namespace {
 
 constexpr uint32_t ln_4[] = {
-#include "tables/generated/ln_segments_4.inc"
+#include "tables/generated/ln_segments_32f_16_degree_4.inc"
 };
 constexpr uint32_t ln_3[] = {
-#include "tables/generated/ln_segments_3.inc"
+#include "tables/generated/ln_segments_32f_16_degree_3.inc"
 };
 constexpr uint32_t log10_4[] = {
-#include "tables/generated/log10_segments_4.inc"
+#include "tables/generated/log10_segments_32f_16_degree_4.inc"
 };
 constexpr uint32_t log10_3[] = {
-#include "tables/generated/log10_segments_3.inc"
+#include "tables/generated/log10_segments_32f_16_degree_3.inc"
 };
 
 template <size_t columns> void ExpectRow(const uint32_t* table, size_t row, const std::array<uint32_t, columns>& expected) {

@@ -18,10 +18,10 @@ template <class T> Arguments1 AllMagnitudes() {
 }
 
 TEST(HyperbolicRoutine, Accuracy) {
-  EXPECT_LT(LargestErrorOf<Lum32f>(SinhRoutine<Lum32f>, mpfr_sinh, AllMagnitudes<Lum32f>()), 0.51);
-  EXPECT_LT(LargestErrorOf<Lum32f>(CoshRoutine<Lum32f>, mpfr_cosh, AllMagnitudes<Lum32f>()), 0.51);
-  EXPECT_LT(LargestErrorOf<Lum64f>(SinhRoutine<Lum64f>, mpfr_sinh, AllMagnitudes<Lum64f>()), 1);
-  EXPECT_LT(LargestErrorOf<Lum64f>(CoshRoutine<Lum64f>, mpfr_cosh, AllMagnitudes<Lum64f>()), 1);
+  EXPECT_LT(LargestErrorOf<Lum32f>(hyperbolic::SinhRoutine<Lum32f>, mpfr_sinh, AllMagnitudes<Lum32f>()), 0.51);
+  EXPECT_LT(LargestErrorOf<Lum32f>(hyperbolic::CoshRoutine<Lum32f>, mpfr_cosh, AllMagnitudes<Lum32f>()), 0.51);
+  EXPECT_LT(LargestErrorOf<Lum64f>(hyperbolic::SinhRoutine<Lum64f>, mpfr_sinh, AllMagnitudes<Lum64f>()), 1);
+  EXPECT_LT(LargestErrorOf<Lum64f>(hyperbolic::CoshRoutine<Lum64f>, mpfr_cosh, AllMagnitudes<Lum64f>()), 1);
 }
 
 }  // namespace

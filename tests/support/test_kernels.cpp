@@ -103,7 +103,7 @@ template <class E> struct ToRealKernel : Kernel<E, Real<E>> {
   using T = Real<E>;
   static LUM_INLINE Lanes<T> VectorPath(Interleaved<T> x) {
     const auto z = split(x);
-    return {SumInOrder(z.re, z.im), IsNegative(z.re)};
+    return {arith::SumInOrder(z.re, z.im), IsNegative(z.re)};
   }
   static LumStatus LaneRoutine(E x, T& result) {
     result += 1000;

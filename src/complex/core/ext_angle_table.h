@@ -7,7 +7,7 @@ namespace lum::inline LUM_LAYER {
 
 // Row k: atan(k/128), from 128 on pi/2 less that of 256 - k, from 256 on pi less row 512 - k.
 inline constexpr auto angle_table = table64({
-#include "tables/generated/extended_angles.inc"
+#include "tables/generated/extended_angles_64f_513_pairs.inc"
 });
 inline constexpr int quarter_turn = 256, half_turn = 512;
 

@@ -8,10 +8,10 @@ namespace {
 
 // (asin x - x - x^3/6) / x^5: |x| < 1/8; |x| <= 1/2.
 constexpr auto small_terms = coefficients({
-#include "tables/generated/extended_arcsine_small.inc"
+#include "tables/generated/extended_arcsine_small_64f_9_pairs.inc"
 });
 constexpr auto terms = coefficients({
-#include "tables/generated/extended_arcsine.inc"
+#include "tables/generated/extended_arcsine_64f_18_pairs.inc"
 });
 // (asin x - x) / x^3.
 constexpr std::array<Extended, 4> series = {1.0L / 6, 3.0L / 40, 5.0L / 112, 35.0L / 1152};

@@ -7,10 +7,10 @@ namespace lum::inline LUM_LAYER {
 namespace {
 
 constexpr auto sine_terms = coefficients({
-#include "tables/generated/extended_sine.inc"
+#include "tables/generated/extended_sine_64f_8_pairs.inc"
 });
 constexpr auto cosine_terms = coefficients({
-#include "tables/generated/extended_cosine.inc"
+#include "tables/generated/extended_cosine_64f_8_pairs.inc"
 });
 // (sin x - x) / x^3 and (cos x - 1 + x^2/2) / x^4.
 constexpr std::array<Extended, 4> sine_series = {-1.0L / 6, 1.0L / 120, -1.0L / 5040, 1.0L / 362880};

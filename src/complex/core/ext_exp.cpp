@@ -6,7 +6,7 @@ namespace lum::inline LUM_LAYER {
 namespace {
 
 constexpr auto small_terms = coefficients({
-#include "tables/generated/extended_exp_small.inc"
+#include "tables/generated/extended_exp_small_64f_8_pairs.inc"
 });
 // (e^x - 1 - x) / x^2.
 constexpr std::array<Extended, 4> series = {1.0L / 2, 1.0L / 6, 1.0L / 24, 1.0L / 120};

@@ -6,10 +6,10 @@ namespace lum::inline LUM_LAYER {
 namespace {
 
 constexpr auto sinh_terms = coefficients({
-#include "tables/generated/extended_sinh.inc"
+#include "tables/generated/extended_sinh_64f_7_pairs.inc"
 });
 constexpr auto cosh_terms = coefficients({
-#include "tables/generated/extended_cosh.inc"
+#include "tables/generated/extended_cosh_64f_7_pairs.inc"
 });
 // (sinh x - x) / x^3 and (cosh x - 1) / x^2.
 constexpr std::array<Extended, 4> sinh_series = {1.0L / 6, 1.0L / 120, 1.0L / 5040, 1.0L / 362880};

@@ -8,13 +8,13 @@ namespace {
 
 // (asinh x - x + x^3/6) / x^5, (atanh x - x - x^3/3) / x^5, (acosh(1 + t) / sqrt(2 t) - 1 + t/12) / t^2.
 constexpr auto asinh_terms = coefficients({
-#include "tables/generated/extended_asinh.inc"
+#include "tables/generated/extended_asinh_64f_16_pairs.inc"
 });
 constexpr auto atanh_terms = coefficients({
-#include "tables/generated/extended_atanh.inc"
+#include "tables/generated/extended_atanh_64f_12_pairs.inc"
 });
 constexpr auto acosh_terms = coefficients({
-#include "tables/generated/extended_acosh.inc"
+#include "tables/generated/extended_acosh_64f_13_pairs.inc"
 });
 // (asinh x - x) / x^3, (atanh x - x) / x^3 and, as above, that of acosh.
 constexpr std::array<Extended, 4> asinh_series = {-1.0L / 6, 3.0L / 40, -5.0L / 112, 35.0L / 1152};

@@ -6,7 +6,7 @@ namespace {
 
 // (log(1 + r) - r + r^2/2) / r^3, |r| <= 1/16 and a little.
 constexpr auto near_one_terms = coefficients({
-#include "tables/generated/extended_log_near_one.inc"
+#include "tables/generated/extended_log_near_one_64f_14_pairs.inc"
 });
 // (log(1 + r) - r) / r^2.
 constexpr std::array<Extended, 4> series = {-1.0L / 2, 1.0L / 3, -1.0L / 4, 1.0L / 5};

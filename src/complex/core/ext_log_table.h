@@ -9,14 +9,14 @@
 namespace lum::inline LUM_LAYER {
 
 inline constexpr auto log_reciprocals = table32({
-#include "tables/generated/extended_log_reciprocals.inc"
+#include "tables/generated/extended_log_reciprocals_32f_256.inc"
 });
 inline constexpr auto log_table = table64({
-#include "tables/generated/extended_log.inc"
+#include "tables/generated/extended_log_64f_256_pairs.inc"
 });
 // (log(1 + r) - r) / r^2, |r| below 2^-8.5.
 inline constexpr auto log_table_terms = coefficients({
-#include "tables/generated/extended_log_table.inc"
+#include "tables/generated/extended_log_table_64f_6_pairs.inc"
 });
 
 // log(2^n m), with the part of m beyond its last place in m.tail, as the exact sum of the heads and the rest, which is below

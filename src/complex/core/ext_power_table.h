@@ -16,11 +16,11 @@ struct PowerArgument {
 
 // (e^r - 1 - r) / r^2.
 inline constexpr auto exp_table_terms = coefficients({
-#include "tables/generated/extended_exp_table.inc"
+#include "tables/generated/extended_exp_table_64f_5_pairs.inc"
 });
 
 inline constexpr auto power_table = table64({
-#include "tables/generated/extended_powers.inc"
+#include "tables/generated/extended_powers_64f_257_pairs.inc"
 });
 
 // Given |x| < 2^14. The product of n and the first part of ln2/256 is exact, and so is the difference from x where n is not 0.

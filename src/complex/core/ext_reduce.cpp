@@ -18,7 +18,7 @@ constexpr auto& three_parts = numbers::quarter_pi_parts_3<double>;
 constexpr auto& five_parts = numbers::quarter_pi_parts_5<double>;
 
 constexpr uint64_t four_over_pi_bits[] = {
-#include "tables/generated/extended_four_over_pi.inc"
+#include "tables/generated/extended_four_over_pi_fields_537.inc"
 };
 
 struct OctantRemainder {

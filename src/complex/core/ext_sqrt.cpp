@@ -7,7 +7,7 @@ namespace lum::inline LUM_LAYER {
 namespace {
 
 constexpr auto seeds = table64({
-#include "tables/generated/extended_sqrt_seeds.inc"
+#include "tables/generated/extended_sqrt_seeds_64f_513.inc"
 });
 // (1 / sqrt(1 + w) - 1) / w.
 constexpr std::array<Extended, 7> series = {-1.0L / 2,    3.0L / 8,      -5.0L / 16,    35.0L / 128,

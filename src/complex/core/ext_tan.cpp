@@ -10,14 +10,14 @@ namespace {
 
 // (tan x - x - x^3/3) / x^5, |x| <= pi/64 and a little.
 constexpr auto terms = coefficients({
-#include "tables/generated/extended_tangent.inc"
+#include "tables/generated/extended_tangent_64f_6_pairs.inc"
 });
 // (tan x - x) / x^3.
 constexpr std::array<Extended, 3> series = {1.0L / 3, 2.0L / 15, 17.0L / 315};
 
 // T, C and T + C for k from -17 to 17.
 constexpr auto tangents = table64({
-#include "tables/generated/extended_tangents.inc"
+#include "tables/generated/extended_tangents_64f_35_pairs.inc"
 });
 
 ExtendedPair ShortTangent(const ExtendedPair& x) { return odd_sum(x, ratio(1, 3), polynomial(terms, x.head * x.head)); }

@@ -6,7 +6,7 @@ namespace lum::inline LUM_LAYER {
 namespace {
 
 constexpr auto terms = coefficients({
-#include "tables/generated/extended_tanh.inc"
+#include "tables/generated/extended_tanh_64f_13_pairs.inc"
 });
 // (tanh x - x) / x^3.
 constexpr std::array<Extended, 4> series = {-1.0L / 3, 2.0L / 15, -17.0L / 315, 62.0L / 2835};

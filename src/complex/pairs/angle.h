@@ -12,7 +12,7 @@ namespace lum::inline LUM_LAYER {
 // The angle of (x, y) with positive y and any x other than 0: in (0, pi).
 LUM_INLINE HeadTail Angle(HeadTail y, HeadTail x) {
   static constexpr auto table = table64({
-#include "tables/generated/extended_angles.inc"
+#include "tables/generated/extended_angles_64f_513_pairs.inc"
   });
   const auto ax = Magnitude(x);
   const auto is_left = lt(x.head, all(0.0));

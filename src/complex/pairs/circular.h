@@ -20,7 +20,7 @@ struct CircularPair {
 // The sine of a zero is that zero.
 LUM_INLINE CircularPair SineCosineOf(Vec<Lum64f> y) {
   static constexpr auto table = table64({
-#include "tables/generated/pairs_angles_256.inc"
+#include "tables/generated/sine_cosine_64f_256_pairs.inc"
   });
   constexpr auto shifter = rounding_shifter<Lum64f>();
   const auto magnitude = abs(y);

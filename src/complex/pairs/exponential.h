@@ -19,7 +19,7 @@ struct PowersOfTwo {
 
 LUM_INLINE PowersOfTwo ReduceExponent(Vec<Lum64f> x) {
   static constexpr auto table = table64({
-#include "tables/generated/pairs_exp2_256.inc"
+#include "tables/generated/exp2_64f_256_pairs.inc"
   });
   constexpr auto shifter = rounding_shifter<Lum64f>();
   const auto t = fma(x, all(256 * numbers::log2_e<Lum64f>), all(shifter));

@@ -16,7 +16,7 @@ struct LogarithmTerms {
 
 LUM_INLINE LogarithmTerms ReduceLogarithm(HeadTail q) {
   static constexpr auto table = table64({
-#include "tables/generated/pairs_ln_256.inc"
+#include "tables/generated/minus_ln_64f_173_pairs.inc"
   });
   constexpr double first_row = 170;
   const auto m = getmant<significand::from_three_quarters | significand::nan_if_negative>(q.head);

@@ -4,6 +4,7 @@
 #pragma once
 
 #include "frame/avx2/base.h"
+#include "frame/reciprocal_estimates.h"
 
 namespace lum {
 inline namespace avx2 {

@@ -2,7 +2,7 @@
 // frame/vec_avx2.h.
 #pragma once
 
-#include "frame/avx2/registers.h"
+#include "frame/avx2/register_arithmetic.h"
 
 namespace lum {
 inline namespace avx2 {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "frame/avx2/lookup.h"
+#include "frame/lane_significand.h"
 
 namespace lum {
 inline namespace avx2 {

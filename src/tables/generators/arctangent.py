@@ -8,9 +8,9 @@ SCRIPT = "arctangent.py"
 
 
 def generate(directory):
-    for width, name in ((32, "atan_float"), (64, "atan_double")):
+    for width in (32, 64):
         angles = [exact(atan(mpf(k) / 4)) for k in range(32)]
         heads = [to_binary(a, width) for a in angles]
-        write(f"{name}_head", SCRIPT, "atan(k/4), rounded.", heads, width, directory)
-        write(f"{name}_tail", SCRIPT, f"What entry k of {name}_head lacks.", [a - h for a, h in zip(angles, heads)], width,
-              directory)
+        write("atan", SCRIPT, "atan(k/4), k = 0 to 31, rounded to nearest.", heads, width, directory, "head")
+        write("atan", SCRIPT, "atan(k/4), k = 0 to 31, less its rounded value; the rest rounded to nearest.",
+              [a - h for a, h in zip(angles, heads)], width, directory, "tail")

@@ -1,11 +1,14 @@
 """Rounding of exact or high-precision values to IEEE binary formats, and the format of the generated files.
 
 A generated file holds bit patterns in hexadecimal, one row of the table a line, each followed by a comma, below a comment
-that says what the rows are and which script wrote them.
+that says what the rows are and which script wrote them. Its name says the same in short: what is tabulated, the format of the
+entries, the number of rows, and where there are several forms of the same, which one: cosine_64f_16_head, erfc_64f_3488_packed.
+In `pairs` every number is followed by what its rounded value lacks.
 """
 
 import shutil
 import subprocess
+import textwrap
 from fractions import Fraction
 from pathlib import Path
 
@@ -102,9 +105,11 @@ def rows_of(values, width):
     return lines
 
 
-def write(name, script, comment, values, width, directory=GENERATED):
-    """Writes generated/<name>.inc."""
-    lines = [f"// {comment}", f"// Written by src/tables/generators/{script}."] + rows_of(values, width)
+def write(subject, script, comment, values, width, directory=GENERATED, part="", size=None, format=None):
+    """Writes generated/<subject>_<format>_<size>[_<part>].inc; format and size are those of the values, if not given."""
+    name = "_".join(filter(None, [subject, format or f"{width}f", str(size or len(values)), part]))
+    sentences = [line for paragraph in comment.split("\n") for line in textwrap.wrap(paragraph, 125)]
+    lines = [f"// {line}" for line in sentences + [f"Written by src/tables/generators/{script}."]] + rows_of(values, width)
     (Path(directory) / f"{name}.inc").write_text("\n".join(lines) + "\n")
 
 

@@ -35,8 +35,9 @@ def large_reduction(directory):
     for width, rows, shift in ((64, 2048, 884), (32, 256, 55)):
         span = 2 ** (3 * width)
         values = [words(floor(inverse * Fraction(2) ** (e - shift)) % span, 3, width) for e in range(rows)]
-        write(f"large_reduction_{width}", SCRIPT,
-              f"Row e: floor(2^(e - {shift}) / pi) mod 2^{3 * width}, the most significant word first.", values, width, directory)
+        write("large_reduction", SCRIPT,
+              f"floor(2^(e - {shift}) / pi) mod 2^{3 * width} for the exponent field e = 0 to {rows - 1}: three words, the most "
+              "significant first.", values, width, directory)
 
 
 def residue(directory):
@@ -44,9 +45,10 @@ def residue(directory):
     inverse = over_pi(2)
     remainders = [inverse % Fraction(2) ** (2 - 8 * k) if k else inverse for k in range(16)]
     heads = [to_binary(r, 64) for r in remainders]
-    write("residue_head", SCRIPT, "Entry k: 2/pi modulo 2^(2 - 8k), rounded; entry 0: 2/pi.", heads, 64, directory)
-    write("residue_tail", SCRIPT, "What the entries of residue_head lack.",
-          [r - h for r, h in zip(remainders, heads)], 64, directory)
+    rule = "2/pi for k = 0 and 2/pi modulo 2^(2 - 8k) for k = 1 to 15"
+    write("two_over_pi_residue", SCRIPT, f"{rule}, rounded to nearest.", heads, 64, directory, "head")
+    write("two_over_pi_residue", SCRIPT, f"{rule}, less its rounded value; the rest rounded to nearest.",
+          [r - h for r, h in zip(remainders, heads)], 64, directory, "tail")
 
 
 def chunks(directory):
@@ -57,7 +59,9 @@ def chunks(directory):
         integer = floor(inverse * Fraction(2) ** (24 + 25 * j)) % 2**25
         values.append(integer * Fraction(2) ** (200 - 24 - 25 * j))
     values += [Fraction(0)] * 6
-    write("chunks_25", SCRIPT, "A zero, then 49 pieces of 25 bits of 4/pi, times 2^200, then zeros.", values, 64, directory)
+    write("four_over_pi_chunks", SCRIPT,
+          "Row 0: 0. Row j + 1, j = 0 to 48: bits 25 j to 25 j + 24 of 4/pi from the integer bit on, in their place, times 2^200. "
+          "Then zeros. All exact.", values, 64, directory)
 
 
 def sine(turns):
@@ -83,8 +87,9 @@ def angles(directory):
         s, c = sine(Fraction(i, 512)), cosine(Fraction(i, 512))
         head, sine_head = power_below(c, Fraction(3, 4)), to_binary(s, 64)
         rows.append([c - head, head, sine_head, to_significand(s - sine_head, 25)])
-    write("angles_512", SCRIPT,
-          "Angle i/512 turn: cos - h, h (a power of 2), sin rounded, the rest of sin to 25 bits.", rows, 64, directory)
+    write("angles", SCRIPT,
+          "The angle of i/512 turn, i = 0 to 511: cos - h, h (a power of 2 next to cos), sin, the rest of sin to 25 bits; rounded to "
+          "nearest.", rows, 64, directory)
     rows = []
     # The tie cos = 2^(-1/2) goes to the larger power: the limit is cut below it.
     root_half = to_significand(exact(mpmath.sqrt(mpf(0.5))), 300, "zero")
@@ -92,21 +97,22 @@ def angles(directory):
         s, c = sine(Fraction(i, 256)), cosine(Fraction(i, 256))
         head, sine_head = power_below(c, root_half), to_binary(s, 32)
         rows.append([c - head, sine_head, s - sine_head, head])
-    write("angles_256", SCRIPT,
-          "Angle i/256 turn: cos - h, sin rounded, the rest of sin, h (a power of 2).", rows, 32, directory)
+    write("angles", SCRIPT,
+          "The angle of i/256 turn, i = 0 to 255: cos - h, sin, the rest of sin, h (a power of 2 next to cos); rounded to nearest.",
+          rows, 32, directory)
 
 
 def half_turn_sixteenths(directory):
     turns = [Fraction(k, 32) for k in range(16)]
-    write("sine_16", SCRIPT, "sin(k pi/16), rounded.", [sine(t) for t in turns], 64, directory)
-    write("cosine_16", SCRIPT, "cos(k pi/16), rounded.", [cosine(t) for t in turns], 64, directory)
+    write("sine", SCRIPT, "sin(k pi/16), k = 0 to 15, rounded to nearest.", [sine(t) for t in turns], 64, directory, "head")
+    write("cosine", SCRIPT, "cos(k pi/16), k = 0 to 15, rounded to nearest.", [cosine(t) for t in turns], 64, directory, "head")
 
     def tail_word(x):
         return bits(x - to_binary(x, 64), 64) >> 32
 
-    write("sine_cosine_tails_16", SCRIPT,
-          "What cosine_16 lacks, cut to its upper 32 bits; in the lower 32 bits the same of sine_16.",
-          [f"0x{tail_word(cosine(t)) << 32 | tail_word(sine(t)):016X}" for t in turns], 64, directory)
+    write("sine_cosine", SCRIPT,
+          "What the rounded cos(k pi/16) and sin(k pi/16) lack, k = 0 to 15: the upper 32 bits of either number, that of the cosine in "
+          "front.", [f"0x{tail_word(cosine(t)) << 32 | tail_word(sine(t)):016X}" for t in turns], 64, directory, "tails")
 
 
 def half_turn_32nds(directory):
@@ -114,7 +120,8 @@ def half_turn_32nds(directory):
     for k in range(64):
         s, c = sine(Fraction(k, 64)), cosine(Fraction(k, 64))
         rows.append([to_binary(s, 64), s - to_binary(s, 64), to_binary(c, 64), c - to_binary(c, 64)])
-    write("sine_cosine_32", SCRIPT, "Angle k pi/32: sin, rounded, what it lacks, cos, rounded, what it lacks.", rows, 64, directory)
+    write("sine_cosine", SCRIPT, "sin(k pi/32) and cos(k pi/32), k = 0 to 63: each rounded to nearest, and what it lacks.", rows, 64,
+          directory, "pairs")
 
 
 def tangents(directory):
@@ -133,10 +140,11 @@ def tangents(directory):
                 exact_value = sine(Fraction(k, 2 * n)) / cosine(Fraction(k, 2 * n))
                 heads.append(to_binary(exact_value, width))
                 tails.append(exact_value - heads[-1])
-        write(f"tangent_{n}", SCRIPT, f"tan(k pi/{n}), rounded; -0 for 0 and the most negative number at the pole.", heads,
-              width, directory)
-        write(f"tangent_{n}_tail", SCRIPT, f"What tangent_{n} lacks; at the pole minus a unit in its last place.", tails, width,
-              directory)
+        rule = f"tan(k pi/{n}), k = 0 to {n - 1}"
+        write("tangent", SCRIPT, f"{rule}, rounded to nearest; -0 for 0 and the most negative number at the pole.", heads, width,
+              directory, "head")
+        write("tangent", SCRIPT, f"{rule}, less its rounded value; -0 for 0 and at the pole minus a unit in the last place.", tails,
+              width, directory, "tail")
 
 
 def generate(directory):

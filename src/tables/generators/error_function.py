@@ -61,11 +61,13 @@ def one_word(row, width=32):
 
 def error_function(directory):
     centres = [mpf(i) / 128 for i in range(768)]
-    write("erf_128", SCRIPT, "erf c and its derivative at c = i/128.", [[erf(c), density(c)] for c in centres], 64, directory)
+    write("erf", SCRIPT, "erf c and its derivative at c = i/128, i = 0 to 767; rounded to nearest.",
+          [[erf(c), density(c)] for c in centres], 64, directory)
     rows = [["0x0000000000000000", mpf(2) ** 32]] * 4
     rows += [[f"0x{packed_value(erf(c)):016X}", exp(-c * c) * 2**32] for c in centres[4:]]
-    write("erf_128_packed", SCRIPT, "erf c in two parts, and 2^32 exp(-c^2), at c = i/128; rows 1 to 3 are row 0.", rows, 64,
-          directory)
+    write("erf", SCRIPT,
+          "erf c in two parts in one word, and 2^32 exp(-c^2), at c = i/128, i = 0 to 767; rows 1 to 3 are row 0.", rows, 64,
+          directory, "packed")
 
 
 def complement(directory):
@@ -74,16 +76,20 @@ def complement(directory):
             c = mpf(i) / step
             yield [erfc(c) * mpf(2) ** scale, density(c) * mpf(2) ** scale] if i < last else [mpf(0), mpf(0)]
 
-    write("erfc_64_float", SCRIPT, "2^48 erfc c and 2^48 times the derivative of erf, at c = i/64; a row is one word.",
-          [one_word(row) for row in rows(648, 64, 48, 644)], 64, directory)
-    write("erfc_64_float_packed", SCRIPT, "2^64 erfc c in two parts and 2^64 times the derivative of erf, at c = i/64; a row is one word.",
-          [one_word(packed_row(*row, 32)) for row in rows(648, 64, 64, 644)], 64, directory)
-    write("erfc_128", SCRIPT, "2^128 erfc c and 2^128 times the derivative of erf, at c = i/128.", rows(3488, 128, 128, 3487), 64,
-          directory)
-    write("erfc_128_packed", SCRIPT, "2^128 erfc c in two parts and 2^128 times the derivative of erf, at c = i/128.",
-          [packed_row(*row, 64) for row in rows(3488, 128, 128, 3487)], 64, directory)
-    write("erfc_64", SCRIPT, "2^128 erfc c and 2^128 times the derivative of erf, at c = i/64.", rows(1744, 64, 128, 1744), 64,
-          directory)
+    def comment(count, step, scale, last, parts, form):
+        zeros = f", from row {last} on 0" if last < count else ""
+        return f"2^{scale} erfc c{parts} and 2^{scale} times the derivative of erf, at c = i/{step}, i = 0 to {count - 1}{zeros}; {form}"
+
+    def end(form, width):
+        return f"{form}, a row in one word." if width == 32 else f"{form}."
+
+    for width, grid in ((32, (648, 64, 48, 644)), (64, (3488, 128, 128, 3487)), (64, (1744, 64, 128, 1744))):
+        words = [one_word(row) for row in rows(*grid)] if width == 32 else list(rows(*grid))
+        write("erfc", SCRIPT, comment(*grid, "", end("rounded to nearest", width)), words, width, directory)
+    for width, grid in ((32, (648, 64, 64, 644)), (64, (3488, 128, 128, 3487))):
+        words = [packed_row(*row, width) for row in rows(*grid)]
+        write("erfc", SCRIPT, comment(*grid, " in two parts", end("packed", width)), [one_word(w) for w in words] if width == 32 else words, width,
+              directory, "packed")
 
 
 def generate(directory):

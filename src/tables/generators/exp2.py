@@ -20,10 +20,12 @@ def residue(j, n, width):
 
 
 def generate(directory):
-    for name, n, width in (("exp2_16", 16, 32), ("exp2_32", 32, 32), ("exp2_8", 8, 64), ("exp2_double_16", 16, 64)):
-        write(f"{name}_head", SCRIPT, f"2^(j/{n}), rounded.", [head(j, n, width) for j in range(n)], width, directory)
-        write(f"{name}_tail", SCRIPT, f"The relative residue of entry j of {name}_head.",
-              [residue(j, n, width) for j in range(n)], width, directory)
-    write("exp2_1024_sixth", SCRIPT, "2^(j/1024) / 6, rounded.", [power(j, 1024) / 6 for j in range(1024)], 64, directory)
-    write("exp2_64_pairs", SCRIPT, "2^(j/64), rounded, and its relative residue.",
-          [[head(j, 64, 64), residue(j, 64, 64)] for j in range(64)], 64, directory)
+    for n, width in ((16, 32), (32, 32), (8, 64), (16, 64)):
+        rule = f"2^(j/{n}), j = 0 to {n - 1}"
+        write("exp2", SCRIPT, f"{rule}, rounded to nearest.", [head(j, n, width) for j in range(n)], width, directory, "head")
+        write("exp2", SCRIPT, f"{rule}: the share of the rounded value that it lacks, rounded to nearest.",
+              [residue(j, n, width) for j in range(n)], width, directory, "tail")
+    write("exp2_sixth", SCRIPT, "2^(j/1024) / 6, j = 0 to 1023, rounded to nearest.", [power(j, 1024) / 6 for j in range(1024)], 64,
+          directory)
+    write("exp2", SCRIPT, "2^(j/64), j = 0 to 63: rounded to nearest, and the share of this that it lacks.",
+          [[head(j, 64, 64), residue(j, 64, 64)] for j in range(64)], 64, directory, "pairs")

@@ -1,4 +1,4 @@
-"""Tables and polynomials of the extended-precision functions of the complex cores. Each file is called extended_<what>.inc.
+"""Tables and polynomials of the extended-precision functions of the complex cores. All are called extended_<what>.
 
 Pairs are a head with few enough bits for what is done with it, and the rest rounded to binary64. The polynomials come from
 extended.sollya; each coefficient is a 64-bit number, written as a sum of two binary64 numbers.
@@ -54,8 +54,9 @@ def write_polynomials(directory):
             coefficients.append(mantissa * Fraction(2) ** int(exponent))
     assert found.keys() == MEANING.keys()
     for name, (low, high, error, coefficients) in found.items():
-        comment = f"{MEANING[name]}\n// Interval: [{low:.6g}, {high:.6g}]. Weight: 1. Error: {error:.2e}."
-        write(f"extended_{name}", "extended.sollya", comment, [pair(c, to_binary(c, 64)) for c in coefficients], 64, directory)
+        comment = f"{MEANING[name]}\nInterval: [{low:.6g}, {high:.6g}]. Weight: 1. Error: {error:.2e}."
+        write(f"extended_{name}", "extended.sollya", comment, [pair(c, to_binary(c, 64)) for c in coefficients], 64, directory,
+              "pairs")
 
 
 def seed(i):
@@ -66,10 +67,11 @@ def seed(i):
 
 def write_logarithms(directory):
     reciprocals = [to_significand(1 / (1 + (j + mpf(1) / 2) / 256), 11) for j in range(256)]
-    write("extended_log_reciprocals", SCRIPT, "c near 1 / (1 + (j + 1/2)/256), of at most 11 bits.", reciprocals, 32, directory)
+    write("extended_log_reciprocals", SCRIPT, "c near 1 / (1 + (j + 1/2)/256), j = 0 to 255, of at most 11 bits.", reciprocals, 32, directory)
     logarithms = [-mpmath.log(mpf(c.numerator) / c.denominator) for c in reciprocals]
-    write("extended_log", SCRIPT, "-log c of the reciprocals: a head that is a multiple of 2^-40, and the rest.",
-          [pair(v, to_multiple(v, -40)) for v in logarithms], 64, directory)
+    write("extended_log", SCRIPT,
+          "-log c of the reciprocals c near 1 / (1 + (j + 1/2)/256), j = 0 to 255: rounded to a multiple of 2^-40, and the rest.",
+          [pair(v, to_multiple(v, -40)) for v in logarithms], 64, directory, "pairs")
 
 
 def write_angles(directory):
@@ -80,8 +82,8 @@ def write_angles(directory):
 
     angles = [angle(k) for k in range(513)]
     write("extended_angles", SCRIPT,
-          "atan(k/128), pi/2 - atan((256 - k)/128) from row 128 on, pi - row 512 - k from row 256 on: rounded, and the rest.",
-          [pair(v, to_binary(v, 64)) for v in angles], 64, directory)
+          "atan(k/128) for k = 0 to 128, pi/2 - atan((256 - k)/128) to 256, pi less row 512 - k to 512: rounded to nearest, and the "
+          "rest.", [pair(v, to_binary(v, 64)) for v in angles], 64, directory, "pairs")
 
 
 def write_tangents(directory):
@@ -92,8 +94,8 @@ def write_tangents(directory):
         values = [tangent, cotangent, tangent + cotangent]
         rows.append([part for v in values for part in pair(v, to_binary(v, 64))])
     write("extended_tangents", SCRIPT,
-          "T = tan(k pi/64), C = cot(k pi/64), T + C for k from -17 to 17: rounded, and the rest. Row 0 is not used.",
-          rows, 64, directory)
+          "T = tan(k pi/64), C = cot(k pi/64), T + C, k = -17 to 17: each rounded to nearest, and the rest. That of k = 0 is not used.",
+          rows, 64, directory, "pairs")
 
 
 def write_four_over_pi(directory):
@@ -107,15 +109,17 @@ def write_four_over_pi(directory):
         assert piece and exponent > 0
         rows.append([f"0x{exponent:08X}", f"0x{piece << (64 - piece.bit_length()):016X}"])
     write("extended_four_over_pi", SCRIPT,
-          "The bits of 4/pi in pieces of 31, times 2^217: exponent field, significand with its integer bit.", rows, 64, directory)
+          "Row 0: 0. Rows 1 to 536: the bits of 4/pi from the integer bit on in pieces of 31, times 2^217: exponent field, significand "
+          "with its integer bit. All exact.", rows, 64, directory, format="fields")
 
 
 def generate(directory):
     write("extended_sqrt_seeds", SCRIPT,
-          "Near 1 / sqrt(1 + i/256), then 1 / sqrt(2 (1 + i/256)), of at most 11 bits; a row more for the index past the end.",
+          "Near 1 / sqrt(1 + i/256), then 1 / sqrt(2 (1 + i/256)), i = 0 to 255, of at most 11 bits; a row more for the index past the "
+          "end.",
           [seed(i) for i in range(513)], 64, directory)
-    write("extended_powers", SCRIPT, "2^(j/256) for j from -128 to 128: a head of 32 bits, and the rest.",
-          [pair(v, to_significand(v, 32)) for v in (mpf(2) ** (mpf(j) / 256) for j in range(-128, 129))], 64, directory)
+    write("extended_powers", SCRIPT, "2^(j/256), j = -128 to 128: rounded to 32 bits, and the rest.",
+          [pair(v, to_significand(v, 32)) for v in (mpf(2) ** (mpf(j) / 256) for j in range(-128, 129))], 64, directory, "pairs")
     write_logarithms(directory)
     write_angles(directory)
     write_tangents(directory)

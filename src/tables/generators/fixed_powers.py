@@ -21,12 +21,13 @@ def power(base, exponent):
         exact((mpf(base.numerator) / base.denominator) ** (mpf(exponent.numerator) / exponent.denominator))
 
 
-def write_pair(name, comment, values, width, length, directory):
+def write_pair(subject, rule, values, width, length, directory):
     heads = [to_binary(v, width) for v in values]
     tails = [v - h for v, h in zip(values, heads)]
     fill = [Fraction(0)] * (length - len(values))
-    write(f"{name}_head", SCRIPT, f"{comment}, rounded.", heads + fill, width, directory)
-    write(f"{name}_tail", SCRIPT, f"The residue of {name}_head.", tails + fill, width, directory)
+    end = ", then zeros." if fill else "."
+    write(subject, SCRIPT, f"{rule}, rounded to nearest{end}", heads + fill, width, directory, "head")
+    write(subject, SCRIPT, f"{rule}, less its rounded value; the rest rounded to nearest{end}", tails + fill, width, directory, "tail")
 
 
 def fitted():
@@ -37,12 +38,13 @@ def fitted():
 def generate(directory):
     for width, lanes in LANES.items():
         thirds = [Fraction(j, 3) for j in range(3)]
-        write_pair(f"two_to_thirds_{width}", "2^(j/3)", [power(Fraction(2), t) for t in thirds], width, lanes, directory)
-        write_pair(f"two_to_minus_thirds_{width}", "2^(-j/3)", [power(Fraction(2), -t) for t in thirds], width, lanes, directory)
+        write_pair("two_to_thirds", "2^(j/3), j = 0 to 2", [power(Fraction(2), t) for t in thirds], width, lanes, directory)
+        write_pair("two_to_minus_thirds", "2^(-j/3), j = 0 to 2", [power(Fraction(2), -t) for t in thirds], width, lanes,
+                   directory)
         reciprocals = [(1 + Fraction(i, lanes)) / 2 for i in range(lanes)]
         for name, exponent in (("cbrt", Fraction(-1, 3)), ("invcbrt", Fraction(1, 3)), ("pow2o3", Fraction(-2, 3))):
-            write_pair(f"{name}_{width}", f"c^({exponent}) of the reciprocal c", [power(c, exponent) for c in reciprocals], width,
-                       lanes, directory)
+            rule = f"c^({exponent}) of the reciprocals c = (1 + i/{lanes})/2, i = 0 to {lanes - 1}"
+            write_pair(name, rule, [power(c, exponent) for c in reciprocals], width, lanes, directory)
 
     midpoints = [1 + Fraction(2 * i + 1, 64) for i in range(32)]
     rows = []
@@ -50,9 +52,11 @@ def generate(directory):
         for m in midpoints:
             value = power(scale * m, Fraction(3, 2))
             rows.append([to_binary(value, 64), value - to_binary(value, 64)])
-    write("pow3o2_midpoints", SCRIPT, "(2 m)^(3/2), then m^(3/2), of the midpoints m = 1 + (i + 1/2)/32: rounded, and the residue.", rows, 64,
-          directory)
-    write("pow3o2_reciprocals", SCRIPT, "1 / m of the midpoints, rounded.", [1 / m for m in midpoints], 64, directory)
+    write("pow3o2", SCRIPT,
+          "(2 m)^(3/2), then m^(3/2), of the midpoints m = 1 + (i + 1/2)/32, i = 0 to 31: rounded to nearest, and what it lacks.", rows,
+          64, directory, "pairs")
+    write("pow3o2_reciprocal", SCRIPT, "1 / m of the midpoints m = 1 + (i + 1/2)/32, i = 0 to 31, rounded to nearest.",
+          [1 / m for m in midpoints], 64, directory)
     coefficients = fitted()
     error = mpf(0)
     for t in linspace(mpf(-1) / 65, mpf(1) / 65, 4001):
@@ -60,5 +64,5 @@ def generate(directory):
             p = sum(mpf(c.numerator) / c.denominator * t ** i for i, c in enumerate(coefficients))
             error = max(error, abs(p * t / ((1 + t) ** mpf(1.5) - 1) - 1))
     write("pow3o2_polynomial", "fixed_powers.sollya",
-          "((1 + t)^(3/2) - 1) / t from the constant term up.\n// Interval: |t| <= 1/65. Weight: 1 / f, so the relative error is the least: "
+          "((1 + t)^(3/2) - 1) / t from the constant term up.\nInterval: |t| <= 1/65. Weight: 1 / f, so the relative error is the least: "
           f"{float(error):.2e}.", coefficients, 64, directory)

@@ -1,11 +1,11 @@
 """Tables of the inverse of erfc.
 
-erfcinv_rows: the inverse on a grid of 128 nodes a binade that is fine on both sides of the interval from 0 to 1. Row k holds
+erfcinv_64f_13313: the inverse on a grid of 128 nodes a binade that is fine on both sides of the interval from 0 to 1. Row k holds
 erfcinv q and exp(erfcinv(q)^2), the slope up to a factor, for q = n(k) in the first half and 1 - n(last - k) in the second,
 where n(k) has the pattern of 2^-53 plus k 2^45. Word 0 is the pattern of erfcinv q cut toward zero, less a constant, so that
 six exponent bits are enough; its top six bits count units of the relative tail, 2^-58.
 
-erfcinv_tail: t - erfcinv(exp(-t^2)) by polynomials on pieces of the t axis, for the tails.
+erfcinv_tail_64f_6: t - erfcinv(exp(-t^2)) by polynomials on pieces of the t axis, for the tails.
 """
 
 from fractions import Fraction
@@ -99,15 +99,16 @@ def tail(directory):
             t = low + (high - low) * i / 100
             value = mpmath.polyval([mpf(float(c)) for c in coefficients[::-1]], t - middle)
             worst = max(worst, abs(value - tail_correction(t)) / t)
-    comment = "\n// ".join([
+    comment = "\n".join([
         f"t - erfcinv(exp(-t^2)) on pieces of the t axis from {PIECES[0][0]} on. Row: the piece's upper end, its middle m, the",
         f"coefficients of (t - m)^0 to (t - m)^{TAIL_DEGREE}. Weight: 1 / t. Largest error so weighted: {float(worst):.2e}."])
     write("erfcinv_tail", SCRIPT, comment, rows, 64, directory)
 
 
 def generate(directory):
-    write("erfcinv_rows", SCRIPT,
-          "erfcinv q in two parts, and exp of its square, at 128 nodes q a binade from 2^-53 to 1/2 and, mirrored, to 1 - 2^-53.",
+    write("erfcinv", SCRIPT,
+          "erfcinv q in two parts in one word, and exp of its square, at 128 nodes q a binade from 2^-53 to 1/2 and, mirrored, to "
+          "1 - 2^-53.",
           [row(k) for k in range(LAST + 1)], 64, directory)
     with mpmath.workprec(PRECISION):
         tail(directory)

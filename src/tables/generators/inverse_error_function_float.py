@@ -91,10 +91,11 @@ def table(name, f, what, degree, is_exact, directory):
         worst = max(worst, error)
     lines = [[columns[i][j] if i in columns else mpf(0) for i in range(32)] for j in range(degree + 1 + is_exact)]
     first = "the points M, then the coefficients" if is_exact else "the coefficients"
-    comment = "\n// ".join([
-        f"{what}: a polynomial of degree {degree} on each binade of q and one at the centre. Lines: {first}",
-        f"from the constant one up. Weight: 1 / f, so the relative error is the least. Largest relative error: {float(worst):.2e}."])
-    write(name, SCRIPT, comment, lines, 32, directory)
+    comment = "\n".join([
+        f"{what}: a polynomial of degree {degree} on each binade of q and one at the centre, 32 entries a line",
+        f"in the order of the low exponent bits of q. Lines: {first} from the constant one up.",
+        f"Weight: 1 / f, so the relative error is the least. Largest relative error: {float(worst):.2e}."])
+    write(name, SCRIPT, comment, lines, 32, directory, f"degree_{degree}", size=32)
 
 
 def generate(directory):
@@ -103,4 +104,4 @@ def generate(directory):
                     "cdfnorminv": (Inverse(mpmath.sqrt(2), 2), "sqrt 2 erfcinv(2 q)")}
         for name, (f, what) in inverses.items():
             for degree, is_exact in ((3, False), (7, False), (9, True)):
-                table(f"{name}_float_{degree}", f, what, degree, is_exact, directory)
+                table(name, f, what, degree, is_exact, directory)

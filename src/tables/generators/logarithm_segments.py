@@ -53,9 +53,10 @@ def generate(directory):
         table = tables[key] | {i: [from_bits(int(word, 16), 32) for word in words.split()] for i, words in pinned.items()}
         rows = [table[i] for i in range(16)]
         errors = {i: relative_error(function, i, rows[i]) for i in range(16)}
-        comment = "\n// ".join([
-            f"{name}(1 + r) on sixteen segments, coefficients of r^{degree} to r.",
-            "Interval: the row's segment of m = 1 + r. Weight: 1 / f, so the relative error is the least. Largest relative error:",
+        comment = "\n".join([
+            f"{name}(1 + r) on sixteen segments of m = 1 + r, which row i holds for the top fraction bits i of m: the coefficients of "
+            f"r^{degree} to r.",
+            "Interval: [1 + i/16, 1 + (i + 1)/16) for i < 8, half of that from 8 on. Weight: 1 / f, so the relative error is the least. Largest relative error:",
             f"{float(max(errors[i] for i in errors if i not in pinned)):.2e} in the fitted rows, "
             f"{float(max(errors[i] for i in pinned)):.2e} in the pinned rows 0, 7, 8 and 15."])
-        write(f"{name}_segments_{degree}", SCRIPT, comment, rows, 32, directory)
+        write(f"{name}_segments", SCRIPT, comment, rows, 32, directory, f"degree_{degree}")

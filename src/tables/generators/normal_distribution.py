@@ -21,13 +21,16 @@ def packed_rows(count, step, scale, width):
 
 
 def generate(directory):
-    def comment(parts, density, step, scale, end="."):
-        return f"The probability left of -c{parts}, and {density} there, at c = i/{step}, both times 2^{scale}{end}"
+    def comment(parts, density, count, step, scale, end):
+        return (f"The probability left of -c{parts}, and {density} there, at c = i/{step}, i = 0 to {count - 1}, both times 2^{scale}; "
+                f"{end}")
 
-    plain, packed, one = ("", "the density"), (" in two parts", "twice the density"), "; a row is one word."
-    write("cdfnorm_64_float", SCRIPT, comment(*plain, 64, 64, one), [one_word(r) for r in rows(908, 64, 64)], 64, directory)
-    write("cdfnorm_64_float_packed", SCRIPT, comment(*packed, 64, 64, one), [one_word(r) for r in packed_rows(908, 64, 64, 32)],
-          64, directory)
-    write("cdfnorm_64", SCRIPT, comment(*plain, 64, 128), rows(2468, 64, 128), 64, directory)
-    write("cdfnorm_128", SCRIPT, comment(*plain, 128, 128), rows(4928, 128, 128), 64, directory)
-    write("cdfnorm_128_packed", SCRIPT, comment(*packed, 128, 128), packed_rows(4928, 128, 128, 64), 64, directory)
+    plain, packed = ("", "the density"), (" in two parts", "twice the density")
+    rounded, one = "rounded to nearest", ", a row in one word."
+    narrow, wide, fine = (908, 64, 64), (2468, 64, 128), (4928, 128, 128)
+    write("cdfnorm", SCRIPT, comment(*plain, *narrow, rounded + one), [one_word(r) for r in rows(*narrow)], 32, directory)
+    write("cdfnorm", SCRIPT, comment(*packed, *narrow, "packed" + one), [one_word(r) for r in packed_rows(*narrow, 32)], 32, directory,
+          "packed")
+    write("cdfnorm", SCRIPT, comment(*plain, *wide, rounded + "."), list(rows(*wide)), 64, directory)
+    write("cdfnorm", SCRIPT, comment(*plain, *fine, rounded + "."), list(rows(*fine)), 64, directory)
+    write("cdfnorm", SCRIPT, comment(*packed, *fine, "packed."), packed_rows(*fine, 64), 64, directory, "packed")

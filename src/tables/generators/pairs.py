@@ -19,11 +19,13 @@ def pair(value, head=None):
 
 def generate(directory):
     powers = [pair(mpf(2) ** (mpf(j) / 256)) + pair(mpf(2) ** (-mpf(j) / 256)) for j in range(256)]
-    write("pairs_exp2_256", SCRIPT, "2^(j/256) and 2^(-j/256): each rounded, and the rest.", powers, 64, directory)
+    write("exp2", SCRIPT, "2^(j/256) and 2^(-j/256), j = 0 to 255: each rounded to nearest, and the rest.", powers, 64, directory,
+          "pairs")
 
     angles = [pair(sine(Fraction(k, 256))) + pair(cosine(Fraction(k, 256))) for k in range(256)]
-    write("pairs_angles_256", SCRIPT, "sin and cos of k/256 turn: each rounded, and the rest.", angles, 64, directory)
+    write("sine_cosine", SCRIPT, "sin and cos of k/256 turn, k = 0 to 255: each rounded to nearest, and the rest.", angles, 64,
+          directory, "pairs")
 
     logarithms = [-mpmath.log(mpf(i) / 256) for i in range(170, 343)]
-    write("pairs_ln_256", SCRIPT, "-ln(i/256) for i from 170 to 342: a head that is a multiple of 2^-40, and the rest.",
-          [pair(v, to_multiple(exact(v), -40)) for v in logarithms], 64, directory)
+    write("minus_ln", SCRIPT, "-ln(i/256), i = 170 to 342: rounded to a multiple of 2^-40, and the rest.",
+          [pair(v, to_multiple(exact(v), -40)) for v in logarithms], 64, directory, "pairs")

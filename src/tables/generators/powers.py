@@ -29,12 +29,14 @@ def split(value, grid, mode="nearest"):
 
 
 def vector_tables(directory):
-    for name, width, grid in (("log2_float", 32, -16), ("log2_double", 64, -40)):
+    for width, grid in ((32, -16), (64, -40)):
         rows = [(1 if j >= 16 else 0) - log2_of(Fraction(32 + j, 32)) for j in range(32)]
-        write(f"{name}_32_pairs", SCRIPT, f"-log2(1 + j/32), 1 more from j = 16 on: hi, a multiple of 2^{grid}, and lo.",
-              [split(row, grid) for row in rows], width, directory)
+        write("minus_log2", SCRIPT,
+              f"-log2 c, c = 1 + j/32 for j = 0 to 15, (1 + j/32)/2 for j = 16 to 31: hi, rounded to a multiple of 2^{grid}, and lo, "
+              "the rest.", [split(row, grid) for row in rows], width, directory, "pairs")
         rows = [(1 if i >= 8 else 0) - log2_of(Fraction(16 + i, 16)) for i in range(16)]
-        write(f"{name}_16", SCRIPT, "-log2(1 + i/16), 1 more from i = 8 on; rounded.", rows, width, directory)
+        write("minus_log2", SCRIPT, "-log2 c, c = 1 + i/16 for i = 0 to 7, (1 + i/16)/2 for i = 8 to 15; rounded to nearest.", rows,
+              width, directory)
 
 
 def centre(i, count, unit):
@@ -84,23 +86,27 @@ def check_reach(width):
 
 
 def routine_tables(directory):
-    for width, name in ((32, "power_routine_float"), (64, "power_routine_double")):
+    for width in (32, 64):
         check_reach(width)
-        counts, _, grids, scale, log_grid = STAGES[width]
+        counts, units, grids, scale, log_grid = STAGES[width]
         first, second, third = stage_factors(width)
         half = (counts[0] - 1) // 2
-        write(f"{name}_1", SCRIPT,
-              f"c = 1/(1 + i/{counts[0] - 1}) on the grid 2^{grids[0]}; -log2 c, 1 less from row {half} on: hi, a multiple of 2^{log_grid}, and lo.",
+        hi_and_lo = f"hi, rounded to a multiple of 2^{log_grid}, and lo, the rest"
+        write("power_stage1", SCRIPT,
+              f"c = 1/(1 + i/{counts[0] - 1}), i = 0 to {counts[0] - 1}, rounded to a multiple of 2^{grids[0]}; -log2 c, 1 less from "
+              f"row {half} on: {hi_and_lo}.",
               [[c] + split(exact(-log2_of(c)) - (1 if i >= half else 0), log_grid) for i, c in enumerate(first)], width, directory)
-        write(f"{name}_2", SCRIPT,
-              f"c, the reciprocal of the row's middle on the grid 2^{grids[1]}; -log2 c: hi, a multiple of 2^{log_grid}, and lo.",
+        write("power_stage2", SCRIPT,
+              f"c, the reciprocal of the row's middle, rounded to a multiple of 2^{grids[1]}; -log2 c: {hi_and_lo}. Rows of "
+              f"{2 * units[0]}, those in front for numbers from 1 on, those behind for numbers below.",
               [[c] + split(-log2_of(c), log_grid) for c in second], width, directory)
-        write(f"{name}_3", SCRIPT,
-              f"c, the scale over the row's middle on the grid 2^{grids[2]}; log2(scale/c): hi, a multiple of 2^{log_grid}, and lo.",
+        write("power_stage3", SCRIPT,
+              f"c, the scale over the row's middle, rounded to a multiple of 2^{grids[2]}; log2(scale/c): {hi_and_lo}. Rows of "
+              f"{2 * units[1]}, those in front for numbers from 1 on, those behind for numbers below.",
               [[c] + split(log2_of(scale / c), log_grid) for c in third], width, directory)
         powers = [exact(mpf(2) ** (mpf(i) / 128)) for i in range(128)]
-        write(f"exp2_{'float' if width == 32 else 'double'}_128_pairs", SCRIPT, "2^(i/128), rounded, and what that leaves.",
-              [[to_binary(p, width), p - to_binary(p, width)] for p in powers], width, directory)
+        write("exp2", SCRIPT, "2^(i/128), i = 0 to 127: rounded to nearest, and what that lacks.",
+              [[to_binary(p, width), p - to_binary(p, width)] for p in powers], width, directory, "pairs")
 
 
 def gathered_tables(directory):
@@ -108,19 +114,22 @@ def gathered_tables(directory):
     for i in range(65):
         c = to_multiple(Fraction(64, 64 + i), -8)
         rows.append(split(-ln_of(c), -13) + [c])
-    write("powx_ln_64", SCRIPT, "c = 1/(1 + i/64) on the grid 2^-8. -ln c: hi, a multiple of 2^-13, and lo; c.", rows, 32,
-          directory)
-    write("powx_ln_512", SCRIPT, "ln(512/c), c from 512 to 724, ln(1024/c) from there to 1024; rounded.",
+    write("powx_ln", SCRIPT,
+          "-ln c: hi, rounded to a multiple of 2^-13, and lo, the rest; then c = 1/(1 + i/64), i = 0 to 64, rounded to a multiple of "
+          "2^-8.", rows, 32, directory)
+    write("powx_ln", SCRIPT, "ln(512/c) for c = 512 to 724, ln(1024/c) for c = 725 to 1024; rounded to nearest.",
           [ln_of(Fraction(512 if c <= 724 else 1024, c)) for c in range(512, 1025)], 64, directory)
     balance = exact(mpf(0.9999999928394805))
-    write("powx_exp2_2048", SCRIPT, "2^(i/2048), 0.9999999928394805 times, which balances the error of a linear step; rounded.",
+    write("powx_exp2", SCRIPT,
+          "0.9999999928394805 times 2^(i/2048), i = 0 to 2047, rounded to nearest. The factor balances the error of a linear step.",
           [exact(mpf(2) ** (mpf(i) / 2048)) * balance for i in range(2048)], 64, directory)
     scale = STAGES[64][3]
     reciprocals = [to_significand(scale * 1024 / (1024 + i), 23, "zero") for i in range(1025)]
-    write("powx_reciprocals_1024", SCRIPT, "c = 1.442694902420044/(1 + i/1024), cut to 23 significant bits.", reciprocals, 64, directory)
-    write("powx_log2_1024_pairs", SCRIPT,
-          "log2(1.442694902420044/c) of entry c of powx_reciprocals_1024, 1 less from row 512 on: hi, cut to a multiple of 2^-30, and lo.",
-          [split(exact(log2_of(scale / c)) - (1 if i >= 512 else 0), -30, "zero") for i, c in enumerate(reciprocals)], 64, directory)
+    rule = "c = 1.442694902420044/(1 + i/1024), i = 0 to 1024, cut to 23 significant bits"
+    write("powx_reciprocal", SCRIPT, f"{rule}.", reciprocals, 64, directory)
+    write("powx_log2", SCRIPT,
+          f"log2(1.442694902420044/c) for {rule}; 1 less from row 512 on: hi, cut to a multiple of 2^-30, and lo, the rest.",
+          [split(exact(log2_of(scale / c)) - (1 if i >= 512 else 0), -30, "zero") for i, c in enumerate(reciprocals)], 64, directory, "pairs")
 
 
 def generate(directory):

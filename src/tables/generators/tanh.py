@@ -78,10 +78,11 @@ def generate(directory):
     for (name, degree), higher in tables.items():
         width = 32 if name == "float" else 64
         rows, error = table(name, width, higher)
+        ends, parts = [high for _, high in segments(name)], 4 if name == "float" else 2
         pinned = "; row 0 is pinned" if name == "float" else ""
-        comment = "\n// ".join([
+        comment = "\n".join([
             f"tanh on segments: the centre, the coefficients of 1, d, ... d^{degree} for d = |x| - centre, "
             "what the first of them lacks.",
-            f"Interval: the row's segment. Weight: 1/d^2, with value and slope given{pinned}.",
+            f"Segments: from 0 to {float(ends[0]):g}, then {parts} equal parts of each power of 2, to {float(ends[-1]):g}. Weight: 1/d^2, with value and slope given{pinned}.",
             f"Largest relative error, with what the value lacks added: {float(error):.2e}. The last row is 1."])
-        write(f"tanh_{name}_{degree}", SCRIPT, comment, rows, width, directory)
+        write("tanh", SCRIPT, comment, rows, width, directory, f"degree_{degree}")
