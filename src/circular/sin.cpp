@@ -76,6 +76,12 @@ struct A26_64f : Kernel<Lum64f> {
     Lum64f cosine;
     return SineAndCosine(x, result, cosine);
   }
+  // Huge numbers remain.
+  static constexpr bool second_is_short = true;
+  static LUM_INLINE Finished<Lum64f> SecondPath(Vec<Lum64f> x, const Lanes<Lum64f>& lanes) {
+    return {SelectNonFinite(x, lanes.value), lanes.refused & ~fpclass<classes::nonfinite>(x),
+            {.domain = fpclass<classes::infinity>(x)}};
+  }
 };
 
 struct Double : Kernel<Lum64f> {

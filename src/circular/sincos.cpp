@@ -10,7 +10,6 @@ using namespace circular;
 
 template <class T> LUM_INLINE TwoLanes<T> Both(const SineAndCosineValues<T>& v) { return {v.sine, v.cosine, v.refused}; }
 
-// A tier without a second vector path finishes all refused lanes by the routine.
 template <class Tier> struct Plain : Kernel<typename Tier::Element> {
   using T = typename Tier::Element;
   static constexpr int vectors = sizeof(T) == 8 ? 1 : 2;  // more would not fit into the registers
@@ -30,7 +29,14 @@ template <class Tier> struct WithLarge : Plain<Tier> {
 struct A11_32f : WithLarge<QuarterTurns_A21> {};
 struct A21_32f : WithLarge<QuarterTurns_A21> {};
 struct A24_32f : WithLarge<QuarterTurns_A24> {};
-struct A26_64f : Plain<SineAndCosine_A26> {};
+struct A26_64f : Plain<SineAndCosine_A26> {
+  // Huge numbers remain.
+  static constexpr bool second_is_short = true;
+  static LUM_INLINE TwoFinished<T> SecondPath(Vec<T> x, const TwoLanes<T>& lanes) {
+    return {SelectNonFinite(x, lanes.value1), SelectNonFinite(x, lanes.value2),
+            lanes.refused & ~fpclass<classes::nonfinite>(x), {.domain = fpclass<classes::infinity>(x)}};
+  }
+};
 struct A50_64f : WithLarge<SineAndCosine_A50> {};
 struct A53_64f : WithLarge<SineAndCosine_A53> {};
 

@@ -36,18 +36,29 @@ template <class T> LumStatus FinishRefused(T x, T& result) {
   else result = std::numeric_limits<T>::denorm_min();
   return lumStsOk;
 }
+template <class T> LUM_INLINE Finished<T> FinishRefused(Vec<T> x, const Lanes<T>& lanes) {
+  auto value = zero_unless(eq(x, all(limit<T>)), all(std::numeric_limits<T>::denorm_min()));
+  value = select(unord(x, x), x + x, value);
+  const auto vanishes = lt(x, all(limit<T>)) & ~fpclass<classes::infinity>(x);
+  return {select(lanes.refused, value, lanes.value), mask_of<T>(0), {.underflow = vanishes}};
+}
+// The lanes that all tiers of a type refuse alike.
+template <class T> struct NormalKernel : Kernel<T> {
+  static LumStatus LaneRoutine(T x, T& result) { return FinishRefused(x, result); }
+  static constexpr bool second_is_short = true;
+  static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) { return FinishRefused(x, lanes); }
+};
 
 // p d (1 + E) off P.
 template <class T> LUM_INLINE Vec<T> Fall(const RowOfTwo<T>& row, Vec<T> d, Vec<T> series) {
   return fnma(d, fma(row.second, series, row.second), row.first);
 }
 
-struct Float : Kernel<Lum32f> {
+struct Float : NormalKernel<Lum32f> {
   static LUM_INLINE Distance<Lum32f> DistanceIn(Vec<Lum32f> x) {
     return DistanceOf(x, 14.171875f, 0x1p-32f, 0x1p17f);  // the last place of the last is 1/64
   }
   static LUM_INLINE Lanes<Lum32f> Finish(Vec<Lum32f> x, Vec<Lum32f> scaled) { return lum::Finish(x, scaled, 0x1p-64f); }
-  static LumStatus LaneRoutine(Lum32f x, Lum32f& result) { return FinishRefused(x, result); }
 };
 
 constexpr Table<uint64_t, 908> float_table = {{
@@ -84,11 +95,10 @@ struct A24_32f : Float {
   }
 };
 
-struct Double : Kernel<Lum64f> {
+struct Double : NormalKernel<Lum64f> {
   static constexpr auto last_centre = 38.4921875, least_distance = 0x1p-128;
   static constexpr auto shifter = 0x1p45;  // the last place is 1/128
   static LUM_INLINE Lanes<Lum64f> Finish(Vec<Lum64f> x, Vec<Lum64f> scaled) { return lum::Finish(x, scaled, 0x1p-128); }
-  static LumStatus LaneRoutine(Lum64f x, Lum64f& result) { return FinishRefused(x, result); }
 };
 
 struct A26_64f : Double {

@@ -36,6 +36,12 @@ template <class T> LumStatus FinishRefused(T x, T& result) {
   return lumStsOk;
 }
 
+template <class T> struct NormalInverse : Kernel<T> {
+  static LumStatus LaneRoutine(T x, T& result) { return FinishRefused(x, result); }
+  static constexpr bool second_is_short = true;
+  static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) { return FinishEnds(x, lanes, T(1), false); }
+};
+
 template <int degree> struct FloatTable;
 template <> struct FloatTable<3> {
   static constexpr auto table = table32({
@@ -54,14 +60,13 @@ template <> struct FloatTable<9> {
   static constexpr auto centre_rest = numbers::root_two_pi_parts<Lum32f>[1];  // sqrt(2 pi) less its binary32 number
 };
 
-template <int degree> struct Float : Kernel<Lum32f> {
+template <int degree> struct Float : NormalInverse<Lum32f> {
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
     const auto p = min(all(1.0f) - x, x);  // a NaN stays one
     const auto s = all(0.5f) - p;
     const auto magnitude = EvaluatePolynomial<FloatTable<degree>, degree>(p, s, nlt(p, all(0.25f)));
     return {xor_sign(x - all(0.5f), magnitude), nle(all(0x1p-24f), p)};
   }
-  static LumStatus LaneRoutine(Lum32f x, Lum32f& result) { return FinishRefused(x, result); }
 };
 using A11_32f = Float<3>;
 using A21_32f = Float<7>;
@@ -76,7 +81,7 @@ struct NormalSeries {
   static constexpr auto& c7 = numbers::quantile_series_7<Lum64f>;
 };
 
-template <int terms, bool has_tail> struct Double : Kernel<Lum64f> {
+template <int terms, bool has_tail> struct Double : NormalInverse<Lum64f> {
   static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
     const auto [p, refused] = ClampTo(0x1p-35, 0x1.fffffffffffffp-2, min(all(1.0) - x, x));
     const auto e = Expand<false>(min(all(0.5) - p, p), nlt(p, all(0.25)), 0x1p-54);
@@ -90,7 +95,6 @@ template <int terms, bool has_tail> struct Double : Kernel<Lum64f> {
     }
     return {xor_sign(all(0.5) - x, result), refused};
   }
-  static LumStatus LaneRoutine(Lum64f x, Lum64f& result) { return FinishRefused(x, result); }
 };
 using A26_64f = Double<3, false>;
 using A50_64f = Double<6, false>;

@@ -37,10 +37,22 @@ template <class T> LumStatus FinishRefused(T x, T& result) {
   else result = std::numeric_limits<T>::denorm_min();
   return lumStsOk;
 }
-
-struct Float : Kernel<Lum32f> {
-  static LumStatus LaneRoutine(Lum32f x, Lum32f& result) { return FinishRefused(x, result); }
+template <class T> LUM_INLINE Finished<T> FinishRefused(Vec<T> x, const Lanes<T>& lanes) {
+  constexpr bool limit_is_zero = sizeof(T) == sizeof(Lum64f);
+  auto value = zero_unless(eq(x, all(limit<T>)), all(limit_is_zero ? T(0) : std::numeric_limits<T>::denorm_min()));
+  value = select(unord(x, x), x + x, value);
+  const auto past = limit_is_zero ? le(all(limit<T>), x) : lt(all(limit<T>), x);
+  return {select(lanes.refused, value, lanes.value), mask_of<T>(0), {.underflow = past & ~fpclass<classes::infinity>(x)}};
+}
+// The lanes that all tiers of a type refuse alike.
+template <class T> struct ComplementKernel : Kernel<T> {
+  static LumStatus LaneRoutine(T x, T& result) { return FinishRefused(x, result); }
+  static constexpr bool second_is_short = true;
+  static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) { return FinishRefused(x, lanes); }
 };
+
+using Float = ComplementKernel<Lum32f>;
+using Double = ComplementKernel<Lum64f>;
 constexpr auto float_shifter = 0x1p17f;  // the last place is 1/64
 
 struct A21_32f : Float {
@@ -70,9 +82,6 @@ struct A24_32f : Float {
   }
 };
 
-struct Double : Kernel<Lum64f> {
-  static LumStatus LaneRoutine(Lum64f x, Lum64f& result) { return FinishRefused(x, result); }
-};
 constexpr auto double_shifter = 0x1p45;  // the last place is 1/128
 constexpr auto inverse_double_scale = 0x1p-128;
 constexpr auto least_distance = 0x1p-128;

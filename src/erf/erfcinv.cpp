@@ -29,26 +29,30 @@ template <class T> LumStatus FinishRefused(T x, T& result) {
   return lumStsOk;
 }
 
-template <int degree> struct Float : Kernel<Lum32f> {
+template <class T> struct ComplementInverse : Kernel<T> {
+  static LumStatus LaneRoutine(T x, T& result) { return FinishRefused(x, result); }
+  static constexpr bool second_is_short = true;
+  static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) { return FinishEnds(x, lanes, T(2), true); }
+};
+
+template <int degree> struct Float : ComplementInverse<Lum32f> {
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
     const auto q = min(all(2.0f) - x, x);  // a NaN stays one
     const auto s = all(1.0f) - q;
     const auto magnitude = EvaluatePolynomial<ErrorPolynomials<degree>, degree>(q, s, nlt(q, all(0.5f)));
     return {xor_sign(all(1.0f) - x, magnitude), nle(all(0x1p-24f), q)};
   }
-  static LumStatus LaneRoutine(Lum32f x, Lum32f& result) { return FinishRefused(x, result); }
 };
 using A11_32f = Float<3>;
 using A21_32f = Float<7>;
 using A24_32f = Float<9>;
 
-template <int terms, bool has_tail> struct Double : Kernel<Lum64f> {
+template <int terms, bool has_tail> struct Double : ComplementInverse<Lum64f> {
   static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
     const auto [q, refused] = ClampTo(0x1p-35, 0x1.fffffffffffffp-1, min(all(2.0) - x, x));
     const auto e = Expand<false>(min(all(1.0) - q, q), nlt(q, all(0.5)), 0x1p-53);
     return {xor_sign(all(1.0) - x, SumOf<terms, has_tail>(e.y, e.tail, negate(e.d))), refused};
   }
-  static LumStatus LaneRoutine(Lum64f x, Lum64f& result) { return FinishRefused(x, result); }
 };
 using A26_64f = Double<3, false>;
 using A50_64f = Double<6, false>;

@@ -30,26 +30,43 @@ template <class T> LumStatus FinishRefused(T x, T& result) {
   return lumStsOk;
 }
 
-template <int degree> struct Float : Kernel<Lum32f> {
+// In the lanes that a first path refuses.
+template <class T> LUM_INLINE Finished<T> FinishRefused(Vec<T> x, const Lanes<T>& lanes) {
+  const auto a = abs(x);
+  const auto pole = eq(a, all(T(1))), outside = lt(all(T(1)), a);
+  auto value = x + x;
+  if constexpr (sizeof(T) == sizeof(Lum64f)) {
+    const auto next_to_zero = fma(x, all(numbers::half_root_pi_parts<T>[0]), x * all(numbers::half_root_pi_parts<T>[1]));
+    value = select(lt(a, all(T(0.5))), select(fpclass<classes::zero>(x), x, next_to_zero), value);
+  }
+  value = select(pole, or_sign(x, all(std::numeric_limits<T>::infinity())), value);
+  value = select(outside, all(std::numeric_limits<T>::quiet_NaN()), value);
+  return {select(lanes.refused, value, lanes.value), mask_of<T>(0), {.domain = outside, .singularity = pole}};
+}
+template <class T> struct InverseKernel : Kernel<T> {
+  static LumStatus LaneRoutine(T x, T& result) { return FinishRefused(x, result); }
+  static constexpr bool second_is_short = true;
+  static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) { return FinishRefused(x, lanes); }
+};
+
+template <int degree> struct Float : InverseKernel<Lum32f> {
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
     const auto a = abs(x);
     const auto q = all(1.0f) - a;
     const auto magnitude = EvaluatePolynomial<ErrorPolynomials<degree>, degree>(q, a, nlt(q, all(0.5f)));
     return {or_sign(x, magnitude), nle(all(0x1p-24f), q)};
   }
-  static LumStatus LaneRoutine(Lum32f x, Lum32f& result) { return FinishRefused(x, result); }
 };
 using A11_32f = Float<3>;
 using A21_32f = Float<7>;
 using A24_32f = Float<9>;
 
-template <int terms, bool has_tail> struct Double : Kernel<Lum64f> {
+template <int terms, bool has_tail> struct Double : InverseKernel<Lum64f> {
   static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
     const auto [a, refused] = ClampTo(0x1p-35, 0x1.fffffffffffffp-1, abs(x));
     const auto e = Expand<true>(min(all(1.0) - a, a), lt(a, all(0.5)), 0x1p-53);
     return {or_sign(x, SumOf<terms, has_tail>(e.y, e.tail, e.d)), refused};
   }
-  static LumStatus LaneRoutine(Lum64f x, Lum64f& result) { return FinishRefused(x, result); }
 };
 using A26_64f = Double<3, false>;
 using A50_64f = Double<6, false>;

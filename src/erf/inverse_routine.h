@@ -56,4 +56,18 @@ template <class T> LumStatus OutsideDomain(T& result) {
   return lumStsDomain;
 }
 
+// The ends 0 and `upper` of the domain, the middle, whose value is 0, NaN and what is outside of the domain, in the lanes that a
+// first path refuses; the tails next to the ends remain. The pole at 0 is positive or negative.
+template <class T> LUM_INLINE Finished<T> FinishEnds(Vec<T> x, const Lanes<T>& lanes, T upper, bool positive_at_zero) {
+  constexpr auto infinity = std::numeric_limits<T>::infinity();
+  const auto at_zero = fpclass<classes::zero>(x), at_upper = eq(x, all(upper)), middle = eq(x, all(upper / 2));
+  const auto outside = fpclass<classes::below_zero>(x) | lt(all(upper), x), is_nan = unord(x, x);
+  auto value = zero_unless(~middle, x + x);
+  value = select(at_zero, all(positive_at_zero ? infinity : -infinity), value);
+  value = select(at_upper, all(positive_at_zero ? -infinity : infinity), value);
+  value = select(outside, all(std::numeric_limits<T>::quiet_NaN()), value);
+  const auto pole = at_zero | at_upper, finished = lanes.refused & (pole | middle | outside | is_nan);
+  return {select(finished, value, lanes.value), lanes.refused & ~finished, {.domain = outside, .singularity = pole}};
+}
+
 }  // namespace lum::inline LUM_LAYER::erf

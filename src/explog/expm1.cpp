@@ -5,7 +5,7 @@
 // that -0 gives -0. In 32f A11 and A21 and in 64f A26 a NaN passes through.
 #include <cstdint>
 
-#include "explog/exp_routine.h"
+#include "explog/exp_ends.h"
 #include "explog/polynomials.h"
 #include "frame/kernel_frame.h"
 #include "frame/kernels.h"
@@ -116,17 +116,37 @@ template <class T, class Exp> LumStatus LaneRoutineBy(Exp exp, T x, T& result) {
   }
   return exp(x, result);
 }
+// The second path of the exponential; other lanes hold 0, as large negative numbers are no concern of it.
+template <class T, class AtEnds> LUM_INLINE Finished<T> SecondPathBy(Vec<T> x, const Lanes<T>& lanes, AtEnds at_ends) {
+  return ExpSecondPath(select(lanes.refused, x, all(T(0))), lanes, at_ends);
+}
 
-struct A11_32f : Kernel<Lum32f> {
+// The tiers whose lane routine computes in binary32.
+struct Float : Kernel<Lum32f> {
+  static LumStatus LaneRoutine(Lum32f x, Lum32f& result) { return LaneRoutineBy(ExpFloatRoutine, x, result); }
+  static LUM_INLINE Finished<Lum32f> SecondPath(Vec<Lum32f> x, const Lanes<Lum32f>& lanes) {
+    return SecondPathBy(
+        x, lanes, [](Vec<Lum32f> between) __attribute__((always_inline)) { return ExpFloatAtEnds(between); });
+  }
+};
+// The tiers whose lane routine computes in binary64.
+template <class T> struct ByDouble : Kernel<T> {
+  static LumStatus LaneRoutine(T x, T& result) { return LaneRoutineBy(ExpDoubleRoutine<T>, x, result); }
+  static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) {
+    return SecondPathBy(
+        x, lanes, [](Vec<T> between) __attribute__((always_inline)) { return ExpAtEnds(between); });
+  }
+};
+
+struct A11_32f : Float {
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
     const auto a = Reduce<32, 1>(x);
     const auto q = fma(a.r * a.r, horner(a.r, explog::expm1_A11), a.r);
     return {Join(x, scalef(Lookup(Grid<Lum32f, 32>::head, a.j), a.n), q), Refused(x)};
   }
-  static LumStatus LaneRoutine(Lum32f x, Lum32f& result) { return LaneRoutineBy(ExpFloatRoutine, x, result); }
 };
 
-struct A21_32f : Kernel<Lum32f> {
+struct A21_32f : Float {
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
     using G = Grid<Lum32f, 32>;
     const auto a = Reduce<32, 2>(x);
@@ -134,10 +154,9 @@ struct A21_32f : Kernel<Lum32f> {
     const auto q = fma(a.r * a.r, p, Lookup(G::tail, a.j)) + a.r;
     return {Join(x, scalef(Lookup(G::head, a.j), a.n), q), Refused(x)};
   }
-  static LumStatus LaneRoutine(Lum32f x, Lum32f& result) { return LaneRoutineBy(ExpFloatRoutine, x, result); }
 };
 
-struct A24_32f : Kernel<Lum32f> {
+struct A24_32f : ByDouble<Lum32f> {
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
     using G = Grid<Lum32f, 16>;
     const auto a = Reduce<16, 2>(x);
@@ -145,12 +164,10 @@ struct A24_32f : Kernel<Lum32f> {
     const auto s = LowerBoundedScale(Lookup(G::head, a.j), a.n);
     return {JoinCompensated(x, a, Lookup(G::tail, a.j), s, p), RefusedWithNan(x)};
   }
-  static LumStatus LaneRoutine(Lum32f x, Lum32f& result) { return LaneRoutineBy(ExpDoubleRoutine<Lum32f>, x, result); }
 };
 
-struct Double : Kernel<Lum64f> {
+struct Double : ByDouble<Lum64f> {
   using G = Grid<Lum64f, 16>;
-  static LumStatus LaneRoutine(Lum64f x, Lum64f& result) { return LaneRoutineBy(ExpDoubleRoutine<Lum64f>, x, result); }
 };
 
 struct A26_64f : Double {

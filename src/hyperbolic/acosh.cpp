@@ -14,13 +14,19 @@ using namespace hyperbolic;
 template <class T> struct Routine : Kernel<T> {
   static constexpr T fill = T(2.5);
   static LumStatus LaneRoutine(T x, T& result) {
-    constexpr T quiet = std::numeric_limits<T>::quiet_NaN();
     if (x < 1) {
-      result = sizeof(T) == sizeof(float) ? -quiet : quiet;  // deliberately of a different sign in either type
+      result = outside_domain_of<T>;
       return lumStsDomain;
     }
     result = x == 1 ? T(0) : x * x;
     return lumStsOk;
+  }
+  static constexpr bool second_is_short = true;
+  static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) {
+    const auto outside = lt(x, all(T(1)));
+    auto value = select(nle(x, all(T(1))), x + x, all(T(0)));
+    value = select(outside, all(outside_domain_of<T>), value);
+    return {select(lanes.refused, value, lanes.value), mask_of<T>(0), {.domain = outside}};
   }
 };
 

@@ -49,7 +49,6 @@ template <class T> LUM_INLINE Vec<T> DifferenceLo(const Sides<T>& s) {
 template <class T> struct Routine : Kernel<T> {
   static LumStatus LaneRoutine(T x, T& result) {
     constexpr T infinity = std::numeric_limits<T>::infinity();
-    constexpr T quiet = std::numeric_limits<T>::quiet_NaN();
     if (x != x) {
       result = x * x;
       return lumStsOk;
@@ -58,8 +57,16 @@ template <class T> struct Routine : Kernel<T> {
       result = x < 0 ? -infinity : infinity;
       return lumStsSingularity;
     }
-    result = sizeof(T) == sizeof(float) ? -quiet : quiet;  // deliberately of a different sign in either type
+    result = outside_domain_of<T>;
     return lumStsDomain;
+  }
+  static constexpr bool second_is_short = true;
+  static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) {
+    const auto a = abs(x);
+    const auto pole = eq(a, all(T(1))), outside = lt(all(T(1)), a);
+    auto value = select(pole, or_sign(x, all(std::numeric_limits<T>::infinity())), x + x);
+    value = select(outside, all(outside_domain_of<T>), value);
+    return {select(lanes.refused, value, lanes.value), mask_of<T>(0), {.domain = outside, .singularity = pole}};
   }
 };
 

@@ -2,7 +2,7 @@
 // of the two powers. Arguments near the overflow, infinities and NaN go to the lane routine.
 #include "frame/kernels.h"
 #include "hyperbolic/exponentials.h"
-#include "hyperbolic/hyperbolic_routine.h"
+#include "hyperbolic/hyperbolic_ends.h"
 #include "hyperbolic/polynomials.h"
 
 namespace lum::inline LUM_LAYER {
@@ -43,6 +43,7 @@ LUM_INLINE Vec<Lum64f> SinhSeries(Vec<Lum64f> r, Vec<Lum64f> r2) {
 
 template <class T> struct HyperbolicCosine : Kernel<T> {
   static LumStatus LaneRoutine(T x, T& result) { return CoshRoutine(x, result); }
+  static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) { return FinishAtEnds<T, false>(x, lanes); }
 };
 
 struct A11_32f : HyperbolicCosine<Lum32f> {

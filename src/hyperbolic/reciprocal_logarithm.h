@@ -3,6 +3,8 @@
 // table of N rows and ln(1 + r) is a polynomial.
 #pragma once
 
+#include <limits>
+
 #include "explog/polynomials.h"
 #include "frame/kernel_frame.h"
 #include "frame/numbers.h"
@@ -10,6 +12,10 @@
 #include "tables/table.h"
 
 namespace lum::inline LUM_LAYER::hyperbolic {
+
+// The result outside of the domain of an inverse function: deliberately of a different sign in either type.
+template <class T> inline constexpr T outside_domain_of = -std::numeric_limits<T>::quiet_NaN();
+template <> inline constexpr Lum64f outside_domain_of<Lum64f> = std::numeric_limits<Lum64f>::quiet_NaN();
 
 // The columns hi and lo of ln(1 + i/N): his are short, so that sums of them and of multiples of ln2_head are exact.
 template <class T> struct LogTable;

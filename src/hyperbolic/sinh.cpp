@@ -3,7 +3,7 @@
 // Arguments near the overflow, infinities and NaN go to the lane routine.
 #include "frame/kernels.h"
 #include "hyperbolic/exponentials.h"
-#include "hyperbolic/hyperbolic_routine.h"
+#include "hyperbolic/hyperbolic_ends.h"
 #include "hyperbolic/polynomials.h"
 
 namespace lum::inline LUM_LAYER {
@@ -13,6 +13,7 @@ using namespace hyperbolic;
 
 template <class T> struct HyperbolicSine : Kernel<T> {
   static LumStatus LaneRoutine(T x, T& result) { return SinhRoutine(x, result); }
+  static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) { return FinishAtEnds<T, true>(x, lanes); }
 };
 
 // Infinities and NaN have larger patterns than every threshold.

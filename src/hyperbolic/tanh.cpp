@@ -28,6 +28,11 @@ template <> struct Segments<Lum64f> {
 // 1 with the sign of x, or the NaN quieted: for the top of the largest power of 2, infinities and NaN.
 template <class T> struct HyperbolicTangent : Kernel<T> {
   static void LaneRoutine(T x, T& result) { result = x != x ? x + x : x < 0 ? T(-1) : T(1); }
+  static constexpr bool second_is_short = true;
+  static LUM_INLINE Lanes<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) {
+    const auto value = select(unord(x, x), x + x, or_sign(x, all(T(1))));
+    return {select(lanes.refused, value, lanes.value), mask_of<T>(0)};
+  }
 };
 
 // Columns of rows_of<T> entries: the centre, the coefficients from the constant one up, what the constant one lacks.

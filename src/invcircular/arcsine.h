@@ -91,5 +91,10 @@ template <class T> LumStatus OutsideUnitInterval(T x, T& result) {
   result = lane::nan_of(x);
   return x != x ? lumStsOk : lumStsDomain;
 }
+template <class T> LUM_INLINE Finished<T> OutsideUnitInterval(Vec<T> x, const Lanes<T>& lanes) {
+  const auto is_nan = unord(x, x);
+  const auto value = select(is_nan, x + x, all(lane::default_nan<T>()));
+  return {select(lanes.refused, value, lanes.value), mask_of<T>(0), {.domain = lanes.refused & ~is_nan}};
+}
 
 }  // namespace lum::inline LUM_LAYER::invcircular

@@ -47,6 +47,8 @@ template <int terms, class T> LUM_INLINE Vec<T> MinusRoot(Vec<T> y) {
 
 template <class T> struct Arcsine : Kernel<T> {
   static LumStatus LaneRoutine(T x, T& result) { return OutsideUnitInterval(x, result); }
+  static constexpr bool second_is_short = true;
+  static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) { return OutsideUnitInterval(x, lanes); }
 };
 
 // The root in one part to the given terms of its series, or in two parts.

@@ -120,6 +120,10 @@ template <class T> struct Low : Kernel<T> {
   }
   // Infinities alone come here.
   static void LaneRoutine(T x, T& result) { result = x < 0 ? -half_pi<T> : half_pi<T>; }
+  static constexpr bool second_is_short = true;
+  static LUM_INLINE Lanes<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) {
+    return {select(lanes.refused, or_sign(x, all(half_pi<T>)), lanes.value), mask_of<T>(0)};
+  }
 };
 
 }  // namespace

@@ -7,8 +7,8 @@
 #include <type_traits>
 
 #include "frame/kernel_frame.h"
-#include "frame/lane_format.h"
 #include "frame/kernels.h"
+#include "frame/lane_format.h"
 
 namespace lum::inline LUM_LAYER {
 namespace {

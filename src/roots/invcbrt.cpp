@@ -46,6 +46,13 @@ template <class T, Tier tier> struct InvCbrtKernel : Kernel<T> {
     result = x != x ? x / x : T(0) / x;
     return lumStsOk;
   }
+  static constexpr bool second_is_short = true;
+  static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) {
+    const auto zero = fpclass<classes::zero>(x);
+    auto value = or_sign(x, zero_unless(zero, all(std::numeric_limits<T>::infinity())));
+    value = select(unord(x, x), x + x, value);
+    return {select(lanes.refused, value, lanes.value), mask_of<T>(0), {.singularity = zero}};
+  }
 };
 
 }  // namespace

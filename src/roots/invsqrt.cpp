@@ -4,8 +4,8 @@
 #include <limits>
 
 #include "frame/kernel_frame.h"
-#include "frame/lane_format.h"
 #include "frame/kernels.h"
+#include "frame/lane_format.h"
 #include "roots/polynomials.h"
 
 namespace lum::inline LUM_LAYER {

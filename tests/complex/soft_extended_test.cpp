@@ -58,10 +58,14 @@ class Numbers {
   uint64_t Significand() {
     const uint64_t random = engine_();
     switch (engine_() % 4) {
-      case 0: return random << engine_() % 64;
-      case 1: return ~(random >> engine_() % 64);
-      case 2: return (random & 0xffffffff00000000) | (uint64_t{1} << engine_() % 64);
-      default: return random;
+      case 0:
+        return random << engine_() % 64;
+      case 1:
+        return ~(random >> engine_() % 64);
+      case 2:
+        return (random & 0xffffffff00000000) | (uint64_t{1} << engine_() % 64);
+      default:
+        return random;
     }
   }
   uint16_t Exponent(uint64_t first, uint64_t last) { return static_cast<uint16_t>(first + engine_() % (last - first + 1)); }

@@ -7,9 +7,8 @@ namespace lum::inline LUM_LAYER {
 void CorePow(ComplexDouble& result, const ComplexDouble& z, const ComplexDouble& exponent) {
   ComplexDouble logarithm;
   CoreLog(logarithm, z);
-  const ComplexDouble product = {
-      Difference(Product(exponent.re, logarithm.re), Product(exponent.im, logarithm.im)),
-      Sum(Product(exponent.re, logarithm.im), Product(exponent.im, logarithm.re))};
+  const ComplexDouble product = {Difference(Product(exponent.re, logarithm.re), Product(exponent.im, logarithm.im)),
+                                 Sum(Product(exponent.re, logarithm.im), Product(exponent.im, logarithm.re))};
   CoreExp(result, product);
 }
 

@@ -99,7 +99,8 @@ class SoftExtended {
   static constexpr SoftExtended Zero(bool negative) { return Packed(negative, 0, 0); }
   static constexpr SoftExtended Infinity(bool negative) { return Packed(negative, special, leading); }
   static constexpr SoftExtended DefaultNan() { return Packed(true, special, leading | quiet); }
-  // A signalling NaN gives way to a quiet one; of two that are alike the larger significand is taken, of equal ones the positive.
+  // A signalling NaN gives way to a quiet one; of two that are alike the larger significand is taken, of equal ones the
+  // positive.
   static constexpr SoftExtended NanOf(SoftExtended a, SoftExtended b) {
     const bool first = !b.is_nan() || (a.is_nan() && (a.is_quiet() != b.is_quiet() ? a.is_quiet() : IsLargerNan(a, b)));
     const SoftExtended nan = first ? a : b;
@@ -211,7 +212,8 @@ class SoftExtended {
     const Wide rest = shift > 65 ? Wide{1} : Wide{x.significand} & ((Wide{1} << shift) - 1);
     const Wide half = Wide{1} << (shift > 65 ? 65 : shift - 1);
     const bool up = rest > half || (rest == half && (kept & 1) != 0);
-    // The leading bit of kept, where it has one, carries into the field, and so does a significand rounded up to a power of two.
+    // The leading bit of kept, where it has one, carries into the field, and so does a significand rounded up to a power of
+    // two.
     return static_cast<Bits>(
         sign | ((static_cast<Bits>(field - 1) << fraction_bits) + static_cast<Bits>(kept) + static_cast<Bits>(up ? 1 : 0)));
   }
