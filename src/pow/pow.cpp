@@ -20,12 +20,6 @@ using namespace pow;
 template <class T> struct PowConstants;
 template <> struct PowConstants<Lum32f> {
   static constexpr auto limit = 125.5f;
-  // With the bias, so that the biased exponent comes to lie above the index.
-
-  static constexpr auto exp_shifter_16 = rounding_shifter<Lum32f>(4) + 127;
-  static constexpr auto exp_shifter_32 = rounding_shifter<Lum32f>(5) + 127;
-  static constexpr int fraction_bits = 23;
-  static constexpr uint32_t exponent_field = 0x7F800000;
   static constexpr auto rows_16 = table32({
 #include "tables/generated/minus_log2_32f_16.inc"
   });
@@ -38,9 +32,6 @@ template <> struct PowConstants<Lum32f> {
 };
 template <> struct PowConstants<Lum64f> {
   static constexpr auto limit = 1021.5;
-  static constexpr auto exp_shifter_16 = rounding_shifter<Lum64f>(4) + 1023;
-  static constexpr int fraction_bits = 52;
-  static constexpr uint64_t exponent_field = 0x7FF0000000000000;
   static constexpr auto rows_16 = table64({
 #include "tables/generated/minus_log2_64f_16.inc"
   });
@@ -75,7 +66,7 @@ template <int fraction_bits, class T> LUM_INLINE Reduced<T> Reduce(Vec<T> x) {
 
 // The number in the top fraction bits of c: the row of the table.
 template <int row_bits, class T> LUM_INLINE Vec<UnsignedOf<T>> RowOf(Vec<T> c) {
-  return shift_right<PowConstants<T>::fraction_bits - row_bits>(bits(c));
+  return shift_right<lane::Format<T>::fraction_bits - row_bits>(bits(c));
 }
 
 LUM_INLINE TwoParts<Vec<Lum32f>> PairOf(Vec<Lum32f> c) {
@@ -91,6 +82,15 @@ LUM_INLINE TwoParts<Vec<Lum64f>> PairOf(Vec<Lum64f> c) {
     return select(first_half, permute2(load(table), load(table + 8), j), permute2(load(table + 16), load(table + 24), j));
   };
   return {entry(pairs), entry(pairs + 32)};
+}
+
+// log2 x = base + tail + log2(1 + r), base without rounding error.
+template <class T> struct ReducedToPair { Vec<T> r, base, tail; };
+template <class T> LUM_INLINE ReducedToPair<T> ReduceToPair(Vec<T> x) {
+  const auto [e, m, c] = Reduce<5>(x);
+  const auto r = fms(m, c, all(T(1)));
+  const auto row = PairOf(c);
+  return {r, row.head + e, row.tail};
 }
 
 // ---- The product with y, the exponent of 2
@@ -112,8 +112,10 @@ template <class T> struct Exponent {
   Vec<UnsignedOf<T>> n;  // in the low bits: the index of the table, above it the biased exponent
 };
 
-// The bit that is cleared is none of an f below 1; it keeps NaN and huge values of refused lanes out of the polynomial.
-template <int index_bits, class T> LUM_INLINE Exponent<T> SplitExponent(const TwoParts<Vec<T>>& a, T shifter) {
+// The bit that is cleared is none of an f below 1; it keeps NaN and large values of refused lanes out of the polynomial.
+template <int index_bits, class T> LUM_INLINE Exponent<T> SplitExponent(const TwoParts<Vec<T>>& a) {
+  // With the bias, so that the biased exponent comes to lie above the index.
+  constexpr T shifter = rounding_shifter<T>(index_bits) + lane::Format<T>::bias;
   const auto [n, rest] = split_floor<index_bits>(a.head, all(shifter));
   const auto f = rest + a.tail;
   return {f & all(static_cast<UnsignedOf<T>>(~(sign_bit<T> >> 1))), bits(n)};
@@ -121,16 +123,18 @@ template <int index_bits, class T> LUM_INLINE Exponent<T> SplitExponent(const Tw
 
 // value * 2^floor(P).
 template <int index_bits, class T> LUM_INLINE Vec<T> Scale(Vec<T> value, const Exponent<T>& a) {
-  using C = PowConstants<T>;
-  return value * as_float(shift_left<C::fraction_bits - index_bits>(a.n) & all(C::exponent_field));
+  using F = lane::Format<T>;
+  return value * as_float(shift_left<F::fraction_bits - index_bits>(a.n) & all(F::infinity));
 }
 
-// (2^f - 1) / f to the accuracy of A50 and A53.
-LUM_INLINE Vec<Lum64f> LongExpPolynomial(Vec<Lum64f> f) {
-  constexpr auto& p = pow::exp2_A50;
-  const auto square = f * f;
-  return fma(fma(horner(f, part<4, 5>(p)), square, horner(f, part<2, 3>(p))), square, horner(f, part<0, 1>(p)));
+// 2^(i/16), i in the low bits of n.
+LUM_INLINE Vec<Lum32f> ExpHead(Vec<uint32_t> n) { return permute(load<Lum32f>(PowConstants<Lum32f>::exp_head), n); }
+LUM_INLINE Vec<Lum64f> ExpHead(Vec<uint64_t> n) {
+  const Lum64f* heads = PowConstants<Lum64f>::exp_head;
+  return permute2(load(heads), load(heads + 8), n);
 }
+// (2^f - 1) / f to the accuracy of A50 and A53.
+LUM_INLINE Vec<Lum64f> LongExpPolynomial(Vec<Lum64f> f) { return horner_of_pairs(f, f * f, pow::exp2_A50); }
 
 template <class T> struct PowKernel : Kernel<T> {
   static LUM_INLINE Finished<T> SecondPath(Vec<T> x, Vec<T> y, const Lanes<T>& lanes) { return PowerSecondPath(x, y, lanes); }
@@ -149,8 +153,8 @@ struct A11_32f : PowKernel<Lum32f> {
     const auto r = fms(m, c, all(1.0f));
     const auto q = horner(r, pow::log2_A11);
     const auto product = mul_toward_zero(fma<rz>(q, r, e + permute(load<Lum32f>(C::rows_16), RowOf<4>(c))), y);
-    const auto a = SplitExponent<4>(product, C::exp_shifter_16);
-    const auto head = permute(load<Lum32f>(C::exp_head), a.n);
+    const auto a = SplitExponent<4>(product);
+    const auto head = ExpHead(a.n);
     const auto u = horner(a.f, pow::exp2_A11);
     return {Scale<4>(fma(head * a.f, u, head), a), Refused(x, y, product.head)};
   }
@@ -158,45 +162,39 @@ struct A11_32f : PowKernel<Lum32f> {
 
 struct A21_32f : PowKernel<Lum32f> {
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x, Vec<Lum32f> y) {
-    using C = PowConstants<Lum32f>;
-    const auto [e, m, c] = Reduce<5>(x);
-    const auto r = fms(m, c, all(1.0f));
-    const auto row = PairOf(c);
+    const auto [r, base, tail] = ReduceToPair(x);
     const auto k = all(numbers::log2_e<Lum32f>);
-    const auto b = row.head + e;
-    const auto s = fma(k, r, b);
-    const auto s_error = fms(k, r, s - b);
-    const auto q = fma(horner(r, pow::log2_A21), r, row.tail);
+    const auto s = fma(k, r, base);
+    const auto s_error = fms(k, r, s - base);
+    const auto q = fma(horner(r, pow::log2_A21), r, tail);
     const auto product = MultiplyPair(s, q, s_error, y);
-    const auto a = SplitExponent<4>(product, C::exp_shifter_16);
-    const auto head = permute(load<Lum32f>(C::exp_head), a.n);
+    const auto a = SplitExponent<4>(product);
+    const auto head = ExpHead(a.n);
     const auto u = horner(a.f, pow::exp2_A21);
     return {Scale<4>(fma(head * a.f, u, head), a), Refused(x, y, product.head)};
   }
 };
 
-// The second term of the series joins the sum exactly, as the first does: c2 (r2 + r2_error) + (K r + b).
-template <class T> struct ExactTerms { Vec<T> sum, errors, r2_error; };
-template <class T> LUM_INLINE ExactTerms<T> SumExactTerms(Vec<T> r, Vec<T> b, T k, T c2) {
+// y log2 x, where the second term of the series joins the sum exactly, as the first does: c2 (r2 + r2_error) + (K r + base).
+template <class T, size_t n>
+LUM_INLINE TwoParts<Vec<T>> MultiplyExactTerms(Vec<T> x, Vec<T> y, const Polynomial<T, n>& polynomial) {
+  const auto [r, base, tail] = ReduceToPair(x);
+  constexpr T k = numbers::log2_e<T>, c2 = -k / 2;
   const auto r2 = r * r;
-  const auto s = fma(all(k), r, b);
-  const auto s_error = fms(all(k), r, s - b);
+  const auto s = fma(all(k), r, base);
+  const auto s_error = fms(all(k), r, s - base);
   const auto s2 = fma(all(c2), r2, s);
   const auto s2_error = fms(all(c2), r2, s2 - s);
-  return {s2, s_error + s2_error, fms(r, r, r2)};
+  const auto errors = s_error + s2_error;
+  const auto r2_error = fms(r, r, r2);
+  const auto q = fma(horner(r, polynomial), r, fma(all(c2), r2_error, tail));
+  return MultiplyPair(s2, q, errors, y);
 }
 
 struct A24_32f : PowKernel<Lum32f> {
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x, Vec<Lum32f> y) {
-    using C = PowConstants<Lum32f>;
-    const auto [e, m, c] = Reduce<5>(x);
-    const auto r = fms(m, c, all(1.0f));
-    const auto row = PairOf(c);
-    const auto c2 = -numbers::log2_e<Lum32f> / 2;
-    const auto terms = SumExactTerms(r, row.head + e, numbers::log2_e<Lum32f>, c2);
-    const auto q = fma(horner(r, pow::log2_A24), r, fma(all(c2), terms.r2_error, row.tail));
-    const auto product = MultiplyPair(terms.sum, q, terms.errors, y);
-    const auto a = SplitExponent<5>(product, C::exp_shifter_32);
+    const auto product = MultiplyExactTerms(x, y, pow::log2_A24);
+    const auto a = SplitExponent<5>(product);
     const auto head = permute2(load<Lum32f>(exp_head_32), load(exp_head_32 + 16), a.n);
     const auto tail = permute2(load<Lum32f>(exp_tail_32), load(exp_tail_32 + 16), a.n);
     const auto u = horner(a.f, pow::exp2_A24);
@@ -218,8 +216,8 @@ struct A26_64f : PowKernel<Lum64f> {
     const auto q4 = horner(r, part<4, 5>(pow::log2_A26));
     const auto q = fma(fma(all(pow::log2_A26.c[6]), r2, q4), r2 * r2, fma(q2, r2, q0));
     const auto product = mul_toward_zero(fma<rz>(q, r, b), y);
-    const auto a = SplitExponent<4>(product, C::exp_shifter_16);
-    const auto head = permute2(load<Lum64f>(C::exp_head), load(C::exp_head + 8), a.n);
+    const auto a = SplitExponent<4>(product);
+    const auto head = ExpHead(a.n);
     const auto u = horner(a.f, pow::exp2_A26);
     return {Scale<4>(fma(head * a.f, u, head), a), Refused(x, y, product.head)};
   }
@@ -227,23 +225,15 @@ struct A26_64f : PowKernel<Lum64f> {
 
 struct A50_64f : PowKernel<Lum64f> {
   static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x, Vec<Lum64f> y) {
-    using C = PowConstants<Lum64f>;
-    const auto [e, m, c] = Reduce<5>(x);
-    const auto r = fms(m, c, all(1.0));
-    const auto row = PairOf(c);
-    const auto c2 = -numbers::log2_e<Lum64f> / 2;
-    const auto terms = SumExactTerms(r, row.head + e, numbers::log2_e<Lum64f>, c2);
-    const auto q = fma(horner(r, pow::log2_A50), r, fma(all(c2), terms.r2_error, row.tail));
-    const auto product = MultiplyPair(terms.sum, q, terms.errors, y);
-    const auto a = SplitExponent<4>(product, C::exp_shifter_16);
-    const auto head = permute2(load<Lum64f>(C::exp_head), load(C::exp_head + 8), a.n);
+    const auto product = MultiplyExactTerms(x, y, pow::log2_A50);
+    const auto a = SplitExponent<4>(product);
+    const auto head = ExpHead(a.n);
     return {Scale<4>(fma(head * a.f, LongExpPolynomial(a.f), head), a), Refused(x, y, product.head)};
   }
 };
 
 struct A53_64f : PowKernel<Lum64f> {
   static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x, Vec<Lum64f> y) {
-    using C = PowConstants<Lum64f>;
     const auto [e, m, c] = Reduce<5>(x);
     const auto v = fms(m * all(0.5), c, all(0.5));  // r/2, exact
     const auto row = PairOf(c);
@@ -258,8 +248,8 @@ struct A53_64f : PowKernel<Lum64f> {
     const auto errors = fnma(v, d_error, d_error) + s2_error;
     const auto q = fma(horner(v, pow::log2_A53), v, row.tail);
     const auto product = MultiplyPair(s2, q, errors, y);
-    const auto a = SplitExponent<4>(product, C::exp_shifter_16);
-    const auto head = permute2(load<Lum64f>(C::exp_head), load(C::exp_head + 8), a.n);
+    const auto a = SplitExponent<4>(product);
+    const auto head = ExpHead(a.n);
     const auto tail = permute2(load<Lum64f>(exp_tail_16), load(exp_tail_16 + 8), a.n);
     return {Scale<4>(fma(head, fma(LongExpPolynomial(a.f), a.f, tail), head), a), Refused(x, y, product.head)};
   }

@@ -48,19 +48,14 @@ template <class T> LUM_INLINE TwoParts<Vec<T>> SplitVector(Vec<T> x) {
   const auto head = t - (t - x);
   return {head, x - head};
 }
-template <class T> LUM_INLINE Vec<UnsignedOf<T>> BiasedExponents(Vec<T> x) {
-  return shift_right<PowerFormat<T>::fraction_bits>(bits(abs(x)));
-}
-
-// As the function of scalars.
+// The steps of the scalar Log2Pair.
 template <class T> LUM_INLINE TwoParts<Vec<T>> Log2Pair(Vec<T> given) {
-  using F = PowerFormat<T>;
+  using F = lane::Format<T>;
   using C = PowerConstants<T>;
   using Word = UnsignedOf<T>;
   const auto denormal = lt(given, all(std::numeric_limits<T>::min()));
-  const auto x = select(
-      denormal, given * all(std::bit_cast<T>(static_cast<Word>(C::denormal_exponent + F::bias) << F::fraction_bits)), given);
-  const auto m = as_float((bits(x) & all(Word{F::fraction_mask})) | all(Word{F::one}));
+  const auto x = select(denormal, given * all(lane::power_of_two<T>(C::denormal_exponent)), given);
+  const auto m = as_float((bits(x) & all(F::fraction)) | all(F::one));
   const auto row1 = StageRow<0>(m);
   const auto z1 = row1.c * m;
   const auto row2 = StageRow<1>(z1);
@@ -88,7 +83,7 @@ template <class T> LUM_INLINE TwoParts<Vec<T>> Log2Pair(Vec<T> given) {
 // 2^(p.head + p.tail). A denormal result is counted in units of the smallest positive number by a sum whose last bit is worth
 // that.
 template <class T> LUM_INLINE Vec<T> Exp2Positive(TwoParts<Vec<T>> p) {
-  using F = PowerFormat<T>;
+  using F = lane::Format<T>;
   using C = PowerConstants<T>;
   using Word = UnsignedOf<T>;
   using Signed = SignedOf<T>;
@@ -101,7 +96,7 @@ template <class T> LUM_INLINE Vec<T> Exp2Positive(TwoParts<Vec<T>> p) {
   const auto correction = row.column0 * (g * unfused_horner(g, C::exp_polynomial)) + row.column1;
   const auto v = row.column0 + correction;
 
-  const auto exponent = as_signed(BiasedExponents(v)) + n;
+  const auto exponent = as_signed(exponent_field(abs(v))) + n;
   auto value = as_float(bits(v) + as_unsigned(shift_left<F::fraction_bits>(n)));
   value = select(mask_cast<T>(lt(all(Signed{2 * F::bias}), exponent)), all(std::numeric_limits<T>::infinity()), value);
   const auto small = lt(exponent, all(Signed{1}));
@@ -110,8 +105,8 @@ template <class T> LUM_INLINE Vec<T> Exp2Positive(TwoParts<Vec<T>> p) {
   if (!any(denormal)) return value;
 
   const auto field = select(denormal, n, all(Signed{0})) + all(Signed{C::denormal_exponent + F::bias});
-  const auto up = as_float(shift_left<F::fraction_bits>(field));
-  constexpr T unit = std::bit_cast<T>(static_cast<Word>(C::denormal_exponent + 1) << F::fraction_bits);
+  const auto up = power_of_two<T>(as_unsigned(field));
+  constexpr T unit = lane::power_of_two<T>(C::denormal_exponent + 1 - F::bias);
   const auto counted = [](Vec<T> q, T addend) __attribute__((always_inline)) {
     return bits(q + all(addend)) - bits(all(addend));
   };
@@ -128,7 +123,7 @@ template <class T> LUM_INLINE Vec<T> PowerMagnitude(Vec<T> x, Vec<T> y) {
   using C = PowerConstants<T>;
   using Word = UnsignedOf<T>;
   const auto log = Log2Pair(x);
-  const auto exponents = BiasedExponents(log.head) + BiasedExponents(y);
+  const auto exponents = exponent_field(abs(log.head)) + exponent_field(abs(y));
   const auto far = mask_cast<T>(le(all(Word{C::overflowing_exponents}), exponents));
   const auto near_one = mask_cast<T>(lt(exponents, all(Word{C::vanishing_exponents})));
   const auto factor = zero_unless(~(far | near_one), y);

@@ -1,8 +1,9 @@
-// The scalar power, the lane routine: all special values, negative bases, and results
-// next to and beyond the ends of the range, denormal ones rounded once.
+// The scalar power, the lane routine: all special values, negative bases, and results next to and beyond the ends of the range,
+// denormal ones rounded once.
 #pragma once
 
 #include <bit>
+#include <cmath>
 #include <cstdint>
 #include <limits>
 #include <type_traits>
@@ -71,33 +72,18 @@ template <> struct PowerConstants<Lum64f> {
   static constexpr auto& exp_polynomial = pow::routine_exp2_64f;
 };
 
-template <class T> struct PowerFormat {
-  using Word = std::conditional_t<sizeof(T) == 4, uint32_t, uint64_t>;
-  using Signed = std::make_signed_t<Word>;
-  static constexpr int fraction_bits = std::numeric_limits<T>::digits - 1;
-  static constexpr int bias = std::numeric_limits<T>::max_exponent - 1;
-  static constexpr Word one = std::bit_cast<Word>(T(1));
-  static constexpr Word fraction_mask = (Word{1} << fraction_bits) - 1;
-
-  static Word Bits(T x) { return std::bit_cast<Word>(x); }
-  static Word Magnitude(T x) { return Bits(x) & (~Word{0} >> 1); }
-  static int BiasedExponent(T x) { return static_cast<int>(Magnitude(x) >> fraction_bits); }
-  // 2^n of a normal result.
-  static T PowerOfTwo(int n) { return std::bit_cast<T>(static_cast<Word>(n + bias) << fraction_bits); }
-};
-
 enum class Parity { fractional, odd, even };
 
 // A NaN and an infinity count as fractional.
 template <class T> Parity ParityOf(T y) {
-  using F = PowerFormat<T>;
-  const int exponent = F::BiasedExponent(y) - F::bias;
+  using F = lane::Format<T>;
+  const int exponent = lane::exponent_field(y) - F::bias;
   if (exponent < 0 || exponent > F::bias) return Parity::fractional;
   if (exponent > F::fraction_bits) return Parity::even;
   // The fraction behind the point comes to lie in the fraction field, the unit above it; for |y| below 2 that is the last bit
   // of the exponent field, which is odd.
-  const auto shifted = F::Magnitude(y) << exponent;
-  if ((shifted & F::fraction_mask) != 0) return Parity::fractional;
+  const auto shifted = lane::to_bits(lane::magnitude(y)) << exponent;
+  if ((shifted & F::fraction) != 0) return Parity::fractional;
   return (shifted >> F::fraction_bits & 1) != 0 ? Parity::odd : Parity::even;
 }
 
@@ -105,19 +91,19 @@ template <class T> Parity ParityOf(T y) {
 // next to zero. Three short factors bring m to scale (1 + d), scale next to 1/ln 2, so that u = scale d is nearly the logarithm
 // of what is left. Their product is exact, and so is u as a pair.
 template <class T> TwoParts<T> Log2Pair(T x) {
-  using F = PowerFormat<T>;
+  using F = lane::Format<T>;
   using C = PowerConstants<T>;
   int exponent_correction = 0;
   if (x < std::numeric_limits<T>::min()) {
-    x *= F::PowerOfTwo(C::denormal_exponent);
+    x *= lane::power_of_two<T>(C::denormal_exponent);
     exponent_correction = C::denormal_exponent;
   }
   // The bits of the index rounded to nearest: twice as many units as rows.
   const auto row = [](int stage, T z) {
-    const auto half = typename F::Word{1} << (C::index_shift[stage] - 1);
-    return 3 * static_cast<size_t>(((F::Bits(z) & C::index_mask[stage]) + half) >> C::index_shift[stage]);
+    const auto half = typename F::Bits{1} << (C::index_shift[stage] - 1);
+    return 3 * static_cast<size_t>(((lane::to_bits(z) & C::index_mask[stage]) + half) >> C::index_shift[stage]);
   };
-  const T m = std::bit_cast<T>((F::Bits(x) & F::fraction_mask) | F::one);
+  const T m = lane::significand_of(x);
   const T* row1 = C::stage1 + row(0, m);
   const T z1 = row1[0] * m;
   const T* row2 = C::stage2 + row(1, z1);
@@ -125,7 +111,7 @@ template <class T> TwoParts<T> Log2Pair(T x) {
   const T* row3 = C::stage3 + row(2, z2);
   const T z3 = z2 * row3[0];
   const auto e =
-      static_cast<T>(static_cast<int>(static_cast<typename F::Signed>(F::Bits(x) - C::exponent_origin) >> F::fraction_bits) -
+      static_cast<T>(static_cast<int>(static_cast<SignedOf<T>>(lane::to_bits(x) - C::exponent_origin) >> F::fraction_bits) -
                      exponent_correction);
 
   const T u0 = z3 - C::scale;  // exact
@@ -144,24 +130,24 @@ template <class T> TwoParts<T> Log2Pair(T x) {
 
 // 2^(p.head + p.tail) times sign, |p| up to 2^11: one rounding also of a denormal result.
 template <class T> T Exp2Signed(TwoParts<T> p, T sign) {
-  using F = PowerFormat<T>;
+  using F = lane::Format<T>;
   using C = PowerConstants<T>;
-  constexpr T huge = std::numeric_limits<T>::max();
-  constexpr T tiny = std::numeric_limits<T>::min();
+  constexpr T largest = std::numeric_limits<T>::max();
+  constexpr T smallest = std::numeric_limits<T>::min();
   const T shifted = p.head + C::exp_shifter;
-  const int count = static_cast<int>(static_cast<typename F::Signed>(F::Bits(shifted) - F::Bits(C::exp_shifter)));
+  const int count = static_cast<int>(static_cast<SignedOf<T>>(lane::to_bits(shifted) - lane::to_bits(C::exp_shifter)));
   const T g = (p.head - (shifted - C::exp_shifter)) + p.tail;
   const T* row = C::exp2 + 2 * (count & 127);
   const int n = count >> 7;
   const T correction = row[0] * (g * unfused_horner(g, C::exp_polynomial)) + row[1];
   const T v = row[0] + correction;
 
-  const int exponent = F::BiasedExponent(v) + n;
-  if (exponent > 2 * F::bias) return sign * huge * huge;
-  if (exponent > 0) return sign * std::bit_cast<T>(F::Bits(v) + (static_cast<typename F::Word>(n) << F::fraction_bits));
-  if (exponent < C::last_denormal) return sign * tiny * tiny;
-  const T up = F::PowerOfTwo(n + C::denormal_exponent);
-  const T down = F::PowerOfTwo(-C::denormal_exponent);
+  const int exponent = lane::exponent_field(v) + n;
+  if (exponent > 2 * F::bias) return sign * largest * largest;
+  if (exponent > 0) return sign * std::bit_cast<T>(lane::to_bits(v) + (static_cast<typename F::Bits>(n) << F::fraction_bits));
+  if (exponent < C::last_denormal) return sign * smallest * smallest;
+  const T up = lane::power_of_two<T>(n + C::denormal_exponent);
+  const T down = lane::power_of_two<T>(-C::denormal_exponent);
   // Few bits are left: a second rounding does no harm.
   if (exponent < -9) return sign * (v * up) * down;
   // The head is no longer than the result; the rest alone is rounded.
@@ -172,10 +158,9 @@ template <class T> T Exp2Signed(TwoParts<T> p, T sign) {
 
 // x^y times sign, for positive finite x other than 1, and finite y.
 template <class T> T PowerMagnitude(T x, T y, T sign) {
-  using F = PowerFormat<T>;
   using C = PowerConstants<T>;
   const auto log = Log2Pair(x);
-  const int exponents = F::BiasedExponent(log.head) + F::BiasedExponent(y);
+  const int exponents = lane::exponent_field(log.head) + lane::exponent_field(y);
   if (exponents >= C::overflowing_exponents) {
     const T h = (log.head < 0) == (y < 0) ? std::numeric_limits<T>::max() : std::numeric_limits<T>::min();
     return sign * h * h;
@@ -194,7 +179,6 @@ template <class T> T PowerMagnitude(T x, T y, T sign) {
 
 // x^y of any arguments.
 template <class T> LumStatus PowerRoutine(T x, T y, T& result) {
-  using F = PowerFormat<T>;
   constexpr T infinity = std::numeric_limits<T>::infinity();
   result = 1;
   if (x == 1 || y == 0) return lumStsOk;
@@ -203,9 +187,9 @@ template <class T> LumStatus PowerRoutine(T x, T y, T& result) {
     return lumStsOk;
   }
   const auto parity = ParityOf(y);
-  const bool is_negative = F::Bits(x) != F::Magnitude(x);
+  const bool is_negative = std::signbit(x);
   const T sign = is_negative && parity == Parity::odd ? T(-1) : T(1);
-  const T magnitude = std::bit_cast<T>(F::Magnitude(x));
+  const T magnitude = lane::magnitude(x);
   const bool y_is_finite = -infinity < y && y < infinity;
   if (x == 0) {
     result = y > 0 ? sign * (x * x) : sign / (x * x);

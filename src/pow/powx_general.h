@@ -50,7 +50,7 @@ template <class T> struct PowxGeneral : Kernel<T> {
 // ---- binary32, A11 and A21
 
 // All but the positive normal numbers; the largest of these is among the refused.
-LUM_INLINE Mask<Lum32f> IsRefused(Vec<Lum32f> x) {
+LUM_INLINE Mask<Lum32f> Refused(Vec<Lum32f> x) {
   return fpclass<classes::not_positive_normal>(x) | le(all(std::numeric_limits<Lum32f>::max()), x);
 }
 
@@ -61,16 +61,17 @@ template <uint32_t limit> LUM_INLINE Mask<Lum32f> PatternAbove(Vec<Lum32f> a) {
 
 // 2^n times value, where z = n + 1.5 * 2^23.
 LUM_INLINE Vec<Lum32f> AddToExponent(Vec<Lum32f> value, Vec<Lum32f> z) {
-  return as_float(bits(value) + shift_left<23>(bits(z)));
+  return as_float(bits(value) + shift_left<lane::Format<Lum32f>::fraction_bits>(bits(z)));
 }
 
 // ln x = k ln 2 + ln m, m in [2/3, 4/3), by a polynomial in m - 1.
 struct PowxA11_32f : PowxGeneral<Lum32f> {
   LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) const {
-    const auto two_thirds = all(0x3F2AAAABu);
+    using F = lane::Format<Lum32f>;
+    const auto two_thirds = bits(all(2 / 3.0f));
     const auto u = bits(x) - two_thirds;
-    const auto k = to_float(shift_right_arithmetic<23>(as_signed(u)));
-    const auto r = as_float((u & all(0x7FFFFFu)) + two_thirds) - all(1.0f);
+    const auto k = to_float(shift_right_arithmetic<F::fraction_bits>(as_signed(u)));
+    const auto r = as_float((u & all(F::fraction)) + two_thirds) - all(1.0f);
     const auto q = horner(r, pow::powx_ln_A11);
     const auto p = fma(q * r, r, r);
     const auto t = all(value) * fma(k, all(numbers::ln2_short<Lum32f>), fma(k, all(numbers::ln2_short_tail<Lum32f>), p));
@@ -78,7 +79,7 @@ struct PowxA11_32f : PowxGeneral<Lum32f> {
     const auto g = fnma(z - all(rounding_shifter<Lum32f>()), all(numbers::ln2<Lum32f>), t);
     const auto power = horner(g, pow::powx_exp_A11);
     const auto out_of_range = PatternAbove<0x42AE9A00>(t);  // 87.30078125
-    return {AddToExponent(power, z), IsRefused(x) | out_of_range | ValueIsNotFinite()};
+    return {AddToExponent(power, z), Refused(x) | out_of_range | ValueIsNotFinite()};
   }
 };
 
@@ -89,9 +90,6 @@ struct PowxA21_32f : PowxGeneral<Lum32f> {
 #include "tables/generated/powx_ln_32f_65.inc"
   }));
   static constexpr int rows = 65;
-  struct Parts {
-    Vec<Lum32f> large, small;
-  };
   // The leading half of the bits.
   static LUM_INLINE Vec<Lum32f> HeadOf(Vec<Lum32f> a) {
     const auto t = a * all(0x1p12f + 1);
@@ -99,7 +97,7 @@ struct PowxA21_32f : PowxGeneral<Lum32f> {
   }
 
   // Their sum is ln x.
-  static LUM_INLINE Parts Logarithm(Vec<Lum32f> x) {
+  static LUM_INLINE TwoParts<Vec<Lum32f>> Logarithm(Vec<Lum32f> x) {
     const auto u = bits(x);
     const auto row = shift_right<17>((u & all(0x7F0000u)) + all(0x10000u));
     const auto ln_hi = gather<Lum32f>(table, row);
@@ -132,7 +130,7 @@ struct PowxA21_32f : PowxGeneral<Lum32f> {
     const auto g = fnma(n, all(numbers::ln2_short_tail<Lum32f>), fnma(n, all(numbers::ln2_short<Lum32f>), a)) + b;
     const auto power = horner(g, pow::powx_exp_A21);
     const auto out_of_range = PatternAbove<0x42819F00>(a);  // 64.810546875
-    return {AddToExponent(power, z), IsRefused(x) | out_of_range | ValueIsNotFinite()};
+    return {AddToExponent(power, z), Refused(x) | out_of_range | ValueIsNotFinite()};
   }
 };
 
@@ -143,8 +141,8 @@ template <size_t n> LUM_INLINE Vec<Lum64f> GatheredLn(Vec<Lum64f> x, const Polyn
   static constexpr auto table = table64({
 #include "tables/generated/powx_ln_64f_513.inc"
   });
-  const auto m = as_float((bits(x) & all(uint64_t{0x000FFFFFFFFFFFFF})) | all(uint64_t{0x3F50000000000000}));  // times 2^-10
-  const auto c = rndscale<binary_places(0) | quiet>(rcp14(m));  // from 512 to 1024
+  const auto m = as_float((bits(x) & all(lane::Format<Lum64f>::fraction)) | bits(all(0x1p-10)));  // times 2^-10
+  const auto c = rndscale<binary_places(0) | quiet>(rcp14(m));                                    // from 512 to 1024
   const auto r = fms(c, m, all(1.0));
   const auto row = shift_right<43>(bits(c)) & all(uint64_t{0x3FF});
   const auto e = add(le(c, all(724.0)), getexp(x), all(1.0));
@@ -161,7 +159,7 @@ LUM_INLINE Vec<Lum64f> GatheredExp(Vec<Lum64f> t) {
   const auto z = (w - all(0.5)) + all(rounding_shifter<Lum64f>());  // floor(w), but for ties
   const auto g = (w - (z - all(rounding_shifter<Lum64f>()))) * all(pow::powx_exp2_linear.c[0]);
   const auto entry = gather<Lum64f>(table, bits(z) & all(uint64_t{0x7FF}));
-  const auto exponent = shift_left<52>(shift_right<11>(bits(z)));
+  const auto exponent = shift_left<lane::Format<Lum64f>::fraction_bits>(shift_right<11>(bits(z)));
   return as_float(bits(fma(entry, g, entry)) + exponent);
 }
 
@@ -181,7 +179,7 @@ struct PowxA24_32f : PowxGeneral<Lum32f> {
 
     constexpr uint32_t limit = 0x4059FE36;  // 150 ln 2
     const auto out_of_range = join(HighWordAbove<limit>(low), HighWordAbove<limit>(high));
-    return {narrow(GatheredExp(low), GatheredExp(high)), IsRefused(x) | out_of_range | ValueIsNotFinite()};
+    return {narrow(GatheredExp(low), GatheredExp(high)), Refused(x) | out_of_range | ValueIsNotFinite()};
   }
 };
 
@@ -195,15 +193,11 @@ struct PowxA26_64f : PowxGeneral<Lum64f> {
 
 // ---- Base 2 in binary64: A50 and A53
 
-// head + tail = log2 x, the head short.
-struct ShortLog2 {
-  Vec<Lum64f> head, tail;
-};
-
 LUM_INLINE Vec<Lum64f> HighHalf(Vec<Lum64f> a) { return a & all(uint64_t{0xFFFFFFFFF8000000}); }
 
-// With a short c, scale over m nearly, so that u = c m - scale is nearly log2 of what is left: scale is next to 1/ln 2.
-LUM_INLINE ShortLog2 GatheredLog2(Vec<Lum64f> x) {
+// log2 x, the head short. With a short c, scale over m nearly, so that u = c m - scale is nearly log2 of what is left: scale is
+// next to 1/ln 2.
+LUM_INLINE TwoParts<Vec<Lum64f>> GatheredLog2(Vec<Lum64f> x) {
   static constexpr auto reciprocals = table64({
 #include "tables/generated/powx_reciprocal_64f_1025.inc"
   });
@@ -237,7 +231,7 @@ struct Exponent128 {
   Vec<uint64_t> i;  // the index of the fraction of n
   Mask<Lum64f> out_of_range;
 };
-LUM_INLINE Exponent128 MultiplyShort(const ShortLog2& log, Vec<Lum64f> y) {
+LUM_INLINE Exponent128 MultiplyShort(const TwoParts<Vec<Lum64f>>& log, Vec<Lum64f> y) {
   const auto shifter = all(rounding_shifter<Lum64f>(7));
   const auto y_head = HighHalf(y);
   const auto a = log.head * y_head;  // exact

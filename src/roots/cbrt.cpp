@@ -40,25 +40,20 @@ template <class T, Tier tier> struct CbrtKernel : Kernel<T> {
   }
 };
 
+using A11_32f = CbrtKernel<Lum32f, Tier::low>;
+using A21_32f = CbrtKernel<Lum32f, Tier::mid>;
+using A24_32f = CbrtKernel<Lum32f, Tier::high>;
+using A26_64f = CbrtKernel<Lum64f, Tier::low>;
+using A50_64f = CbrtKernel<Lum64f, Tier::mid>;
+using A53_64f = CbrtKernel<Lum64f, Tier::high>;
+
 }  // namespace
 
-LumStatus Cbrt_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len) {
-  return OneInput<CbrtKernel<Lum32f, Tier::low>>(src, dst, len);
-}
-LumStatus Cbrt_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len) {
-  return OneInput<CbrtKernel<Lum32f, Tier::mid>>(src, dst, len);
-}
-LumStatus Cbrt_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len) {
-  return OneInput<CbrtKernel<Lum32f, Tier::high>>(src, dst, len);
-}
-LumStatus Cbrt_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len) {
-  return OneInput<CbrtKernel<Lum64f, Tier::low>>(src, dst, len);
-}
-LumStatus Cbrt_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len) {
-  return OneInput<CbrtKernel<Lum64f, Tier::mid>>(src, dst, len);
-}
-LumStatus Cbrt_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len) {
-  return OneInput<CbrtKernel<Lum64f, Tier::high>>(src, dst, len);
-}
+LumStatus Cbrt_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len) { return OneInput<A11_32f>(src, dst, len); }
+LumStatus Cbrt_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len) { return OneInput<A21_32f>(src, dst, len); }
+LumStatus Cbrt_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len) { return OneInput<A24_32f>(src, dst, len); }
+LumStatus Cbrt_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A26_64f>(src, dst, len); }
+LumStatus Cbrt_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A50_64f>(src, dst, len); }
+LumStatus Cbrt_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A53_64f>(src, dst, len); }
 
 }  // namespace lum::inline LUM_LAYER

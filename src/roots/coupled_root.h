@@ -14,6 +14,16 @@ template <class T> LUM_INLINE Roots<T> CoupledStep(Roots<T> a) {
   const auto e = fnma(a.g, a.h, all(T(0.5)));
   return {fma(e, a.g, a.g), fma(e, a.h, a.h)};
 }
+// The steps of a tier. The residual one corrects the result by the exact residual x - g^2.
+struct Steps {
+  int coupled = 0;
+  bool residual = false;
+};
+template <Steps steps, class T> LUM_INLINE Roots<T> CoupledSteps(Roots<T> a) {
+  for (int i = 0; i < steps.coupled; ++i) a = CoupledStep(a);
+  return a;
+}
+
 // g improved by the exact residual.
 template <class T> LUM_INLINE Vec<T> HeronStep(Vec<T> x, Roots<T> a) { return fma(fnma(a.g, a.g, x), a.h, a.g); }
 

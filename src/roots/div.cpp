@@ -3,6 +3,7 @@
 // exact residual and scale by the difference of the exponents: no range of y is excluded but zero. The others multiply by 1 / y
 // and leave divisors whose reciprocal is not a normal number to the divide instruction. A divisor that is a NaN is refused,
 // too: of two NaNs the instruction gives the dividend's.
+#include <bit>
 #include <cstdint>
 #include <type_traits>
 
@@ -28,12 +29,11 @@ template <class T> struct DivKernel : Kernel<T> {
 };
 
 // Divisors outside 2^-126 <= |y| < 2^126 or 2^-1021 <= |y| < 2^1022, zero, infinity and NaN among them.
-template <class T> LUM_INLINE Mask<T> OutOfRange(Vec<T> y) {
-  using U = UnsignedOf<T>;
+template <class T> LUM_INLINE Mask<T> Refused(Vec<T> y) {
   constexpr bool is_float = std::is_same_v<T, Lum32f>;
-  constexpr auto smallest = static_cast<U>(is_float ? 0x00800000u : 0x0020000000000000u);
-  constexpr auto beyond = static_cast<U>(is_float ? 0x7E800000u : 0x7FD0000000000000u);
-  return mask_cast<T>(nlt(bits(abs(y)) - all(smallest), all(static_cast<U>(beyond - smallest))));
+  constexpr auto smallest = std::bit_cast<UnsignedOf<T>>(lane::power_of_two<T>(is_float ? -126 : -1021));
+  constexpr auto beyond = std::bit_cast<UnsignedOf<T>>(lane::power_of_two<T>(is_float ? 126 : 1022));
+  return mask_cast<T>(nlt(bits(abs(y)) - all(smallest), all(beyond - smallest)));
 }
 
 // 1 / y from its estimate: r0 (1 + e + ... + e^terms).
@@ -47,8 +47,8 @@ template <int terms, class T> LUM_INLINE Vec<T> Reciprocal(Vec<T> y) {
 }
 
 // x times the reciprocal. A product that overflows or underflows is what the multiplication gives.
-template <class T, int terms> struct ByReciprocal : DivKernel<T> {
-  static LUM_INLINE Lanes<T> VectorPath(Vec<T> x, Vec<T> y) { return {x * Reciprocal<terms>(y), OutOfRange(y)}; }
+template <class T, int terms> struct SeriesTerms : DivKernel<T> {
+  static LUM_INLINE Lanes<T> VectorPath(Vec<T> x, Vec<T> y) { return {x * Reciprocal<terms>(y), Refused(y)}; }
 };
 
 // Significands in [1, 2) and exponents apart. Infinities and zeros come out of the difference of the exponents.
@@ -69,25 +69,32 @@ template <class T> struct BySignificands : DivKernel<T> {
   }
 };
 
+using A11_32f = SeriesTerms<Lum32f, 0>;
+using A21_32f = SeriesTerms<Lum32f, 1>;
+using A24_32f = BySignificands<Lum32f>;
+using A26_64f = SeriesTerms<Lum64f, 2>;
+using A50_64f = SeriesTerms<Lum64f, 4>;
+using A53_64f = BySignificands<Lum64f>;
+
 }  // namespace
 
 LumStatus Div_32f_A11(const Lum32f* src1, const Lum32f* src2, Lum32f* dst, int32_t len) {
-  return TwoInputs<ByReciprocal<Lum32f, 0>>(src1, src2, dst, len);
+  return TwoInputs<A11_32f>(src1, src2, dst, len);
 }
 LumStatus Div_32f_A21(const Lum32f* src1, const Lum32f* src2, Lum32f* dst, int32_t len) {
-  return TwoInputs<ByReciprocal<Lum32f, 1>>(src1, src2, dst, len);
+  return TwoInputs<A21_32f>(src1, src2, dst, len);
 }
 LumStatus Div_32f_A24(const Lum32f* src1, const Lum32f* src2, Lum32f* dst, int32_t len) {
-  return TwoInputs<BySignificands<Lum32f>>(src1, src2, dst, len);
+  return TwoInputs<A24_32f>(src1, src2, dst, len);
 }
 LumStatus Div_64f_A26(const Lum64f* src1, const Lum64f* src2, Lum64f* dst, int32_t len) {
-  return TwoInputs<ByReciprocal<Lum64f, 2>>(src1, src2, dst, len);
+  return TwoInputs<A26_64f>(src1, src2, dst, len);
 }
 LumStatus Div_64f_A50(const Lum64f* src1, const Lum64f* src2, Lum64f* dst, int32_t len) {
-  return TwoInputs<ByReciprocal<Lum64f, 4>>(src1, src2, dst, len);
+  return TwoInputs<A50_64f>(src1, src2, dst, len);
 }
 LumStatus Div_64f_A53(const Lum64f* src1, const Lum64f* src2, Lum64f* dst, int32_t len) {
-  return TwoInputs<BySignificands<Lum64f>>(src1, src2, dst, len);
+  return TwoInputs<A53_64f>(src1, src2, dst, len);
 }
 
 }  // namespace lum::inline LUM_LAYER

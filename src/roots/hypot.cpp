@@ -29,12 +29,9 @@ double RootOfSquares(double m, double n) {
   return root + ((s.head - r.head) - r.tail + tail) / (root + root);
 }
 
-// The exponent field of the power of 2 that takes a finite m to [4, 8), and one below 2^-998 at least to 2^-72, far from
-// denormal numbers. The field of its inverse is 2046 less this; both powers are normal numbers.
-uint64_t ScaleField(double m) {
-  const auto exponent = std::bit_cast<uint64_t>(m) >> 52;
-  return (exponent < 25 ? 4073 - exponent : 2048 - exponent) & 0x7FF;
-}
+// The power of 2 that takes a finite m to [4, 8), and one below 2^-998 at least to 2^-72, far from denormal numbers, has the
+// exponent `range` or `small_range` less the exponent field of m. The power and its inverse are normal numbers.
+constexpr int small_fields = 25, small_range = 1002, range = 1025;
 
 // The length of finite numbers. The squares of floats are exact in binary64 and far from its limits.
 Lum32f OfFinite(Lum32f a, Lum32f b) {
@@ -44,10 +41,10 @@ Lum32f OfFinite(Lum32f a, Lum32f b) {
 Lum64f OfFinite(Lum64f a, Lum64f b) {
   auto m = std::fabs(a), n = std::fabs(b);
   if (m < n) std::swap(m, n);
-  const uint64_t field = ScaleField(m);
-  const auto scale = std::bit_cast<double>(field << 52);
-  const auto inverse = std::bit_cast<double>((2046 - field) << 52);
-  return RootOfSquares(m * scale, n * scale) * inverse;
+  const int field = lane::exponent_field(m);
+  const int exponent = (field < small_fields ? small_range : range) - field;
+  const auto scale = lane::power_of_two<double>(exponent);
+  return RootOfSquares(m * scale, n * scale) * lane::power_of_two<double>(-exponent);
 }
 
 // The steps of the routine over vectors, for pairs of numbers that are not both zero. A smaller number too small to change the
@@ -64,12 +61,14 @@ LUM_INLINE Vec<Lum64f> RootOfSquares(Vec<Lum64f> m, Vec<Lum64f> given_n) {
 LUM_INLINE Vec<Lum64f> OfFinite(Vec<Lum64f> a, Vec<Lum64f> b) {
   const auto x = abs(a), y = abs(b);
   const auto m = max(x, y), n = min(x, y);
-  const auto exponent = shift_right<52>(bits(m));
-  const auto is_small = lt(exponent, all(uint64_t{25}));
-  const auto field = (select(is_small, all(uint64_t{4073}), all(uint64_t{2048})) - exponent) & all(uint64_t{0x7FF});
-  const auto scale = as_float(shift_left<52>(field)), inverse = as_float(shift_left<52>(all(uint64_t{2046}) - field));
+  using F = lane::Format<Lum64f>;
+  const auto field = exponent_field(m);
+  const auto is_small = lt(field, all(uint64_t{small_fields}));
+  const auto scale_field = select(is_small, all(uint64_t{small_range + F::bias}), all(uint64_t{range + F::bias})) - field;
+  const auto scale = power_of_two<Lum64f>(scale_field),
+             inverse = power_of_two<Lum64f>(all(uint64_t{2 * F::bias}) - scale_field);
   // Below 2^-150 m: a product with a denormal result would be slow.
-  const auto is_relevant = mask_cast<Lum64f>(lt(bits(m), bits(n) + all(uint64_t{150} << 52)));
+  const auto is_relevant = mask_cast<Lum64f>(lt(bits(m), bits(n) + all(uint64_t{150} << F::fraction_bits)));
   return RootOfSquares(m * scale, zero_unless(is_relevant, n) * scale) * inverse;
 }
 LUM_INLINE Vec<Lum32f> OfFinite(Vec<Lum32f> a, Vec<Lum32f> b) {
@@ -105,7 +104,7 @@ template <class T> struct HypotKernel : Kernel<T> {
 
 // The larger exponent beyond +-63 or +-511; infinities and NaN among them, as their patterns are larger still. A NaN in a
 // beside an ordinary b is not: the maximum is b's then, and the NaN runs through.
-template <class T> LUM_INLINE Mask<T> OutOfRange(Vec<T> a, Vec<T> b) {
+template <class T> LUM_INLINE Mask<T> Refused(Vec<T> a, Vec<T> b) {
   constexpr auto limit = std::is_same_v<T, Lum32f> ? T(63) : T(511);
   const auto e = max(getexp(a), getexp(b));
   return mask_cast<T>(nlt(as_signed(bits(abs(e))), as_signed(bits(all(limit)))));
@@ -124,30 +123,37 @@ template <class T> LUM_INLINE Vec<T> PlainSquares(Vec<T> a, Vec<T> b) { return f
 struct A11_32f : HypotKernel<Lum32f> {
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> a, Vec<Lum32f> b) {
     const auto s = PlainSquares(a, b);
-    const auto above_smallest = bits(s) - all(0x00800000u);
-    return {s * rsqrt14_normal(s), mask_cast<Lum32f>(nlt(above_smallest, all(0x7F000000u)))};
+    using F = lane::Format<Lum32f>;
+    const auto above_smallest = bits(s) - all(F::hidden);
+    return {s * rsqrt14_normal(s), mask_cast<Lum32f>(nlt(above_smallest, all(F::infinity - F::hidden)))};
   }
 };
 
-template <class T, int steps, bool residual_step> struct Plain : HypotKernel<T> {
+template <class T, Steps steps> struct Plain : HypotKernel<T> {
   static LUM_INLINE Lanes<T> VectorPath(Vec<T> a, Vec<T> b) {
     const auto s = PlainSquares(a, b);
     auto r = Start(s, rsqrt14_normal(s));
-    for (int i = 0; i < steps; ++i) r = CoupledStep(r);
-    if constexpr (residual_step) return {HeronStep(s, r), OutOfRange(a, b)};
-    else return {r.g, OutOfRange(a, b)};
+    for (int i = 0; i < steps.coupled; ++i) r = CoupledStep(r);
+    if constexpr (steps.residual) return {HeronStep(s, r), Refused(a, b)};
+    else return {r.g, Refused(a, b)};
   }
 };
 
-template <class T, int steps> struct Exact : HypotKernel<T> {
+// The residual takes what the sum of squares leaves.
+template <class T, Steps steps> struct Exact : HypotKernel<T> {
   static LUM_INLINE Lanes<T> VectorPath(Vec<T> a, Vec<T> b) {
     const auto s = ExactSquares(a, b);
-    auto r = Start(s.head, rsqrt14_normal(s.head));
-    for (int i = 0; i < steps; ++i) r = CoupledStep(r);
+    const auto r = CoupledSteps<steps>(Start(s.head, rsqrt14_normal(s.head)));
     const auto d = fnma(r.g, r.g, s.head);
-    return {fma(d + s.tail, r.h, r.g), OutOfRange(a, b)};
+    return {fma(d + s.tail, r.h, r.g), Refused(a, b)};
   }
 };
+
+using A21_32f = Plain<Lum32f, Steps{.residual = true}>;
+using A24_32f = Exact<Lum32f, Steps{.residual = true}>;
+using A26_64f = Plain<Lum64f, Steps{.coupled = 1}>;
+using A50_64f = Plain<Lum64f, Steps{.coupled = 1, .residual = true}>;
+using A53_64f = Exact<Lum64f, Steps{.coupled = 1, .residual = true}>;
 
 }  // namespace
 
@@ -155,19 +161,19 @@ LumStatus Hypot_32f_A11(const Lum32f* src1, const Lum32f* src2, Lum32f* dst, int
   return TwoInputs<A11_32f>(src1, src2, dst, len);
 }
 LumStatus Hypot_32f_A21(const Lum32f* src1, const Lum32f* src2, Lum32f* dst, int32_t len) {
-  return TwoInputs<Plain<Lum32f, 0, true>>(src1, src2, dst, len);
+  return TwoInputs<A21_32f>(src1, src2, dst, len);
 }
 LumStatus Hypot_32f_A24(const Lum32f* src1, const Lum32f* src2, Lum32f* dst, int32_t len) {
-  return TwoInputs<Exact<Lum32f, 0>>(src1, src2, dst, len);
+  return TwoInputs<A24_32f>(src1, src2, dst, len);
 }
 LumStatus Hypot_64f_A26(const Lum64f* src1, const Lum64f* src2, Lum64f* dst, int32_t len) {
-  return TwoInputs<Plain<Lum64f, 1, false>>(src1, src2, dst, len);
+  return TwoInputs<A26_64f>(src1, src2, dst, len);
 }
 LumStatus Hypot_64f_A50(const Lum64f* src1, const Lum64f* src2, Lum64f* dst, int32_t len) {
-  return TwoInputs<Plain<Lum64f, 1, true>>(src1, src2, dst, len);
+  return TwoInputs<A50_64f>(src1, src2, dst, len);
 }
 LumStatus Hypot_64f_A53(const Lum64f* src1, const Lum64f* src2, Lum64f* dst, int32_t len) {
-  return TwoInputs<Exact<Lum64f, 1>>(src1, src2, dst, len);
+  return TwoInputs<A53_64f>(src1, src2, dst, len);
 }
 
 }  // namespace lum::inline LUM_LAYER

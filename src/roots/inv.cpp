@@ -26,7 +26,7 @@ template <class T> struct Estimate : InvKernel<T> {
   static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) { return {rcp14(x), fpclass<classes::zero | classes::infinity>(x)}; }
 };
 
-template <class T, int steps> struct Newton : InvKernel<T> {
+template <class T, int steps> struct NewtonSteps : InvKernel<T> {
   static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) {
     const auto r0 = rcp14(x);
     auto r = r0;
@@ -35,11 +35,16 @@ template <class T, int steps> struct Newton : InvKernel<T> {
   }
 };
 
+using A11_32f = Estimate<Lum32f>;
+using A24_32f = NewtonSteps<Lum32f, 1>;
+using A26_64f = NewtonSteps<Lum64f, 1>;
+using A53_64f = NewtonSteps<Lum64f, 2>;
+
 }  // namespace
 
-LumStatus Inv_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len) { return OneInput<Estimate<Lum32f>>(src, dst, len); }
-LumStatus Inv_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len) { return OneInput<Newton<Lum32f, 1>>(src, dst, len); }
-LumStatus Inv_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<Newton<Lum64f, 1>>(src, dst, len); }
-LumStatus Inv_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<Newton<Lum64f, 2>>(src, dst, len); }
+LumStatus Inv_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len) { return OneInput<A11_32f>(src, dst, len); }
+LumStatus Inv_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len) { return OneInput<A24_32f>(src, dst, len); }
+LumStatus Inv_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A26_64f>(src, dst, len); }
+LumStatus Inv_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A53_64f>(src, dst, len); }
 
 }  // namespace lum::inline LUM_LAYER

@@ -38,25 +38,20 @@ template <class T, Tier tier> struct Pow2o3Kernel : Kernel<T> {
   static LUM_INLINE Vec<T> VectorPath(Vec<T> x) { return ThirdsMagnitude<Scheme, tier>(ReduceThirds<Scheme::power>(x)); }
 };
 
+using A11_32f = Pow2o3Kernel<Lum32f, Tier::low>;
+using A21_32f = Pow2o3Kernel<Lum32f, Tier::mid>;
+using A24_32f = Pow2o3Kernel<Lum32f, Tier::high>;
+using A26_64f = Pow2o3Kernel<Lum64f, Tier::low>;
+using A50_64f = Pow2o3Kernel<Lum64f, Tier::mid>;
+using A53_64f = Pow2o3Kernel<Lum64f, Tier::high>;
+
 }  // namespace
 
-LumStatus Pow2o3_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len) {
-  return OneInput<Pow2o3Kernel<Lum32f, Tier::low>>(src, dst, len);
-}
-LumStatus Pow2o3_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len) {
-  return OneInput<Pow2o3Kernel<Lum32f, Tier::mid>>(src, dst, len);
-}
-LumStatus Pow2o3_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len) {
-  return OneInput<Pow2o3Kernel<Lum32f, Tier::high>>(src, dst, len);
-}
-LumStatus Pow2o3_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len) {
-  return OneInput<Pow2o3Kernel<Lum64f, Tier::low>>(src, dst, len);
-}
-LumStatus Pow2o3_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len) {
-  return OneInput<Pow2o3Kernel<Lum64f, Tier::mid>>(src, dst, len);
-}
-LumStatus Pow2o3_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len) {
-  return OneInput<Pow2o3Kernel<Lum64f, Tier::high>>(src, dst, len);
-}
+LumStatus Pow2o3_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len) { return OneInput<A11_32f>(src, dst, len); }
+LumStatus Pow2o3_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len) { return OneInput<A21_32f>(src, dst, len); }
+LumStatus Pow2o3_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len) { return OneInput<A24_32f>(src, dst, len); }
+LumStatus Pow2o3_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A26_64f>(src, dst, len); }
+LumStatus Pow2o3_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A50_64f>(src, dst, len); }
+LumStatus Pow2o3_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A53_64f>(src, dst, len); }
 
 }  // namespace lum::inline LUM_LAYER

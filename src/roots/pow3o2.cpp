@@ -10,11 +10,15 @@
 #include "frame/constant.h"
 #include "frame/kernel_frame.h"
 #include "frame/kernels.h"
+#include "frame/lane_format.h"
+#include "roots/coupled_root.h"
 #include "roots/polynomials.h"
 #include "tables/table.h"
 
 namespace lum::inline LUM_LAYER {
 namespace {
+
+using namespace roots;
 
 constexpr auto midpoint_values = table64({
 // hi, lo
@@ -38,14 +42,13 @@ template <class T> double CellPolynomial(double t) {
 template <class T> double OfNormal(double x) {
   const auto pattern = std::bit_cast<uint64_t>(x);
   const auto cell = static_cast<size_t>(pattern >> 47 & 63);
-  const auto significand = std::bit_cast<double>((pattern & 0x000FFFFFFFFFFFFF) | 0x3FF0000000000000);
   const auto midpoint = std::bit_cast<double>((pattern & 0x000F800000000000) | 0x3FF0400000000000);
-  const double t = (significand - midpoint) * midpoint_reciprocals[cell & 31];
+  const double t = (lane::significand_of(x) - midpoint) * midpoint_reciprocals[cell & 31];
   const double hi = midpoint_values[2 * cell];
   const double p = CellPolynomial<T>(t) * t;
-  const int64_t exponent = static_cast<int64_t>(pattern >> 52) - 1023;
-  const int64_t half = (exponent - (cell < 32 ? 1 : 0)) / 2;  // exact: cells below 32 have odd exponents
-  return (hi + (hi * p + midpoint_values[2 * cell + 1])) * std::bit_cast<double>((3 * half + 1023) << 52);
+  const int exponent = lane::exponent_field(x) - lane::Format<double>::bias;
+  const int half = (exponent - (cell < 32 ? 1 : 0)) / 2;  // exact: cells below 32 have odd exponents
+  return (hi + (hi * p + midpoint_values[2 * cell + 1])) * lane::power_of_two<double>(3 * half);
 }
 
 template <class T> struct Limits;
@@ -98,42 +101,29 @@ template <class T> struct Pow3o2Kernel : Kernel<T> {
   }
 };
 
-// The vector path: no step for the low tier of floats, the residual for the high tiers.
-template <class T, int steps, bool residual> struct ByRoot : Pow3o2Kernel<T> {
+template <class T, Steps steps> struct ByRoot : Pow3o2Kernel<T> {
   static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) {
-    const auto y = rsqrt14(x);
-    auto s = x * y;
-    auto h = all(T(0.5)) * y;
-    for (int i = 0; i < steps; ++i) {
-      const auto e = fnma(s, h, all(T(0.5)));
-      s = fma(s, e, s);
-      h = fma(h, e, h);
-    }
+    const auto [g, h] = CoupledSteps<steps>(Start(x, rsqrt14(x)));
     const auto refused = Pow3o2Kernel<T>::Refused(x);
-    if constexpr (residual) return {fma(x, s, fnma(s, s, x) * (x * h)), refused};
-    else return {s * x, refused};
+    if constexpr (steps.residual) return {fma(x, g, fnma(g, g, x) * (x * h)), refused};
+    else return {g * x, refused};
   }
 };
 
+using A11_32f = ByRoot<Lum32f, Steps{.coupled = 0}>;
+using A21_32f = ByRoot<Lum32f, Steps{.coupled = 1}>;
+using A24_32f = ByRoot<Lum32f, Steps{.coupled = 1, .residual = true}>;
+using A26_64f = ByRoot<Lum64f, Steps{.coupled = 1}>;
+using A50_64f = ByRoot<Lum64f, Steps{.coupled = 2}>;
+using A53_64f = ByRoot<Lum64f, Steps{.coupled = 2, .residual = true}>;
+
 }  // namespace
 
-LumStatus Pow3o2_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len) {
-  return OneInput<ByRoot<Lum32f, 0, false>>(src, dst, len);
-}
-LumStatus Pow3o2_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len) {
-  return OneInput<ByRoot<Lum32f, 1, false>>(src, dst, len);
-}
-LumStatus Pow3o2_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len) {
-  return OneInput<ByRoot<Lum32f, 1, true>>(src, dst, len);
-}
-LumStatus Pow3o2_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len) {
-  return OneInput<ByRoot<Lum64f, 1, false>>(src, dst, len);
-}
-LumStatus Pow3o2_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len) {
-  return OneInput<ByRoot<Lum64f, 2, false>>(src, dst, len);
-}
-LumStatus Pow3o2_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len) {
-  return OneInput<ByRoot<Lum64f, 2, true>>(src, dst, len);
-}
+LumStatus Pow3o2_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len) { return OneInput<A11_32f>(src, dst, len); }
+LumStatus Pow3o2_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len) { return OneInput<A21_32f>(src, dst, len); }
+LumStatus Pow3o2_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len) { return OneInput<A24_32f>(src, dst, len); }
+LumStatus Pow3o2_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A26_64f>(src, dst, len); }
+LumStatus Pow3o2_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A50_64f>(src, dst, len); }
+LumStatus Pow3o2_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A53_64f>(src, dst, len); }
 
 }  // namespace lum::inline LUM_LAYER

@@ -33,11 +33,9 @@ template <class T> struct SqrtKernel : Kernel<T> {
   }
 };
 
-template <class T, int steps> struct Coupled : SqrtKernel<T> {
+template <class T, Steps steps> struct Coupled : SqrtKernel<T> {
   static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) {
-    auto a = Start(x, rsqrt14(x));
-    for (int i = 0; i < steps; ++i) a = CoupledStep(a);
-    return {a.g, SqrtKernel<T>::Refused(x)};
+    return {CoupledSteps<steps>(Start(x, rsqrt14(x))).g, SqrtKernel<T>::Refused(x)};
   }
 };
 
@@ -75,13 +73,20 @@ template <class T> struct Heron : SqrtKernel<T> {
   }
 };
 
+using A11_32f = Coupled<Lum32f, Steps{.coupled = 0}>;
+using A21_32f = Coupled<Lum32f, Steps{.coupled = 1}>;
+using A24_32f = Heron<Lum32f>;
+using A26_64f = Coupled<Lum64f, Steps{.coupled = 1}>;
+using A50_64f = Coupled<Lum64f, Steps{.coupled = 2}>;
+using A53_64f = Heron<Lum64f>;
+
 }  // namespace
 
-LumStatus Sqrt_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len) { return OneInput<Coupled<Lum32f, 0>>(src, dst, len); }
-LumStatus Sqrt_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len) { return OneInput<Coupled<Lum32f, 1>>(src, dst, len); }
-LumStatus Sqrt_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len) { return OneInput<Heron<Lum32f>>(src, dst, len); }
-LumStatus Sqrt_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<Coupled<Lum64f, 1>>(src, dst, len); }
-LumStatus Sqrt_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<Coupled<Lum64f, 2>>(src, dst, len); }
-LumStatus Sqrt_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<Heron<Lum64f>>(src, dst, len); }
+LumStatus Sqrt_32f_A11(const Lum32f* src, Lum32f* dst, int32_t len) { return OneInput<A11_32f>(src, dst, len); }
+LumStatus Sqrt_32f_A21(const Lum32f* src, Lum32f* dst, int32_t len) { return OneInput<A21_32f>(src, dst, len); }
+LumStatus Sqrt_32f_A24(const Lum32f* src, Lum32f* dst, int32_t len) { return OneInput<A24_32f>(src, dst, len); }
+LumStatus Sqrt_64f_A26(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A26_64f>(src, dst, len); }
+LumStatus Sqrt_64f_A50(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A50_64f>(src, dst, len); }
+LumStatus Sqrt_64f_A53(const Lum64f* src, Lum64f* dst, int32_t len) { return OneInput<A53_64f>(src, dst, len); }
 
 }  // namespace lum::inline LUM_LAYER

@@ -126,10 +126,10 @@ TEST(ErrorFunctionTables, BothReadingsOfTheNormalDistribution) {
 // erfc of what a row says is the node, and the slope is exp of its square.
 TEST(ErrorFunctionTables, InverseRowsBelongToTheirNodes) {
   constexpr size_t half = 52 * 128, last = 2 * half;
-  ASSERT_EQ(inverse_table.size, 2 * (last + 1));
+  ASSERT_EQ(erf::inverse_table.size, 2 * (last + 1));
   for (size_t k = 0; k <= last; k += 13) {
     const double node = FromWord((uint64_t{1023 - 53} << 52) + (std::min(k, last - k) << 45));
-    const uint64_t word = Word(inverse_table + 2 * k);
+    const uint64_t word = Word(erf::inverse_table + 2 * k);
     const double head = FromWord((word & 0x03FFFFFFFFFFFFFF) + 0x3C8C000000000000);
     const double tail = static_cast<double>(word >> 58) * 0x1p-58;
     Number y, image, square;
@@ -143,7 +143,7 @@ TEST(ErrorFunctionTables, InverseRowsBelongToTheirNodes) {
     EXPECT_LE(LogError(node, 0, image), -58 + std::log2(k <= half ? std::max(1.0, 3 * y_head * y_head) : 1.01)) << k;
     mpfr_sqr(square, y, MPFR_RNDN);
     mpfr_exp(square, square, MPFR_RNDN);
-    EXPECT_NEAR(inverse_table[2 * k + 1] / mpfr_get_d(square, MPFR_RNDN), 1, 0x1p-51) << k;
+    EXPECT_NEAR(erf::inverse_table[2 * k + 1] / mpfr_get_d(square, MPFR_RNDN), 1, 0x1p-51) << k;
   }
 }
 
