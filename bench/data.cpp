@@ -26,6 +26,7 @@ uint64_t Ticks() {
 
 Data::Data(const support::Export& entry, size_t count)
     : is_32bit_(support::Is32Bit(entry.input)),
+      is_complex_(support::IsComplex(entry.input)),
       src1_(count * support::SizeOf(entry.input)),
       src2_(src1_.size()),
       dst1_(count * support::SizeOf(entry.output)),
@@ -42,9 +43,9 @@ Data::Data(const support::Export& entry, size_t count)
   Set(value_, 1, 0.3);
 }
 
-void Data::SetElement(size_t i, double first, double second) {
-  Set(src1_, i, first);
-  Set(src2_, i, second);
+void Data::SetPart(size_t i, size_t argument, size_t part, double x) {
+  if (part != 0 && !is_complex_) return;
+  Set(argument == 0 ? src1_ : src2_, is_complex_ ? 2 * i + part : i, x);
 }
 
 support::Arguments Data::arguments(int32_t len) {

@@ -15,14 +15,14 @@ namespace lum::bench {
 class Data {
  public:
   Data(const support::Export& entry, size_t count);
-  // Sets the arguments of an element of a real function; the second is for functions of two inputs.
-  void SetElement(size_t i, double first, double second);
+  // Sets a part of an argument of an element: argument 1 is for functions of two inputs, part 1 for complex numbers.
+  void SetPart(size_t i, size_t argument, size_t part, double x);
   support::Arguments arguments(int32_t len);
 
  private:
   void Set(std::vector<std::byte>& array, size_t i, double x) const;
 
-  bool is_32bit_;
+  bool is_32bit_, is_complex_;
   std::vector<std::byte> src1_, src2_, dst1_, dst2_;
   std::vector<std::byte> value_ = std::vector<std::byte>(16);
 };

@@ -1,6 +1,6 @@
 // Speed of the functions against other vector libraries and a scalar loop, at the same inputs and lengths. Benchmarks are named
 // <function>_<type>/<length>/<who>, who being a tag, a peer, scalar, or base:<tag> for another build of this library; those of
-// refused lanes have more parts (refused.h).
+// special arguments have more parts (special.h).
 #include <benchmark/benchmark.h>
 #include <fmt/format.h>
 
@@ -9,7 +9,7 @@
 
 #include "data.h"
 #include "peers.h"
-#include "refused.h"
+#include "special.h"
 #include "support/scalar_loop.h"
 
 namespace {
@@ -23,7 +23,7 @@ struct Options {
   std::vector<int32_t> lengths = {1, 16, 100, 1000, 4096, 16'000'000};
   std::string library;
   std::string base;
-  bool refused = false;
+  bool special = false;
 };
 
 bool IsBuilt(const std::string& name) {
@@ -41,8 +41,8 @@ void RegisterAll(const Options& options) {
   const std::string name_of_library = options.library.empty() ? std::string(FastestLibrary()) : options.library;
   const std::string instructions = IsBuilt(name_of_library) ? name_of_library : std::string(FastestLibrary());
   const Library library = Load(name_of_library);
-  if (options.refused) {
-    lum::bench::RegisterRefused(library, options.functions);
+  if (options.special) {
+    lum::bench::RegisterSpecial(library, options.functions, instructions);
     return;
   }
   std::optional<Library> base;
@@ -95,7 +95,7 @@ int main(int argc, char** argv) {
   app.add_option("--library", options.library,
                  "a built library, k0, a2 or p0, or a library file; the fastest that the processor runs when none is given");
   auto* base = app.add_option("--base", options.base, "a library of another build to compare with");
-  app.add_flag("--refused", options.refused, "arrays with arguments that the vector paths refuse, against a scalar loop")
+  app.add_flag("--special", options.special, "arrays with special arguments: zeros, infinities, NaN, results at the ends of the range")
       ->excludes(lengths)
       ->excludes(base);
   app.allow_extras();

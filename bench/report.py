@@ -3,7 +3,7 @@
 
 report.py BUILD [FUNCTION...]                 measure, all functions when none is named
 report.py BUILD --compare BASE [FUNCTION...]  measure this build and another one side by side, and write nothing
-report.py BUILD --refused [FUNCTION...]       measure arrays with refused lanes, and write docs/refused-lanes.md and its data
+report.py BUILD --special [FUNCTION...]       measure arrays with special arguments, and write docs/special-arguments.md and its data
 report.py BUILD --library NAME [FUNCTION...]  measure the library of a layer, a2 or p0, against the peers for its instructions,
                                               and write docs/performance-NAME.md and its data
 
@@ -21,7 +21,7 @@ import catalogue
 import function_pages
 import measured_data as data
 import port_bound
-import refused_lanes
+import special_arguments
 from runs import machine, merged, run_benchmarks
 
 DATA = catalogue.ROOT / "docs/data/performance.csv"
@@ -47,7 +47,7 @@ loop* is the time of a loop over the standard library's function over ours. *flo
 processor's execution ports alone (llvm-mca, Ice Lake server model, in core cycles; the time stamp counter runs at another
 frequency).
 
-Arguments that the vector paths refuse have [a page of their own](refused-lanes.md).
+Zeros, infinities and other special arguments have [a page of their own](special-arguments.md).
 
 Measured on {machine}. To repeat: `./run bench` (or `./run bench Exp`); `./run bench --compare BUILD Exp` sets two builds side
 by side. [data/performance.csv](data/performance.csv) has all figures."""
@@ -170,7 +170,7 @@ def main():
     parser.add_argument("functions", nargs="*")
     mode = parser.add_mutually_exclusive_group()
     mode.add_argument("--compare", type=Path, metavar="BASE")
-    mode.add_argument("--refused", action="store_true")
+    mode.add_argument("--special", action="store_true")
     mode.add_argument("--library", choices=LIBRARIES)
     mode.add_argument("--lengths", help="lengths of the arrays, separated by commas")
     mode.add_argument("--pages", action="store_true", help="measure nothing, write the page anew")
@@ -178,8 +178,8 @@ def main():
     if arguments.pages:
         write_page()
         return 0
-    if arguments.refused:
-        refused_lanes.report(arguments.build, arguments.functions)
+    if arguments.special:
+        special_arguments.report(arguments.build, arguments.functions)
         return 0
     if arguments.compare:
         base = arguments.compare / "liblumvmk0.so" if arguments.compare.is_dir() else arguments.compare

@@ -16,12 +16,12 @@ def machine():
     return "an unknown processor"
 
 
-def run_benchmarks(build, functions, extra, parts, repetitions=3, of_all=statistics.median):
+def run_benchmarks(build, functions, extra, parts, repetitions=3, of_all=statistics.median, min_time=0.01):
     """Rows from one interleaved run: the parts of the benchmarks' names, ns and ticks an element, of all repetitions the median
     or what else is given. The second part of a name is the length."""
     with tempfile.NamedTemporaryFile(suffix=".json") as out:
         command = [build / "bench/bench", *functions, *extra, "--benchmark_enable_random_interleaving=true",
-                   f"--benchmark_repetitions={repetitions}", "--benchmark_min_time=0.01", f"--benchmark_out={out.name}",
+                   f"--benchmark_repetitions={repetitions}", f"--benchmark_min_time={min_time}", f"--benchmark_out={out.name}",
                    "--benchmark_out_format=json", "--benchmark_display_aggregates_only=true"]
         code = subprocess.run(command, stdout=subprocess.DEVNULL).returncode
         if code != 0:

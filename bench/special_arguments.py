@@ -1,0 +1,174 @@
+"""The speed of special arguments: measures it, and writes docs/data/special.csv, docs/special-arguments.md and its picture."""
+
+import csv
+import statistics
+
+import catalogue
+from runs import machine, run_benchmarks
+
+DATA = catalogue.ROOT / "docs/data/special.csv"
+PAGE = catalogue.ROOT / "docs/special-arguments.md"
+PICTURE = catalogue.ROOT / "docs/images/special-arguments.svg"
+PARTS = ["function", "length", "who", "argument", "share"]
+SHARES = ["all", "1 of 2", "1 of 32", "1 of 1000"]
+KEYS = ["function", "argument", "share"]
+CANDIDATES = ["low", "middle", "high", "scalar", "sleef_u10", "libmvec"]
+TAGS = {"A11": "low", "A26": "low", "A21": "middle", "A50": "middle", "A24": "high", "A53": "high", "lumvm": "high"}
+WORST = 25
+
+PAGE_TEXT = """<!-- Written by `./run bench --special` (bench/special_arguments.py) from docs/data/special.csv; do not edit. -->
+# Special arguments
+
+Zeros, infinities, NaN, arguments outside of the domain, at poles, huge ones, and those whose results overflow, are denormal or
+vanish: a second vector path finishes most of them, a scalar routine the rest ([architecture](architecture.md)). Here are arrays
+of 4096 elements in which all elements, every second, one of 32 or one of 1000 are special and the others of everyday size. The
+figures are ticks of the time stamp counter an element, the least of some repetitions; all candidates of an array run interleaved.
+*ordinary* is the same function's time without special elements. *loop* is the loop over the C or C++ library's function, *SLEEF* its
+function of 1 ulp, each as its time over ours: below 1 it is the faster one.
+
+Measured on {machine}. To repeat: `./run bench --special` (or `./run bench --special Exp`). [data/special.csv](data/special.csv) holds
+all figures, those of the low and middle tags and of libmvec among them.
+
+## What is seen
+
+The high tags and functions without tags, by the share of special elements:
+
+| share | arrays | time over the ordinary one, median | more than 3 times | slower than the loop | slower than SLEEF |
+|---|--:|--:|--:|--:|--:|
+{summary}
+
+![Time over the ordinary one where all elements are special](images/special-arguments.svg)
+
+## The worst
+
+Where all elements are special, by the time over the ordinary one:
+
+{worst}
+
+And by the loop's time over ours, the arrays on which it is the faster one:
+
+{slower}
+
+## Each function's worst class
+
+Of its classes of arguments the one with the longest time, all elements being such; then the same class at the other shares.
+
+| function | argument | ordinary | all | 1 of 2 | 1 of 32 | 1 of 1000 | loop | SLEEF |
+|---|---|--:|--:|--:|--:|--:|--:|--:|
+{functions}
+
+[Why some remain slow](notes/speed.md#special-arguments).
+"""
+
+
+def measured(build, function):
+    """Wide rows: a function, a class of arguments, a share; the ticks of each candidate."""
+    rows = {}
+    for row in run_benchmarks(build, [function], ["--special"], PARTS, repetitions=7, of_all=min, min_time=0.0003):
+        key = tuple(row[part] for part in KEYS)
+        rows.setdefault(key, dict(zip(KEYS, key)))[TAGS.get(row["who"], row["who"])] = f"{float(row['ticks']):.3g}"
+    return rows
+
+
+class Figures:
+    """The ticks of all arrays, by function and type."""
+
+    def __init__(self, rows):
+        self.by_function = {}
+        for row in rows:
+            ticks = {who: float(row[who]) for who in CANDIDATES if row.get(who)}
+            self.by_function.setdefault(row["function"], {}).setdefault(row["argument"], {})[row["share"]] = ticks
+
+    def ordinary(self, function):
+        return self.by_function[function]["ordinary"]["none"]["high"]
+
+    def arrays(self, share):
+        """Function, class, ticks, of all arrays of that share."""
+        for function, classes in self.by_function.items():
+            for argument, shares in classes.items():
+                if share in shares and "high" in shares[share]:
+                    yield function, argument, shares[share]
+
+
+def ratio(ticks, who):
+    return ticks[who] / ticks["high"] if who in ticks else None
+
+
+def shown(value):
+    return "" if value is None else f"{value:.2g}"
+
+
+def table(figures, arrays):
+    lines = ["| function | argument | ordinary | all | times | loop | SLEEF |", "|---|---|--:|--:|--:|--:|--:|"]
+    for function, argument, ticks in arrays:
+        ordinary = figures.ordinary(function)
+        lines.append(f"| {function.replace('_', ' ')} | {argument} | {ordinary:.3g} | {ticks['high']:.3g} | "
+                     f"{ticks['high'] / ordinary:.2g} | {shown(ratio(ticks, 'scalar'))} | {shown(ratio(ticks, 'sleef_u10'))} |")
+    return "\n".join(lines)
+
+
+def summary_line(figures, share):
+    arrays = list(figures.arrays(share))
+    times = [ticks["high"] / figures.ordinary(function) for function, _, ticks in arrays]
+    slower = {who: [ratio(ticks, who) for _, _, ticks in arrays if who in ticks] for who in ("scalar", "sleef_u10")}
+    counts = (f"{sum(r < 1 for r in slower[who])} of {len(slower[who])}" for who in slower)
+    return f"| {share} | {len(arrays)} | {statistics.median(times):.2g} | {sum(t > 3 for t in times)} | {' | '.join(counts)} |"
+
+
+def function_line(figures, function):
+    classes = {argument: shares for argument, shares in figures.by_function[function].items() if "high" in shares.get("all", {})}
+    argument, shares = max(classes.items(), key=lambda item: item[1]["all"]["high"])
+    cells = [f"{shares[share]['high']:.3g}" for share in SHARES]
+    peers = [shown(ratio(shares["all"], who)) for who in ("scalar", "sleef_u10")]
+    return f"| {function.replace('_', ' ')} | {argument} | {figures.ordinary(function):.3g} | {' | '.join(cells + peers)} |"
+
+
+def draw(figures):
+    import matplotlib
+    matplotlib.use("svg")
+    from matplotlib import pyplot
+    pyplot.rcParams["svg.hashsalt"] = "lumvm"
+    types = ("32f", "64f", "32fc", "64fc")
+    figure, axes = pyplot.subplots(figsize=(9, 3.6))
+    for i, type_ in enumerate(types):
+        times = sorted(ticks["high"] / figures.ordinary(function) for function, _, ticks in figures.arrays("all")
+                       if function.endswith(f"_{type_}"))
+        if times:
+            axes.plot([100 * (k + 0.5) / len(times) for k in range(len(times))], times, label=type_, linewidth=2)
+            axes.annotate(type_, (100, times[-1]), xytext=(4, 0), textcoords="offset points", va="center")
+    axes.axhline(3, color="grey", linewidth=0.8, linestyle="--")
+    axes.set_yscale("log")
+    axes.set_xlabel("share of the classes of arguments of all functions, percent")
+    axes.set_ylabel("time over the ordinary one")
+    axes.set_xlim(0, 106)
+    axes.spines[["top", "right"]].set_visible(False)
+    figure.tight_layout()
+    figure.savefig(PICTURE, facecolor="white", metadata={"Date": None})
+
+
+def write_page(rows):
+    figures = Figures(rows)
+    everywhere = list(figures.arrays("all"))
+    worst = sorted(everywhere, key=lambda a: -a[2]["high"] / figures.ordinary(a[0]))[:WORST]
+    slower = sorted((a for a in everywhere if "scalar" in a[2] and ratio(a[2], "scalar") < 0.9), key=lambda a: ratio(a[2], "scalar"))
+    order = [f"{row.function}_{row.type}" for row in catalogue.rows() if f"{row.function}_{row.type}" in figures.by_function]
+    PAGE.write_text(PAGE_TEXT.format(
+        machine=machine(), summary="\n".join(summary_line(figures, share) for share in SHARES), worst=table(figures, worst),
+        slower=table(figures, slower[:WORST]) if slower else "None.",
+        functions="\n".join(function_line(figures, function) for function in order)))
+    draw(figures)
+
+
+def report(build, functions):
+    stored = {}
+    if DATA.exists():
+        with DATA.open() as file:
+            stored = {tuple(row[part] for part in KEYS): row for row in csv.DictReader(file)}
+    for function in functions or dict.fromkeys(row.function for row in catalogue.rows()):
+        stored = {key: row for key, row in stored.items() if key[0].rsplit("_", 1)[0] != function}
+        stored.update(measured(build, function))
+    with DATA.open("w", newline="") as file:
+        writer = csv.DictWriter(file, [*KEYS, *CANDIDATES], lineterminator="\n", restval="")
+        writer.writeheader()
+        writer.writerows(row for _, row in sorted(stored.items()))
+    write_page(stored.values())
