@@ -23,9 +23,9 @@ template <class T, int how> struct ToInteger : PlainKernel<T> {
 
 // Ties away from zero: the number below 1/2 added to the magnitude, and what is behind the point cut. A tie then lies so close
 // to the next integer that the sum rounds to it, and what is less than a tie by one place stays below it; from the size on
-// where all numbers are integers the sum rounds back. `slot` makes kernels of the same code
-// that differ in their address: a row of the entry table has three slots, of which the one name of Round takes the last, and
-// the table's test tells them apart by their pointers.
+// where all numbers are integers the sum rounds back. `slot` makes kernels of the same code that differ in their address: a row
+// of the entry table has three slots, of which the one name of Round takes the last, and the table's test tells them apart by
+// their pointers.
 template <class T> inline constexpr T below_half = T(0.5) - std::numeric_limits<T>::epsilon() / 4;
 template <class T, int slot> struct RoundKernel : PlainKernel<T> {
   static LUM_INLINE Vec<T> VectorPath(Vec<T> x) { return rndscale<to_integer | rz>(x + or_sign(x, all(below_half<T>))); }

@@ -11,6 +11,7 @@
 #include "circular/nonfinite.h"
 #include "circular/polynomials.h"
 #include "frame/constant.h"
+#include "frame/lane_format.h"
 #include "frame/numbers.h"
 
 namespace lum::inline LUM_LAYER::circular {
@@ -44,12 +45,11 @@ struct ReducedArgument {
 
 // magnitude in [2^30, infinity).
 inline ReducedArgument ReduceByChunks(double magnitude) {
-  const auto pattern = std::bit_cast<uint64_t>(magnitude);
-  const auto x = std::bit_cast<double>(pattern - (uint64_t{200} << 52));
+  const auto x =
+      std::bit_cast<double>(std::bit_cast<uint64_t>(magnitude) - (uint64_t{200} << lane::Format<double>::fraction_bits));
   const auto xh = std::bit_cast<double>(std::bit_cast<uint64_t>(x) & 0xFFFFFFFFF8000000);
   const double xl = x - xh;
-  const int exponent = static_cast<int>(pattern >> 52);
-  const double* p = &four_over_pi_chunks.entries[(exponent - 1052) / 25];
+  const double* p = &four_over_pi_chunks.entries[(lane::exponent_field(magnitude) - (lane::Format<double>::bias + 29)) / 25];
 
   CompensatedSum octants;
   const auto add_pairs = [&](int first, int last) {
@@ -117,22 +117,22 @@ inline double SineAtRow(int64_t row, double hi, double lo) {
 }
 
 inline LumStatus SineAndCosine(double x, double& sine, double& cosine) {
-  const auto pattern = std::bit_cast<uint64_t>(x);
-  const int exponent = static_cast<int>(pattern >> 52 & 0x7FF);
-  if (exponent == 0x7FF) {
+  constexpr int bias = lane::Format<double>::bias;
+  const int exponent = lane::exponent_field(x) - bias;
+  if (exponent > bias) {
     const LumStatus status = CircularOfNonFinite(x, sine);
     cosine = sine;
     return status;
   }
-  if (exponent < 771) {
+  if (exponent < -252) {
     sine = x == 0 ? x : (x * 0x1p55 - x) * 0x1p-55;  // raises the inexact flag, as a rounded sine does
     cosine = 1;
     return lumStsOk;
   }
   ReducedArgument a{x, 0, 0};
-  if (exponent >= 1023 + 17) {
-    const auto magnitude = std::bit_cast<double>(pattern << 1 >> 1);
-    a = exponent >= 1023 + 30 ? ReduceByChunks(magnitude) : ReduceByParts(magnitude);
+  if (exponent >= 17) {
+    const double magnitude = lane::magnitude(x);
+    a = exponent >= 30 ? ReduceByChunks(magnitude) : ReduceByParts(magnitude);
     if (x < 0) a = {-a.hi, -a.lo, -a.quarters};
   }
   constexpr auto shifter = rounding_shifter<Lum64f>();

@@ -41,11 +41,8 @@ struct A11_32f : Float {
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
     const auto a = abs(x);
     const auto [m, sign, is_tiny] = NearestOddQuarters(a);
-    const auto r = TakeHalfTurns(a, m);
-    const auto q = r * r;
-    const auto p = horner(q, part<1, 2>(circular::cos_A11));
-    const auto s = fma(q * p, r, r * all(circular::cos_A11.c[0])) ^ sign;
-    return {select(is_tiny, all(1.0f), s), nle(a, all(10000.0f))};
+    const auto s = OddSineFitted(TakeHalfTurns(a, m), circular::cos_A11);
+    return {select(is_tiny, all(1.0f), s ^ sign), nle(a, all(10000.0f))};
   }
 };
 
@@ -53,18 +50,14 @@ struct A21_32f : Float {
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
     const auto a = abs(x);
     const auto [m, sign, is_tiny] = NearestOddQuarters(a);
-    const auto r = TakeThirdPart(TakeHalfTurns(a, m), m);
-    const auto q = r * r;
-    const auto p = horner(q, circular::cos_A21);
-    return {select(is_tiny, all(1.0f), fma(q * p, r, r) ^ sign), nle(a, all(0x1p19f))};
+    const auto s = OddSineByRatio(TakeThirdPart(TakeHalfTurns(a, m), m), circular::cos_A21);
+    return {select(is_tiny, all(1.0f), s ^ sign), nle(a, all(0x1p19f))};
   }
 };
 
 struct A24_32f : Float {
   static LUM_INLINE Vec<Lum64f> Half(Vec<Lum64f> a, Vec<Lum64f> m) {
-    const auto r = TakeHalfTurnsExactly(a, m);
-    const auto q = r * r;
-    return fma(q * horner(q, circular::sin_A24), r, r);
+    return OddSineByRatio(TakeHalfTurnsExactly(a, m), circular::sin_A24);
   }
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
     const auto a = abs(x);

@@ -26,10 +26,19 @@ LUM_INLINE Vec<Lum64f> TakeHalfTurnsExactly(Vec<Lum64f> x, Vec<Lum64f> n) {
   return fnma(n, all(numbers::pi_exact_parts<Lum64f>[1]), fnma(n, all(numbers::pi_exact_parts<Lum64f>[0]), x));
 }
 
-// sin r by one of the odd polynomials, |r| <= pi/2.
+// sin r by one of the odd polynomials, |r| <= pi/2: r + P(r^2) r^3, with r^3 or with P(r^2) r^2 as a factor, and where the
+// polynomial has a first coefficient of its own in the place of 1.
 template <class T, size_t n> LUM_INLINE Vec<T> OddSine(Vec<T> r, const Polynomial<T, n>& p) {
   const auto q = r * r;
   return fma(horner(q, p), q * r, r);
+}
+template <class T, size_t n> LUM_INLINE Vec<T> OddSineByRatio(Vec<T> r, const Polynomial<T, n>& p) {
+  const auto q = r * r;
+  return fma(q * horner(q, p), r, r);
+}
+template <class T, size_t n> LUM_INLINE Vec<T> OddSineFitted(Vec<T> r, const Polynomial<T, n>& p) {
+  const auto q = r * r;
+  return fma(q * horner(q, part<1, n - 1>(p)), r, r * all(p.c[0]));
 }
 
 // The sign bit where an odd number of half turns was taken.

@@ -7,6 +7,7 @@
 #include <cstdint>
 
 #include "circular/polynomials.h"
+#include "frame/lane_format.h"
 #include "frame/numbers.h"
 #include "frame/types.h"
 #include "frame/vec.h"
@@ -35,16 +36,12 @@ inline constexpr auto angles_32f = table32({
 template <class T> struct LargeConstants;
 template <> struct LargeConstants<Lum64f> {
   static constexpr const uint64_t* table = large_reduction_64f;
-  static constexpr int fraction_bits = 52;
-  static constexpr uint64_t one = 0x3FF0000000000000, mid_unit = 0x3CB0000000000000, low_unit = 0x3970000000000000;
   static constexpr auto shifter = rounding_shifter<Lum64f>(9);  // the last bit of the sum is worth 1/512
   static constexpr auto turn = 2 * numbers::pi<Lum64f>, turn_tail = 2 * numbers::pi_tail<Lum64f>;
   static constexpr uint64_t quarter = 128, index_mask = 511;
 };
 template <> struct LargeConstants<Lum32f> {
   static constexpr const uint32_t* table = large_reduction_32f;
-  static constexpr int fraction_bits = 23;
-  static constexpr uint32_t one = 0x3F800000, mid_unit = 0x34000000, low_unit = 0x28800000;
   static constexpr auto shifter = rounding_shifter<Lum32f>(8);  // the last bit of the sum is worth 1/256
   static constexpr auto turn = 2 * numbers::pi<Lum32f>, turn_tail = 2 * numbers::pi_tail<Lum32f>;
   static constexpr uint32_t quarter = 64, index_mask = 255;
@@ -60,18 +57,18 @@ LUM_INLINE Vec<uint32_t> LimbProduct(Vec<uint32_t> a, Vec<uint32_t> b) { return 
 template <class U> struct TurnBits { Vec<U> high, low; };
 
 template <class T> LUM_INLINE TurnBits<UnsignedOf<T>> TurnsOf(Vec<T> x) {
-  using C = LargeConstants<T>;
+  using F = lane::Format<T>;
   using U = UnsignedOf<T>;
   constexpr int half = 4 * sizeof(T);
   constexpr U limb_mask = (U{1} << half) - 1;
-  constexpr U hidden_bit = U{1} << (C::fraction_bits - half);
+  constexpr U hidden_bit = U{1} << (F::fraction_bits - half);
   const auto low = [](Vec<U> a) { return a & all(limb_mask); };
   const auto high = [](Vec<U> a) { return shift_right<half>(a); };
 
   const auto a = bits(x);
-  const auto exponent = shift_right<C::fraction_bits>(a) & all(static_cast<U>(sizeof(T) == 8 ? 0x7FF : 0xFF));
+  const auto exponent = shift_right<F::fraction_bits>(a) & all(F::infinity >> F::fraction_bits);
   const auto row = exponent + exponent + exponent;
-  const auto [w0, w1, w2, next_row] = gather_rows(C::table, row);
+  const auto [w0, w1, w2, next_row] = gather_rows(LargeConstants<T>::table, row);
   const auto a5 = high(w0), a4 = LowLimb(w0), a3 = high(w1), a2 = LowLimb(w1), a1 = high(w2), a0 = LowLimb(w2);
   const auto m1 = (high(a) & all(static_cast<U>(hidden_bit - 1))) | all(hidden_bit);
   const auto m0 = LowLimb(a);
@@ -94,17 +91,16 @@ template <class T> struct LargeAngle {
 
 template <class T> LUM_STAGE LargeAngle<T> ReduceLarge(VecIn<T> x, VecIn<UnsignedOf<T>> sign) {
   using C = LargeConstants<T>;
-  using U = UnsignedOf<T>;
-  constexpr int width = 8 * sizeof(T), p = C::fraction_bits, rest = 2 * (width - p);
-  constexpr U fraction_mask = (U{1} << p) - 1;
+  using F = lane::Format<T>;
+  constexpr int width = F::width, p = F::fraction_bits, rest = 2 * (width - p);
   const auto turns = TurnsOf(x);
   // Numbers from bits: a unit with the bits as its fraction, less the unit. All differences are exact.
-  const auto one = [&](U unit) { return all(unit) | sign; };
-  const auto z = as_float(shift_right<width - p>(turns.high) | one(C::one));
-  const auto mid_bits = (shift_left<2 * p - width>(turns.high) & all(fraction_mask)) | shift_right<rest>(turns.low);
-  const auto low_bits = shift_left<p - rest>(turns.low) & all(fraction_mask);
-  const auto mid = as_float(mid_bits | one(C::mid_unit)) - as_float(one(C::mid_unit));
-  const auto low = as_float(low_bits | one(C::low_unit)) - as_float(one(C::low_unit));
+  const auto unit = [&](int exponent) { return all(lane::to_bits(lane::power_of_two<T>(exponent))) | sign; };
+  const auto z = as_float(shift_right<width - p>(turns.high) | unit(0));
+  const auto mid_bits = (shift_left<2 * p - width>(turns.high) & all(F::fraction)) | shift_right<rest>(turns.low);
+  const auto low_bits = shift_left<p - rest>(turns.low) & all(F::fraction);
+  const auto mid = as_float(mid_bits | unit(-p)) - as_float(unit(-p));
+  const auto low = as_float(low_bits | unit(-2 * p)) - as_float(unit(-2 * p));
   const auto s = z + all(C::shifter);
   const auto first = z - (s - all(C::shifter));
 

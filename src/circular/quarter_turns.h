@@ -35,7 +35,7 @@ inline constexpr auto two_over_pi_tails = table64({
 LUM_INLINE QuarterTurn ReduceByResidue(Vec<Lum64f> a) {
   constexpr auto shifter = rounding_shifter<Lum64f>();
   const auto y = max(a, all(0x1p23));
-  const auto k = shift_right<3>(shift_right<52>(bits(y)) - all(uint64_t{0x416}));
+  const auto k = shift_right<3>(exponent_field(y) - all(uint64_t{lane::Format<Lum64f>::bias + 23}));
   const auto hi = permute2(load<Lum64f>(two_over_pi_heads), load(two_over_pi_heads + 8), k);
   const auto lo = permute2(load<Lum64f>(two_over_pi_tails), load(two_over_pi_tails + 8), k);
   const auto p = a * hi;

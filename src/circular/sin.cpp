@@ -28,10 +28,7 @@ struct A11_32f : Float {
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
     const auto a = abs(x);
     const auto [n, shifted] = NearestHalfTurns(a);
-    const auto r = TakeHalfTurns(a, n);
-    const auto q = r * r;
-    const auto p = horner(q, part<1, 2>(circular::sin_A11));
-    const auto s = fma(q * p, r, r * all(circular::sin_A11.c[0]));
+    const auto s = OddSineFitted(TakeHalfTurns(a, n), circular::sin_A11);
     return {s ^ OddParitySign(shifted, x, a), nle(a, all(10000.0f))};
   }
 };
@@ -40,10 +37,8 @@ struct A21_32f : Float {
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
     const auto a = abs(x);
     const auto [n, shifted] = NearestHalfTurns(a);
-    const auto r = TakeThirdPart(TakeHalfTurns(a, n), n);
-    const auto q = r * r;
-    const auto p = horner(q, circular::sin_A21);
-    return {fma(q * p, r, r) ^ OddParitySign(shifted, x, a), nle(a, all(0x1p19f))};
+    const auto s = OddSineByRatio(TakeThirdPart(TakeHalfTurns(a, n), n), circular::sin_A21);
+    return {s ^ OddParitySign(shifted, x, a), nle(a, all(0x1p19f))};
   }
 };
 
@@ -51,9 +46,7 @@ struct A24_32f : Float {
   static LUM_INLINE Vec<Lum64f> Half(Vec<Lum64f> a) {
     // The integer that binary32 finds: either product is exact in the sum, which is rounded to an integer.
     const auto t = fma(a, all(double{numbers::inverse_pi<Lum32f>}), all(rounding_shifter<Lum64f>()));
-    const auto r = TakeHalfTurnsExactly(a, t - all(rounding_shifter<Lum64f>()));
-    const auto q = r * r;
-    return fma(q * horner(q, circular::sin_A24), r, r);
+    return OddSineByRatio(TakeHalfTurnsExactly(a, t - all(rounding_shifter<Lum64f>())), circular::sin_A24);
   }
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
     const auto a = abs(x);

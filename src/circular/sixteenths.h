@@ -54,7 +54,7 @@ LUM_INLINE TableAngle AngleOf(Vec<uint64_t> shifted) {
   return {Entry16(sine_heads, shifted), Entry16(cosine_heads, shifted), as_float(shift_left<32>(bits(tails))), tails};
 }
 
-// sin(k pi/16 + r), and the same of the cosine; the sign of a half turn, bit 4 of the count, is still to be applied.
+// sin(k pi/16 + r) and cos(k pi/16 + r); the sign of a half turn, bit 4 of the count, is still to be applied.
 LUM_INLINE Vec<Lum64f> SineOf(const TableAngle& a, const Sixteenths& r) {
   const auto h = fma(a.cosine, r.hi, a.sine);
   const auto error = fma(r.hi, a.cosine_tail, fms(a.cosine, r.hi, h - a.sine));

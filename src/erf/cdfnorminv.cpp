@@ -60,7 +60,7 @@ template <> struct FloatTable<9> {
   static constexpr auto centre_rest = numbers::root_two_pi_parts<Lum32f>[1];  // sqrt(2 pi) less its binary32 number
 };
 
-template <int degree> struct Float : NormalInverse<Lum32f> {
+template <int degree> struct OfDegree : NormalInverse<Lum32f> {
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
     const auto p = min(all(1.0f) - x, x);  // a NaN stays one
     const auto s = all(0.5f) - p;
@@ -68,9 +68,9 @@ template <int degree> struct Float : NormalInverse<Lum32f> {
     return {xor_sign(x - all(0.5f), magnitude), nle(all(0x1p-24f), p)};
   }
 };
-using A11_32f = Float<3>;
-using A21_32f = Float<7>;
-using A24_32f = Float<9>;
+using A11_32f = OfDegree<3>;
+using A21_32f = OfDegree<7>;
+using A24_32f = OfDegree<9>;
 
 struct NormalSeries {
   static constexpr auto c1 = numbers::quantile_series_1<Lum64f>, c2 = numbers::quantile_series_2<Lum64f>;
@@ -81,14 +81,14 @@ struct NormalSeries {
   static constexpr auto& c7 = numbers::quantile_series_7<Lum64f>;
 };
 
-template <int terms, bool has_tail> struct Double : NormalInverse<Lum64f> {
+template <Expanded tier> struct Double : NormalInverse<Lum64f> {
   static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
     const auto [p, refused] = ClampTo(0x1p-35, 0x1.fffffffffffffp-2, min(all(1.0) - x, x));
-    const auto e = Expand<false>(min(all(0.5) - p, p), nlt(p, all(0.25)), 0x1p-54);
-    const auto series = SeriesOf<NormalSeries, terms>(e.y, e.d);
+    const auto e = Expand<Node::below>(min(all(0.5) - p, p), nlt(p, all(0.25)), 0x1p-54);
+    const auto series = SeriesOf<NormalSeries, tier.terms>(e.y, e.d);
     const auto head = e.y * all(minus_root2);
     auto result = fma(series, e.d, head);
-    if constexpr (has_tail) {
+    if constexpr (tier.has_tail) {
       const auto rounding = fms(e.y, all(minus_root2), head);
       const auto rest = fma(head, e.tail, fma(e.y, all(minus_root2_rest), rounding));
       result = head + fma(series, e.d, rest);
@@ -96,9 +96,9 @@ template <int terms, bool has_tail> struct Double : NormalInverse<Lum64f> {
     return {xor_sign(all(0.5) - x, result), refused};
   }
 };
-using A26_64f = Double<3, false>;
-using A50_64f = Double<6, false>;
-using A53_64f = Double<7, true>;
+using A26_64f = Double<Expanded{.terms = 3, .has_tail = false}>;
+using A50_64f = Double<Expanded{.terms = 6, .has_tail = false}>;
+using A53_64f = Double<Expanded{.terms = 7, .has_tail = true}>;
 
 }  // namespace
 

@@ -54,7 +54,7 @@ constexpr double last_centre = 5.9921875;
 
 // What the kernels in binary64 know of an argument before they turn to the table.
 struct Split {
-  Vec<Lum64f> a, u;  // |x|; the same, at most the last centre
+  Vec<Lum64f> a, u;  // |x|, and the smaller of it and the last centre
   Vec<uint64_t> sign;
   Centre<Lum64f> centre;
   static LUM_INLINE Split Of(Vec<Lum64f> x) {

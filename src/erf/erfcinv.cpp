@@ -35,7 +35,7 @@ template <class T> struct ComplementInverse : Kernel<T> {
   static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) { return FinishEnds(x, lanes, T(2), true); }
 };
 
-template <int degree> struct Float : ComplementInverse<Lum32f> {
+template <int degree> struct OfDegree : ComplementInverse<Lum32f> {
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
     const auto q = min(all(2.0f) - x, x);  // a NaN stays one
     const auto s = all(1.0f) - q;
@@ -43,20 +43,20 @@ template <int degree> struct Float : ComplementInverse<Lum32f> {
     return {xor_sign(all(1.0f) - x, magnitude), nle(all(0x1p-24f), q)};
   }
 };
-using A11_32f = Float<3>;
-using A21_32f = Float<7>;
-using A24_32f = Float<9>;
+using A11_32f = OfDegree<3>;
+using A21_32f = OfDegree<7>;
+using A24_32f = OfDegree<9>;
 
-template <int terms, bool has_tail> struct Double : ComplementInverse<Lum64f> {
+template <Expanded tier> struct Double : ComplementInverse<Lum64f> {
   static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
     const auto [q, refused] = ClampTo(0x1p-35, 0x1.fffffffffffffp-1, min(all(2.0) - x, x));
-    const auto e = Expand<false>(min(all(1.0) - q, q), nlt(q, all(0.5)), 0x1p-53);
-    return {xor_sign(all(1.0) - x, SumOf<terms, has_tail>(e.y, e.tail, negate(e.d))), refused};
+    const auto e = Expand<Node::below>(min(all(1.0) - q, q), nlt(q, all(0.5)), 0x1p-53);
+    return {xor_sign(all(1.0) - x, SumOf<tier>(e.y, e.tail, negate(e.d))), refused};
   }
 };
-using A26_64f = Double<3, false>;
-using A50_64f = Double<6, false>;
-using A53_64f = Double<7, true>;
+using A26_64f = Double<Expanded{.terms = 3, .has_tail = false}>;
+using A50_64f = Double<Expanded{.terms = 6, .has_tail = false}>;
+using A53_64f = Double<Expanded{.terms = 7, .has_tail = true}>;
 
 }  // namespace
 

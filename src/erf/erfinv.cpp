@@ -49,7 +49,7 @@ template <class T> struct InverseKernel : Kernel<T> {
   static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) { return FinishRefused(x, lanes); }
 };
 
-template <int degree> struct Float : InverseKernel<Lum32f> {
+template <int degree> struct OfDegree : InverseKernel<Lum32f> {
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
     const auto a = abs(x);
     const auto q = all(1.0f) - a;
@@ -57,20 +57,20 @@ template <int degree> struct Float : InverseKernel<Lum32f> {
     return {or_sign(x, magnitude), nle(all(0x1p-24f), q)};
   }
 };
-using A11_32f = Float<3>;
-using A21_32f = Float<7>;
-using A24_32f = Float<9>;
+using A11_32f = OfDegree<3>;
+using A21_32f = OfDegree<7>;
+using A24_32f = OfDegree<9>;
 
-template <int terms, bool has_tail> struct Double : InverseKernel<Lum64f> {
+template <Expanded tier> struct Double : InverseKernel<Lum64f> {
   static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
     const auto [a, refused] = ClampTo(0x1p-35, 0x1.fffffffffffffp-1, abs(x));
-    const auto e = Expand<true>(min(all(1.0) - a, a), lt(a, all(0.5)), 0x1p-53);
-    return {or_sign(x, SumOf<terms, has_tail>(e.y, e.tail, e.d)), refused};
+    const auto e = Expand<Node::above>(min(all(1.0) - a, a), lt(a, all(0.5)), 0x1p-53);
+    return {or_sign(x, SumOf<tier>(e.y, e.tail, e.d)), refused};
   }
 };
-using A26_64f = Double<3, false>;
-using A50_64f = Double<6, false>;
-using A53_64f = Double<7, true>;
+using A26_64f = Double<Expanded{.terms = 3, .has_tail = false}>;
+using A50_64f = Double<Expanded{.terms = 6, .has_tail = false}>;
+using A53_64f = Double<Expanded{.terms = 7, .has_tail = true}>;
 
 }  // namespace
 

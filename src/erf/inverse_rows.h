@@ -21,14 +21,15 @@ struct Expansion {
   Vec<Lum64f> y, tail, d;  // y0 = y (1 + tail); d >= 0
 };
 
-// s is the distance from 0, or from 1 in the lanes of from_one, where its node is above it or, in the others, below it; with
-// reversed the other way round. least is the distance that has the first row.
-template <bool reversed> LUM_INLINE Expansion Expand(Vec<Lum64f> s, Mask<Lum64f> from_one, double least) {
+// Whether the node is the one next below q or above it.
+enum class Node { below, above };
+// s is the distance of q from 0, or from 1 in the lanes of from_one; least is the distance that has the first row.
+template <Node node_is> LUM_INLINE Expansion Expand(Vec<Lum64f> s, Mask<Lum64f> from_one, double least) {
   constexpr uint64_t step = uint64_t{1} << 45;
   constexpr uint64_t last_entry = inverse_table.size - 2;
-  const auto above = reversed ? ~from_one : from_one;
+  const auto farther = node_is == Node::above ? ~from_one : from_one;  // where the node is farther from the end than q
   const auto pattern = bits(s);
-  const auto lifted = select(mask_cast<uint64_t>(above), pattern + all(step - 1), pattern);
+  const auto lifted = select(mask_cast<uint64_t>(farther), pattern + all(step - 1), pattern);
   const auto node = lifted & all(~(step - 1));
   // Two entries a row: the even number of entries in front of it.
   const auto i = shift_right<44>(node - all(std::bit_cast<uint64_t>(least)));
@@ -79,10 +80,15 @@ struct ErrorSeries {
   static constexpr auto& c7 = numbers::erfinv_series_7<Lum64f>;
 };
 
+// How far a tier goes: the terms of the series, and whether the tail of y0 takes part.
+struct Expanded {
+  int terms;
+  bool has_tail;
+};
 // y (1 + tail) and the series.
-template <int terms, bool has_tail> LUM_INLINE Vec<Lum64f> SumOf(Vec<Lum64f> y, Vec<Lum64f> tail, Vec<Lum64f> d) {
-  const auto series = SeriesOf<ErrorSeries, terms>(y, d);
-  if constexpr (has_tail) return y + fma(series, d, y * tail);
+template <Expanded tier> LUM_INLINE Vec<Lum64f> SumOf(Vec<Lum64f> y, Vec<Lum64f> tail, Vec<Lum64f> d) {
+  const auto series = SeriesOf<ErrorSeries, tier.terms>(y, d);
+  if constexpr (tier.has_tail) return y + fma(series, d, y * tail);
   else return fma(series, d, y);
 }
 

@@ -105,7 +105,7 @@ template <> struct Log10Constants<Lum64f> {
   static double Tail(double t) { return unfused_horner(t, explog::log10_routine_64f); }
 };
 
-// log10 x of a positive finite x, by the same split as SplitLn, in the arithmetic of T.
+// log10 x of a positive finite x, by the split of SplitLn, in the arithmetic of T.
 template <class T> T Log10Positive(T x) {
   using C = Log10Constants<T>;
   using Word = typename lane::Format<T>::Bits;

@@ -1,5 +1,5 @@
 // acosh x = ln(x + t), t = sqrt(x^2 - 1): x^2 - 1, root and sum in two parts and the logarithm of
-// hyperbolic/inverse_hyperbolic.h. Next to 1 the result is asinh t by its series, for huge x ln 2x, both by masks. The low
+// hyperbolic/inverse_hyperbolic.h. Next to 1 the result is asinh t by its series, for large x ln 2x, both by masks. The low
 // tiers carry one part. Arguments up to 1, infinity and NaN go to the lane routine.
 #include <limits>
 
@@ -30,7 +30,7 @@ template <class T> struct Routine : Kernel<T> {
   }
 };
 
-template <class T> LUM_INLINE Mask<T> IsRefused(Vec<T> x) {
+template <class T> LUM_INLINE Mask<T> Refused(Vec<T> x) {
   return le(x, all(T(1))) | nle(x, all(std::numeric_limits<T>::max()));
 }
 
@@ -38,35 +38,35 @@ template <class T, class Series, class Ratio> struct Low : Routine<T> {
   static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) {
     const auto w = fms(x, x, all(T(1)));
     const auto t = ShortRootOf(w);
-    const auto huge = IsHuge(x);
-    const auto log = ShortLogarithm(EighthIf(huge, x, x + t), huge, Ratio());
+    const auto large = IsLarge(x);
+    const auto log = ShortLogarithm(EighthIf(large, x, x + t), large, Ratio());
     const auto series = fma(t, w * Series::Of(w), t);
-    return {select(lt(w, all(T(Series::acosh_bound))), series, log), IsRefused(x)};
+    return {select(lt(w, all(T(Series::acosh_bound))), series, log), Refused(x)};
   }
 };
 
-template <bool compensated, class T, class Series> struct Long : Routine<T> {
+template <class T, class Series, LeadingSum leading_sum> struct Long : Routine<T> {
   static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) {
     const auto one = all(T(1));
     const auto x2 = x * x;
     const auto w = x2 - one;
     const auto w_tail = ((x2 - w) - one) + fms(x, x, x2);
-    const auto t = RootOf<true>(w, w_tail);
-    const auto huge = IsHuge(x);
+    const auto t = RootOf<Sums::from_zero>(w, w_tail);
+    const auto large = IsLarge(x);
     const auto sum = fast_two_sum(x, t.head);
-    const auto tail = zero_unless(lt(x, all(huge_bound<T>)), sum.tail + t.tail);
-    const auto log = LongLogarithm<compensated>(EighthIf(huge, x, sum.head), tail, huge);
+    const auto tail = zero_unless(lt(x, all(large_bound<T>)), sum.tail + t.tail);
+    const auto log = LongLogarithm<leading_sum>(EighthIf(large, x, sum.head), tail, large);
     const auto series = t.head + fma(t.head + t.tail, w * Series::Of(w), t.tail);
-    return {select(lt(w, all(T(Series::acosh_bound))), series, log), IsRefused(x)};
+    return {select(lt(w, all(T(Series::acosh_bound))), series, log), Refused(x)};
   }
 };
 
 using A11_32f = Low<Lum32f, FloatSeries, A11Ratio>;
-using A21_32f = Long<false, Lum32f, FloatSeries>;
-using A24_32f = Long<true, Lum32f, FloatSeries>;
+using A21_32f = Long<Lum32f, FloatSeries, LeadingSum::rounded>;
+using A24_32f = Long<Lum32f, FloatSeries, LeadingSum::compensated>;
 using A26_64f = Low<Lum64f, A26Series, A26Ratio>;
-using A50_64f = Long<false, Lum64f, A50Series>;
-using A53_64f = Long<true, Lum64f, A53Series>;
+using A50_64f = Long<Lum64f, A50Series, LeadingSum::rounded>;
+using A53_64f = Long<Lum64f, A53Series, LeadingSum::compensated>;
 
 }  // namespace
 

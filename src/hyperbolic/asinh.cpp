@@ -1,5 +1,5 @@
 // asinh x = ln(a + sqrt(a^2 + 1)) with a = |x| and the sign of x: sum and root in two parts and the logarithm of
-// hyperbolic/inverse_hyperbolic.h. Small lanes take a series, down to the denormals, huge ones ln 2a, by masks. The low tiers
+// hyperbolic/inverse_hyperbolic.h. Small lanes take a series, down to the denormals, large ones ln 2a, by masks. The low tiers
 // carry one part. Infinities and NaN are finished apart; nothing ever reports.
 #include <limits>
 
@@ -19,7 +19,7 @@ template <class T> struct Routine : Kernel<T> {
   }
 };
 
-// log is the result of ordinary and huge lanes.
+// log is the result of ordinary and large lanes.
 template <class Series, class T> LUM_INLINE Lanes<T> Finish(Vec<T> x, Vec<T> a, Vec<T> x2, Vec<T> log) {
   const auto series = fma(a, x2 * Series::Of(x2), a);
   const auto v = select(lt(a, all(T(Series::asinh_bound))), series, log);
@@ -30,33 +30,33 @@ template <class T, class Series, class Ratio> struct Low : Routine<T> {
   static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) {
     const auto a = abs(x);
     const auto x2 = x * x;
-    const auto huge = IsHuge(a);
-    const auto sum = EighthIf(huge, a, a + ShortRootOf(x2 + all(T(1))));
-    return Finish<Series>(x, a, x2, ShortLogarithm(sum, huge, Ratio()));
+    const auto large = IsLarge(a);
+    const auto sum = EighthIf(large, a, a + ShortRootOf(x2 + all(T(1))));
+    return Finish<Series>(x, a, x2, ShortLogarithm(sum, large, Ratio()));
   }
 };
 
-template <bool compensated, class T, class Series> struct Long : Routine<T> {
+template <class T, class Series, LeadingSum leading_sum> struct Long : Routine<T> {
   static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) {
     const auto one = all(T(1));
     const auto a = abs(x);
     const auto x2 = x * x;
-    const auto huge = IsHuge(a);
+    const auto large = IsLarge(a);
     const auto s = fast_two_sum(max(one, x2), min(one, x2));
-    const auto root = RootOf<false>(s.head, s.tail + fms(x, x, x2));
+    const auto root = RootOf<Sums::from_one>(s.head, s.tail + fms(x, x, x2));
     const auto sum = fast_two_sum(root.head, a);
-    const auto tail = zero_unless(lt(a, all(huge_bound<T>)), sum.tail + root.tail);
-    const auto log = LongLogarithm<compensated>(EighthIf(huge, a, sum.head), tail, huge);
+    const auto tail = zero_unless(lt(a, all(large_bound<T>)), sum.tail + root.tail);
+    const auto log = LongLogarithm<leading_sum>(EighthIf(large, a, sum.head), tail, large);
     return Finish<Series>(x, a, x2, log);
   }
 };
 
 using A11_32f = Low<Lum32f, FloatSeries, A11Ratio>;
-using A21_32f = Long<false, Lum32f, FloatSeries>;
-using A24_32f = Long<true, Lum32f, FloatSeries>;
+using A21_32f = Long<Lum32f, FloatSeries, LeadingSum::rounded>;
+using A24_32f = Long<Lum32f, FloatSeries, LeadingSum::compensated>;
 using A26_64f = Low<Lum64f, A26Series, A26Ratio>;
-using A50_64f = Long<false, Lum64f, A50Series>;
-using A53_64f = Long<true, Lum64f, A53Series>;
+using A50_64f = Long<Lum64f, A50Series, LeadingSum::rounded>;
+using A53_64f = Long<Lum64f, A53Series, LeadingSum::compensated>;
 
 }  // namespace
 

@@ -5,15 +5,11 @@
 // from as an integer.
 #pragma once
 
-#include <limits>
-
 #include "frame/kernel_frame.h"
 #include "frame/numbers.h"
 #include "tables/table.h"
 
 namespace lum::inline LUM_LAYER::hyperbolic {
-
-template <class T> inline constexpr int fraction_bits = std::numeric_limits<T>::digits - 1;
 
 // |x| and the like by the constant that also puts in a sign.
 template <class T> LUM_INLINE Vec<UnsignedOf<T>> WithoutSign(Vec<UnsignedOf<T>> x) { return and_not(all(sign_bit<T>), x); }
@@ -33,8 +29,8 @@ template <int row_bits, class T> LUM_INLINE ReducedMagnitude<T> ReduceToRows(Vec
 
 // The whole part of n in the place of the exponent.
 template <int row_bits, class T> LUM_INLINE Vec<UnsignedOf<T>> ExponentPart(Vec<UnsignedOf<T>> count) {
-  constexpr auto field = std::bit_cast<UnsignedOf<T>>(std::numeric_limits<T>::infinity());
-  return shift_left<fraction_bits<T> - row_bits>(count) & all(field);
+  using F = lane::Format<T>;
+  return shift_left<F::fraction_bits - row_bits>(count) & all(F::infinity);
 }
 
 // The columns of a table: 2^(i/N)/2, 2^(-i/N)/2, what the first lacks, what the second lacks.

@@ -1,13 +1,13 @@
 // sinh x and cosh x by scalar arithmetic in binary64, which finish the lanes that the vector paths refuse.
 #pragma once
 
-#include <bit>
 #include <cmath>
 #include <cstdint>
 #include <limits>
 
 #include "explog/polynomials.h"
 #include "frame/constant.h"
+#include "frame/lane_format.h"
 #include "frame/literals.h"
 #include "frame/numbers.h"
 #include "frame/two_parts.h"
@@ -19,17 +19,15 @@ namespace lum::inline LUM_LAYER::hyperbolic {
 
 // m = count ln(2)/64 + q for 0 <= m < 711.
 struct ScalarReduced {
-  int64_t count;
+  int count;
   double q;
 };
 inline ScalarReduced ReduceBySixtyFourths(double m) {
   constexpr auto shifter = rounding_shifter<Lum64f>();
   const double n = (m * (64 * numbers::log2_e<Lum64f>)+shifter) - shifter;
   const double q = (m - n * (numbers::ln2_short<Lum64f> / 64)) - n * (numbers::ln2_short_tail<Lum64f> / 64);
-  return {static_cast<int64_t>(n), q};
+  return {static_cast<int>(n), q};
 }
-
-inline double PowerOfTwo(int64_t exponent) { return std::bit_cast<double>((exponent + 1023) << 52); }
 
 inline constexpr auto exp2_pairs = table64({
 #include "tables/generated/exp2_64f_65_pairs.inc"
@@ -42,9 +40,8 @@ inline double HalfExponential(double m) {
   const double hi = exp2_pairs[2 * i], lo = exp2_pairs[2 * i + 1];
   const double p = q + q * q * unfused_horner(q, explog::exp_routine_64f);
   const double sum = hi + (hi * p + lo);
-  // The largest exponent has no power of 2 of its own.
-  if ((count & 0x1FFC0) == 0x10040) return sum * 0x1p1023 * 2;
-  return sum * PowerOfTwo((count >> 6) - 1);
+  const int exponent = (count >> 6) - 1;
+  return exponent == 1024 ? sum * 0x1p1023 * 2 : sum * lane::power_of_two<double>(exponent);  // 2^1024 is no number
 }
 
 // With m = n ln 2 + q:  2^(n-1) + 2^(-n-1), the difference of the two, and q.
@@ -55,7 +52,7 @@ struct SumAndDifference {
 inline SumAndDifference HalfPowers(double m) {
   const auto [count, q] = ReduceBySixtyFourths(m);
   const auto i = static_cast<size_t>(count & 63);
-  const double up = PowerOfTwo((count >> 6) - 1), down = PowerOfTwo(-(count >> 6) - 2);
+  const double up = lane::power_of_two<double>((count >> 6) - 1), down = lane::power_of_two<double>(-(count >> 6) - 2);
   const TwoParts<double> plus{exp2_pairs[2 * i] * up, exp2_pairs[2 * i + 1] * up};
   const TwoParts<double> minus{exp2_pairs[2 * (64 - i)] * down, exp2_pairs[2 * (64 - i) + 1] * down};
   const TwoParts<double> sum = two_sum(plus.head, minus.head);

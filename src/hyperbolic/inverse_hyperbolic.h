@@ -1,5 +1,5 @@
 // What Asinh and Acosh share: the square root of a number in two parts, by the series of (1 - e)^(-1/2) from a reciprocal root
-// y with e = 1 - s y^2, and the logarithm of the sum of argument and root. Small arguments take asinh t = t + t^3 (...), huge
+// y with e = 1 - s y^2, and the logarithm of the sum of argument and root. Small arguments take asinh t = t + t^3 (...), large
 // ones ln 2x.
 #pragma once
 
@@ -14,16 +14,15 @@ LUM_INLINE Vec<Lum64f> RootSeries(Vec<Lum64f> e) { return horner(e, hyperbolic::
 LUM_INLINE Vec<Lum32f> ShortRootSeries(Vec<Lum32f>) { return all(0.5f); }
 LUM_INLINE Vec<Lum64f> ShortRootSeries(Vec<Lum64f> e) { return horner(e, hyperbolic::root_A26); }
 
-template <class T> struct HeadAndTail { Vec<T> head, tail; };
-
-// sqrt(s + s_tail). The tail is up to 2^-14 of the head; with s next to zero, g_tail is large enough for its share in the
-// series to matter.
-template <bool next_to_zero, class T> LUM_INLINE HeadAndTail<T> RootOf(Vec<T> s, Vec<T> s_tail) {
+// sqrt(s + s_tail). The tail is up to 2^-14 of the head; where s may be next to zero, g_tail is large enough for its share in
+// the series to matter.
+enum class Sums { from_one, from_zero };
+template <Sums sums, class T> LUM_INLINE TwoParts<Vec<T>> RootOf(Vec<T> s, Vec<T> s_tail) {
   const auto y = rsqrt14(s);
   const auto g = s * y;
   const auto g_tail = fma(y, s_tail, fms(y, s, g));
   const auto e = fnma(y, g_tail, fnma(g, y, all(T(1))));
-  const auto full = next_to_zero ? g + g_tail : g;
+  const auto full = sums == Sums::from_zero ? g + g_tail : g;
   return {g, fma(full * e, RootSeries(e), g_tail)};
 }
 template <class T> LUM_INLINE Vec<T> ShortRootOf(Vec<T> s) {
@@ -34,36 +33,37 @@ template <class T> LUM_INLINE Vec<T> ShortRootOf(Vec<T> s) {
 }
 
 // Where x^2 would overflow ln 2x is taken as ln(x/8) + 4 ln 2, with a reciprocal that is a normal number.
-template <class T> inline constexpr T huge_bound = 0x1p63f;
-template <> inline constexpr Lum64f huge_bound<Lum64f> = 0x1p511;
-template <class T> LUM_INLINE Mask<T> IsHuge(Vec<T> a) { return le(all(huge_bound<T>), a); }
-template <class T> LUM_INLINE Vec<T> EighthIf(Mask<T> huge, Vec<T> a, Vec<T> sum) {
-  return select(huge, a * all(T(0.125)), sum);
+template <class T> inline constexpr T large_bound = 0x1p63f;
+template <> inline constexpr Lum64f large_bound<Lum64f> = 0x1p511;
+template <class T> LUM_INLINE Mask<T> IsLarge(Vec<T> a) { return le(all(large_bound<T>), a); }
+template <class T> LUM_INLINE Vec<T> EighthIf(Mask<T> large, Vec<T> a, Vec<T> sum) {
+  return select(large, a * all(T(0.125)), sum);
 }
-template <class T> LUM_INLINE Vec<T> ExponentOf(Vec<T> w, Mask<T> huge) {
+template <class T> LUM_INLINE Vec<T> ExponentOf(Vec<T> w, Mask<T> large) {
   const auto k = getexp(w);
-  return sub(huge, k, all(T(4)), k);
+  return sub(large, k, all(T(4)), k);
 }
 
-// ln(sum), and + 4 ln 2 where huge; ratio(r) is (ln(1 + r) - r) / r^2.
-template <class T, class Ratio> LUM_INLINE Vec<T> ShortLogarithm(Vec<T> sum, Mask<T> huge, Ratio ratio) {
+// ln(sum), and + 4 ln 2 where large; ratio(r) is (ln(1 + r) - r) / r^2.
+template <class T, class Ratio> LUM_INLINE Vec<T> ShortLogarithm(Vec<T> sum, Mask<T> large, Ratio ratio) {
   const auto w = ShortReciprocalOf(sum);
-  const auto k = ExponentOf(w, huge);
+  const auto k = ExponentOf(w, large);
   const auto r = fms(w, sum, all(T(1)));
   const auto t = fnms(k, all(numbers::ln2<T>), LookupSingle<T>(RowOf(w)));
   return t + fma(r * r, ratio(r), r);
 }
-// ln(head + tail), and + 4 ln 2 where huge. Compensated: with the rounding error of the leading sum, whose first part is 0 or
-// the larger.
-template <bool compensated, class T> LUM_INLINE Vec<T> LongLogarithm(Vec<T> head, Vec<T> tail, Mask<T> huge) {
+// Whether the rounding error of the leading sum is carried along.
+enum class LeadingSum { rounded, compensated };
+// ln(head + tail), and + 4 ln 2 where large. The first part of the leading sum is 0 or the larger.
+template <LeadingSum leading_sum, class T> LUM_INLINE Vec<T> LongLogarithm(Vec<T> head, Vec<T> tail, Mask<T> large) {
   const auto w = ShortReciprocalOf(head);
-  const auto k = ExponentOf(w, huge);
+  const auto k = ExponentOf(w, large);
   const auto r = Residue(w, head, tail);
   const auto row = RowOf(w);
   const auto t = fnms(k, all(numbers::ln2_head<T>), LookupHi<T>(row));
   const auto low = fnms(k, all(numbers::ln2_rest<T>), LookupLo<T>(row));
   const auto p = fma(LogRatio(r), r * r, low);
-  if constexpr (compensated) {
+  if constexpr (leading_sum == LeadingSum::compensated) {
     const auto s = fast_two_sum(t, r);
     return s.head + (s.tail + p);
   } else {

@@ -17,7 +17,7 @@ template <class T> struct HyperbolicSine : Kernel<T> {
 };
 
 // Infinities and NaN have larger patterns than every threshold.
-template <class T> LUM_INLINE Mask<T> IsFrom(UnsignedOf<T> first_refused, Vec<T> a) {
+template <class T> LUM_INLINE Mask<T> RefusedFrom(UnsignedOf<T> first_refused, Vec<T> a) {
   return mask_cast<T>(le(all(first_refused), bits(a)));
 }
 inline constexpr uint32_t beyond_float = 0x42AEAC4F;
@@ -28,7 +28,7 @@ struct WholeTerms {
 };
 LUM_INLINE WholeTerms WholeTermsOf(Vec<Lum32f> a) {
   const auto [count, r] = ReduceToRows<0>(a);
-  const auto exponent = shift_left<fraction_bits<Lum32f>>(count);
+  const auto exponent = shift_left<lane::Format<Lum32f>::fraction_bits>(count);
   const auto half = all(std::bit_cast<uint32_t>(0.5f));
   const auto plus = as_float(half + exponent), minus = as_float(half - exponent);
   return {plus + minus, plus - minus, r};
@@ -41,7 +41,7 @@ struct A11_32f : HyperbolicSine<Lum32f> {
     const auto r2 = r * r;
     const auto p = horner(r2, hyperbolic::sinh_A11);
     const auto q = horner(r2, hyperbolic::sinh_cosh_A11);
-    return {or_sign(x, fma(r, fma(sum, p, (r * difference) * q), difference)), IsFrom(beyond_float, a)};
+    return {or_sign(x, fma(r, fma(sum, p, (r * difference) * q), difference)), RefusedFrom(beyond_float, a)};
   }
 };
 
@@ -52,7 +52,7 @@ struct A21_32f : HyperbolicSine<Lum32f> {
     const auto r2 = r * r;
     const auto s = fma(r * r2, horner(r2, hyperbolic::sinh_A21), r);
     const auto c = r2 * horner(r2, hyperbolic::sinh_cosh_A21);
-    return {or_sign(x, fma(sum, s, c * difference) + difference), IsFrom(beyond_float, a)};
+    return {or_sign(x, fma(sum, s, c * difference) + difference), RefusedFrom(beyond_float, a)};
   }
 };
 
@@ -92,7 +92,8 @@ struct A24_32f : HyperbolicSine<Lum32f> {
     const auto r2 = r * r;
     const auto s = fma(r * r2, horner(r2, hyperbolic::sinh_A24), r);
     const auto c = r2 * horner(r2, hyperbolic::sinh_cosh_A24);
-    return {or_sign(x, JoinSplit(LookupAll<Lum32f>(count), ExponentPart<5, Lum32f>(count), s, c)), IsFrom(beyond_float + 1, a)};
+    return {or_sign(x, JoinSplit(LookupAll<Lum32f>(count), ExponentPart<5, Lum32f>(count), s, c)),
+            RefusedFrom(beyond_float + 1, a)};
   }
 };
 
@@ -117,7 +118,7 @@ struct A50_64f : HyperbolicSine<Lum64f> {
     const auto r2 = r * r;
     const auto s = fma(r * r2, horner(r2, hyperbolic::sinh_A50), r);
     const auto c = r2 * horner(r2, hyperbolic::sinh_cosh_A50);
-    return {or_sign(x, fma(sum, s, fma(c, difference, low)) + difference), IsFrom(0x40861D9A00000000, a)};
+    return {or_sign(x, fma(sum, s, fma(c, difference, low)) + difference), RefusedFrom(0x40861D9A00000000, a)};
   }
 };
 
@@ -129,7 +130,7 @@ struct A53_64f : HyperbolicSine<Lum64f> {
     const auto s = fma(r * r2, horner(r2, hyperbolic::sinh_A53), r);
     const auto c = r2 * horner(r2, hyperbolic::sinh_cosh_A53);
     return {or_sign(x, JoinSplit(LookupAll<Lum64f>(count), ExponentPart<4, Lum64f>(count), s, c)),
-            IsFrom(0x4084EE3400000000, a)};
+            RefusedFrom(0x4084EE3400000000, a)};
   }
 };
 

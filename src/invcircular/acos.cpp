@@ -20,8 +20,8 @@ template <class T> LUM_INLINE Arguments<T> Reduce(Vec<T> x) {
   return {a, y, q, nlt(q, y)};
 }
 
-LUM_INLINE Mask<Lum32f> IsRefused(Vec<Lum32f> a) { return nle(all(-1.0f), a); }
-LUM_INLINE Mask<Lum64f> IsRefused(Vec<Lum64f> a) { return lt(a, all(-1.0)); }
+LUM_INLINE Mask<Lum32f> Refused(Vec<Lum32f> a) { return nle(all(-1.0f), a); }
+LUM_INLINE Mask<Lum64f> Refused(Vec<Lum64f> a) { return lt(a, all(-1.0)); }
 
 // pi/2 in the small branch; pi or 0 in the big one, as x is negative or not.
 template <class T> LUM_INLINE Vec<T> Base(const Arguments<T>& r, Mask<T> negative, T half_pi, T pi) {
@@ -32,7 +32,7 @@ template <class T> LUM_INLINE Lanes<T> Join(Vec<T> x, const Arguments<T>& r, Vec
   const auto negative = lt(x, r.q);  // in the big branch; q is never negative
   const auto h = select(r.big, s, r.a);
   // Turned over at the end: the operands of the sum are then NaNs of one sign, of which any may be the result.
-  return {Base(r, negative, numbers::pi<T> / 2, numbers::pi<T>) + xor_sign(x, fma(h, w, h)), IsRefused(r.a)};
+  return {Base(r, negative, numbers::pi<T> / 2, numbers::pi<T>) + xor_sign(x, fma(h, w, h)), Refused(r.a)};
 }
 
 // All but the base is formed for the sign of a negative x, the tails first, and turned over at the end.
@@ -42,7 +42,7 @@ template <class T> LUM_INLINE Lanes<T> JoinSplit(Vec<T> x, const Arguments<T>& r
   const auto base_tail = xor_sign(x, Base(r, negative, numbers::pi_tail<T> / 2, numbers::pi_tail<T>));
   const auto tail = sub(r.big, base_tail, s.c, base_tail);
   const auto rest = xor_sign(x, fma(w, sub(r.big, h, s.c, h), tail) + h);
-  return {rest + Base(r, negative, numbers::pi<T> / 2, numbers::pi<T>), IsRefused(r.a)};
+  return {rest + Base(r, negative, numbers::pi<T> / 2, numbers::pi<T>), Refused(r.a)};
 }
 
 template <int terms, class T> LUM_INLINE Vec<T> PlainRoot(Vec<T> y) {
@@ -56,26 +56,25 @@ template <class T> struct Arccosine : Kernel<T> {
   static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) { return OutsideUnitInterval(x, lanes); }
 };
 
-// The root in one part to the given terms of its series, or in two parts.
-template <class T, int root_terms, bool is_long> struct OnePart : Arccosine<T> {
+template <class T, Terms terms> struct PlainRootKernel : Arccosine<T> {
   static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) {
     const auto r = Reduce(x);
-    return Join(x, r, PlainRoot<root_terms>(r.y), Correction<is_long>(r.q));
+    return Join(x, r, PlainRoot<terms.root>(r.y), Correction<terms.is_long>(r.q));
   }
 };
-template <class T> struct TwoParts : Arccosine<T> {
+template <class T> struct SplitRootKernel : Arccosine<T> {
   static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) {
     const auto r = Reduce(x);
     return JoinSplit(x, r, SplitRootOf(r.y), LongCorrection(r.q));
   }
 };
 
-using A11_32f = OnePart<Lum32f, 1, false>;
-using A21_32f = OnePart<Lum32f, 2, true>;
-using A24_32f = TwoParts<Lum32f>;
-using A26_64f = OnePart<Lum64f, 2, false>;
-using A50_64f = OnePart<Lum64f, 4, true>;
-using A53_64f = TwoParts<Lum64f>;
+using A11_32f = PlainRootKernel<Lum32f, Terms{.root = 1, .is_long = false}>;
+using A21_32f = PlainRootKernel<Lum32f, Terms{.root = 2, .is_long = true}>;
+using A24_32f = SplitRootKernel<Lum32f>;
+using A26_64f = PlainRootKernel<Lum64f, Terms{.root = 2, .is_long = false}>;
+using A50_64f = PlainRootKernel<Lum64f, Terms{.root = 4, .is_long = true}>;
+using A53_64f = SplitRootKernel<Lum64f>;
 
 }  // namespace
 

@@ -36,7 +36,11 @@ LUM_INLINE Vec<Lum64f> LongCorrection(Vec<Lum64f> q) {
   return q * fma(fma(p, q, all(c.c[1])), q, all(c.c[0]));
 }
 
-// The one or the other.
+// A tier with the root in one part: the terms of the root's series, and whether W is that of the others or of the low tiers.
+struct Terms {
+  int root;
+  bool is_long;
+};
 template <bool is_long, class T> LUM_INLINE Vec<T> Correction(Vec<T> q) {
   if constexpr (is_long) return LongCorrection(q);
   else return ShortCorrection(q);

@@ -19,7 +19,7 @@ template <class T> LUM_INLINE Arguments<T> Reduce(Vec<T> x) {
 }
 
 // 1 - |x| is negative; a NaN has no sign here.
-template <class T> LUM_INLINE Mask<T> IsOutside(const Arguments<T>& r) { return mask_cast<T>(sign_mask(bits(r.y))); }
+template <class T> LUM_INLINE Mask<T> Refused(const Arguments<T>& r) { return mask_cast<T>(sign_mask(bits(r.y))); }
 // Not of a NaN, which the small branch leads through unchanged: the root's would be cut short.
 template <class T> LUM_INLINE Mask<T> IsBig(Vec<T> a) { return le(all(T(0.5)), a); }
 
@@ -27,7 +27,7 @@ template <class T> LUM_INLINE Lanes<T> Join(Vec<T> x, const Arguments<T>& r, Vec
   const auto big = IsBig(r.a);
   const auto u = select(big, all(numbers::pi<T> / 2) + minus_s, r.a);
   const auto v = select(big, minus_s, r.a);
-  return {xor_sign(x, fma(v, w, u)), IsOutside(r)};
+  return {xor_sign(x, fma(v, w, u)), Refused(r)};
 }
 
 // pi/2 - head = u - d exactly in the big branch, and what is below u is summed first.
@@ -37,7 +37,7 @@ template <class T> LUM_INLINE Lanes<T> JoinSplit(Vec<T> x, const Arguments<T>& r
   const auto d = s.head - (all(numbers::pi<T> / 2) - u);
   const auto z = sub_or_zero(big, all(numbers::pi_tail<T> / 2) + s.c, d);
   const auto v = sub(big, s.c, s.head, r.a);
-  return {xor_sign(x, u + fma(w, v, z)), IsOutside(r)};
+  return {xor_sign(x, u + fma(w, v, z)), Refused(r)};
 }
 
 template <int terms, class T> LUM_INLINE Vec<T> MinusRoot(Vec<T> y) {
@@ -51,14 +51,13 @@ template <class T> struct Arcsine : Kernel<T> {
   static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) { return OutsideUnitInterval(x, lanes); }
 };
 
-// The root in one part to the given terms of its series, or in two parts.
-template <class T, int root_terms, bool is_long> struct OnePart : Arcsine<T> {
+template <class T, Terms terms> struct PlainRootKernel : Arcsine<T> {
   static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) {
     const auto r = Reduce(x);
-    return Join(x, r, MinusRoot<root_terms>(r.y), Correction<is_long>(r.q));
+    return Join(x, r, MinusRoot<terms.root>(r.y), Correction<terms.is_long>(r.q));
   }
 };
-template <class T> struct TwoParts : Arcsine<T> {
+template <class T> struct SplitRootKernel : Arcsine<T> {
   static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) {
     const auto r = Reduce(x);
     return JoinSplit(x, r, SplitRootOf(r.y), LongCorrection(r.q));
@@ -71,11 +70,11 @@ struct A21_32f : Arcsine<Lum32f> {
     return Join(x, r, sqrt(r.y) * all(-2.0f), LongCorrection(r.q));
   }
 };
-using A11_32f = OnePart<Lum32f, 1, false>;
-using A24_32f = TwoParts<Lum32f>;
-using A26_64f = OnePart<Lum64f, 2, false>;
-using A50_64f = OnePart<Lum64f, 4, true>;
-using A53_64f = TwoParts<Lum64f>;
+using A11_32f = PlainRootKernel<Lum32f, Terms{.root = 1, .is_long = false}>;
+using A24_32f = SplitRootKernel<Lum32f>;
+using A26_64f = PlainRootKernel<Lum64f, Terms{.root = 2, .is_long = false}>;
+using A50_64f = PlainRootKernel<Lum64f, Terms{.root = 4, .is_long = true}>;
+using A53_64f = SplitRootKernel<Lum64f>;
 
 }  // namespace
 

@@ -16,7 +16,7 @@ namespace arctan2 {
 
 // Refused are patterns p of |x| or |y| with p - low >= high, as signed integers: exponent fields below that of low or above a
 // bound. The difference wraps round for those below.
-template <class T, SignedOf<T> low, SignedOf<T> high> LUM_INLINE Mask<T> IsSpecial(Vec<T> ay, Vec<T> ax) {
+template <class T, SignedOf<T> low, SignedOf<T> high> LUM_INLINE Mask<T> Refused(Vec<T> ay, Vec<T> ax) {
   const auto y = as_signed(bits(ay)) - all(low);
   const auto x = as_signed(bits(ax)) - all(low);
   return mask_cast<T>(~lt(max(y, x), all(high)));
@@ -46,7 +46,7 @@ template <class Tier, class T> LUM_STAGE Lanes<T> OneQuotient(VecIn<T> y, VecIn<
   const auto a = Reduce(ay, ax);
   const auto t = Tier::Quotient(a.n, a.d);
   const auto r = fma(t, Tier::Polynomial(t * t), a.base);
-  return {Place(y, x, r), IsSpecial<T, Limits<T>::low, Limits<T>::high>(ay, ax)};
+  return {Place(y, x, r), Refused<T, Limits<T>::low, Limits<T>::high>(ay, ax)};
 }
 
 template <class T> struct Low {
@@ -145,7 +145,7 @@ template <class T, SignedOf<T> low, SignedOf<T> high> struct High {
     const auto low_part = fma(t * s, IntervalPolynomial(s), t_error);
     const auto head = fast_two_sum(Lookup(tables.head, i), xor_sign(x, t));
     const auto r = head.head + (head.tail + (Lookup(tables.tail, i) + xor_sign(x, low_part)));
-    return {or_sign(y, r), IsSpecial<T, low, high>(ay, ax)};
+    return {or_sign(y, r), Refused<T, low, high>(ay, ax)};
   }
 };
 using A24_32f = High<Lum32f, std::bit_cast<int32_t>(0x81800000u), std::bit_cast<int32_t>(0xFB800000u)>;

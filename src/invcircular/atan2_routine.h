@@ -2,7 +2,6 @@
 // a zero, an infinity or a NaN.
 #pragma once
 
-#include <bit>
 #include <cmath>
 #include <cstdint>
 
@@ -21,14 +20,12 @@ struct ScaledNumber {
   int exponent;
 };
 inline ScaledNumber Scale(double a) {
-  int exponent = -1023;
+  int exponent = -lane::Format<double>::bias;
   if (a < 0x1p-1022) {
     a *= 0x1p54;
     exponent -= 54;
   }
-  const auto word = std::bit_cast<uint64_t>(a);
-  exponent += static_cast<int>(word >> 52);
-  return {std::bit_cast<double>((word & 0x000FFFFFFFFFFFFF) | 0x3FF0000000000000), exponent};
+  return {lane::significand_of(a), exponent + lane::exponent_field(a)};
 }
 
 // The angle of (x, y), both positive and finite, with y / x within 2^-63 to 2^63.
@@ -103,7 +100,7 @@ template <class T> T Atan2Magnitude(double ay, double ax, bool x_negative) {
     if (difference > 60) r = {C::angles.heads[4], C::angles.tails[4]};
     else if (difference < -60 && !x_negative) return static_cast<T>(ay / ax);  // also where it is denormal
     else if (difference >= -60) {
-      const auto scale = std::bit_cast<double>(static_cast<uint64_t>(1023 + difference) << 52);
+      const auto scale = lane::power_of_two<double>(difference);
       r = ScalarAngle(y.significand * scale, x.significand);
     }
   }
