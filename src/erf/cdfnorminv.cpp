@@ -16,6 +16,15 @@ using namespace erf;
 constexpr auto minus_root2 = -numbers::root_two_parts<Lum64f>[0];
 constexpr auto minus_root2_rest = -numbers::root_two_parts<Lum64f>[1];
 
+// The quantile of a small p.
+template <class V> LUM_INLINE V QuantileOfTail(V p) {
+  const V root2 = Constant<V>(minus_root2);
+  const TwoParts<V> y = ErfcInvOfTail(p + p);
+  const V head = y.head * root2;
+  const V rest = fma(y.head, root2, negate(head)) + (y.head * Constant<V>(minus_root2_rest) + y.tail * root2);
+  return head + rest;
+}
+
 // The function of any argument; the refused lanes hold 1/2, numbers next to 0 and 1, and those outside of the domain.
 template <class T> LumStatus FinishRefused(T x, T& result) {
   if (x != x) {
@@ -28,18 +37,19 @@ template <class T> LumStatus FinishRefused(T x, T& result) {
     result = 0;
   } else {
     const double p = x;
-    const TwoParts<double> y = ErfcInvOfTail(2 * (p < 0.5 ? p : 1 - p));
-    const double head = y.head * minus_root2;
-    const double rest = scalar_fma(y.head, minus_root2, -head) + (y.head * minus_root2_rest + y.tail * minus_root2);
-    result = static_cast<T>(p < 0.5 ? head + rest : -(head + rest));
+    result = static_cast<T>(p < 0.5 ? QuantileOfTail(p) : -QuantileOfTail(1 - p));
   }
   return lumStsOk;
 }
 
 template <class T> struct NormalInverse : Kernel<T> {
   static LumStatus LaneRoutine(T x, T& result) { return FinishRefused(x, result); }
-  static constexpr bool second_is_short = true;
-  static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) { return FinishEnds(x, lanes, T(1), false); }
+  static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) {
+    const auto of_tail = [](Vec<Lum64f> p) __attribute__((always_inline)) {
+      return xor_sign(all(0.5) - p, QuantileOfTail(min(p, all(1.0) - p)));
+    };
+    return FinishEnds(x, lanes, T(1), false, of_tail);
+  }
 };
 
 template <int degree> struct FloatTable;

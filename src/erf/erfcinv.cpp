@@ -31,8 +31,12 @@ template <class T> LumStatus FinishRefused(T x, T& result) {
 
 template <class T> struct ComplementInverse : Kernel<T> {
   static LumStatus LaneRoutine(T x, T& result) { return FinishRefused(x, result); }
-  static constexpr bool second_is_short = true;
-  static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) { return FinishEnds(x, lanes, T(2), true); }
+  static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) {
+    const auto of_tail = [](Vec<Lum64f> q) __attribute__((always_inline)) {
+      return xor_sign(all(1.0) - q, ErfcInvOfTail(min(q, all(2.0) - q)).head);
+    };
+    return FinishEnds(x, lanes, T(2), true, of_tail);
+  }
 };
 
 template <int degree> struct OfDegree : ComplementInverse<Lum32f> {

@@ -1,49 +1,90 @@
-// The far tails of the inverses, by scalar arithmetic, for the lanes that the vector paths refuse.
+// The inverses where the first vector paths refuse: at the poles, outside of the domain, and in the far tails, whose steps stand
+// here for scalars and for vectors.
 #pragma once
 
-#include <bit>
-#include <cstdint>
 #include <limits>
 
 #include "explog/logarithm_routine.h"
+#include "frame/constant.h"
+#include "frame/kernel_frame.h"
 #include "frame/literals.h"
 #include "frame/scalar_fma.h"
 #include "frame/two_parts.h"
-#include "frame/types.h"
 #include "tables/table.h"
 
 namespace lum::inline LUM_LAYER::erf {
 
+// ---- The operations and lookups of scalars, and those of vectors that have another form
+
+inline double negate(double a) { return -a; }
+inline double div(double a, double b) { return a / b; }
+inline double sqrt(double a) { return __builtin_sqrt(a); }
+inline double fma(double a, double b, double c) { return scalar_fma(a, b, c); }
+inline double fnma(double a, double b, double c) { return scalar_fma(-a, b, c); }
+
+// The steps of the scalar form.
+LUM_INLINE explog::LnParts<Vec<Lum64f>> SplitLn(Vec<Lum64f> x) {
+  constexpr auto& table = explog::ln_routine_rows;
+  const auto e = getexp(x), m = getmant<significand::from_1_to_2>(x);
+  const auto i = bits(m + all(explog::shifter_to_index<Lum64f>)) & all(uint64_t{0x7F});
+  const auto row = i + shift_left<1>(i);
+  const auto c = gather<Lum64f>(table, row), hi = gather<Lum64f>(table + 1, row), lo = gather<Lum64f>(table + 2, row);
+  const auto head = (m + all(2097152.0)) - all(2097152.0);
+  return {e * all(table.entries[3 * 64 + 1]) + hi, e * all(table.entries[3 * 64 + 2]) + lo, c * head - all(1.0), c * (m - head)};
+}
+inline explog::LnParts<double> SplitLn(double x) { return explog::SplitLn(x); }
+
+// Rows of one piece of the t axis each: its upper end, its middle, the coefficients.
+inline constexpr auto tail_rows = table64({
+#include "tables/generated/erfcinv_tail_64f_6.inc"
+});
+inline constexpr size_t tail_row_size = 17, tail_row_count = tail_rows.size / tail_row_size;
+
+inline const double* TailRow(double t) {
+  const double* row = tail_rows;
+  for (size_t i = 0; i + 1 < tail_row_count && t > *row; ++i) row += tail_row_size;
+  return row;
+}
+inline double TailEntry(const double* row, size_t column) { return row[column]; }
+
+LUM_INLINE Vec<uint64_t> TailRow(Vec<Lum64f> t) {
+  auto row = all(uint64_t{0});
+  for (size_t i = 0; i + 1 < tail_row_count; ++i) {
+    const auto is_beyond = mask_cast<uint64_t>(lt(all(tail_rows.entries[i * tail_row_size]), t));
+    row = row + zero_unless(is_beyond, all(uint64_t{tail_row_size}));
+  }
+  return row;
+}
+LUM_INLINE Vec<Lum64f> TailEntry(Vec<uint64_t> row, size_t column) { return gather<Lum64f>(tail_rows + column, row); }
+
+// ---- The far tails
+
+inline constexpr Polynomial<Lum64f, 8> log_series = {{-1.0 / 2, 1.0 / 3, -1.0 / 4, 1.0 / 5, -1.0 / 6, 1.0 / 7, -1.0 / 8, 1.0 / 9}};
+
 // -ln q for 0 < q < 1/2.
-inline TwoParts<double> MinusLog(double q) {
-  const auto [hi, lo, v, w] = explog::SplitLn(q);
-  const double t = v + w;
-  const double tail =
-      t * t *
-      (-1.0 / 2 +
-       t * (1.0 / 3 + t * (-1.0 / 4 + t * (1.0 / 5 + t * (-1.0 / 6 + t * (1.0 / 7 + t * (-1.0 / 8 + t * (1.0 / 9))))))));
-  const TwoParts<double> head = fast_two_sum(hi, v);  // the first term is exact, and the larger
-  const TwoParts<double> sum = fast_two_sum(head.head, head.tail + (lo + (w + tail)));
-  return {-sum.head, -sum.tail};
+template <class V> LUM_INLINE TwoParts<V> MinusLog(V q) {
+  const auto [hi, lo, v, w] = SplitLn(q);
+  const V t = v + w;
+  const V tail = t * t * unfused_horner(t, log_series);
+  const TwoParts<V> head = fast_two_sum(hi, v);  // the first term is exact, and the larger
+  const TwoParts<V> sum = fast_two_sum(head.head, head.tail + (lo + (w + tail)));
+  return {negate(sum.head), negate(sum.tail)};
 }
 
 // erfcinv q for 0 < q < 2^-22. With t = sqrt(-ln q) it is t less a correction of some hundredths of t, which has polynomials on
 // pieces of the t axis.
-inline TwoParts<double> ErfcInvOfTail(double q) {
-  static constexpr auto table = table64({
-#include "tables/generated/erfcinv_tail_64f_6.inc"
-  });
-  constexpr size_t row_size = 17;
-  const TwoParts<double> square = MinusLog(q);
-  const double root = __builtin_sqrt(square.head);
-  const double rest = (scalar_fma(-root, root, square.head) + square.tail) / (2 * root);
-  const double* row = table;
-  while (root > row[0] && row + 2 * row_size <= table + table.size) row += row_size;
-  const double u = root - row[1];
-  double correction = row[row_size - 1];
-  for (size_t i = row_size - 2; i >= 2; --i) correction = correction * u + row[i];
+template <class V> LUM_INLINE TwoParts<V> ErfcInvOfTail(V q) {
+  const TwoParts<V> square = MinusLog(q);
+  const V root = sqrt(square.head);
+  const V rest = div(fnma(root, root, square.head) + square.tail, root + root);
+  const auto row = TailRow(root);
+  const V u = root - TailEntry(row, 1);
+  V correction = TailEntry(row, tail_row_size - 1);
+  for (size_t i = tail_row_size - 2; i >= 2; --i) correction = correction * u + TailEntry(row, i);
   return fast_two_sum(root, rest - correction);
 }
+
+// ---- The ends of the domain
 
 // An argument at an end of the domain, and one outside of it.
 template <class T> LumStatus Pole(bool positive, T& result) {
@@ -57,8 +98,9 @@ template <class T> LumStatus OutsideDomain(T& result) {
 }
 
 // The ends 0 and `upper` of the domain, the middle, whose value is 0, NaN and what is outside of the domain, in the lanes that a
-// first path refuses; the tails next to the ends remain. The pole at 0 is positive or negative.
-template <class T> LUM_INLINE Finished<T> FinishEnds(Vec<T> x, const Lanes<T>& lanes, T upper, bool positive_at_zero) {
+// first path refuses; the pole at 0 is positive or negative. of_tail is the function of the numbers between, in binary64.
+template <class T, class OfTail>
+LUM_INLINE Finished<T> FinishEnds(Vec<T> x, const Lanes<T>& lanes, T upper, bool positive_at_zero, OfTail of_tail) {
   constexpr auto infinity = std::numeric_limits<T>::infinity();
   const auto at_zero = fpclass<classes::zero>(x), at_upper = eq(x, all(upper)), middle = eq(x, all(upper / 2));
   const auto outside = fpclass<classes::below_zero>(x) | lt(all(upper), x), is_nan = unord(x, x);
@@ -66,8 +108,13 @@ template <class T> LUM_INLINE Finished<T> FinishEnds(Vec<T> x, const Lanes<T>& l
   value = select(at_zero, all(positive_at_zero ? infinity : -infinity), value);
   value = select(at_upper, all(positive_at_zero ? -infinity : infinity), value);
   value = select(outside, all(std::numeric_limits<T>::quiet_NaN()), value);
-  const auto pole = at_zero | at_upper, finished = lanes.refused & (pole | middle | outside | is_nan);
-  return {select(finished, value, lanes.value), lanes.refused & ~finished, {.domain = outside, .singularity = pole}};
+  const auto between = lanes.refused & ~(at_zero | at_upper | middle | outside | is_nan);
+  if (any(between)) {
+    const auto in_tail = select(between, x, all(T(0x1p-40)));
+    if constexpr (sizeof(T) == sizeof(Lum64f)) value = select(between, of_tail(in_tail), value);
+    else value = select(between, narrow(of_tail(widen_low(in_tail)), of_tail(widen_high(in_tail))), value);
+  }
+  return {select(lanes.refused, value, lanes.value), mask_of<T>(0), {.domain = outside, .singularity = at_zero | at_upper}};
 }
 
 }  // namespace lum::inline LUM_LAYER::erf

@@ -42,13 +42,12 @@ template <class T> inline constexpr T shifter_to_index = (sizeof(T) == 4 ? T(0x1
 
 // ln x = hi + lo + ln(1 + v + w) of a positive finite x, w small against v and the first sum exact. With x = 2^e m and a short
 // reciprocal c of m to six bits:  hi + lo = e ln 2 - ln c,  v + w = c m - 1, below 2^-6.6.
-struct LnParts {
-  double hi, lo, v, w;
-};
-inline LnParts SplitLn(double x) {
-  static constexpr auto table = table64({
+template <class V> struct LnParts { V hi, lo, v, w; };
+inline constexpr auto ln_routine_rows = table64({
 #include "tables/generated/ln_routine_64f_65.inc"
-  });
+});
+inline LnParts<double> SplitLn(double x) {
+  constexpr auto& table = ln_routine_rows;
   double e = 0;
   if (x < std::numeric_limits<double>::min()) {
     x *= 0x1p60;

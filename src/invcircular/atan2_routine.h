@@ -1,5 +1,4 @@
-// The arctangent of two numbers in the lanes that the vector paths refuse: of any scalars, and of vectors where an argument is
-// a zero, an infinity or a NaN.
+// The arctangent of two numbers in the lanes that the vector paths refuse, of scalars and of vectors.
 #pragma once
 
 #include <cmath>
@@ -65,24 +64,6 @@ template <bool x_negative> consteval AxisAngles AnglesOfAxes() {
   return {angle(0, 0), angle(C::angles.heads[2], C::angles.tails[2]), angle(C::angles.heads[4], C::angles.tails[4])};
 }
 
-// The second path of the arctangent of two arguments. Numbers near the ends of the exponent range remain.
-template <class T> LUM_INLINE Lanes<T> Atan2OfSpecial(Vec<T> y, Vec<T> x, const Lanes<T>& lanes) {
-  constexpr auto positive = AnglesOfAxes<false>(), negative = AnglesOfAxes<true>();
-  const auto x_negative = mask_cast<T>(sign_mask(bits(x)));
-  const auto chosen = [&](double of_positive, double of_negative) __attribute__((always_inline)) {
-    return select(x_negative, all(static_cast<T>(of_negative)), all(static_cast<T>(of_positive)));
-  };
-  const auto y_zero = fpclass<classes::zero>(y), x_zero = fpclass<classes::zero>(x);
-  const auto y_infinite = fpclass<classes::infinity>(y), x_infinite = fpclass<classes::infinity>(x), nan = unord(y, x);
-  const auto across = (x_zero & ~y_zero) | (y_infinite & ~x_infinite), diagonal = y_infinite & x_infinite;
-  auto angle = chosen(positive.along, negative.along);
-  angle = select(across, chosen(positive.across, negative.across), angle);
-  angle = select(diagonal, chosen(positive.diagonal, negative.diagonal), angle);
-  angle = select(nan, y + x, or_sign(y, angle));
-  const auto finished = lanes.refused & (y_zero | x_infinite | across | nan);
-  return {select(finished, angle, lanes.value), lanes.refused & ~finished};
-}
-
 template <class T> T Atan2Magnitude(double ay, double ax, bool x_negative) {
   using C = IntervalConstants<Lum64f>;
   constexpr double beyond = __builtin_inf();
@@ -116,6 +97,82 @@ template <class T> void Atan2Routine(T y, T x, T& result) {
   }
   const T magnitude = Atan2Magnitude<T>(static_cast<double>(std::fabs(y)), static_cast<double>(std::fabs(x)), std::signbit(x));
   result = std::signbit(y) ? -magnitude : magnitude;
+}
+
+// ---- The same over vectors
+
+struct ScaledNumbers {
+  Vec<Lum64f> significand, exponent;
+};
+LUM_INLINE ScaledNumbers Scale(Vec<Lum64f> a) { return {getmant<significand::from_1_to_2>(a), getexp(a)}; }
+
+LUM_INLINE TwoParts<Vec<Lum64f>> AngleOfScaled(Vec<Lum64f> y, Vec<Lum64f> x) {
+  using C = IntervalConstants<Lum64f>;
+  // The row of the interval: the thresholds below the ratio, each of which has the ones before it.
+  const auto is_above = [&](int i) __attribute__((always_inline)) { return lt(all(C::thresholds[i]) * x, y); };
+  const auto chosen = [&](const auto& entries) __attribute__((always_inline)) {
+    auto entry = all(entries[0]);
+    for (int i = 0; i < 4; ++i) entry = select(is_above(i), all(entries[i + 1]), entry);
+    return entry;
+  };
+  const auto c = chosen(C::centres), angle_head = chosen(C::angles.heads), angle_tail = chosen(C::angles.tails);
+  const auto is_steep = is_above(3);
+  const auto v = select(is_steep, negate(x), y), u = select(is_steep, y, x);
+  const auto cu = two_product(c, u), cv = two_product(c, v);
+  const auto n = two_sum(v, negate(cu.head)), d = two_sum(u, cv.head);
+  const auto t = div(n.head, d.head);
+  const auto td = two_product(t, d.head);
+  const auto rest = ((n.head - td.head) - td.tail) + (n.tail - cu.tail) - t * (d.tail + cv.tail);
+  const auto s = t * t;
+  const auto head = two_sum(angle_head, t);
+  const auto polynomial = unfused_horner(s, invcircular::atan2_A53);
+  return {head.head, head.tail + (angle_tail + div(rest, d.head) + t * s * polynomial)};
+}
+
+// The angle of (|x|, |y|) or of (-|x|, |y|), both finite and not zero.
+LUM_INLINE Vec<Lum64f> AngleOfFinite(Vec<Lum64f> ay, Vec<Lum64f> ax, Mask<Lum64f> x_negative) {
+  using C = IntervalConstants<Lum64f>;
+  const auto y = Scale(ay), x = Scale(ax);
+  const auto difference = y.exponent - x.exponent;
+  const auto steep = lt(all(60.0), difference), flat = lt(difference, all(-60.0));
+  const auto near = ~(steep | flat);
+  const auto of_near = AngleOfScaled(scalef(y.significand, zero_unless(near, difference)), x.significand);
+  TwoParts<Vec<Lum64f>> r = {select(steep, all(C::angles.heads[4]), of_near.head),
+                             select(steep, all(C::angles.tails[4]), of_near.tail)};
+  r = {zero_unless(~flat, r.head), zero_unless(~flat, r.tail)};
+  constexpr auto& pi = numbers::pi_beside_angles_parts<Lum64f>;
+  const auto head = two_sum(all(pi[0]), negate(r.head));
+  auto angle = select(x_negative, head.head + (head.tail + (all(pi[1]) - r.tail)), r.head + r.tail);
+  const auto quotient = flat & ~x_negative;
+  if (any(quotient)) angle = select(quotient, div(select(quotient, ay, all(0.0)), ax), angle);  // also where it is denormal
+  return angle;
+}
+LUM_INLINE Vec<Lum32f> AngleOfFinite(Vec<Lum32f> ay, Vec<Lum32f> ax, Mask<Lum32f> x_negative) {
+  return narrow(AngleOfFinite(widen_low(ay), widen_low(ax), low_half(x_negative)),
+                AngleOfFinite(widen_high(ay), widen_high(ax), high_half(x_negative)));
+}
+
+// The second path of the arctangent of two arguments.
+template <class T> LUM_INLINE Lanes<T> Atan2OfSpecial(Vec<T> y, Vec<T> x, const Lanes<T>& lanes) {
+  constexpr auto positive = AnglesOfAxes<false>(), negative = AnglesOfAxes<true>();
+  const auto x_negative = mask_cast<T>(sign_mask(bits(x)));
+  const auto chosen = [&](double of_positive, double of_negative) __attribute__((always_inline)) {
+    return select(x_negative, all(static_cast<T>(of_negative)), all(static_cast<T>(of_positive)));
+  };
+  const auto y_zero = fpclass<classes::zero>(y), x_zero = fpclass<classes::zero>(x);
+  const auto y_infinite = fpclass<classes::infinity>(y), x_infinite = fpclass<classes::infinity>(x), nan = unord(y, x);
+  const auto across = (x_zero & ~y_zero) | (y_infinite & ~x_infinite), diagonal = y_infinite & x_infinite;
+  auto angle = chosen(positive.along, negative.along);
+  angle = select(across, chosen(positive.across, negative.across), angle);
+  angle = select(diagonal, chosen(positive.diagonal, negative.diagonal), angle);
+  angle = select(nan, y + x, or_sign(y, angle));
+  // Numbers near the ends of the exponent range.
+  const auto finite = lanes.refused & ~(y_zero | x_infinite | across | nan);
+  if (any(finite)) {
+    const auto ay = select(finite, abs(y), all(T(1))), ax = select(finite, abs(x), all(T(1)));
+    angle = select(finite, or_sign(y, AngleOfFinite(ay, ax, x_negative)), angle);
+  }
+  return {select(lanes.refused, angle, lanes.value), mask_of<T>(0)};
 }
 
 }  // namespace lum::inline LUM_LAYER::invcircular

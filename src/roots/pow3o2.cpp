@@ -32,7 +32,7 @@ constexpr auto pow3o2_64f = polynomial64({
 });
 
 // ((1 + t)^(3/2) - 1) / t in binary64, for a result of the type T.
-template <class T> double CellPolynomial(double t) {
+template <class T, class V> LUM_INLINE V CellPolynomial(V t) {
   if constexpr (std::is_same_v<T, Lum32f>) return unfused_horner(t, roots::pow3o2_32f);
   else return unfused_horner(t, pow3o2_64f);
 }
@@ -49,6 +49,21 @@ template <class T> double OfNormal(double x) {
   const int exponent = lane::exponent_field(x) - lane::Format<double>::bias;
   const int half = (exponent - (cell < 32 ? 1 : 0)) / 2;  // exact: cells below 32 have odd exponents
   return (hi + (hi * p + midpoint_values[2 * cell + 1])) * lane::power_of_two<double>(3 * half);
+}
+template <class T> LUM_INLINE Vec<Lum64f> OfNormal(Vec<Lum64f> x) {
+  const auto pattern = bits(x);
+  const auto cell = shift_right<47>(pattern) & all(uint64_t{63});
+  const auto midpoint = as_float((pattern & all(uint64_t{0x000F800000000000})) | all(uint64_t{0x3FF0400000000000}));
+  const auto significand = as_float((pattern & all(lane::Format<double>::fraction)) | all(std::bit_cast<uint64_t>(1.0)));
+  const auto t = (significand - midpoint) * gather<Lum64f>(midpoint_reciprocals, cell & all(uint64_t{31}));
+  const auto row = shift_left<1>(cell);
+  const auto hi = gather<Lum64f>(midpoint_values, row);
+  const auto p = CellPolynomial<T>(t) * t;
+  // Half the exponent, downward: of its field and 1, less half of the bias and 1.
+  constexpr auto bias = uint64_t{lane::Format<double>::bias};
+  const auto half = shift_right<1>(exponent_field(x) + all(uint64_t{1})) - all((bias + 1) / 2);
+  const auto scale = power_of_two<Lum64f>(half + shift_left<1>(half) + all(bias));
+  return (hi + (hi * p + gather<Lum64f>(midpoint_values + 1, row))) * scale;
 }
 
 template <class T> struct Limits;
@@ -87,17 +102,27 @@ template <class T> struct Pow3o2Kernel : Kernel<T> {
     }
     return lumStsOk;
   }
-  // All but the positive numbers whose result is next to an end of the range.
-  static constexpr bool second_is_short = true;
   static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) {
     using L = Limits<T>;
     const auto is_nan = unord(x, x), negative = fpclass<classes::below_zero>(x);
     const auto vanishes = mask_cast<T>(le(bits(abs(x)), all(L::vanishing)));
     const auto overflows = mask_cast<T>(le(all(L::overflowing), bits(x)));  // or NaN or negative
-    auto value = select(overflows, all(std::numeric_limits<T>::infinity()), lanes.value);
+    const auto between = lanes.refused & ~(overflows | vanishes);
+    auto value = lanes.value;
+    if (any(between)) value = select(between, BetweenEnds(select(between, x, all(T(1)))), value);
+    value = select(overflows, all(std::numeric_limits<T>::infinity()), value);
     value = select(vanishes, all(T(0)), value);
     value = select(negative, all(std::numeric_limits<T>::quiet_NaN()), value);
-    return {add(is_nan, select(is_nan, x, value), x), lanes.refused & ~(overflows | vanishes), {.domain = negative}};
+    return {add(is_nan, select(is_nan, x, value), x), mask_of<T>(0), {.domain = negative}};
+  }
+  // As in the lane routine.
+  static LUM_INLINE Vec<Lum32f> BetweenEnds(Vec<Lum32f> x) {
+    return narrow(OfNormal<Lum32f>(widen_low(x)), OfNormal<Lum32f>(widen_high(x)));
+  }
+  static LUM_INLINE Vec<Lum64f> BetweenEnds(Vec<Lum64f> x) {
+    const auto is_small = lt(x, all(0x1p-680));
+    const auto power = OfNormal<Lum64f>(select(is_small, x * all(0x1p60), x));
+    return select(is_small, power * all(0x1p-90), power);
   }
 };
 
