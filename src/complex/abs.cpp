@@ -1,14 +1,46 @@
 // |z|, by an estimate of the reciprocal root of s = x^2 + y^2 and coupled steps. The high tags form s with the errors of both
 // squares. Refused are zeros and numbers whose squares would leave the range; nothing is reported.
-#include "complex/core_on_lane.h"
+#include "complex/core_second_path.h"
 #include "frame/kernels.h"
 #include "roots/coupled_root.h"
 
 namespace lum::inline LUM_LAYER {
 namespace {
 
+// |z| of finite numbers other than zero, as the core has it.
+LUM_INLINE RoundedPart ModulusAsCore(ComplexVec<Lum64f> z) {
+  const auto exponent = getexp(max(abs(z.re), abs(z.im)));
+  const auto x = Raised(z.re, negate(exponent)).value, y = Raised(z.im, negate(exponent)).value;
+  const auto root = SquareRoot(Add(ExactSquare(x), ExactSquare(y)));
+  constexpr double root_error = 5;
+  return RoundedAtEnds(root, root.head * all(root_error), exponent);
+}
+[[maybe_unused]] LUM_INLINE Lanes<Lum64f> FarModulus(ComplexVec<Lum64f> z) {
+  const auto modulus = ModulusAsCore(z);
+  return {modulus.value, modulus.refused};
+}
+[[maybe_unused]] LUM_INLINE Lanes<Lum32f> FarModulus(ComplexVec<Lum32f> z) {
+  const auto half = [](ComplexVec<Lum64f> w) __attribute__((always_inline)) { return sqrt(fma(w.re, w.re, w.im * w.im)); };
+  const auto modulus = NarrowedOfNeighbours(half(WidenLow(z)), half(WidenHigh(z)));
+  return {modulus.value, ~modulus.is_sure};
+}
+
 template <class E> struct AbsKernel : Kernel<E, Real<E>> {
   using T = Real<E>;
+  static LUM_INLINE Lanes<T> SecondPath(Packed<E> packed, const Lanes<T>& lanes) {
+    const auto z = split(packed);
+    const auto infinite = IsInfinite(z.re) | IsInfinite(z.im), nan = unord(z.re, z.im) & ~infinite;
+    const auto special = infinite | nan | (IsZero(z.re) & IsZero(z.im));
+    const auto unbounded = in_register(std::numeric_limits<T>::infinity());
+    auto value = select(infinite, unbounded, zero_unless(nan, z.re * z.im));
+    auto finished = lanes.refused & special & ~(nan & HasTwoNans(z));
+    if (const auto far = lanes.refused & ~special; any(far)) {
+      const auto modulus = FarModulus(z);
+      value = select(far, modulus.value, value);
+      finished = finished | (far & ~modulus.refused);
+    }
+    return {select(finished, value, lanes.value), lanes.refused & ~finished};
+  }
   static void LaneRoutine(const E& z, T& result) {
     const ExtendedPrecision precision;
     Lum64f modulus;

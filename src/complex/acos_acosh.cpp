@@ -1,36 +1,88 @@
 // arccos z, and arcosh z, which is i arccos z or -i arccos z: one angle and one logarithm in either part.
-#include "complex/arc_parts.h"
+#include "complex/arc_ends.h"
+#include "complex/core_kernel.h"
 #include "frame/kernels.h"
 #include "frame/numbers.h"
 
 namespace lum::inline LUM_LAYER {
 namespace {
 
+LUM_INLINE HeadTail Reflected(Vec<Lum64f> x, HeadTail angle) {
+  const HeadTail pi{all(numbers::pi<Lum64f>), all(numbers::pi_tail<Lum64f>)};
+  return Select(lt(x, all(0.0)), Add(pi, -angle), angle);
+}
 // The parts of arccos z for |im z|.
 LUM_INLINE AngleAndLogarithm ArccosineParts(ComplexVec<Lum64f> z) {
   const auto parts = InverseParts<Arc::cosine>(abs(z.re), abs(z.im));
-  const HeadTail pi{all(numbers::pi<Lum64f>), all(numbers::pi_tail<Lum64f>)};
-  return {Select(lt(z.re, all(0.0)), Add(pi, -parts.angle), parts.angle), parts.logarithm};
+  return {Reflected(z.re, parts.angle), parts.logarithm};
 }
+LUM_INLINE ScaledArcParts ArccosinePartsOfAny(ComplexVec<Lum64f> z) {
+  auto scaled = InversePartsOfAny<Arc::cosine>(abs(z.re), abs(z.im));
+  scaled.parts.angle = Reflected(z.re, scaled.parts.angle);
+  scaled.angle_exponent = zero_unless(~lt(z.re, all(0.0)), scaled.angle_exponent);
+  return scaled;
+}
+
 struct AcosPath {
+  static LUM_INLINE Mask<Lum64f> IsOutside(ComplexVec<Lum64f> z) { return HasFarPart(z); }
   static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z) {
     const auto parts = ArccosineParts(z);
-    return ValueWithin(parts.angle, -XorSign(z.im, parts.logarithm), inverse_error, IsRefused(z));
+    return ValueWithin(parts.angle, -XorSign(z.im, parts.logarithm), inverse_error, IsOutside(z));
+  }
+};
+struct AcosEnds {
+  static constexpr bool no_float_is_far = true;
+  static LUM_INLINE CoreValue OfFar(ComplexVec<Lum64f> z) {
+    const auto scaled = ArccosinePartsOfAny(z);
+    return CoreValueOf(RoundedInverse(scaled.parts.angle, scaled.angle_exponent),
+                       RoundedInverse(-XorSign(z.im, scaled.parts.logarithm), scaled.logarithm_exponent), scaled.is_known);
+  }
+  static LUM_INLINE Mask<Lum64f> IsSpecial(ComplexVec<Lum64f> z) { return HasNonFinitePart(z); }
+  static LUM_INLINE ComplexVec<Lum64f> OfSpecial(ComplexVec<Lum64f> z) {
+    const auto x = z.re, y = z.im, nan = x * y, unbounded = in_register(infinity);
+    const auto is_nan = unord(x, y), infinite = IsInfinite(x) | IsInfinite(y), of_zero = IsZero(x) & unord(y, y);
+    const auto beside_nan = select(IsInfinite(x), unbounded, negate(or_sign(y, unbounded)));
+    const auto re = select(is_nan & ~of_zero, nan, abs(AngleOfInfinite(z)));
+    const auto im = select(of_zero, negate(y + y), select(infinite, beside_nan, nan));
+    return {re, select(is_nan, im, negate(or_sign(y, unbounded)))};
   }
 };
 
 struct AcoshPath {
+  static LUM_INLINE Mask<Lum64f> IsOutside(ComplexVec<Lum64f> z) { return HasFarPart(z); }
   static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z) {
     const auto parts = ArccosineParts(z);
-    return ValueWithin(parts.logarithm, XorSign(z.im, parts.angle), inverse_error, IsRefused(z));
+    return ValueWithin(parts.logarithm, XorSign(z.im, parts.angle), inverse_error, IsOutside(z));
+  }
+};
+struct AcoshEnds {
+  static constexpr bool no_float_is_far = true;
+  static LUM_INLINE CoreValue OfFar(ComplexVec<Lum64f> z) {
+    const auto scaled = ArccosinePartsOfAny(z);
+    return CoreValueOf(RoundedInverse(scaled.parts.logarithm, scaled.logarithm_exponent),
+                       RoundedInverse(XorSign(z.im, scaled.parts.angle), scaled.angle_exponent), scaled.is_known);
+  }
+  static LUM_INLINE Mask<Lum64f> IsSpecial(ComplexVec<Lum64f> z) { return HasNonFinitePart(z); }
+  static LUM_INLINE ComplexVec<Lum64f> OfSpecial(ComplexVec<Lum64f> z) {
+    const auto nan = z.re * z.im;
+    return {select(IsInfinite(z.re) | IsInfinite(z.im), in_register(infinity), nan),
+            select(unord(z.re, z.im), nan, AngleOfInfinite(z))};
   }
 };
 
 }  // namespace
 
-LumStatus Acos_32fc(const Lum32fc* src, Lum32fc* dst, int32_t len) { return RunSilent<AcosPath, CoreAcos>(src, dst, len); }
-LumStatus Acos_64fc(const Lum64fc* src, Lum64fc* dst, int32_t len) { return RunSilent<AcosPath, CoreAcos>(src, dst, len); }
-LumStatus Acosh_32fc(const Lum32fc* src, Lum32fc* dst, int32_t len) { return RunSilent<AcoshPath, CoreAcosh>(src, dst, len); }
-LumStatus Acosh_64fc(const Lum64fc* src, Lum64fc* dst, int32_t len) { return RunSilent<AcoshPath, CoreAcosh>(src, dst, len); }
+LumStatus Acos_32fc(const Lum32fc* src, Lum32fc* dst, int32_t len) {
+  return RunSilent<AcosPath, AcosEnds, CoreAcos>(src, dst, len);
+}
+LumStatus Acos_64fc(const Lum64fc* src, Lum64fc* dst, int32_t len) {
+  return RunSilent<AcosPath, AcosEnds, CoreAcos>(src, dst, len);
+}
+LumStatus Acosh_32fc(const Lum32fc* src, Lum32fc* dst, int32_t len) {
+  return RunSilent<AcoshPath, AcoshEnds, CoreAcosh>(src, dst, len);
+}
+LumStatus Acosh_64fc(const Lum64fc* src, Lum64fc* dst, int32_t len) {
+  return RunSilent<AcoshPath, AcoshEnds, CoreAcosh>(src, dst, len);
+}
 
 }  // namespace lum::inline LUM_LAYER

@@ -3,20 +3,22 @@
 // the like with b = u + 1 and a = u - 1.
 #pragma once
 
-#include "complex/core_kernel.h"
+#include "complex/core_path.h"
 #include "complex/pairs/angle.h"
 #include "complex/pairs/logarithm.h"
 
 namespace lum::inline LUM_LAYER {
 
-// The angle arccos(u/A) or arcsin(u/A), and arcosh A, for u, v > 0.
+// The angle arccos(u/A) or arcsin(u/A), and arcosh A, for u, v >= 0.
 struct AngleAndLogarithm {
   HeadTail angle, logarithm;
 };
 enum class Arc { cosine, sine };
 
-template <Arc arc> LUM_INLINE AngleAndLogarithm InverseParts(Vec<Lum64f> u, Vec<Lum64f> v) {
+template <Arc arc> LUM_INLINE AngleAndLogarithm InverseParts(Vec<Lum64f> given_u, Vec<Lum64f> given_v) {
   const auto one = all(1.0);
+  // On an axis a number that does not count stands for the zero, and the part that would be zero is put so at the end.
+  const auto u = max(given_u, all(0x1p-210)), v = max(given_v, all(0x1p-210));
   const auto a = two_sum(u, negate(one)), b = two_sum(u, one);
   const auto v2 = ExactSquare(v);
   const auto r = SquareRoot(Add(Square(b), v2)), s = SquareRoot(Add(Square(a), v2));
@@ -29,13 +31,13 @@ template <Arc arc> LUM_INLINE AngleAndLogarithm InverseParts(Vec<Lum64f> u, Vec<
   const HeadTail exact_u{u, all(0.0)};
   const auto angle = arc == Arc::cosine ? Angle(side, exact_u) : Angle(exact_u, side);
   const auto root = SquareRoot(Product(above_one, Add(above_one, all(2.0))));
-  return {angle, LogarithmOfOnePlus(Add(above_one, root))};
+  const auto is_off_axis = ne(given_v, all(0.0));
+  const auto has_angle = arc == Arc::cosine ? is_inside | is_off_axis : ne(given_u, all(0.0));
+  const auto has_logarithm = lt(one, u) | is_off_axis;
+  return {ZeroUnless(has_angle, angle), ZeroUnless(has_logarithm, LogarithmOfOnePlus(Add(above_one, root)))};
 }
 
 // The core's steps add up to this.
 constexpr double inverse_error = 16;
-
-// On the axes one of the differences is zero.
-LUM_INLINE Mask<Lum64f> IsRefused(ComplexVec<Lum64f> z) { return HasFarPart(z) | IsZero(z.re) | IsZero(z.im); }
 
 }  // namespace lum::inline LUM_LAYER

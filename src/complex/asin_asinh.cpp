@@ -1,5 +1,6 @@
 // arcsin z, and arsinh z = -i arcsin iz.
-#include "complex/arc_parts.h"
+#include "complex/arc_ends.h"
+#include "complex/core_kernel.h"
 #include "frame/kernels.h"
 
 namespace lum::inline LUM_LAYER {
@@ -10,25 +11,72 @@ LUM_INLINE AngleAndLogarithm ArcsineParts(Vec<Lum64f> angle_side, Vec<Lum64f> ot
   const auto parts = InverseParts<Arc::sine>(abs(angle_side), abs(other));
   return {XorSign(angle_side, parts.angle), XorSign(other, parts.logarithm)};
 }
+LUM_INLINE ScaledArcParts ArcsinePartsOfAny(Vec<Lum64f> angle_side, Vec<Lum64f> other) {
+  auto scaled = InversePartsOfAny<Arc::sine>(abs(angle_side), abs(other));
+  scaled.parts = {XorSign(angle_side, scaled.parts.angle), XorSign(other, scaled.parts.logarithm)};
+  return scaled;
+}
+
 struct AsinPath {
+  static LUM_INLINE Mask<Lum64f> IsOutside(ComplexVec<Lum64f> z) { return HasFarPart(z); }
   static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z) {
     const auto parts = ArcsineParts(z.re, z.im);
-    return ValueWithin(parts.angle, parts.logarithm, inverse_error, IsRefused(z));
+    return ValueWithin(parts.angle, parts.logarithm, inverse_error, IsOutside(z));
   }
 };
 
 struct AsinhPath {
+  static LUM_INLINE Mask<Lum64f> IsOutside(ComplexVec<Lum64f> z) { return HasFarPart(z); }
   static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z) {
     const auto parts = ArcsineParts(z.im, z.re);
-    return ValueWithin(parts.logarithm, parts.angle, inverse_error, IsRefused(z));
+    return ValueWithin(parts.logarithm, parts.angle, inverse_error, IsOutside(z));
+  }
+};
+
+struct AsinhEnds {
+  static constexpr bool no_float_is_far = true;
+  static LUM_INLINE CoreValue OfFar(ComplexVec<Lum64f> z) {
+    const auto scaled = ArcsinePartsOfAny(z.im, z.re);
+    return CoreValueOf(RoundedInverse(scaled.parts.logarithm, scaled.logarithm_exponent),
+                       RoundedInverse(scaled.parts.angle, scaled.angle_exponent), scaled.is_known);
+  }
+  static LUM_INLINE Mask<Lum64f> IsSpecial(ComplexVec<Lum64f> z) { return HasNonFinitePart(z); }
+  static LUM_INLINE ComplexVec<Lum64f> OfSpecial(ComplexVec<Lum64f> z) {
+    const auto x = z.re, y = z.im, nan = x * y, unbounded = in_register(infinity);
+    const auto is_nan = unord(x, y), x_infinite = IsInfinite(x);
+    const auto beside_nan = select(x_infinite, x, select(IsInfinite(y), unbounded, nan));
+    constexpr auto half_pi = numbers::pi<Lum64f> / 2;
+    const auto angle = select(x_infinite, zero_unless(IsInfinite(y), in_register(half_pi / 2)), in_register(half_pi));
+    return {select(is_nan, beside_nan, or_sign(x, unbounded)), select(IsZero(y), y, select(is_nan, nan, or_sign(y, angle)))};
+  }
+};
+
+struct AsinEnds {
+  static constexpr bool no_float_is_far = true;
+  static LUM_INLINE CoreValue OfFar(ComplexVec<Lum64f> z) {
+    const auto scaled = ArcsinePartsOfAny(z.re, z.im);
+    return CoreValueOf(RoundedInverse(scaled.parts.angle, scaled.angle_exponent),
+                       RoundedInverse(scaled.parts.logarithm, scaled.logarithm_exponent), scaled.is_known);
+  }
+  static LUM_INLINE Mask<Lum64f> IsSpecial(ComplexVec<Lum64f> z) { return HasNonFinitePart(z); }
+  static LUM_INLINE ComplexVec<Lum64f> OfSpecial(ComplexVec<Lum64f> z) {
+    return OverI<KeptNans::all>(AsinhEnds::OfSpecial(TimesI<KeptNans::all>(z)));
   }
 };
 
 }  // namespace
 
-LumStatus Asin_32fc(const Lum32fc* src, Lum32fc* dst, int32_t len) { return RunSilent<AsinPath, CoreAsin>(src, dst, len); }
-LumStatus Asin_64fc(const Lum64fc* src, Lum64fc* dst, int32_t len) { return RunSilent<AsinPath, CoreAsin>(src, dst, len); }
-LumStatus Asinh_32fc(const Lum32fc* src, Lum32fc* dst, int32_t len) { return RunSilent<AsinhPath, CoreAsinh>(src, dst, len); }
-LumStatus Asinh_64fc(const Lum64fc* src, Lum64fc* dst, int32_t len) { return RunSilent<AsinhPath, CoreAsinh>(src, dst, len); }
+LumStatus Asin_32fc(const Lum32fc* src, Lum32fc* dst, int32_t len) {
+  return RunSilent<AsinPath, AsinEnds, CoreAsin>(src, dst, len);
+}
+LumStatus Asin_64fc(const Lum64fc* src, Lum64fc* dst, int32_t len) {
+  return RunSilent<AsinPath, AsinEnds, CoreAsin>(src, dst, len);
+}
+LumStatus Asinh_32fc(const Lum32fc* src, Lum32fc* dst, int32_t len) {
+  return RunSilent<AsinhPath, AsinhEnds, CoreAsinh>(src, dst, len);
+}
+LumStatus Asinh_64fc(const Lum64fc* src, Lum64fc* dst, int32_t len) {
+  return RunSilent<AsinhPath, AsinhEnds, CoreAsinh>(src, dst, len);
+}
 
 }  // namespace lum::inline LUM_LAYER

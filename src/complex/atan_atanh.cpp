@@ -1,9 +1,11 @@
 // artanh(x + iy): a quarter of ln(1 + 4x/q) with q = (1 - x)^2 + y^2 for positive x, and half the angle of (t, 2y) with
 // t = 1 - x^2 - y^2. arctan z = -i artanh iz.
 #include "complex/core_kernel.h"
+#include "complex/far_parts.h"
 #include "complex/pairs/angle.h"
 #include "complex/pairs/logarithm.h"
 #include "frame/kernels.h"
+#include "frame/numbers.h"
 
 namespace lum::inline LUM_LAYER {
 namespace {
@@ -32,24 +34,77 @@ LUM_INLINE AtanhValue AtanhParts(Vec<Lum64f> x, Vec<Lum64f> y) {
 }
 
 struct AtanhPath {
+  static LUM_INLINE Mask<Lum64f> IsOutside(ComplexVec<Lum64f> z) { return HasFarPart(z); }
   static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z) {
     const auto a = AtanhParts(z.re, z.im);
-    return {a.logarithm, a.angle, a.logarithm_error, a.angle_error, HasFarPart(z)};
+    return {a.logarithm, a.angle, a.logarithm_error, a.angle_error, IsOutside(z)};
   }
 };
 
 struct AtanPath {
+  static LUM_INLINE Mask<Lum64f> IsOutside(ComplexVec<Lum64f> z) { return HasFarPart(z); }
   static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z) {
     const auto a = AtanhParts(z.im, z.re);
-    return {a.angle, a.logarithm, a.angle_error, a.logarithm_error, HasFarPart(z)};
+    return {a.angle, a.logarithm, a.angle_error, a.logarithm_error, IsOutside(z)};
+  }
+};
+
+// Far from 1 arctanh z is 1/z and half a turn; a small part's consequence is proportional to it.
+struct AtanhOfAny {
+  RoundedPart logarithm, angle;
+  Mask<Lum64f> is_known;
+};
+LUM_INLINE AtanhOfAny AtanhPartsOfAny(Vec<Lum64f> x, Vec<Lum64f> y) {
+  const auto z = BringNearer(abs(x), abs(y));
+  const auto a = AtanhParts(or_sign(x, z.u.value), or_sign(y, z.v.value));
+  const auto angle_exponent = zero_unless(lt(z.u.value, all(1.0)), z.v.exponent);
+  return {RoundedAtEnds(a.logarithm, a.logarithm_error, z.u.exponent - z.common),
+          RoundedAtEnds(a.angle, a.angle_error, angle_exponent), ~IsNextToBranch(z)};
+}
+
+struct AtanhEnds {
+  static constexpr bool no_float_is_far = true;
+  static LUM_INLINE CoreValue OfFar(ComplexVec<Lum64f> z) {
+    const auto a = AtanhPartsOfAny(z.re, z.im);
+    return CoreValueOf(a.logarithm, a.angle, a.is_known);
+  }
+  static LUM_INLINE Mask<Lum64f> IsPole(ComplexVec<Lum64f> z) { return eq(abs(z.re), all(1.0)) & IsZero(z.im); }
+  static LUM_INLINE Mask<Lum64f> IsSpecial(ComplexVec<Lum64f> z) { return HasNonFinitePart(z) | IsPole(z); }
+  static LUM_INLINE ComplexVec<Lum64f> OfSpecial(ComplexVec<Lum64f> z) {
+    const auto x = z.re, y = z.im;
+    const auto x_nan = unord(x, x), y_nan = unord(y, y), infinite = IsInfinite(x) | IsInfinite(y);
+    const auto nan = select(x_nan, x, y) * y, zero = select(x_nan, all(0.0), or_sign(x, all(0.0)));
+    const auto half_pi = or_sign(y, in_register(numbers::pi<Lum64f> / 2));
+    const ComplexVec<Lum64f> value{select(infinite | IsZero(x), zero, nan), select(y_nan | (x_nan & ~infinite), nan, half_pi)};
+    return Select(IsPole(z), {or_sign(x, in_register(infinity)), y}, value);
+  }
+};
+
+struct AtanEnds {
+  static constexpr bool no_float_is_far = true;
+  static LUM_INLINE CoreValue OfFar(ComplexVec<Lum64f> z) {
+    const auto a = AtanhPartsOfAny(z.im, z.re);
+    return CoreValueOf(a.angle, a.logarithm, a.is_known);
+  }
+  static LUM_INLINE Mask<Lum64f> IsSpecial(ComplexVec<Lum64f> z) { return AtanhEnds::IsSpecial(TimesI<KeptNans::all>(z)); }
+  static LUM_INLINE ComplexVec<Lum64f> OfSpecial(ComplexVec<Lum64f> z) {
+    return OverI<KeptNans::all>(AtanhEnds::OfSpecial(TimesI<KeptNans::all>(z)));
   }
 };
 
 }  // namespace
 
-LumStatus Atan_32fc(const Lum32fc* src, Lum32fc* dst, int32_t len) { return RunSilent<AtanPath, CoreAtan>(src, dst, len); }
-LumStatus Atan_64fc(const Lum64fc* src, Lum64fc* dst, int32_t len) { return RunSilent<AtanPath, CoreAtan>(src, dst, len); }
-LumStatus Atanh_32fc(const Lum32fc* src, Lum32fc* dst, int32_t len) { return RunSilent<AtanhPath, CoreAtanh>(src, dst, len); }
-LumStatus Atanh_64fc(const Lum64fc* src, Lum64fc* dst, int32_t len) { return RunSilent<AtanhPath, CoreAtanh>(src, dst, len); }
+LumStatus Atan_32fc(const Lum32fc* src, Lum32fc* dst, int32_t len) {
+  return RunSilent<AtanPath, AtanEnds, CoreAtan>(src, dst, len);
+}
+LumStatus Atan_64fc(const Lum64fc* src, Lum64fc* dst, int32_t len) {
+  return RunSilent<AtanPath, AtanEnds, CoreAtan>(src, dst, len);
+}
+LumStatus Atanh_32fc(const Lum32fc* src, Lum32fc* dst, int32_t len) {
+  return RunSilent<AtanhPath, AtanhEnds, CoreAtanh>(src, dst, len);
+}
+LumStatus Atanh_64fc(const Lum64fc* src, Lum64fc* dst, int32_t len) {
+  return RunSilent<AtanhPath, AtanhEnds, CoreAtanh>(src, dst, len);
+}
 
 }  // namespace lum::inline LUM_LAYER

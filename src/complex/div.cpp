@@ -1,15 +1,32 @@
 // z / w = z conj(w) / |w|^2. The high tag of 32fc takes numerator and denominator in binary64 and one quotient; that of 64fc
 // scales both arguments to significands of the larger part and keeps the errors of all products and of the quotient. The low
 // tags multiply by an estimate of the reciprocal. Lanes whose products leave the range are refused.
-#include "complex/pairs/pair.h"
+#include "complex/div_second_path.h"
 #include "complex/product_routine.h"
 #include "frame/kernels.h"
 
 namespace lum::inline LUM_LAYER {
 namespace {
 
-template <class E> struct Quotient : Kernel<E> {
+// The refused lanes as the core has them.
+[[maybe_unused]] LUM_INLINE Lanes<Lum64fc> QuotientLanes(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w,
+                                                         const Lanes<Lum64fc>& lanes) {
+  return Finish(QuotientAsCore(z, w, lanes.refused), lanes, lanes.refused);
+}
+[[maybe_unused]] LUM_INLINE Lanes<Lum32fc> QuotientLanes(ComplexVec<Lum32f> z, ComplexVec<Lum32f> w,
+                                                         const Lanes<Lum32fc>& lanes) {
+  return Finish(QuotientAsCore(WidenLow(z), WidenLow(w), low_half(lanes.refused)),
+                QuotientAsCore(WidenHigh(z), WidenHigh(w), high_half(lanes.refused)), lanes, lanes.refused);
+}
+
+template <class E> struct QuotientKernel : Kernel<E> {
   static constexpr int vectors = 1;
+  static LUM_INLINE Finished<E> SecondPath(Packed<E> packed_z, Packed<E> packed_w, const Lanes<E>& lanes) {
+    const auto z = split(packed_z), w = split(packed_w);
+    const auto r = QuotientLanes(z, w, lanes);
+    const auto cannot = HasNonFinitePart(z) | HasNonFinitePart(w) | (IsZero(w.re) & IsZero(w.im));
+    return {r.value, r.refused, {.overflow = OverflowsOf(r, lanes.refused) & ~cannot}};
+  }
   static LumStatus LaneRoutine(const E& z, const E& w, E& result) { return ProductCoreOnLane<CoreDiv>(z, w, result); }
 };
 
@@ -32,7 +49,7 @@ template <class T> LUM_INLINE Vec<T> Reciprocal(Vec<T> x) {
   else return fma(fnma(x, w, all(T(1))), w, w);
 }
 
-template <class E> struct Low : Quotient<E> {
+template <class E> struct Low : QuotientKernel<E> {
   using T = Real<E>;
   static constexpr Variant variant = x87_up_front_variant;
   static LUM_INLINE Lanes<E> VectorPath(Interleaved<T> z, Interleaved<T> w) {
@@ -43,7 +60,7 @@ template <class E> struct Low : Quotient<E> {
   }
 };
 
-struct A24_32fc : Quotient<Lum32fc> {
+struct A24_32fc : QuotientKernel<Lum32fc> {
   static constexpr Variant variant = x87_up_front_variant;
   static LUM_INLINE ComplexVec<Lum64f> DoubleQuotient(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w) {
     const auto t = TermsOf(z, w);
@@ -59,7 +76,7 @@ struct A24_32fc : Quotient<Lum32fc> {
   }
 };
 
-struct A53_64fc : Quotient<Lum64fc> {
+struct A53_64fc : QuotientKernel<Lum64fc> {
   // a c + b d.
   static LUM_STAGE HeadTail SumOfProducts(VecIn<Lum64f> a, VecIn<Lum64f> c, VecIn<Lum64f> b, VecIn<Lum64f> d) {
     const auto first = a * c, second = b * d;

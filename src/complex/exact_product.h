@@ -3,8 +3,7 @@
 // within 2^-64 of the middle between two; such lanes remain for the core itself.
 #pragma once
 
-#include "complex/pairs/pair.h"
-#include "frame/kernel_frame.h"
+#include "complex/core_second_path.h"
 
 namespace lum::inline LUM_LAYER {
 
@@ -22,7 +21,9 @@ struct CoreProduct {
 LUM_INLINE CorePart RoundedTwice(Vec<Lum64f> head, Vec<Lum64f> tail, Vec<Lum64f> residue) {
   const auto distance = fma(abs(head), all(0x1p-64), residue);
   const auto above = head + (tail + distance), below = head + (tail - distance);
-  return {or_sign(head, above), eq(above, below)};
+  // Exactly in the middle is a tail that is a power of 2 and yet not sure: the sum of the products has been rounded to even.
+  const auto is_middle = IsZero(residue) & mask_cast<Lum64f>(test_none(bits(tail), all(~uint64_t{0} >> 12))) & ~IsZero(tail);
+  return {or_sign(head, select(is_middle, head, above)), eq(above, below) | is_middle};
 }
 
 // a c + b d where one of the products has a zero factor or an operand is not finite, so that the sum of the products is exact.
@@ -30,9 +31,7 @@ LUM_INLINE TwoParts<Vec<Lum64f>> SumWithOneProduct(Vec<Lum64f> a, Vec<Lum64f> c,
   const auto first = a * c, second = b * d;
   return {first + second, fms(a, c, first) + fms(b, d, second)};
 }
-LUM_INLINE Mask<Lum64f> EitherZero(Vec<Lum64f> a, Vec<Lum64f> b) {
-  return fpclass<classes::zero>(a) | fpclass<classes::zero>(b);
-}
+LUM_INLINE Mask<Lum64f> EitherZero(Vec<Lum64f> a, Vec<Lum64f> b) { return IsZero(a) | IsZero(b); }
 
 LUM_INLINE Mask<Lum64f> IsNotFinite(ComplexVec<Lum64f> z) {
   return fpclass<classes::nonfinite>(z.re) | fpclass<classes::nonfinite>(z.im);
@@ -54,41 +53,61 @@ LUM_INLINE CorePart PartWithOneProduct(Vec<Lum64f> a, Vec<Lum64f> c, Vec<Lum64f>
   return {select(is_plain, s.head, rounded.value), (first_zero | second_zero) & (in_range | is_plain)};
 }
 
-// a c + b d of numbers that are zero or from 2^-240 to 2: exactly in four parts.
-LUM_INLINE CorePart PartOfTwoProducts(Vec<Lum64f> a, Vec<Lum64f> c, Vec<Lum64f> b, Vec<Lum64f> d) {
+// a c + b d of numbers that are zero or from 2^-240 to 2, in four parts: head + tail but for the residue. Of two zeros the head
+// is their sum.
+struct ExactSum {
+  Vec<Lum64f> head, tail, residue;
+};
+LUM_INLINE ExactSum SumOfTwoProducts(Vec<Lum64f> a, Vec<Lum64f> c, Vec<Lum64f> b, Vec<Lum64f> d) {
   const auto first = two_product(a, c), second = two_product(b, d);
   const auto heads = two_sum(first.head, second.head), tails = two_sum(first.tail, second.tail);
   const auto middle = two_sum(heads.tail, tails.head);
   const auto s = two_sum(heads.head, middle.head);
-  const auto residue = abs(middle.tail) + abs(tails.tail);
-  const auto zero =
-      fpclass<classes::zero>(s.head) & fpclass<classes::zero>(heads.head);  // of two zeros the sum of the heads has the sign
-  return RoundedTwice(select(zero, heads.head, s.head), s.tail, residue + residue);
+  const auto zero = IsZero(s.head) & IsZero(heads.head);
+  return {select(zero, heads.head, s.head), s.tail, abs(middle.tail) + abs(tails.tail)};
 }
 
-// The product of any finite numbers, by significands of the larger part. Not sure are results next to denormal numbers, and
-// numbers one of whose parts is far smaller than the other.
-LUM_INLINE CoreProduct ProductOfScaled(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w) {
-  const auto z_exponent = getexp(max(abs(z.re), abs(z.im))), w_exponent = getexp(max(abs(w.re), abs(w.im)));
-  const auto far = [](Vec<Lum64f> x, Vec<Lum64f> exponent) __attribute__((always_inline)) {
-    return lt(getexp(x), exponent - all(240.0)) & ~fpclass<classes::zero>(x);
+// A number other than zero, but for 2^exponent: the larger part from 1 to 2, a part that is far smaller raised to 2^-200.
+struct ScaledNumber {
+  RaisedNumber re, im;
+  Vec<Lum64f> exponent;
+};
+LUM_INLINE ScaledNumber ScaledOf(ComplexVec<Lum64f> z) {
+  const auto exponent = getexp(max(abs(z.re), abs(z.im)));
+  return {Raised(z.re, negate(exponent)), Raised(z.im, negate(exponent)), exponent};
+}
+LUM_INLINE RaisedNumber operator-(RaisedNumber x) { return {negate(x.value), x.exponent}; }
+
+// a c + b d. Of products with different exponents one is left out, where it is small enough; else the sum is not known.
+struct ScaledSum {
+  ExactSum sum;
+  Vec<Lum64f> exponent;
+  Mask<Lum64f> is_known;
+};
+LUM_INLINE ScaledSum SumOfTwoProducts(RaisedNumber a, RaisedNumber c, RaisedNumber b, RaisedNumber d) {
+  const auto first_exponent = a.exponent + c.exponent, second_exponent = b.exponent + d.exponent;
+  if (none(ne(first_exponent, second_exponent)))
+    return {SumOfTwoProducts(a.value, c.value, b.value, d.value), first_exponent, mask_of<Lum64f>(~0u)};
+  const auto first = a.value * c.value, second = b.value * d.value;
+  const auto first_size = getexp(first) + first_exponent, second_size = getexp(second) + second_exponent;
+  const auto differ = ne(first_exponent, second_exponent) & (~IsZero(first) | ~IsZero(second));
+  const auto without_count = all(130.0);
+  const auto drops_first = differ & lt(first_size, second_size - without_count);
+  const auto drops_second = differ & lt(second_size, first_size - without_count);
+  return {SumOfTwoProducts(zero_unless(~drops_first, a.value), c.value, zero_unless(~drops_second, b.value), d.value),
+          select(drops_first, second_exponent, first_exponent), ~differ | drops_first | drops_second};
+}
+
+// The product of any finite numbers other than zero.
+LUM_INLINE CoreProduct ProductOfScaled(ComplexVec<Lum64f> given_z, ComplexVec<Lum64f> given_w) {
+  const auto z = ScaledOf(given_z), w = ScaledOf(given_w);
+  const auto part = [&](const ScaledSum& s) __attribute__((always_inline)) {
+    const auto error = fma(s.sum.residue, all(0x1p65), abs(s.sum.head));
+    const auto rounded = RoundedAtEnds({s.sum.head, s.sum.tail}, error, s.exponent + (z.exponent + w.exponent));
+    return RoundedPart{rounded.value, rounded.refused | ~s.is_known};
   };
-  const auto is_far = far(z.re, z_exponent) | far(z.im, z_exponent) | far(w.re, w_exponent) | far(w.im, w_exponent);
-  const auto down = [&](Vec<Lum64f> x, Vec<Lum64f> exponent) __attribute__((always_inline)) {
-    return scalef(zero_unless(~is_far, x), negate(exponent));
-  };
-  const auto a = down(z.re, z_exponent), b = down(z.im, z_exponent), c = down(w.re, w_exponent), d = down(w.im, w_exponent);
-  const auto re = PartOfTwoProducts(a, c, negate(b), d), im = PartOfTwoProducts(a, d, b, c);
-  const auto exponent = z_exponent + w_exponent;
-  const auto up = [&](CorePart part) __attribute__((always_inline)) {
-    const auto result_exponent = getexp(part.value) + exponent;
-    const auto vanishes = lt(result_exponent, all(-1080.0));
-    const auto is_normal = le(all(-1021.0), result_exponent);
-    const auto scaled = scalef(zero_unless(is_normal, part.value), exponent);
-    return CorePart{select(is_normal, scaled, part.value & all(sign_bit<Lum64f>)), part.is_sure & (is_normal | vanishes)};
-  };
-  const auto scaled_re = up(re), scaled_im = up(im);
-  return {{scaled_re.value, scaled_im.value}, scaled_re.is_sure & scaled_im.is_sure & ~is_far};
+  const auto re = part(SumOfTwoProducts(z.re, w.re, -z.im, w.im)), im = part(SumOfTwoProducts(z.re, w.im, z.im, w.re));
+  return {{re.value, im.value}, ~(re.refused | im.refused)};
 }
 
 // The products in the lanes of the mask; the others are not sure. Numbers that are not finite have plain products and sums, as

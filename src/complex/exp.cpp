@@ -1,10 +1,10 @@
 // e^z = e^x (cos y + i sin y), z = x + iy. The exponential and the circular functions are those of the real kernels, cut to
 // what the tag needs; the tiers of 32fc take sine and cosine in binary64, that their product with the exponential is rounded
-// once. Far arguments and those whose exponential leaves the range go to the scalar core.
+// once. Far arguments and those whose exponential leaves the range are left to the second path and to the scalar core.
 #include "circular/half_turns.h"
 #include "circular/polynomials.h"
 #include "circular/sixteenths.h"
-#include "complex/core_on_lane.h"
+#include "complex/exp_ends.h"
 #include "complex/pairs/pair.h"
 #include "complex/polynomials.h"
 #include "explog/polynomials.h"
@@ -76,8 +76,15 @@ struct SingleExponential {
   }
 };
 
-template <class Exponential> struct Single : Kernel<Lum32fc> {
+template <class E> struct ExpKernel : Kernel<E> {
   static constexpr int vectors = 1;
+  static LUM_INLINE Finished<E> SecondPath(Packed<E> z, const Lanes<E>& lanes) {
+    return ReportingSecondPath<ExpEnds>(z, lanes, lanes.refused);
+  }
+  static LumStatus LaneRoutine(const E& z, E& result) { return ReportingCoreOnLane<CoreExp>(z, result); }
+};
+
+template <class Exponential> struct Single : ExpKernel<Lum32fc> {
   static LUM_INLINE Lanes<Lum32fc> VectorPath(Interleaved<Lum32f> z) {
     const auto [x, y] = split(z);
     const auto a = abs(y);
@@ -89,14 +96,12 @@ template <class Exponential> struct Single : Kernel<Lum32fc> {
                                     narrow(e.low * low.sine, e.high * high.sine) ^ (parity ^ sign_of(y))};
     return {join(result), nlt(abs(x), all(Exponential::limit)) | nle(a, all(10000.0f))};
   }
-  static LumStatus LaneRoutine(const Lum32fc& z, Lum32fc& result) { return ReportingCoreOnLane<CoreExp>(z, result); }
 };
 struct A11_32fc : Single<SingleExponential> {};
 struct A24_32fc : Single<DoubleExponential> {};
 
 // Steps of 1/16 in the exponent of 2, sine and cosine by sixteenths of a half turn.
-struct A26_64fc : Kernel<Lum64fc> {
-  static constexpr int vectors = 1;
+struct A26_64fc : ExpKernel<Lum64fc> {
   static LUM_INLINE Vec<Lum64f> ExponentialOf(Vec<Lum64f> x);
   static LUM_INLINE Lanes<Lum64fc> VectorPath(Interleaved<Lum64f> z) {
     const auto [x, y] = split(z);
@@ -108,7 +113,6 @@ struct A26_64fc : Kernel<Lum64fc> {
                                     e * (circular::SineOf(angle, r) ^ HalfTurnSign(r, y))};
     return {join(result), nle(a, all(0x1p24)) | nlt(e, all(infinity))};
   }
-  static LumStatus LaneRoutine(const Lum64fc& z, Lum64fc& result) { return ReportingCoreOnLane<CoreExp>(z, result); }
 };
 
 LUM_INLINE Vec<Lum64f> A26_64fc::ExponentialOf(Vec<Lum64f> x) {
@@ -135,8 +139,7 @@ LUM_INLINE Vec<Lum64f> A26_64fc::ExponentialOf(Vec<Lum64f> x) {
 
 // Steps of 1/64 in the exponent of 2 and 1/32 of a half turn; the exponential of the remainder, and what the table and the
 // circular functions lack, are joined to the heads before the one rounding of each product.
-struct A53_64fc : Kernel<Lum64fc> {
-  static constexpr int vectors = 1;
+struct A53_64fc : ExpKernel<Lum64fc> {
   static constexpr Lum64f fill = 0.5;
 
   struct Exponential {
@@ -205,7 +208,6 @@ struct A53_64fc : Kernel<Lum64fc> {
     const ComplexVec<Lum64f> result{Product(e, cosine), select(lt(a, all(0x1p-960)), tiny, Product(e, sine))};
     return {join(result), nlt(abs(x), all(512.0)) | nlt(a, all(512.0))};
   }
-  static LumStatus LaneRoutine(const Lum64fc& z, Lum64fc& result) { return ReportingCoreOnLane<CoreExp>(z, result); }
 };
 
 }  // namespace

@@ -2,7 +2,7 @@
 // other, whose products they form as the cores do.
 #pragma once
 
-#include "complex/core_kernel.h"
+#include "complex/core_path.h"
 #include "complex/pairs/circular.h"
 #include "complex/pairs/exponential.h"
 
@@ -12,10 +12,14 @@ struct Factors {
   HeadTail sine, cosine, sinh, cosh;
   Mask<Lum64f> refused;
 };
+// Outside the domain of the functions whose exponent and angle these are.
+LUM_INLINE Mask<Lum64f> IsFarPair(Vec<Lum64f> exponent, Vec<Lum64f> angle, double largest) {
+  return IsFar(exponent, largest) | IsFar(angle, largest_angle);
+}
 LUM_INLINE Factors FactorsOf(Vec<Lum64f> exponent, Vec<Lum64f> angle, double largest) {
   const auto circular = SineCosineOf(angle);
   const auto hyperbolic = HyperbolicPair(exponent);
-  const auto refused = circular.refused | IsFar(exponent, largest) | IsFar(angle, largest_angle);
+  const auto refused = circular.refused | IsFarPair(exponent, angle, largest);
   return {circular.sine, circular.cosine, hyperbolic.sinh, hyperbolic.cosh, refused};
 }
 

@@ -4,7 +4,7 @@
 // the sum of the errors, which is little beside |ln z| but may be as much as t itself. Nothing is reported, not even of a zero.
 #include <limits>
 
-#include "complex/core_on_lane.h"
+#include "complex/logarithm_ends.h"
 #include "explog/ln_terms.h"
 #include "frame/kernels.h"
 #include "frame/numbers.h"
@@ -17,17 +17,9 @@ namespace {
 template <class E> struct LnKernel : Kernel<E> {
   static constexpr int vectors = 1;
   static void LaneRoutine(const E& z, E& result) { SilentCoreOnLane<CoreLog>(z, result); }
-  // Zero and infinities give an infinity and the angle of an axis or a diagonal.
-  static LUM_INLINE Lanes<E> SecondPath(Packed<E> packed, const Lanes<E>& lanes) {
-    using T = Real<E>;
-    constexpr auto unbounded = std::numeric_limits<T>::infinity();
-    const auto z = split(packed), value = split(lanes.value);
-    const auto zero = fpclass<classes::zero>(z.re) & fpclass<classes::zero>(z.im),
-               infinite = fpclass<classes::infinity>(z.re) | fpclass<classes::infinity>(z.im);
-    const auto finished = lanes.refused & (zero | infinite) & ~unord(z.re, z.im);
-    const auto log = select(zero, all(-unbounded), all(unbounded));
-    const auto angle = invcircular::Atan2OfSpecial(z.im, z.re, Lanes<T>{value.im, finished});
-    return {join(ComplexVec<T>{select(finished, log, value.re), angle.value}), lanes.refused & ~finished};
+  static LUM_INLINE Lanes<E> SecondPath(Packed<E> z, const Lanes<E>& lanes) {
+    // The first path takes so much of the stack where it does not fit registers that there is no room for far numbers.
+    return SecondPathAsCore<LnEnds, streams_fit_registers>(z, lanes, lanes.refused);
   }
 };
 

@@ -1,7 +1,7 @@
 // ln |z| and arg z as pairs, for the paths of Log10 and of the powers.
 #pragma once
 
-#include "complex/core_kernel.h"
+#include "complex/core_path.h"
 #include "complex/pairs/angle.h"
 #include "complex/pairs/logarithm.h"
 
@@ -13,17 +13,21 @@ struct LogarithmValue {
   Vec<Lum64f> modulus_error, angle_error;
   Mask<Lum64f> refused;
 };
+// Off the circle the core's square is rounded; near it, its difference from 1 is nearly exact.
+LUM_INLINE Vec<Lum64f> ModulusError(Vec<Lum64f> magnitude, Mask<Lum64f> is_off) {
+  return select(is_off, fma(magnitude, all(2.0), all(1.25)), magnitude * all(6.0));
+}
+// Where the logarithm is as small as here it has lost bits: the square was right to 2^-105.
+LUM_INLINE Mask<Lum64f> IsNextToCircle(Vec<Lum64f> magnitude) { return nle(all(0x1p-36), magnitude); }
+
 LUM_INLINE LogarithmValue LogarithmParts(ComplexVec<Lum64f> z) {
   const auto ax = abs(z.re), ay = abs(z.im);
   const auto square = Add(two_product(ax, ax), two_product(ay, ay));
   const auto modulus = Scaled(Logarithm(square), 0.5);
   const auto angle = Angle({ay, all(0.0)}, {z.re, all(0.0)});
-  // Off the circle the core's square is rounded; near it, its difference from 1 is nearly exact.
   const auto magnitude = abs(modulus.head);
-  const auto is_off = nle(abs(square.head - all(1.0)), all(0.0299));
-  const auto error = select(is_off, fma(magnitude, all(2.0), all(1.25)), magnitude * all(6.0));
-  // Where it is as small as here it has lost bits: the square was right to 2^-105.
-  const auto refused = HasFarPart(z) | nle(all(0x1p-36), magnitude);
+  const auto error = ModulusError(magnitude, nle(abs(square.head - all(1.0)), all(0.0299)));
+  const auto refused = HasFarPart(z) | IsNextToCircle(magnitude);
   return {modulus, XorSign(z.im, angle), error, angle.head * all(2.0), refused};
 }
 

@@ -1,5 +1,7 @@
 // z^w = e^(w ln z), with an exponent for each element or one for all.
-#include "complex/logarithm_parts.h"
+#include "complex/core_kernel.h"
+#include "complex/exp_ends.h"
+#include "complex/logarithm_ends.h"
 #include "complex/pairs/circular.h"
 #include "complex/pairs/exponential.h"
 #include "frame/kernels.h"
@@ -9,6 +11,7 @@ namespace {
 
 // The core rounds the logarithm to binary64, and the product with the exponent in plain operations.
 struct PowPath {
+  static LUM_INLINE Mask<Lum64f> IsOutside(ComplexVec<Lum64f> z, ComplexVec<Lum64f>) { return HasFarPart(z); }
   static LUM_INLINE PathValue Value(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w) {
     const auto logarithm = LogarithmParts(z);
     const auto re = RoundedAsCore(logarithm.modulus, logarithm.modulus_error);
@@ -31,9 +34,44 @@ struct PowPath {
   }
 };
 
+// What the core has beyond the domain of the path: a logarithm and an exponential, each in the way of its second path.
+[[gnu::noinline]] CoreValue PowerAtEnds(const ComplexVec<Lum64f>& z, const ComplexVec<Lum64f>& w, const Mask<Lum64f>& wanted) {
+  const auto logarithm = AnyAtEnds<LnEnds>(z, wanted);
+  const auto l = logarithm.value;
+  const ComplexVec<Lum64f> product{w.re * l.re - w.im * l.im, w.re * l.im + w.im * l.re};
+  auto power = AnyAtEnds<ExpEnds>(product, wanted);
+  // Which of two NaNs results depends on how the core was compiled.
+  const auto two_nans = unord(l.re, l.im) & unord(w.re, w.im);
+  power.is_known = power.is_known & logarithm.is_known & logarithm.is_sure & ~two_nans;
+  return power;
+}
+// Where the logarithm or the power may lie outside; other refused lanes are next to the middle between two numbers.
+LUM_INLINE Mask<Lum64f> IsFarPower(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w) {
+  // At least the parts of the product with the logarithm.
+  const auto size = (abs(w.re) + abs(w.im)) * (abs(getexp(max(abs(z.re), abs(z.im)))) + all(4.0));
+  return HasFarPart(z) | HasFarPart(w) | IsNextToCircle(z) | nle(size, all(largest_exponent));
+}
+[[maybe_unused]] LUM_INLINE Lanes<Lum64fc> PowerLanes(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w, const Lanes<Lum64fc>& lanes) {
+  const auto wanted = lanes.refused & (IsFarPower(z, w) | (IsZero(z.re) & IsZero(z.im)));
+  return Finish(PowerAtEnds(z, w, wanted), lanes, wanted);
+}
+[[maybe_unused]] LUM_INLINE Lanes<Lum32fc> PowerLanes(ComplexVec<Lum32f> z, ComplexVec<Lum32f> w, const Lanes<Lum32fc>& lanes) {
+  return Finish(PowerAtEnds(WidenLow(z), WidenLow(w), low_half(lanes.refused)),
+                PowerAtEnds(WidenHigh(z), WidenHigh(w), high_half(lanes.refused)), lanes, lanes.refused);
+}
+
 template <class E> struct PowKernel : Kernel<E> {
   static constexpr Variant variant = scalar_core_variant;
   static constexpr int vectors = 1;
+
+  // Two second paths in one take too much of the stack where they do not fit registers.
+  static LUM_INLINE Finished<E> SecondPath(Interleaved<Real<E>> packed_z, Interleaved<Real<E>> packed_w,
+                                           const Lanes<E>& lanes) {
+    if constexpr (!streams_fit_registers) return {lanes.value, lanes.refused, {}};
+    const auto z = split(packed_z), w = split(packed_w);
+    const auto r = PowerLanes(z, w, lanes);
+    return {r.value, r.refused, {.overflow = OverflowsOf(r, lanes.refused) & ~(CannotOverflow(z) | CannotOverflow(w))}};
+  }
 
   static LUM_INLINE Lanes<E> VectorPath(Interleaved<Real<E>> z, Interleaved<Real<E>> w) {
     return PathOfElements<PowPath, E>(z, w);
@@ -47,9 +85,11 @@ template <class E> struct PowxKernel : Kernel<E> {
   static constexpr int vectors = 1;
   E exponent;
 
-  LUM_INLINE Lanes<E> VectorPath(Interleaved<Real<E>> z) const {
-    return PowKernel<E>::VectorPath(z, join(ComplexVec<Real<E>>{all(exponent.re), all(exponent.im)}));
+  LUM_INLINE Lanes<E> VectorPath(Interleaved<Real<E>> z) const { return PowKernel<E>::VectorPath(z, Exponents()); }
+  LUM_INLINE Finished<E> SecondPath(Interleaved<Real<E>> z, const Lanes<E>& lanes) const {
+    return PowKernel<E>::SecondPath(z, Exponents(), lanes);
   }
+  LUM_INLINE Interleaved<Real<E>> Exponents() const { return join(ComplexVec<Real<E>>{all(exponent.re), all(exponent.im)}); }
   LumStatus LaneRoutine(const E& z, E& result) const { return ReportingCoreOnLane<CorePow>(z, exponent, result); }
 };
 

@@ -9,8 +9,68 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
-template <class E> struct SqrtKernel : Kernel<E> {
+// The root as the core has it, in pairs. The smaller part is proportional to y where that is the smaller one by far.
+struct SqrtParts {
+  HeadTail large, small;
+};
+LUM_INLINE SqrtParts SqrtPartsOf(Vec<Lum64f> x, Vec<Lum64f> y) {
+  const auto ax = abs(x), ay = abs(y);
+  const auto modulus = SquareRoot(Add(two_product(ax, ax), two_product(ay, ay)));
+  const auto large = SquareRoot(Scaled(Add(modulus, ax), 0.5));
+  return {large, Quotient({ay * all(0.5), all(0.0)}, large)};
+}
+constexpr double root_error = 5;
+
+struct SqrtEnds {
+  // One root serves the numbers of both axes: sqrt |x|, or sqrt(|y|/2) in both parts.
+  static LUM_INLINE CoreValue OnAxis(ComplexVec<Lum64f> z) {
+    const auto magnitude = max(abs(z.re), abs(z.im));
+    const auto half = rndscale<binary_places(0) | rd | quiet>(all(0.5) * getexp(magnitude));
+    const auto m = scalef(magnitude, all(-2.0) * half);
+    const auto is_real = IsZero(z.im), is_left = lt(z.re, all(0.0));
+    const auto root = SquareRoot({select(is_real, m, all(0.5) * m), all(0.0)});
+    const auto rounded = RoundedAsCore(root, root.head * all(root_error));
+    const auto value = scalef(rounded.value, half);
+    return {{zero_unless(~(is_real & is_left), value), or_sign(z.im, zero_unless(~is_real | is_left, value))},
+            mask_of<Lum64f>(~0u),
+            ~rounded.refused};
+  }
+  static LUM_INLINE CoreValue OfFar(ComplexVec<Lum64f> z) {
+    if (none(~(IsZero(z.re) | IsZero(z.im)))) return OnAxis(z);
+    const auto half = rndscale<binary_places(0) | rd | quiet>(all(0.5) * getexp(max(abs(z.re), abs(z.im))));
+    const auto down = all(-2.0) * half;
+    const auto x = Raised(z.re, down), y = Raised(z.im, down);
+    const auto parts = SqrtPartsOf(x.value, y.value);
+    const auto rounded = [](HeadTail part, Vec<Lum64f> exponent) __attribute__((always_inline)) {
+      return RoundedAtEnds(part, part.head * all(root_error), exponent);
+    };
+    const auto large = rounded(parts.large, half), small = rounded(parts.small, half + y.exponent);
+    const auto is_left = lt(z.re, all(0.0));
+    return {{select(is_left, small.value, large.value), or_sign(z.im, select(is_left, large.value, small.value))},
+            mask_of<Lum64f>(~0u),
+            ~(large.refused | small.refused)};
+  }
+  static LUM_INLINE Mask<Lum64f> IsSpecial(ComplexVec<Lum64f> z) { return HasNonFinitePart(z) | (IsZero(z.re) & IsZero(z.im)); }
+  static LUM_INLINE ComplexVec<Lum64f> OfSpecial(ComplexVec<Lum64f> z) {
+    const auto x = z.re, y = z.im, nan = x * y, unbounded = in_register(infinity);
+    const auto y_nan = unord(y, y), x_infinite = IsInfinite(x), is_left = IsNegative(x);
+    // Beside an infinite x.
+    const auto other = zero_unless(y_nan, y), small = select(y_nan, other + other, all(0.0));
+    const auto re = select(is_left, small, unbounded);
+    const auto im =
+        select(is_left, select(y_nan, unbounded, or_sign(y, unbounded)), select(y_nan, small, or_sign(y, all(0.0))));
+    const auto is_zero = IsZero(x) & IsZero(y);
+    const ComplexVec<Lum64f> value{select(x_infinite, re, zero_unless(~is_zero, nan)),
+                                   select(x_infinite, im, select(is_zero, y, nan))};
+    return Select(IsInfinite(y), {unbounded, y}, value);
+  }
+};
+
+template <class E, bool refuses_numbers = true> struct SqrtKernel : Kernel<E> {
   static constexpr int vectors = 1;
+  static LUM_INLINE Lanes<E> SecondPath(Packed<E> z, const Lanes<E>& lanes) {
+    return SecondPathAsCore<SqrtEnds, refuses_numbers>(z, lanes, lanes.refused);
+  }
   static void LaneRoutine(const E& z, E& result) { SilentCoreOnLane<CoreSqrt>(z, result); }
 };
 
@@ -106,7 +166,7 @@ LUM_INLINE Vec<Lum64f> DoubleQuotient(Vec<Lum64f> a, Vec<Lum64f> b) {
   return scalef(getmant<significand::from_1_to_2>(a) * reciprocal, getexp(a) - getexp(b));
 }
 
-struct A24_32fc : SqrtKernel<Lum32fc> {
+struct A24_32fc : SqrtKernel<Lum32fc, false> {
   struct Parts {
     Vec<Lum64f> large, small;
   };
@@ -119,22 +179,17 @@ struct A24_32fc : SqrtKernel<Lum32fc> {
     const auto z = split(packed);
     const auto x = abs(z.re), y = abs(z.im);
     const auto low = PartsOf(widen_low(x), widen_low(y)), high = PartsOf(widen_high(x), widen_high(y));
-    return {Placed(z, narrow(low.large, high.large), narrow(low.small, high.small)),
-            fpclass<classes::nonfinite>(z.re) | fpclass<classes::nonfinite>(z.im)};
+    return {Placed(z, narrow(low.large, high.large), narrow(low.small, high.small)), HasNonFinitePart(z)};
   }
 };
 
-// In pairs, as the core has it.
 struct SqrtPath {
+  static LUM_INLINE Mask<Lum64f> IsOutside(ComplexVec<Lum64f> z) { return HasFarPart(z); }
   static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z) {
-    const auto ax = abs(z.re), ay = abs(z.im);
-    const auto modulus = SquareRoot(Add(two_product(ax, ax), two_product(ay, ay)));
-    const auto large = SquareRoot(Scaled(Add(modulus, ax), 0.5));
-    const auto small = Quotient({ay * all(0.5), all(0.0)}, large);
+    const auto parts = SqrtPartsOf(z.re, z.im);
     const auto is_left = lt(z.re, all(0.0));
-    const auto im = Select(is_left, large, small);
-    constexpr double root_error = 5;
-    return ValueWithin(Select(is_left, small, large), XorSign(z.im, im), root_error, HasFarPart(z));
+    return ValueWithin(Select(is_left, parts.small, parts.large), XorSign(z.im, Select(is_left, parts.large, parts.small)),
+                       root_error, IsOutside(z));
   }
 };
 
@@ -143,6 +198,8 @@ struct SqrtPath {
 LumStatus Sqrt_32fc_A21(const Lum32fc* src, Lum32fc* dst, int32_t len) { return OneInput<A21_32fc>(src, dst, len); }
 LumStatus Sqrt_32fc_A24(const Lum32fc* src, Lum32fc* dst, int32_t len) { return OneInput<A24_32fc>(src, dst, len); }
 LumStatus Sqrt_64fc_A50(const Lum64fc* src, Lum64fc* dst, int32_t len) { return OneInput<A50_64fc>(src, dst, len); }
-LumStatus Sqrt_64fc_A53(const Lum64fc* src, Lum64fc* dst, int32_t len) { return RunSilent<SqrtPath, CoreSqrt>(src, dst, len); }
+LumStatus Sqrt_64fc_A53(const Lum64fc* src, Lum64fc* dst, int32_t len) {
+  return RunSilent<SqrtPath, SqrtEnds, CoreSqrt>(src, dst, len);
+}
 
 }  // namespace lum::inline LUM_LAYER

@@ -1,9 +1,13 @@
 // tanh(x + iy) = (sinh x cosh x + i sin y cos y) / (cos^2 y + sinh^2 x), and tan z = -i tanh iz.
-#include "complex/hyperbolic_factors.h"
+#include "complex/core_kernel.h"
+#include "complex/hyperbolic_ends.h"
 #include "frame/kernels.h"
 
 namespace lum::inline LUM_LAYER {
 namespace {
+
+// From here on a circular part may come near the lower end of the range.
+constexpr double vanishing = 200;
 
 // With the squares in the denominator.
 struct Tangent {
@@ -11,7 +15,7 @@ struct Tangent {
   Mask<Lum64f> refused;
 };
 LUM_INLINE Tangent TangentOf(Vec<Lum64f> exponent, Vec<Lum64f> angle) {
-  const auto f = FactorsOf(exponent, angle, largest_exponent / 2);
+  const auto f = FactorsOf(exponent, angle, vanishing);
   const auto c2 = Square(f.cosine), s2 = Square(f.sinh);
   const auto reciprocal = Quotient({all(1.0), all(0.0)}, Add(c2, s2));
   return {Product(Product(f.sinh, f.cosh), reciprocal), Product(Product(f.sine, f.cosine), reciprocal), f.refused};
@@ -19,6 +23,7 @@ LUM_INLINE Tangent TangentOf(Vec<Lum64f> exponent, Vec<Lum64f> angle) {
 constexpr double tangent_error = 12;
 
 struct TanhPath {
+  static LUM_INLINE Mask<Lum64f> IsOutside(ComplexVec<Lum64f> z) { return IsFarPair(z.re, z.im, vanishing); }
   static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z) {
     const auto t = TangentOf(z.re, z.im);
     return SmallValueWithin(t.hyperbolic, t.circular, tangent_error, t.refused);
@@ -26,17 +31,73 @@ struct TanhPath {
 };
 
 struct TanPath {
+  static LUM_INLINE Mask<Lum64f> IsOutside(ComplexVec<Lum64f> z) { return IsFarPair(z.im, z.re, vanishing); }
   static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z) {
     const auto t = TangentOf(z.im, z.re);
     return SmallValueWithin(t.circular, t.hyperbolic, tangent_error, t.refused);
   }
 };
 
+// Beyond the limit the hyperbolic part rounds to 1, and the circular one is 4 e^-2|x| sin y cos y.
+struct TangentOfAny {
+  RoundedPart hyperbolic, circular;
+  Mask<Lum64f> is_known;
+};
+LUM_INLINE TangentOfAny TangentAtEnds(Vec<Lum64f> exponent, Vec<Lum64f> angle) {
+  constexpr double limit = 100;
+  const auto magnitude = abs(exponent);
+  const auto beyond = lt(all(limit), magnitude);
+  const auto f = FactorsOfAny(or_sign(exponent, min(magnitude, all(limit))), angle);
+  const auto reciprocal = Quotient({all(1.0), all(0.0)}, Add(Square(f.cosine), Square(f.sinh)));
+  const auto twice = max(all(-1600.0), all(-2.0) * magnitude);
+  const auto e = TakePowersOfTwo(twice, rndscale<binary_places(0) | quiet>(twice * all(numbers::log2_e<Lum64f> / 512)));
+  const auto factor = Select(beyond, Scaled(ExponentialOf(e.reduced), 4), reciprocal);
+  const auto hyperbolic = Product(Product(f.sinh, f.cosh), reciprocal), circular = Product(Product(f.sine, f.cosine), factor);
+  const auto rounded = [](HeadTail part, Vec<Lum64f> power) __attribute__((always_inline)) {
+    return RoundedAtEnds(part, abs(part.head) * all(tangent_error), power);
+  };
+  return {rounded(hyperbolic, f.sinh_exponent), rounded(circular, f.sine_exponent + zero_unless(beyond, e.exponent)),
+          f.is_known};
+}
+
+struct TanhEnds {
+  static LUM_INLINE CoreValue OfFar(ComplexVec<Lum64f> z) {
+    const auto t = TangentAtEnds(z.re, z.im);
+    return CoreValueOf(t.hyperbolic, t.circular, t.is_known);
+  }
+  static LUM_INLINE Mask<Lum64f> IsSpecial(ComplexVec<Lum64f> z) { return IsSpecialPair(z.re, z.im); }
+  static LUM_INLINE ComplexVec<Lum64f> OfSpecial(ComplexVec<Lum64f> z) {
+    const auto x = z.re, y = z.im, nan = select(unord(x, x), x + x, y - y);
+    const auto infinite = IsInfinite(x);
+    const auto zero = zero_unless(IsInfinite(y), or_sign(y, all(0.0)));
+    return {select(infinite, or_sign(x, in_register(1.0)), nan), select(infinite, zero, select(IsZero(y), y, nan))};
+  }
+};
+
+struct TanEnds {
+  static LUM_INLINE CoreValue OfFar(ComplexVec<Lum64f> z) {
+    const auto t = TangentAtEnds(z.im, z.re);
+    return CoreValueOf(t.circular, t.hyperbolic, t.is_known);
+  }
+  static LUM_INLINE Mask<Lum64f> IsSpecial(ComplexVec<Lum64f> z) { return IsSpecialPair(z.im, z.re); }
+  static LUM_INLINE ComplexVec<Lum64f> OfSpecial(ComplexVec<Lum64f> z) {
+    return OverI<KeptNans::all>(TanhEnds::OfSpecial(TimesI<KeptNans::all>(z)));
+  }
+};
+
 }  // namespace
 
-LumStatus Tan_32fc(const Lum32fc* src, Lum32fc* dst, int32_t len) { return RunSilent<TanPath, CoreTan>(src, dst, len); }
-LumStatus Tan_64fc(const Lum64fc* src, Lum64fc* dst, int32_t len) { return RunSilent<TanPath, CoreTan>(src, dst, len); }
-LumStatus Tanh_32fc(const Lum32fc* src, Lum32fc* dst, int32_t len) { return RunSilent<TanhPath, CoreTanh>(src, dst, len); }
-LumStatus Tanh_64fc(const Lum64fc* src, Lum64fc* dst, int32_t len) { return RunSilent<TanhPath, CoreTanh>(src, dst, len); }
+LumStatus Tan_32fc(const Lum32fc* src, Lum32fc* dst, int32_t len) {
+  return RunSilent<TanPath, TanEnds, CoreTan>(src, dst, len);
+}
+LumStatus Tan_64fc(const Lum64fc* src, Lum64fc* dst, int32_t len) {
+  return RunSilent<TanPath, TanEnds, CoreTan>(src, dst, len);
+}
+LumStatus Tanh_32fc(const Lum32fc* src, Lum32fc* dst, int32_t len) {
+  return RunSilent<TanhPath, TanhEnds, CoreTanh>(src, dst, len);
+}
+LumStatus Tanh_64fc(const Lum64fc* src, Lum64fc* dst, int32_t len) {
+  return RunSilent<TanhPath, TanhEnds, CoreTanh>(src, dst, len);
+}
 
 }  // namespace lum::inline LUM_LAYER

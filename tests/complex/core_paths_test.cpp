@@ -1,6 +1,6 @@
-// Functions of a scalar core give its results bit for bit also where vectors computed them: an array has what each of its
-// elements has in a call of its own, which goes through the core alone. Bits near the middle between two numbers decide, so
-// there are many elements, and many at the edges of the vectors' domain.
+// Functions of a scalar core give its results bit for bit also where vectors computed them: an array has what the portable
+// library has, which runs the core alone, and what each of its elements has in a call of its own. Bits near the middle between
+// two numbers decide, so there are many elements, and many at the edges of the vectors' domain.
 #include <algorithm>
 #include <cmath>
 #include <numbers>
@@ -123,6 +123,12 @@ class CorePaths : public testing::TestWithParam<const Export*> {
       alone.status = together.status;  // that of one of the elements
       EXPECT_EQ(FirstDifference(alone, together), "equal");
       EXPECT_EQ(together.status, *std::max_element(statuses.begin(), statuses.end()));
+      if (const support::Library* portable = TestLibrary("p0", "", reason); portable != nullptr) {
+        EnterEnvironment(environment);
+        const Output by_core = Callee(*portable, entry).Run(batch);
+        LeaveEnvironment();
+        EXPECT_EQ(FirstDifference(by_core, together), "equal") << "with the portable library";
+      }
     }
   }
 };

@@ -2,6 +2,7 @@
 #include <algorithm>
 
 #include "complex/core/extended_pair.h"
+#include "complex/core/log10_angles.h"
 #include "complex/core/parts.h"
 
 namespace lum::inline LUM_LAYER {
@@ -40,14 +41,6 @@ bool LogOfNan(ComplexDouble& result, Lum64f x, Lum64f y) {
 }
 
 constexpr Extended log10_of_e = 0xde5bd8a937287195p-65L;
-
-// Multiples of pi/4 log10(e).
-constexpr Lum64f quarter_pi_log10 = 0x1.5d47c4cb2fba1p-2;
-constexpr Lum64f half_pi_log10 = 0x1.5d47c4cb2fba1p-1;
-constexpr Lum64f three_quarters_pi_log10 = 0x1.05f5d39863cb9p+0;
-constexpr Lum64f pi_log10 = 0x1.5d47c4cb2fba1p+0;
-// The angle of the negative real axis at infinity, one unit in the last place below pi log10(e).
-constexpr Lum64f pi_log10_at_infinity = 0x1.5d47c4cb2fba0p+0;
 
 Lum64f AngleLog10AtInfinity(Lum64f x, Lum64f y) {
   if (IsInfinite(y)) {

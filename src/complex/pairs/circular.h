@@ -2,6 +2,7 @@
 // theorems. Relative error of each below 2^-64.
 #pragma once
 
+#include "circular/large_reduction.h"
 #include "complex/pairs/pair.h"
 #include "complex/polynomials.h"
 #include "frame/numbers.h"
@@ -17,31 +18,69 @@ struct CircularPair {
   Mask<Lum64f> refused;  // so near to a multiple of pi/128 that r has lost bits
 };
 
-// The sine of a zero is that zero.
-LUM_INLINE CircularPair SineCosineOf(Vec<Lum64f> y) {
-  static constexpr auto table = table64({
-#include "tables/generated/sine_cosine_64f_256_pairs.inc"
-  });
+// |y| = k pi/128 + r, the low bits of the row being k.
+struct ReducedAngle {
+  Vec<uint64_t> row;
+  HeadTail r;
+  Mask<Lum64f> refused;
+};
+LUM_INLINE ReducedAngle ReduceAngle(Vec<Lum64f> magnitude) {
   constexpr auto shifter = rounding_shifter<Lum64f>();
-  const auto magnitude = abs(y);
   const auto t = fma(magnitude, all(128 * numbers::inverse_pi<Lum64f>), all(shifter));
   const auto k = t - all(shifter);
   const auto second = all(numbers::pi_128th_parts<Lum64f>[1]);
   const auto r1 = fnma(k, all(numbers::pi_128th_parts<Lum64f>[0]), magnitude);  // exact, as is the second product
   const auto r = fnma(k, second, r1);
   const auto r_tail = fnma(k, all(numbers::pi_128th_parts<Lum64f>[2]), fnma(k, second, r1 - r));
+  return {bits(t), {r, r_tail}, lt(abs(r), all(0x1p-19)) & ne(k, all(0.0))};
+}
+
+LUM_INLINE CircularPair SineCosineOfReduced(Vec<Lum64f> y, const ReducedAngle& angle) {
+  static constexpr auto table = table64({
+#include "tables/generated/sine_cosine_64f_256_pairs.inc"
+  });
+  const auto r = angle.r.head, r_tail = angle.r.tail;
   const auto q = r * r;
   const auto sine_rest = fma(r * q, horner(q, complex::pairs_sine), r_tail);
   const auto cosine_rest = fnma(r, r_tail, q * horner(q, complex::pairs_cosine));
-  const auto row = gather_rows<Lum64f>(table, shift_left<2>(bits(t) & all(uint64_t{255})));
+  const auto row = gather_rows<Lum64f>(table, shift_left<2>(angle.row & all(uint64_t{255})));
   const HeadTail s{row.column0, row.column1}, c{row.column2, row.column3};
   const auto for_sine = two_product(c.head, r), for_cosine = two_product(s.head, r);
   const auto sine = fast_two_sum(s.head, for_sine.head), cosine = fast_two_sum(c.head, negate(for_cosine.head));
   const auto sine_tail = fma(c.tail, r, s.tail + (sine.tail + for_sine.tail));
   const auto cosine_tail = fnma(s.tail, r, c.tail + (cosine.tail - for_cosine.tail));
   return {XorSign(y, fast_two_sum(sine.head, fma(s.head, cosine_rest, fma(c.head, sine_rest, sine_tail)))),
-          fast_two_sum(cosine.head, fma(c.head, cosine_rest, fnma(s.head, sine_rest, cosine_tail))),
-          lt(abs(r), all(0x1p-19)) & ne(k, all(0.0))};
+          fast_two_sum(cosine.head, fma(c.head, cosine_rest, fnma(s.head, sine_rest, cosine_tail))), angle.refused};
+}
+// The sine of a zero is that zero.
+LUM_INLINE CircularPair SineCosineOf(Vec<Lum64f> y) { return SineCosineOfReduced(y, ReduceAngle(abs(y))); }
+
+// Of angles beyond the largest, by the remainder of turns in fixed-point numbers: an index of steps of pi/256 and hi + lo, of
+// which the odd steps go half to either side.
+[[gnu::noinline]] inline ReducedAngle ReduceFarAngle(const Vec<Lum64f>& magnitude) {
+  const auto turned = ReduceLarge<Lum64f>(magnitude, all(uint64_t{0}));
+  const auto is_odd = mask_cast<Lum64f>(test_any(turned.index, all(uint64_t{1})));
+  const auto step = zero_unless(is_odd, or_sign(turned.hi, all(numbers::pi<Lum64f> / 256)));
+  const auto step_tail = zero_unless(is_odd, or_sign(turned.hi, all(numbers::pi_tail<Lum64f> / 256)));
+  const auto rises = mask_cast<uint64_t>(is_odd & ~mask_cast<Lum64f>(sign_mask(bits(turned.hi))));
+  const auto sum = two_sum(turned.hi, negate(step));
+  const auto r = fast_two_sum(sum.head, sum.tail + (turned.lo - step_tail));
+  const auto row = shift_right<1>(select(rises, turned.index + all(uint64_t{1}), turned.index));
+  return {row, r, lt(abs(r.head), all(0x1p-19))};
+}
+// Of any number, but for far ones where their reduction has no room on the stack.
+LUM_INLINE CircularPair SineCosineOfAny(Vec<Lum64f> y) {
+  const auto magnitude = abs(y);
+  const auto far = nle(magnitude, all(largest_angle));
+  auto angle = ReduceAngle(magnitude);
+  if constexpr (!streams_fit_registers) {
+    angle.refused = angle.refused | far;
+  } else if (any(far)) {
+    const auto turned = ReduceFarAngle(magnitude);
+    angle = {select(mask_cast<uint64_t>(far), turned.row, angle.row), Select(far, turned.r, angle.r),
+             (far & turned.refused) | (angle.refused & ~far)};
+  }
+  return SineCosineOfReduced(y, angle);
 }
 
 }  // namespace lum::inline LUM_LAYER

@@ -34,22 +34,23 @@ LUM_INLINE PowersOfTwo ReduceExponent(Vec<Lum64f> x) {
   return {{row.column0 * up, row.column1 * up}, {row.column2 * down, row.column3 * down}, {r, fnma(n, low, r1 - r)}};
 }
 
-LUM_INLINE HeadTail Exponential(Vec<Lum64f> x) {
-  const auto [power, unused, r] = ReduceExponent(x);
+LUM_INLINE HeadTail ExponentialOf(const PowersOfTwo& reduced) {
+  const auto [power, unused, r] = reduced;
   const auto series = horner(r.head, complex::pairs_exp);
   const auto rest = fma(r.head * r.head, series, r.tail);
   const auto product = two_product(power.head, r.head);
   const auto sum = fast_two_sum(power.head, product.head);
   return fast_two_sum(sum.head, sum.tail + (product.tail + fma(power.head, rest, fma(power.tail, r.head, power.tail))));
 }
+LUM_INLINE HeadTail Exponential(Vec<Lum64f> x) { return ExponentialOf(ReduceExponent(x)); }
 
 struct SinhCosh {
   HeadTail sinh, cosh;
 };
 
 // By the addition theorems; the hyperbolic sine of the table's point is exact where it is small. That of a zero is that zero.
-LUM_INLINE SinhCosh HyperbolicPair(Vec<Lum64f> x) {
-  const auto [rising, falling, r] = ReduceExponent(abs(x));
+LUM_INLINE SinhCosh HyperbolicPairOf(Vec<Lum64f> x, const PowersOfTwo& reduced) {
+  const auto [rising, falling, r] = reduced;
   const auto half_rising = Scaled(rising, 0.5), half_falling = Scaled(falling, 0.5);
   const auto s = Add(half_rising, -half_falling), c = Add(half_rising, half_falling);
   const auto q = r.head * r.head;
@@ -61,6 +62,22 @@ LUM_INLINE SinhCosh HyperbolicPair(Vec<Lum64f> x) {
   const auto cosh_tail = fma(s.tail, r.head, c.tail + (cosh.tail + for_cosh.tail));
   return {XorSign(x, fast_two_sum(sinh.head, fma(s.head, cosh_rest, fma(c.head, sinh_rest, sinh_tail)))),
           fast_two_sum(cosh.head, fma(c.head, cosh_rest, fma(s.head, sinh_rest, cosh_tail)))};
+}
+LUM_INLINE SinhCosh HyperbolicPair(Vec<Lum64f> x) { return HyperbolicPairOf(x, ReduceExponent(abs(x))); }
+
+// For results beyond the range: x = 512 k ln 2 + rest, and e^x = 2^exponent e^rest.
+struct RestOfExponent {
+  PowersOfTwo reduced;  // of the rest
+  Vec<Lum64f> exponent;
+};
+LUM_INLINE RestOfExponent TakePowersOfTwo(Vec<Lum64f> x, Vec<Lum64f> k) {
+  constexpr auto& ln2 = numbers::ln2_by_2p40_parts<Lum64f>;
+  const auto first = two_sum(x, negate(k * all(512 * ln2[0])));  // the product is exact
+  const auto rest = fast_two_sum(first.head, fnma(k, all(512 * ln2[1]), first.tail));
+  RestOfExponent result{ReduceExponent(rest.head), k * all(512.0)};
+  auto& r = result.reduced.r;
+  r = two_sum(r.head, r.tail + rest.tail);  // the rest's tail may be large beside r
+  return result;
 }
 
 }  // namespace lum::inline LUM_LAYER

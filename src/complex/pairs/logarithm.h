@@ -9,12 +9,12 @@
 
 namespace lum::inline LUM_LAYER {
 
-struct LogarithmTerms {
+struct LogarithmPairs {
   Vec<Lum64f> base, base_tail;  // k ln 2 - ln c
   HeadTail r;
 };
 
-LUM_INLINE LogarithmTerms ReduceLogarithm(HeadTail q) {
+LUM_INLINE LogarithmPairs ReduceLogarithm(HeadTail q) {
   static constexpr auto table = table64({
 #include "tables/generated/minus_ln_64f_173_pairs.inc"
   });
@@ -30,7 +30,7 @@ LUM_INLINE LogarithmTerms ReduceLogarithm(HeadTail q) {
           fma(k, all(numbers::ln2_by_2p40_parts<Lum64f>[1]), tail), r};
 }
 
-LUM_INLINE HeadTail SumLogarithm(const LogarithmTerms& terms) {
+LUM_INLINE HeadTail SumLogarithm(const LogarithmPairs& terms) {
   const auto r = terms.r.head;
   const auto square = two_product(r, r);
   const auto series = horner(r, complex::pairs_log);

@@ -41,6 +41,7 @@ LUM_INLINE HeadTail Scaled(HeadTail a, Lum64f power) { return {a.head * all(powe
 LUM_INLINE HeadTail Select(Mask<Lum64f> m, HeadTail a, HeadTail b) {
   return {select(m, a.head, b.head), select(m, a.tail, b.tail)};
 }
+LUM_INLINE HeadTail ZeroUnless(Mask<Lum64f> m, HeadTail a) { return {zero_unless(m, a.head), zero_unless(m, a.tail)}; }
 LUM_INLINE HeadTail Magnitude(HeadTail a) { return XorSign(a.head, a); }
 
 // Two Newton steps from the estimate: right to a few units.

@@ -1,0 +1,33 @@
+// What the second paths of arccosine, arcsine and their hyperbolic counterparts share. Where |z| is large, arcosh A is ln 2|z|
+// and the angle that of z.
+#pragma once
+
+#include "complex/arc_parts.h"
+#include "complex/far_parts.h"
+#include "frame/numbers.h"
+
+namespace lum::inline LUM_LAYER {
+
+// The parts without the powers of 2 of their exponents.
+struct ScaledArcParts {
+  AngleAndLogarithm parts;
+  Vec<Lum64f> angle_exponent, logarithm_exponent;
+  Mask<Lum64f> is_known;
+};
+
+// Of any finite u, v >= 0.
+template <Arc arc> LUM_INLINE ScaledArcParts InversePartsOfAny(Vec<Lum64f> u, Vec<Lum64f> v) {
+  const auto z = BringNearer(u, v);
+  auto parts = InverseParts<arc>(z.u.value, z.v.value);
+  constexpr auto& ln2 = numbers::ln2_by_2p40_parts<Lum64f>;
+  parts.logarithm = Add(parts.logarithm, {z.common * all(ln2[0]), z.common * all(ln2[1])});
+  const auto one = all(1.0);
+  const auto angle_exponent = arc == Arc::sine ? z.u.exponent : zero_unless(lt(one, z.u.value), z.v.exponent);
+  return {parts, angle_exponent, zero_unless(lt(z.u.value, one), z.v.exponent), ~IsNextToBranch(z)};
+}
+
+LUM_INLINE RoundedPart RoundedInverse(HeadTail part, Vec<Lum64f> exponent) {
+  return RoundedAtEnds(part, abs(part.head) * all(inverse_error), exponent);
+}
+
+}  // namespace lum::inline LUM_LAYER

@@ -1,0 +1,111 @@
+// Vector paths that give the bits of a scalar core. A path computes both parts as pairs with some 70 bits, and how far the
+// core's value before its one rounding can be from the true one. Where everything within that distance rounds to the same
+// number, that number is the core's result; the other lanes, some in a hundred, and arguments outside the path's domain are
+// refused.
+#pragma once
+
+#include "complex/core_on_lane.h"
+#include "complex/pairs/pair.h"
+
+namespace lum::inline LUM_LAYER {
+
+// A path is a struct with
+//   IsOutside(z...)   the arguments outside its domain
+//   Of(z...)          the parts of the result, their distances from the core's values in units of 2^-64, and the lanes outside
+struct PathValue {
+  HeadTail re, im;
+  Vec<Lum64f> re_error, im_error;
+  Mask<Lum64f> refused;
+};
+
+template <class T> LUM_INLINE Mask<T> IsZero(Vec<T> x) { return eq(x, all(T(0))); }
+// Zeros are not among them, NaN is.
+LUM_INLINE Mask<Lum64f> IsBelow(Vec<Lum64f> x, double smallest) { return nle(all(smallest), abs(x)) & ~IsZero(x); }
+
+template <class T> LUM_INLINE Mask<T> IsNonFinite(Vec<T> x) { return fpclass<classes::nonfinite>(x); }
+template <class T> LUM_INLINE Mask<T> HasNonFinitePart(ComplexVec<T> z) { return IsNonFinite(z.re) | IsNonFinite(z.im); }
+
+// Relative errors of both parts.
+LUM_INLINE PathValue ValueWithin(HeadTail re, HeadTail im, double units, Mask<Lum64f> refused) {
+  return {re, im, abs(re.head) * all(units), abs(im.head) * all(units), refused};
+}
+// Relative errors of parts that come near the lower end of the range: below this size tails and distances lose bits to it.
+inline constexpr double smallest_part = 0x1p-900;
+LUM_INLINE PathValue SmallValueWithin(HeadTail re, HeadTail im, double units, Mask<Lum64f> refused) {
+  return ValueWithin(re, im, units, refused | IsBelow(re.head, smallest_part) | IsBelow(im.head, smallest_part));
+}
+
+// Lanes with a magnitude above the largest, or so small that squares and products of squares lose bits to the end of the range;
+// zeros are not among them, NaN is.
+LUM_INLINE Mask<Lum64f> IsFar(Vec<Lum64f> x, double largest) { return IsBelow(x, 0x1p-200) | nle(abs(x), all(largest)); }
+// A part too small or too large for squares and their products.
+LUM_INLINE Mask<Lum64f> HasFarPart(ComplexVec<Lum64f> z) {
+  constexpr double largest = 0x1p240;
+  return IsFar(z.re, largest) | IsFar(z.im, largest);
+}
+
+// A part rounded to binary64, given |head| at least smallest_part or 0. A zero has the sign of the head.
+struct RoundedPart {
+  Vec<Lum64f> value;
+  Mask<Lum64f> refused;
+};
+LUM_INLINE RoundedPart RoundedAsCore(HeadTail part, Vec<Lum64f> error) {
+  const auto [head, tail] = Normalised(part);
+  const auto distance = error * all(0x1p-64);
+  const auto above = head + (tail + distance), below = head + (tail - distance);
+  return {or_sign(part.head, above), ne(above, below)};
+}
+
+// Where registers do not hold a path's intermediate vectors, all calls share one copy of it and of its stack.
+template <class Path, class... Z> [[gnu::noinline]] PathValue CalledPath(const Z&... z) { return Path::Of(z...); }
+template <class Path, class... Z> LUM_INLINE PathValue PathOfVector(const Z&... z) {
+  if constexpr (streams_fit_registers) return Path::Of(z...);
+  else return CalledPath<Path>(z...);
+}
+
+template <class Path, class... Inputs> LUM_INLINE Lanes<Lum64fc> RoundedPath(const Inputs&... packed) {
+  if constexpr (streams_fit_registers) {
+    // A vector of special arguments has nothing to compute.
+    const auto outside = Path::IsOutside(split(packed)...);
+    if (none(~outside)) [[unlikely]]
+      return {{all(0.0), all(0.0)}, outside};
+  }
+  const auto value = PathOfVector<Path>(split(packed)...);
+  const auto re = RoundedAsCore(value.re, value.re_error), im = RoundedAsCore(value.im, value.im_error);
+  return {join(ComplexVec<Lum64f>{re.value, im.value}), value.refused | re.refused | im.refused};
+}
+
+// To binary32 the core's value is rounded twice. Both roundings together give the same for all numbers some units around.
+struct NarrowedPart {
+  Vec<Lum32f> value;
+  Mask<Lum32f> refused;
+};
+LUM_INLINE NarrowedPart NarrowedAsCore(Vec<Lum64f> low, Vec<Lum64f> high) {
+  const auto distance = all(0x1p-49);
+  const auto above = narrow(fma(low, distance, low), fma(high, distance, high));
+  const auto below = narrow(fnma(low, distance, low), fnma(high, distance, high));
+  const auto magnitude = abs(above);
+  return {above, ne(above, below) | nle(magnitude, all(0x1p127f))};
+}
+
+LUM_INLINE ComplexVec<Lum64f> WidenLow(ComplexVec<Lum32f> z) { return {widen_low(z.re), widen_low(z.im)}; }
+LUM_INLINE ComplexVec<Lum64f> WidenHigh(ComplexVec<Lum32f> z) { return {widen_high(z.re), widen_high(z.im)}; }
+
+template <class Path, class... Inputs> LUM_INLINE Lanes<Lum32fc> NarrowedPath(const Inputs&... packed) {
+  if constexpr (streams_fit_registers) {
+    const auto outside = (HasNonFinitePart(split(packed)) | ...);
+    if (none(~outside)) [[unlikely]]
+      return {{all(0.0f), all(0.0f)}, outside};
+  }
+  const auto low = PathOfVector<Path>(WidenLow(split(packed))...), high = PathOfVector<Path>(WidenHigh(split(packed))...);
+  const auto re = NarrowedAsCore(low.re.head, high.re.head), im = NarrowedAsCore(low.im.head, high.im.head);
+  return {join(ComplexVec<Lum32f>{re.value, im.value}), join(low.refused, high.refused) | re.refused | im.refused};
+}
+
+// The path in either type, of one or two arguments.
+template <class Path, class E, class... Inputs> LUM_INLINE Lanes<E> PathOfElements(const Inputs&... packed) {
+  if constexpr (std::is_same_v<E, Lum64fc>) return RoundedPath<Path>(packed...);
+  else return NarrowedPath<Path>(packed...);
+}
+
+}  // namespace lum::inline LUM_LAYER

@@ -1,0 +1,77 @@
+// What the second paths of the logarithms share: the parts of any numbers.
+#pragma once
+
+#include "complex/core_second_path.h"
+#include "complex/logarithm_parts.h"
+#include "frame/numbers.h"
+
+namespace lum::inline LUM_LAYER {
+
+// ln |z| next to the unit circle, where it is half of |z|^2 - 1. The leading difference is exact, and of the sums that follow
+// the core, too, rounds off no more than 2^-64.
+struct SmallLogarithm {
+  HeadTail value;
+  Vec<Lum64f> error;
+};
+LUM_INLINE SmallLogarithm LogarithmNextToCircle(Vec<Lum64f> large, Vec<Lum64f> small) {
+  const auto a = ExactSquare(large), b = ExactSquare(small);
+  const auto sum = fast_two_sum(a.head, b.head);
+  const auto first = two_sum(sum.head - all(1.0), sum.tail), tails = two_sum(a.tail, b.tail);
+  const auto s = two_sum(first.head, tails.head);
+  const auto value = Scaled(LogarithmOfOnePlus(fast_two_sum(s.head, s.tail + (first.tail + tails.tail))), 0.5);
+  return {value, fma(abs(value.head), all(6.0), all(2.0) * (abs(first.head) + abs(tails.head)))};
+}
+// Where the first path has refused a logarithm for that.
+LUM_INLINE Mask<Lum64f> IsNextToCircle(ComplexVec<Lum64f> z) {
+  return lt(abs(fma(z.re, z.re, fma(z.im, z.im, all(-1.0)))), all(0x1p-34));
+}
+
+// With the power of 2 that the angle lacks.
+struct ScaledLogarithm {
+  LogarithmValue value;
+  Vec<Lum64f> angle_exponent;
+};
+LUM_INLINE ScaledLogarithm LogarithmOfAny(ComplexVec<Lum64f> z) {
+  const auto ax = abs(z.re), ay = abs(z.im);
+  const auto large = max(ax, ay), exponent = getexp(large);
+  const auto common = zero_unless(lt(all(100.0), abs(exponent)), exponent);
+  const auto x = Raised(z.re, negate(common)), y = Raised(z.im, negate(common));
+  auto value = LogarithmParts({x.value, y.value});
+  constexpr auto& ln2 = numbers::ln2_by_2p40_parts<Lum64f>;
+  value.modulus = Add(value.modulus, {common * all(ln2[0]), common * all(ln2[1])});
+  const auto magnitude = abs(value.modulus.head);
+  value.modulus_error = ModulusError(magnitude, nle(magnitude, all(0.0147)));
+  const auto is_next = IsNextToCircle(z);
+  if (any(is_next)) {
+    const auto logarithm = LogarithmNextToCircle(large, min(ax, ay));
+    value.modulus = Select(is_next, logarithm.value, value.modulus);
+    value.modulus_error = select(is_next, logarithm.error, value.modulus_error);
+  }
+  // Its square is lost beside 1.
+  value.refused = is_next & IsBelow(min(ax, ay), 0x1p-200);
+  return {value, zero_unless(~IsNegative(z.re), y.exponent)};
+}
+
+LUM_INLINE Mask<Lum64f> IsZero(ComplexVec<Lum64f> z) { return IsZero(z.re) & IsZero(z.im); }
+// The logarithm of zero and of numbers with an infinite or a NaN part.
+LUM_INLINE ComplexVec<Lum64f> LogarithmOfSpecial(ComplexVec<Lum64f> z, const EighthTurns& turns, Lum64f half_turn) {
+  const auto nan = z.re * z.im, unbounded = in_register(infinity);
+  const auto of_zero = or_sign(z.im, zero_unless(IsNegative(z.re), in_register(half_turn)));
+  const ComplexVec<Lum64f> value{select(IsInfinite(z.re) | IsInfinite(z.im), unbounded, nan),
+                                 select(unord(z.re, z.im), nan, AngleOfInfinite(z, turns))};
+  return Select(IsZero(z), {negate(unbounded), of_zero}, value);
+}
+
+struct LnEnds {
+  static LUM_INLINE CoreValue OfFar(ComplexVec<Lum64f> z) {
+    const auto [value, angle_exponent] = LogarithmOfAny(z);
+    return CoreValueOf(RoundedAtEnds(value.modulus, value.modulus_error, all(0.0)),
+                       RoundedAtEnds(value.angle, value.angle_error, angle_exponent), ~value.refused);
+  }
+  static LUM_INLINE Mask<Lum64f> IsSpecial(ComplexVec<Lum64f> z) { return HasNonFinitePart(z) | IsZero(z); }
+  static LUM_INLINE ComplexVec<Lum64f> OfSpecial(ComplexVec<Lum64f> z) {
+    return LogarithmOfSpecial(z, eighth_turns, eighth_turns.left);
+  }
+};
+
+}  // namespace lum::inline LUM_LAYER
