@@ -19,37 +19,33 @@ LUM_INLINE SineAndCosineValues<Lum64f> MergeLarge(Vec<Lum64f> x, const SineAndCo
           select(ordinary.refused, CosineOf(a.index, a.hi, a.lo), ordinary.cosine), fpclass<classes::nonfinite>(x)};
 }
 
-// sin r.
-template <bool is_long> LUM_INLINE Vec<Lum64f> SineOfRemainder(Vec<Lum64f> r) {
-  if constexpr (is_long) return OddSine(r, circular::sincos_A50);
-  else return OddSine(r, circular::sin_A26);
-}
-
-template <bool is_long> LUM_INLINE SineAndCosineValues<Lum64f> ByHalfTurns(Vec<Lum64f> x) {
+// pi_parts is how many parts of pi take part, two or three, and the polynomial gives the sine of the remainders.
+template <int pi_parts, size_t n>
+LUM_INLINE SineAndCosineValues<Lum64f> ByHalfTurns(Vec<Lum64f> x, const Polynomial<Lum64f, n>& sine_polynomial) {
   const auto a = abs(x);
-  const auto [n, shifted] = NearestHalfTurns(a);
-  auto r = TakeHalfTurns(a, n);
+  const auto [whole, shifted] = NearestHalfTurns(a);
+  auto r = TakeHalfTurns(a, whole);
   // The sign of r tells on which side the odd multiple of pi/2 lies.
-  const auto m = n + or_sign(r, all(0.5));
+  const auto m = whole + or_sign(r, all(0.5));
   const auto parity = ParitySign(shifted);
   const auto cosine_sign = ternary<A ^ (~B & C)>(parity, bits(r), all(sign_bit<Lum64f>));
   auto rc = TakeHalfTurns(a, m);
-  if constexpr (is_long) {
-    r = TakeThirdPart(r, n);
+  if constexpr (pi_parts == 3) {
+    r = TakeThirdPart(r, whole);
     rc = TakeThirdPart(rc, m);
   }
-  const auto sine = SineOfRemainder<is_long>(r) ^ OddParitySign(shifted, x, a);
-  const auto cosine = SineOfRemainder<is_long>(rc) ^ cosine_sign;
+  const auto sine = OddSine(r, sine_polynomial) ^ OddParitySign(shifted, x, a);
+  const auto cosine = OddSine(rc, sine_polynomial) ^ cosine_sign;
   return {sine, select(eq(a, all(0.0)), all(1.0), cosine), nle(a, all(0x1p23))};
 }
 
 struct SineAndCosine_A26 {
   using Element = Lum64f;
-  static LUM_INLINE SineAndCosineValues<Lum64f> Ordinary(Vec<Lum64f> x) { return ByHalfTurns<false>(x); }
+  static LUM_INLINE SineAndCosineValues<Lum64f> Ordinary(Vec<Lum64f> x) { return ByHalfTurns<2>(x, circular::sin_A26); }
 };
 struct SineAndCosine_A50 {
   using Element = Lum64f;
-  static LUM_INLINE SineAndCosineValues<Lum64f> Ordinary(Vec<Lum64f> x) { return ByHalfTurns<true>(x); }
+  static LUM_INLINE SineAndCosineValues<Lum64f> Ordinary(Vec<Lum64f> x) { return ByHalfTurns<3>(x, circular::sincos_A50); }
   static LUM_INLINE SineAndCosineValues<Lum64f> Large(Vec<Lum64f> x) { return MergeLarge(x, Ordinary(x)); }
 };
 struct SineAndCosine_A53 {

@@ -182,16 +182,8 @@ struct A24_32f : Tangent<A24_32f, Lum32f> {
   }
 };
 
-// The coefficients from r^5 up to r^9; A50 and A53 have one more.
-template <bool is_long> LUM_INLINE Vec<Lum64f> TangentSeries(Vec<Lum64f> s) {
-  if constexpr (is_long) {
-    return horner(s, circular::tan_A50);
-  } else {
-    return horner(s, circular::tan_A26);
-  }
-}
-
-template <bool is_long> struct OneWord_64f : Tangent<OneWord_64f<is_long>, Lum64f> {
+// series is (tan r - r) / r^3 of r^2.
+template <const auto& series> struct OneWord_64f : Tangent<OneWord_64f<series>, Lum64f> {
   static constexpr double threshold = 128000;
   static constexpr bool has_tails = false;
   static constexpr int vectors = 4;
@@ -206,7 +198,7 @@ template <bool is_long> struct OneWord_64f : Tangent<OneWord_64f<is_long>, Lum64
   static LUM_STAGE Vec<Lum64f> Evaluate(const Reduced<Lum64f>& a) {
     const auto t = TangentOf(a);
     const auto s = a.hi * a.hi;
-    const auto p = fma(TangentSeries<is_long>(s) * a.hi, s, a.hi);
+    const auto p = fma(horner(s, series) * a.hi, s, a.hi);
     const auto u = p + t;
     const auto d = fnma(t, p, all(1.0));
     const auto w = Reciprocal(d);
@@ -214,8 +206,8 @@ template <bool is_long> struct OneWord_64f : Tangent<OneWord_64f<is_long>, Lum64
     return fnma(w, fms(d, q, u), q);
   }
 };
-struct A26_64f : OneWord_64f<false> {};
-struct A50_64f : OneWord_64f<true> {};
+struct A26_64f : OneWord_64f<circular::tan_A26> {};
+struct A50_64f : OneWord_64f<circular::tan_A50> {};
 
 struct A53_64f : Tangent<A53_64f, Lum64f> {
   static constexpr int vectors = 1;
@@ -227,7 +219,7 @@ struct A53_64f : Tangent<A53_64f, Lum64f> {
   }
   static LUM_STAGE Vec<Lum64f> Evaluate(Reduced<Lum64f> a) {
     const auto s = a.hi * a.hi;
-    return QuotientWithTails(a, (TangentSeries<true>(s) * a.hi) * s);
+    return QuotientWithTails(a, (horner(s, circular::tan_A50) * a.hi) * s);
   }
 };
 

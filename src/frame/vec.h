@@ -8,7 +8,7 @@
 //   arithmetic   + - *  add<R> sub<R> mul<R> div<R>(a, b)  sqrt<R>(a)  fma fms fnma fnms<R>(a, b, c)
 //                fmaddsub fmsubadd(a, b, c)  min(a, b)  max(a, b)  abs(a)  negate(a)  rcp14(a)  rsqrt14(a)
 //   significand  getexp(a)  getmant<imm>(a)  parts<imm>(a)  scalef<R>(a, b)  rndscale<imm>(a)
-//                reduce<imm>(a), by the names of immediates.h
+//                reduce<imm>(a), by the names of immediates.h  exponent_field(a)  power_of_two<T>(field)
 //   rounded      rounded_rcp14<grid, interval>(m)  shifted_rcp14<grid, interval>(m)  rcp14_halves_up<bits>(a)
 //   conditional  fma_floor(a, b, c)  rcp14_normal(a)  rsqrt14_normal(a)  getexp_normal(a)  getmant_normal<imm>(a)
 //                scalef_normal(a, b)  mul_toward_zero(a, b)  mul_toward_zero(a, a_tail, b)  split_floor<grid>(a, c)
@@ -25,7 +25,7 @@
 //   lookup       permute(table, index)  permute2(low, high, index)
 //                gather(base, index)  gather(mask, base, index, old)  gather_rows(base, index)
 //   moves        deinterleave(a, b)  interleave(even, odd)  swap_pairs(v)  duplicate_even(v)  duplicate_odd(v)
-//   formulas     horner(x, c0, c1, ...)  horner(x, polynomial)  two_sum  fast_two_sum  two_product(a, b)
+//   formulas     horner(x, c0, ...)  horner estrin(x, p)  horner_of_pairs(x, square, p)  two_sum fast_two_sum two_product(a, b)
 //
 // A conditional operation is the one that its name begins with, for operands that fulfil its condition; of others it gives any
 // value. Layers without an instruction for the whole operation have a short form for it, which a path takes where the lanes

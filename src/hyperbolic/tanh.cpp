@@ -53,18 +53,23 @@ template <class T> LUM_INLINE Vec<T> WithSignOf(Vec<T> x, Vec<T> a, Vec<T> v) {
   return as_float(ternary<A | (B ^ C)>(bits(v), bits(a), bits(x)));
 }
 
-template <bool in_two_parts, int degree, class T> LUM_INLINE Lanes<T> BySegments(const T* columns, Vec<T> x) {
+// The degree of the polynomials, and whether the constant terms have two parts.
+struct Accuracy {
+  int degree;
+  bool in_two_parts;
+};
+template <Accuracy accuracy, class T> LUM_INLINE Lanes<T> BySegments(const T* columns, Vec<T> x) {
   using S = Segments<T>;
   const auto a = as_float(shift_right<1>(shift_left<1>(bits(x))));  // |x|, and below its sign, without a constant
   const auto b = as_signed(bits(a));
   const auto row = shift_right<S::shift>(min(max(b - all(S::base), all(SignedOf<T>{0})), all(S::span)));
   const auto d = a - Lookup<0>(columns, row);
   const auto refused = mask_cast<T>(lt(all(S::last_kept), b));
-  if constexpr (in_two_parts) {
-    const auto q = fma(Polynomial<1, degree>(columns, row, d), d, Lookup<degree + 2>(columns, row));
+  if constexpr (accuracy.in_two_parts) {
+    const auto q = fma(Polynomial<1, accuracy.degree>(columns, row, d), d, Lookup<accuracy.degree + 2>(columns, row));
     return {WithSignOf(x, a, Lookup<1>(columns, row) + q), refused};
   } else {
-    return {WithSignOf(x, a, Polynomial<0, degree>(columns, row, d)), refused};
+    return {WithSignOf(x, a, Polynomial<0, accuracy.degree>(columns, row, d)), refused};
   }
 }
 
@@ -94,26 +99,32 @@ struct A11_32f : Kernel<Lum32f> {
 
 struct A21_32f : HyperbolicTangent<Lum32f> {
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
-    return BySegments<false, float_degree, Lum32f>(float_columns, x);
+    return BySegments<Accuracy{.degree = float_degree, .in_two_parts = false}, Lum32f>(float_columns, x);
   }
 };
 
 struct A24_32f : HyperbolicTangent<Lum32f> {
-  static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) { return BySegments<true, float_degree, Lum32f>(float_columns, x); }
+  static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
+    return BySegments<Accuracy{.degree = float_degree, .in_two_parts = true}, Lum32f>(float_columns, x);
+  }
 };
 
 struct A26_64f : HyperbolicTangent<Lum64f> {
   static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
-    return BySegments<false, short_degree, Lum64f>(short_columns, x);
+    return BySegments<Accuracy{.degree = short_degree, .in_two_parts = false}, Lum64f>(short_columns, x);
   }
 };
 
 struct A50_64f : HyperbolicTangent<Lum64f> {
-  static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) { return BySegments<false, long_degree, Lum64f>(long_columns, x); }
+  static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
+    return BySegments<Accuracy{.degree = long_degree, .in_two_parts = false}, Lum64f>(long_columns, x);
+  }
 };
 
 struct A53_64f : HyperbolicTangent<Lum64f> {
-  static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) { return BySegments<true, long_degree, Lum64f>(long_columns, x); }
+  static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
+    return BySegments<Accuracy{.degree = long_degree, .in_two_parts = true}, Lum64f>(long_columns, x);
+  }
 };
 
 }  // namespace

@@ -28,9 +28,9 @@ template <> struct ThirdsConstants<Lum64f> {
   static constexpr int index_shift = 49;
 };
 
-// 2^(j/3) or 2^(-j/3), head and tail.
-template <class T, bool negative> struct ThirdsOfTwo;
-template <> struct ThirdsOfTwo<Lum32f, false> {
+// 2^(sign j/3), head and tail.
+template <class T, int sign> struct ThirdsOfTwo;
+template <> struct ThirdsOfTwo<Lum32f, 1> {
   static constexpr auto head = table32({
 #include "tables/generated/two_to_thirds_32f_16_head.inc"
   });
@@ -38,7 +38,7 @@ template <> struct ThirdsOfTwo<Lum32f, false> {
 #include "tables/generated/two_to_thirds_32f_16_tail.inc"
   });
 };
-template <> struct ThirdsOfTwo<Lum32f, true> {
+template <> struct ThirdsOfTwo<Lum32f, -1> {
   static constexpr auto head = table32({
 #include "tables/generated/two_to_minus_thirds_32f_16_head.inc"
   });
@@ -46,7 +46,7 @@ template <> struct ThirdsOfTwo<Lum32f, true> {
 #include "tables/generated/two_to_minus_thirds_32f_16_tail.inc"
   });
 };
-template <> struct ThirdsOfTwo<Lum64f, false> {
+template <> struct ThirdsOfTwo<Lum64f, 1> {
   static constexpr auto head = table64({
 #include "tables/generated/two_to_thirds_64f_8_head.inc"
   });
@@ -54,7 +54,7 @@ template <> struct ThirdsOfTwo<Lum64f, false> {
 #include "tables/generated/two_to_thirds_64f_8_tail.inc"
   });
 };
-template <> struct ThirdsOfTwo<Lum64f, true> {
+template <> struct ThirdsOfTwo<Lum64f, -1> {
   static constexpr auto head = table64({
 #include "tables/generated/two_to_minus_thirds_64f_8_head.inc"
   });
@@ -118,7 +118,7 @@ template <class Data> struct ThirdsScheme {
 template <class T, Tier tier> inline constexpr int thirds_vectors = std::is_same_v<T, Lum64f>&& tier == Tier::high ? 1 : 2;
 
 template <class F, Tier tier, class T> LUM_INLINE Vec<T> ThirdsMagnitude(const ThirdsReduced<T>& a) {
-  using Thirds = ThirdsOfTwo<T, F::power == Power::minus_one_third>;
+  using Thirds = ThirdsOfTwo<T, F::power == Power::minus_one_third ? -1 : 1>;
   const auto heads = load<T>(Thirds::head), tails = load<T>(Thirds::tail);
   const auto third = permute(heads, bits(a.j));
   const auto t = AtReciprocal(F::template head<T>(), heads, a.c);

@@ -228,6 +228,14 @@ template <Floating T> void add_floating(Builder& table) {
   table.add<V, U>("operator^ float with bits" + t, [](V a, U b) { return a ^ b; });
   table.add<V>("bits" + t, [](V a) { return bits(a); });
   table.add<V>("horner" + t, [](V a) { return horner(a, T(1.25), T(-0.3), T(0.7), T(3)); });
+  table.add<V>("horner_of_pairs" + t, [](V a) {
+    return horner_of_pairs(a, a * a, Polynomial<T, 5>{{T(1.25), T(-0.3), T(0.7), T(3), T(-0.1)}});
+  });
+  table.add<V>("estrin" + t, [](V a) {
+    return estrin(a, Polynomial<T, 8>{{T(1.25), T(-0.3), T(0.7), T(3), T(-0.1), T(0.9), T(-2), T(0.4)}});
+  });
+  table.add<V>("exponent_field" + t, [](V a) { return exponent_field(a); });
+  table.add<U>("power_of_two" + t, [](U a) { return power_of_two<T>(a); });
   table.add_arithmetic<V, V>("two_sum" + t, [](V a, V b) { return two_sum(a, b); });
   table.add_arithmetic<V, V>("fast_two_sum" + t, [](V a, V b) { return fast_two_sum(a, b); });
   table.add_arithmetic<V, V>("two_product" + t, [](V a, V b) { return two_product(a, b); });

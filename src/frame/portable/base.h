@@ -3,6 +3,7 @@
 
 #include <cstring>
 
+#include "frame/lane_format.h"
 #include "frame/vec_types.h"
 
 namespace lum {
@@ -156,6 +157,40 @@ LUM_INLINE Mask<double> low_half(const Mask<float>& m) {
 }
 LUM_INLINE Mask<double> high_half(const Mask<float>& m) {
   return each_mask_lane<double>([&](int i) { return m.bits_of(i + 8) != 0; });
+}
+
+// ---- Lane by lane, some lanes with care
+
+// r with careful(a, b, ...) in the lanes of which doubt has bits set.
+template <auto careful, Floating T, class... Operands>
+[[gnu::noinline, gnu::cold]] void redo_lanes(Vec<T>& r, const Mask<T>& doubt, const Operands&... operands) {
+  for (int i = 0; i < lanes_of<T>; ++i)
+    if (doubt.bits_of(i)) r.lane[i] = careful(operands.lane[i]...);
+}
+// The result that quick(i) gives in every lane, with careful(a, b, ...) instead where doubt(i, result) has bits set. The copies
+// keep the operands themselves out of memory on the usual way.
+template <auto careful, Floating T, class Quick, class Doubt, class... Operands>
+LUM_INLINE Vec<T> each_lane_with_care(Quick quick, Doubt doubt, const Vec<T>& first, const Operands&... rest) {
+  const Vec<T> r = each_lane<T>(quick);
+  Mask<T> doubts;
+  for (int i = 0; i < lanes_of<T>; ++i) doubts.lane[i] = doubt(i, r.lane[i]);
+  if (none(doubts)) [[likely]]
+    return r;
+  Vec<T> redone = r;
+  [&doubts, &redone](Vec<T> a, Operands... others) { redo_lanes<careful>(redone, doubts, a, others...); }(first, rest...);
+  return redone;
+}
+// The result that quick(i) gives in every lane, with careful(a, b, ...) where that is a NaN: for operations that are one
+// instruction of the processor, but for the choice among NaNs. The copies are as above.
+template <auto careful, Floating T, class Quick, class... Operands>
+LUM_INLINE Vec<T> each_lane_but_nans(Quick quick, const Vec<T>& first, const Operands&... rest) {
+  const Vec<T> r = each_lane<T>(quick);
+  const Mask<T> nans = each_mask_lane<T>([&](int i) { return lane::is_nan(r.lane[i]); });
+  if (none(nans)) [[likely]]
+    return r;
+  Vec<T> redone = r;
+  [&nans, &redone](Vec<T> a, Operands... others) { redo_lanes<careful>(redone, nans, a, others...); }(first, rest...);
+  return redone;
 }
 
 }  // namespace portable
