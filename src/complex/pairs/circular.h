@@ -58,7 +58,7 @@ LUM_INLINE CircularPair SineCosineOf(Vec<Lum64f> y) { return SineCosineOfReduced
 // Of angles beyond the largest, by the remainder of turns in fixed-point numbers: an index of steps of pi/256 and hi + lo, of
 // which the odd steps go half to either side.
 [[gnu::noinline]] inline ReducedAngle ReduceFarAngle(const Vec<Lum64f>& magnitude) {
-  const auto turned = ReduceLarge<Lum64f>(magnitude, all(uint64_t{0}));
+  const auto turned = circular::ReduceLarge<Lum64f>(magnitude, all(uint64_t{0}));
   const auto is_odd = mask_cast<Lum64f>(test_any(turned.index, all(uint64_t{1})));
   const auto step = zero_unless(is_odd, or_sign(turned.hi, all(numbers::pi<Lum64f> / 256)));
   const auto step_tail = zero_unless(is_odd, or_sign(turned.hi, all(numbers::pi_tail<Lum64f> / 256)));
