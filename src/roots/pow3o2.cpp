@@ -128,7 +128,14 @@ template <class T> struct Pow3o2Kernel : Kernel<T> {
 
 template <class T, Steps steps> struct ByRoot : Pow3o2Kernel<T> {
   static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) {
-    const auto [g, h] = CoupledSteps<steps>(Start(x, rsqrt14(x)));
+    const auto y = rsqrt14(x);
+    auto g = x * y, h = all(T(0.5)) * y;
+    // One by one, since the portable layer keeps vectors that pass through functions in memory.
+    for (int i = 0; i < steps.coupled; ++i) {
+      const auto e = fnma(g, h, all(T(0.5)));
+      g = fma(g, e, g);
+      h = fma(h, e, h);
+    }
     const auto refused = Pow3o2Kernel<T>::Refused(x);
     if constexpr (steps.residual) return {fma(x, g, fnma(g, g, x) * (x * h)), refused};
     else return {g * x, refused};
