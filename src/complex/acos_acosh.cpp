@@ -24,6 +24,7 @@ LUM_INLINE ScaledArcParts ArccosinePartsOfAny(ComplexVec<Lum64f> z) {
 }
 
 struct AcosPath {
+  static constexpr bool is_long = true;
   static LUM_INLINE Mask<Lum64f> IsOutside(ComplexVec<Lum64f> z) { return HasFarPart(z); }
   static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z) {
     const auto parts = ArccosineParts(z);
@@ -49,6 +50,7 @@ struct AcosEnds {
 };
 
 struct AcoshPath {
+  static constexpr bool is_long = true;
   static LUM_INLINE Mask<Lum64f> IsOutside(ComplexVec<Lum64f> z) { return HasFarPart(z); }
   static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z) {
     const auto parts = ArccosineParts(z);

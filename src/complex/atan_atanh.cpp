@@ -34,6 +34,7 @@ LUM_INLINE AtanhValue AtanhParts(Vec<Lum64f> x, Vec<Lum64f> y) {
 }
 
 struct AtanhPath {
+  static constexpr bool is_long = true;
   static LUM_INLINE Mask<Lum64f> IsOutside(ComplexVec<Lum64f> z) { return HasFarPart(z); }
   static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z) {
     const auto a = AtanhParts(z.re, z.im);
@@ -42,6 +43,7 @@ struct AtanhPath {
 };
 
 struct AtanPath {
+  static constexpr bool is_long = true;
   static LUM_INLINE Mask<Lum64f> IsOutside(ComplexVec<Lum64f> z) { return HasFarPart(z); }
   static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z) {
     const auto a = AtanhParts(z.im, z.re);

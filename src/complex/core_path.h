@@ -11,6 +11,7 @@ namespace lum::inline LUM_LAYER {
 
 // A path is a struct with
 //   IsOutside(z...)   the arguments outside its domain
+//   is_long           given where a branch that spares vectors of special arguments all steps costs the others little
 //   Of(z...)          the parts of the result, their distances from the core's values in units of 2^-64, and the lanes outside
 struct PathValue {
   HeadTail re, im;
@@ -64,8 +65,7 @@ template <class Path, class... Z> LUM_INLINE PathValue PathOfVector(const Z&... 
 }
 
 template <class Path, class... Inputs> LUM_INLINE Lanes<Lum64fc> RoundedPath(const Inputs&... packed) {
-  if constexpr (streams_fit_registers) {
-    // A vector of special arguments has nothing to compute.
+  if constexpr (streams_fit_registers && requires { Path::is_long; }) {
     const auto outside = Path::IsOutside(split(packed)...);
     if (none(~outside)) [[unlikely]]
       return {{all(0.0), all(0.0)}, outside};

@@ -16,6 +16,7 @@ LUM_INLINE PathValue DecimalOf(const LogarithmValue& value) {
 }
 
 struct Log10Path {
+  static constexpr bool is_long = true;
   static LUM_INLINE Mask<Lum64f> IsOutside(ComplexVec<Lum64f> z) { return HasFarPart(z); }
   static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z) { return DecimalOf(LogarithmParts(z)); }
 };
