@@ -145,19 +145,30 @@ def write_library_page(library):
     catalogue.write_if_changed(catalogue.ROOT / f"docs/performance-{library}.md", page)
 
 
-def write_floors(build):
-    """What the loops must take by the execution ports, by exported name; the file stays as it is where llvm-mca is missing."""
+def write_machine(functions):
+    """The processors of the figures: where some functions alone have been measured, those of the others stay."""
+    machines = MACHINE.read_text().strip().split(" and ") if functions and MACHINE.exists() else []
+    MACHINE.write_text(" and ".join(dict.fromkeys([*machines, machine()])) + "\n")
+
+
+def write_floors(build, functions):
+    """What the loops of the functions, or of all, must take by the execution ports, by exported name; the file stays as it is where
+    llvm-mca is missing."""
     if not shutil.which("llvm-mca"):
         print("bench: llvm-mca is not installed: the floors stay as they are", file=sys.stderr)
         return
+    rows = [row for row in catalogue.rows() if not functions or row.function in functions]
     output_bytes = {}
-    for row in catalogue.rows():
+    for row in rows:
         parts = 2 if row.shape in ("TwoOutputs", "ToComplex") or (row.type.endswith("c") and row.shape != "ToReal") else 1
         for kernel in row.kernels:
             output_bytes[kernel] = parts * (4 if row.type.startswith("32") else 8)
     floors = port_bound.bounds(str(build / "liblumvmk0.so"), output_bytes)
     lines = []
-    for row in catalogue.rows():
+    if functions and FLOORS.exists():
+        measured = {export for row in rows for export, _ in row.exports()}
+        lines = [line for line in FLOORS.read_text().splitlines(keepends=True)[1:] if line.split(",")[0] not in measured]
+    for row in rows:
         for (export, _), kernel in zip(row.exports(), row.kernels if len(row.exports()) == 3 else row.kernels[2:]):
             if kernel in floors:
                 lines.append(f"{export},{floors[kernel]:.2f}\n")
@@ -202,8 +213,8 @@ def main():
     for function in arguments.functions or dict.fromkeys(row.function for row in catalogue.rows()):
         rows += run_benchmarks(arguments.build, [function], ["--lengths", arguments.lengths] if arguments.lengths else [], PARTS)
     merged(rows, DATA, PARTS)
-    MACHINE.write_text(machine() + "\n")
-    write_floors(arguments.build)
+    write_machine(arguments.functions)
+    write_floors(arguments.build, arguments.functions)
     write_page()
     subprocess.run([sys.executable, catalogue.ROOT / "tools/function_pages.py", "--pictures", *{r["function"].split("_")[0] for r in rows}],
                    check=True)

@@ -19,6 +19,8 @@
   mpfr, mpc                    the function of MPFR or MPC that gives it, or one of tools/accuracy/reference.cpp
   borders                      where its kernels change segments, tables or paths, in the words of make_borders.py
   python, cpp                  its names in Python, the first one being its own, and in C++
+  example                      at, gives: arguments and what comes out, in Python, by its standard library: math and NORMAL, the
+                               normal distribution; goes with `python`
 
 A value that differs between types is a table by type. Arguments are numbers, or lists of them: the parts of the first input,
 then those of the second or of the parameter."""
@@ -36,7 +38,8 @@ TAGS = {"32f": ("A11", "A21", "A24"), "64f": ("A26", "A50", "A53")}  # low, midd
 TYPES = ("32f", "64f", "32fc", "64fc")
 SHAPES = ("OneInput", "TwoInputs", "TwoOutputs", "ScalarParameter", "ToReal", "ToComplex")
 KEYS = {"summary", "domain", "special", "statuses", "types", "shape", "tags", "kernels", "exact", "scalar_core", "ordinary",
-        "defined", "special_arguments", "c", "scalar", "reference64", "mpfr", "mpc", "python", "cpp", "borders", "everyday", "thresholds"}
+        "defined", "special_arguments", "c", "scalar", "reference64", "mpfr", "mpc", "python", "cpp", "example",
+        "borders", "everyday", "thresholds"}
 EXPORTED = {"all": "Tagged", "high": "High", "none": "Untagged"}
 
 
@@ -128,6 +131,8 @@ def checked(path, name, entry):
     for key in ("summary", "domain", "special", "types"):
         if key not in entry:
             fail(f"{where} has no '{key}'")
+    if ("python" in entry) != ("example" in entry):
+        fail(f"{where}: 'python' and 'example' go together")
     for type_ in entry["types"]:
         if type_ not in TYPES:
             fail(f"{where} has an unknown type '{type_}'")

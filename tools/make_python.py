@@ -22,28 +22,8 @@ ELEMENTS = {"32f": "float", "64f": "double", "32fc": "Lum32fc", "64fc": "Lum64fc
 DTYPES = {"32f": "float32", "64f": "float64", "32fc": "complex64", "64fc": "complex128"}
 TITLES = {"low": "about half the bits", "mid": "all but the last few bits", "high": "an error below 1 ulp, where not said otherwise"}
 
-NORMAL = statistics.NormalDist()
-# An argument and what comes out, for the examples: by the standard library of Python, not by ours.
-EXAMPLES = {
-    "absolute": ((-2.5,), 2.5), "add": ((1.5, 2.0), 3.5), "angle": ((1j,), math.pi / 2), "arccos": ((0.5,), math.acos(0.5)),
-    "arccosh": ((2.0,), math.acosh(2)), "arcsin": ((0.5,), math.asin(0.5)), "arcsinh": ((0.5,), math.asinh(0.5)),
-    "arctan": ((0.5,), math.atan(0.5)), "arctan2": ((1.0, -1.0), math.atan2(1, -1)), "arctanh": ((0.5,), math.atanh(0.5)),
-    "cbrt": ((27.0,), 3.0), "ceil": ((1.2,), 2.0), "conjugate": ((1 + 2j,), 1 - 2j), "cos": ((0.5,), math.cos(0.5)),
-    "cosh": ((0.5,), math.cosh(0.5)), "divide": ((1.0, 4.0), 0.25), "erf": ((0.5,), math.erf(0.5)),
-    "erfc": ((0.5,), math.erfc(0.5)), "erfinv": ((0.5,), NORMAL.inv_cdf(0.75) / math.sqrt(2)),
-    "erfcinv": ((0.5,), -NORMAL.inv_cdf(0.25) / math.sqrt(2)), "exp": ((1.0,), math.e), "expm1": ((0.5,), math.expm1(0.5)),
-    "floor": ((-1.2,), -2.0), "frac": ((-1.25,), -0.25), "hypot": ((3.0, 4.0), 5.0), "invcbrt": ((8.0,), 0.5),
-    "invsqrt": ((4.0,), 0.5), "log": ((2.0,), math.log(2)), "log10": ((1000.0,), 3.0), "log1p": ((0.5,), math.log1p(0.5)),
-    "mulbyconj": ((1j, 1j), 1 + 0j), "multiply": ((1.5, 2.0), 3.0), "ndtr": ((1.0,), NORMAL.cdf(1)),
-    "ndtri": ((0.75,), NORMAL.inv_cdf(0.75)), "nearbyint": ((2.5,), 2.0), "pow2o3": ((8.0,), 4.0), "pow3o2": ((4.0,), 8.0),
-    "power": ((2.0, 0.5), math.sqrt(2)), "powx": ((3.0, 2.0), 9.0), "reciprocal": ((4.0,), 0.25), "rint": ((1.5,), 2.0),
-    "round_half_away": ((2.5,), 3.0), "sin": ((0.5,), math.sin(0.5)), "sinh": ((0.5,), math.sinh(0.5)),
-    "sqrt": ((2.0,), math.sqrt(2)), "square": ((1.5,), 2.25), "subtract": ((1.5, 2.0), -0.5), "tan": ((0.5,), math.tan(0.5)),
-    "tanh": ((0.5,), math.tanh(0.5)), "trunc": ((-1.5,), -1.0), "cis": ((0.0,), 1 + 0j),
-    "sincos": ((0.5,), (math.sin(0.5), math.cos(0.5))), "modf": ((1.25,), (0.25, 1.0)),
-}
-# Functions whose infinite results of finite arguments are poles, and others' where an argument is zero.
-POLES = {"Ln", "Log10", "Log1p", "InvSqrt", "InvCbrt", "Atanh", "ErfInv", "ErfcInv", "CdfNormInv"}
+# What the declared examples may name: values come from the standard library of Python, not from ours.
+NAMES_OF_EXAMPLES = {"math": math, "NORMAL": statistics.NormalDist()}
 # Real functions of which not every special result has a status.
 LOOKED_AT = {"Add", "Sub", "Mul", "Div", "Sqr", "Inv", "Pow", "Powx", "Hypot", "Pow3o2", "CIS"}
 
@@ -68,14 +48,16 @@ def inputs(row):
 
 def kind(row):
     function = row.function
-    infinity = "pole" if function in POLES else "overflow"
+    reported = {status["status"] for status in row.declaration.get("statuses", [])}
+    # Infinite results of finite arguments are poles where nothing overflows.
+    infinity = "pole" if "lumStsSingularity" in reported and "lumStsOverflow" not in reported else "overflow"
     if function in ("Div",):
         infinity = "pole_of_zero_divisor"
     if function in ("Inv", "Pow", "Powx"):
         infinity = "pole_of_zero"
     if row.type.endswith("c") and function in ("Ln", "Log10", "Atan", "Atanh"):
         infinity = "pole"
-    underflows = any(status["status"] == "lumStsUnderflow" for status in row.declaration.get("statuses", []))
+    underflows = "lumStsUnderflow" in reported
     looks = row.type.endswith("c") or function in LOOKED_AT
     return f"{{Infinity::{infinity}, {str(underflows).lower()}, {str(looks).lower()}}}"
 
@@ -124,9 +106,10 @@ def docstring(name, aliases, rows, level, errors):
         if export in errors:
             figures.append(f"{DTYPES[row.type]} {measured_data.ulp_text(errors[export])}")
     lines += [", ".join(figures) + ".", "", "Examples", "--------", ">>> import lumvm"]
-    arguments, value = EXAMPLES[name]
+    example = next(d["example"] for d in declarations if d.get("python", [None])[0] == name)
+    value = eval(example["gives"], {"__builtins__": {}, **NAMES_OF_EXAMPLES})
     digits = {"low": 3, "mid": 6, "high": 6}[level]
-    call = f"lumvm.{level}.{name}({', '.join(repr(a) for a in arguments)})"
+    call = f"lumvm.{level}.{name}({example['at']})"
     is_complex = any(isinstance(v, complex) for v in (value if isinstance(value, tuple) else (value,)))
     if outputs == 2:
         lines += [f">>> [round(float(y), {digits}) for y in {call}]", str([round(v, digits) for v in value])]

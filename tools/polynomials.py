@@ -18,7 +18,7 @@ mean_exp(w, v), the integral of exp(-2 w s - v s^2) over s from 0 to 1.
 polynomials.py           writes src/<family>/polynomials.h
 polynomials.py --check   compares what it would write with what is there
 polynomials.py --errors  computes the error of every polynomial and compares it with the one that is stated
-polynomials.py --measure prints name and computed error; with names, of these alone"""
+polynomials.py --measure prints name, family and computed error, which a record need not state yet; with names, of these alone"""
 
 import argparse
 import re
@@ -76,6 +76,7 @@ class Polynomial:
     family: dict  # its polynomials by name
     name: str
     record: dict
+    folder: str  # of the family
 
     @property
     def width(self):
@@ -150,16 +151,17 @@ def stated(error):
     return f"{float(mpf(digits) * mpf(10) ** (exponent - 2)):.2e}"
 
 
-def polynomials(paths=None):
+def polynomials(paths=None, states_error=True):
+    required = {"function", "interval", "format", "coefficients"} | ({"error"} if states_error else set())
     result = []
     for path in paths or sorted((ROOT / "src").rglob("polynomials.toml")):
         family = {}
         for name, record in tomllib.loads(path.read_text()).items():
-            missing = {"function", "interval", "error", "format", "coefficients"} - set(record)
+            missing = required - set(record)
             if missing or set(record) - KEYS:
                 sys.exit(f"{path}: {name} lacks {', '.join(sorted(missing)) or 'nothing'} and has "
                          f"{', '.join(sorted(set(record) - KEYS)) or 'nothing'} that is no key")
-            family[name] = Polynomial(family, name, record)
+            family[name] = Polynomial(family, name, record, str(path.parent.relative_to(ROOT / "src")))
         result += family.values()
     return result
 
@@ -225,11 +227,14 @@ def main():
     parser.add_argument("names", nargs="*")
     arguments = parser.parse_args()
     if arguments.errors or arguments.measure:
-        members = [p for p in polynomials() if not arguments.names or p.name in arguments.names]
+        members = polynomials(states_error=not arguments.measure)
+        if unknown := set(arguments.names) - {p.name for p in members}:
+            parser.error(f"no polynomial {', '.join(sorted(unknown))}")
+        members = [p for p in members if not arguments.names or p.name in arguments.names]
         if arguments.errors:
             return check_errors(members)
         for p in members:
-            print(p.name, stated(p.error()))
+            print(f"{p.name} ({p.folder}) {stated(p.error())}")
         return 0
     status = 0
     for path, text in headers():

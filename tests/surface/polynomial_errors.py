@@ -4,6 +4,7 @@ that the comparison notices: of each family the first polynomial's constant term
 
 import copy
 import contextlib
+import dataclasses
 import io
 import struct
 import sys
@@ -22,7 +23,7 @@ def disturbed(polynomial, part):
     code = {32: ("<I", "<f", 8), 64: ("<Q", "<d", 16)}[polynomial.width]
     value = polynomial.values()[0] * (1 + part)
     record["coefficients"][0] = f"0x{struct.unpack(code[0], struct.pack(code[1], value))[0]:0{code[2]}X}"
-    return polynomials.Polynomial(polynomial.family, polynomial.name, record)
+    return dataclasses.replace(polynomial, record=record)
 
 
 def is_noticed(polynomial):

@@ -64,6 +64,7 @@ std::string Complaint(const Export& entry, const Finding& f, const std::map<std:
 }
 
 void Print(const Export& entry, const std::vector<Finding>& findings) {
+  if (findings.empty()) fmt::print("{:<22} no properties in property_table.cpp and exact_points.cpp\n", entry.name);
   for (const Finding& f : findings) {
     fmt::print("{:<22} {:<36} {:>12} of {:<13}{}{}\n", entry.name, f.text,
                f.violations == 0 ? "holds" : fmt::format("{} fail", f.violations), f.count, f.is_over_all ? " (all)" : "",
