@@ -11,6 +11,7 @@ namespace {
 
 // The core rounds the logarithm to binary64, and the product with the exponent in plain operations.
 struct PowPath {
+  static constexpr bool is_long = true;
   static LUM_INLINE Mask<Lum64f> IsOutside(ComplexVec<Lum64f> z, ComplexVec<Lum64f>) { return HasFarPart(z); }
   static LUM_INLINE PathValue Value(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w) {
     const auto logarithm = LogarithmParts(z);
