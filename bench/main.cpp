@@ -95,7 +95,8 @@ int main(int argc, char** argv) {
   app.add_option("--library", options.library,
                  "a built library, k0, a2 or p0, or a library file; the fastest that the processor runs when none is given");
   auto* base = app.add_option("--base", options.base, "a library of another build to compare with");
-  app.add_flag("--special", options.special, "arrays with special arguments: zeros, infinities, NaN, results at the ends of the range")
+  app.add_flag("--special", options.special,
+               "arrays with special arguments: zeros, infinities, NaN, results at the ends of the range")
       ->excludes(lengths)
       ->excludes(base);
   app.allow_extras();

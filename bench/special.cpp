@@ -90,7 +90,8 @@ std::vector<SpecialClass> ClassesOf(const Export& entry) {
   }
   if (entry.is_complex()) result.push_back({"unit circle", {{0.6, 0.8}, {-0.28, 0.96}}, ""});
   for (const support::SpecialArgument& argument : support::DeclarationOf(entry).special_arguments) {
-    result.push_back({std::string(argument.what), {{argument.at[0], argument.at[1], argument.at[2], argument.at[3]}}, argument.tags});
+    result.push_back(
+        {std::string(argument.what), {{argument.at[0], argument.at[1], argument.at[2], argument.at[3]}}, argument.tags});
   }
   return result;
 }
@@ -113,12 +114,14 @@ void RegisterShare(const support::Library& library, const std::vector<const Expo
   const bool has_all_tags = share.period <= 1;
   for (const Export* entry : levels) {
     const bool is_high = entry == levels.back();
-    if ((!has_all_tags && !is_high) || (!special.tags.empty() && special.tags.find(entry->tag) == std::string_view::npos)) continue;
+    if ((!has_all_tags && !is_high) || (!special.tags.empty() && special.tags.find(entry->tag) == std::string_view::npos))
+      continue;
     void* address = library.Symbol(entry->name);
     Register(name(entry->tag.empty() ? "lumvm" : entry->tag), data, length,
              [address, entry](const support::Arguments& a) { CallAddress(address, *entry, a); });
   }
-  if (const auto scalar = support::FindScalarLoop(*levels[0]); scalar != nullptr) Register(name("scalar"), data, length, scalar);
+  if (const auto scalar = support::FindScalarLoop(*levels[0]); scalar != nullptr)
+    Register(name("scalar"), data, length, scalar);
   for (const auto& peer : FindPeers(*levels[0], instructions)) {
     if (peer.name == "sleef_u10" || peer.name == "libmvec") Register(name(peer.name), data, length, peer.loop);
   }
@@ -126,7 +129,8 @@ void RegisterShare(const support::Library& library, const std::vector<const Expo
 
 }  // namespace
 
-void RegisterSpecial(const support::Library& library, const std::vector<std::string>& functions, std::string_view instructions) {
+void RegisterSpecial(const support::Library& library, const std::vector<std::string>& functions,
+                     std::string_view instructions) {
   std::vector<const Export*> levels;
   const auto flush = [&] {
     if (levels.empty()) return;

@@ -1,5 +1,5 @@
-// Arrays in which some elements have special arguments: what they cost against a scalar loop and other vector libraries over the
-// same array.
+// Arrays in which some elements have special arguments: what they cost against a scalar loop and other vector libraries over
+// the same array.
 #pragma once
 
 #include <string>

@@ -102,8 +102,8 @@ template <class In, class Out> int FlagsOf(Kind kind, const In* x, const In* y, 
   return kind.can_underflow && HasVanished(result) ? FE_UNDERFLOW : 0;
 }
 
-// By the exponents, in one pass that the compiler makes of vector operations: with one more, an exponent of ones carries into the
-// sign. (64-bit comparisons are none of SSE2's instructions.)
+// By the exponents, in one pass that the compiler makes of vector operations: with one more, an exponent of ones carries into
+// the sign. (64-bit comparisons are none of SSE2's instructions.)
 template <class Bits, class Number> [[gnu::always_inline]] inline bool AllFiniteBits(const Number* numbers, npy_intp n) {
   constexpr Bits exponent = sizeof(Bits) == 4 ? static_cast<Bits>(0x7F800000) : static_cast<Bits>(0x7FF0000000000000);
   constexpr Bits one = exponent & (~exponent + 1);
@@ -120,7 +120,8 @@ LUM_PYTHON_CLONES static bool AllFinite(const double* numbers, npy_intp n) { ret
 
 template <class In, class Out>
 int FlagsOfBlock(Kind kind, LumStatus status, const In* x, const In* y, const Out* results, npy_intp n) {
-  if (status <= 0 && (!kind.looks_at_all || AllFinite(reinterpret_cast<const Part<Out>*>(results), n * parts_of<Out>))) return 0;
+  if (status <= 0 && (!kind.looks_at_all || AllFinite(reinterpret_cast<const Part<Out>*>(results), n * parts_of<Out>)))
+    return 0;
   int flags = 0;
   for (npy_intp i = 0; i < n; ++i) flags |= FlagsOf(kind, x + i, y == nullptr ? nullptr : y + i, results[i]);
   return flags;

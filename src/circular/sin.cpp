@@ -72,7 +72,8 @@ struct A26_64f : Kernel<Lum64f> {
   // Huge numbers remain.
   static constexpr bool second_is_short = true;
   static LUM_INLINE Finished<Lum64f> SecondPath(Vec<Lum64f> x, const Lanes<Lum64f>& lanes) {
-    return {SelectNonFinite(x, lanes.value), lanes.refused & ~fpclass<classes::nonfinite>(x),
+    return {SelectNonFinite(x, lanes.value),
+            lanes.refused & ~fpclass<classes::nonfinite>(x),
             {.domain = fpclass<classes::infinity>(x)}};
   }
 };

@@ -33,8 +33,10 @@ struct A26_64f : Plain<SineAndCosine_A26> {
   // Huge numbers remain.
   static constexpr bool second_is_short = true;
   static LUM_INLINE TwoFinished<T> SecondPath(Vec<T> x, const TwoLanes<T>& lanes) {
-    return {SelectNonFinite(x, lanes.value1), SelectNonFinite(x, lanes.value2),
-            lanes.refused & ~fpclass<classes::nonfinite>(x), {.domain = fpclass<classes::infinity>(x)}};
+    return {SelectNonFinite(x, lanes.value1),
+            SelectNonFinite(x, lanes.value2),
+            lanes.refused & ~fpclass<classes::nonfinite>(x),
+            {.domain = fpclass<classes::infinity>(x)}};
   }
 };
 struct A50_64f : WithLarge<SineAndCosine_A50> {};

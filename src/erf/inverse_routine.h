@@ -1,5 +1,5 @@
-// The inverses where the first vector paths refuse: at the poles, outside of the domain, and in the far tails, whose steps stand
-// here for scalars and for vectors.
+// The inverses where the first vector paths refuse: at the poles, outside of the domain, and in the far tails, whose steps
+// stand here for scalars and for vectors.
 #pragma once
 
 #include <limits>
@@ -30,7 +30,8 @@ LUM_INLINE explog::LnParts<Vec<Lum64f>> SplitLn(Vec<Lum64f> x) {
   const auto row = i + shift_left<1>(i);
   const auto c = gather<Lum64f>(table, row), hi = gather<Lum64f>(table + 1, row), lo = gather<Lum64f>(table + 2, row);
   const auto head = (m + all(2097152.0)) - all(2097152.0);
-  return {e * all(table.entries[3 * 64 + 1]) + hi, e * all(table.entries[3 * 64 + 2]) + lo, c * head - all(1.0), c * (m - head)};
+  return {e * all(table.entries[3 * 64 + 1]) + hi, e * all(table.entries[3 * 64 + 2]) + lo, c * head - all(1.0),
+          c * (m - head)};
 }
 inline explog::LnParts<double> SplitLn(double x) { return explog::SplitLn(x); }
 
@@ -59,7 +60,8 @@ LUM_INLINE Vec<Lum64f> TailEntry(Vec<uint64_t> row, size_t column) { return gath
 
 // ---- The far tails
 
-inline constexpr Polynomial<Lum64f, 8> log_series = {{-1.0 / 2, 1.0 / 3, -1.0 / 4, 1.0 / 5, -1.0 / 6, 1.0 / 7, -1.0 / 8, 1.0 / 9}};
+inline constexpr Polynomial<Lum64f, 8> log_series = {
+    {-1.0 / 2, 1.0 / 3, -1.0 / 4, 1.0 / 5, -1.0 / 6, 1.0 / 7, -1.0 / 8, 1.0 / 9}};
 
 // -ln q for 0 < q < 1/2.
 template <class V> LUM_INLINE TwoParts<V> MinusLog(V q) {
@@ -97,8 +99,8 @@ template <class T> LumStatus OutsideDomain(T& result) {
   return lumStsDomain;
 }
 
-// The ends 0 and `upper` of the domain, the middle, whose value is 0, NaN and what is outside of the domain, in the lanes that a
-// first path refuses; the pole at 0 is positive or negative. of_tail is the function of the numbers between, in binary64.
+// The ends 0 and `upper` of the domain, the middle, whose value is 0, NaN and what is outside of the domain, in the lanes that
+// a first path refuses; the pole at 0 is positive or negative. of_tail is the function of the numbers between, in binary64.
 template <class T, class OfTail>
 LUM_INLINE Finished<T> FinishEnds(Vec<T> x, const Lanes<T>& lanes, T upper, bool positive_at_zero, OfTail of_tail) {
   constexpr auto infinity = std::numeric_limits<T>::infinity();

@@ -51,8 +51,8 @@ LUM_INLINE Clamped ClampTo(double low, double high, Vec<Lum64f> t) {
   return {value, ne(value, t)};
 }
 
-// The sum of the first terms of the series, over d. S::c<k> is that of d^k, for k from 3 on an array of the coefficients of y0^0,
-// y0^2, ...
+// The sum of the first terms of the series, over d. S::c<k> is that of d^k, for k from 3 on an array of the coefficients of
+// y0^0, y0^2, ...
 template <class S, int terms> LUM_INLINE Vec<Lum64f> SeriesOf(Vec<Lum64f> y, Vec<Lum64f> d) {
   static_assert(terms == 3 || terms == 6 || terms == 7);
   const auto z = y * y;

@@ -9,7 +9,8 @@
 namespace lum::inline LUM_LAYER {
 
 // The numbers of one lane, the extended format included, of which not every one is a type of the language.
-template <class T> concept ScalarNumber = std::numeric_limits<T>::is_specialized && !std::numeric_limits<T>::is_integer;
+template <class T>
+concept ScalarNumber = std::numeric_limits<T>::is_specialized && !std::numeric_limits<T>::is_integer;
 
 // head + tail, |tail| at most about half a unit in the last place of head.
 template <class T> struct TwoParts { T head, tail; };
