@@ -5,21 +5,21 @@
 #include <limits>
 #include <type_traits>
 
-namespace lum_test {
+namespace lum::test {
 namespace {
 
-template <class T> using BitsOf = std::conditional_t<sizeof(T) == 4, uint32_t, uint64_t>;
+template <class T> using Word = std::conditional_t<sizeof(T) == 4, uint32_t, uint64_t>;
 
 template <class T> constexpr int fraction_bits = std::numeric_limits<T>::digits - 1;
 template <class T> constexpr int bias = std::numeric_limits<T>::max_exponent - 1;
 
-template <class T> uint64_t bits_of(T x) { return std::bit_cast<BitsOf<T>>(x); }
+template <class T> uint64_t BitsOf(T x) { return std::bit_cast<Word<T>>(x); }
 
 // Zero, the ends of the range, the neighbourhoods of small numbers, halves and powers of two; infinities and NaNs.
-template <class T> std::vector<uint64_t> floating_specials() {
+template <class T> std::vector<uint64_t> FloatingSpecials() {
   using Limits = std::numeric_limits<T>;
   const uint64_t hidden = uint64_t{1} << fraction_bits<T>;
-  const uint64_t infinity = bits_of(Limits::infinity());
+  const uint64_t infinity = BitsOf(Limits::infinity());
   std::vector<uint64_t> values = {
       0,          1,      2,          3,          hidden / 2,        hidden / 2 + 1,        hidden / 4,   hidden / 4 + 1,
       hidden - 1, hidden, hidden + 1, 2 * hidden, infinity - hidden, infinity - hidden - 1, infinity - 2, infinity - 1,
@@ -28,32 +28,32 @@ template <class T> std::vector<uint64_t> floating_specials() {
     values.push_back(infinity + payload);
   for (const T x :
        {T(1), T(0.5), T(2), T(4), T(0.75), T(1.5), T(2.5), T(3.5), T(0.125), T(0.03125), T(90), T(3), T(0.1), T(7.3)})
-    for (const int step : {-1, 0, 1}) values.push_back(bits_of(x) + static_cast<uint64_t>(step));
+    for (const int step : {-1, 0, 1}) values.push_back(BitsOf(x) + static_cast<uint64_t>(step));
   for (const int exponent : {-bias<T> + 40, -bias<T> / 2, -30, -5, 8, 20, 26, 52, bias<T> / 2, bias<T> - 27}) {
     const uint64_t power = static_cast<uint64_t>(exponent + bias<T>) << fraction_bits<T>;
     values.insert(values.end(), {power, power + 1, power - 1, power + hidden / 2});
   }
-  const std::size_t positive = values.size();
+  const size_t positive = values.size();
   const uint64_t sign = uint64_t{1} << (8 * sizeof(T) - 1);
-  for (std::size_t i = 0; i < positive; ++i) values.push_back(values[i] | sign);
+  for (size_t i = 0; i < positive; ++i) values.push_back(values[i] | sign);
   return values;
 }
 
 // A few of them, for operations of three operands.
-template <class T> std::vector<uint64_t> floating_specials_in_brief() {
+template <class T> std::vector<uint64_t> FloatingSpecialsInBrief() {
   const uint64_t hidden = uint64_t{1} << fraction_bits<T>;
-  const uint64_t infinity = bits_of(std::numeric_limits<T>::infinity());
+  const uint64_t infinity = BitsOf(std::numeric_limits<T>::infinity());
   std::vector<uint64_t> values = {0, 1, hidden - 1, hidden, infinity - 1, infinity, infinity + hidden / 2 + 5, infinity + 9};
-  for (const T x : {T(1), T(1.5), T(3.5)}) values.insert(values.end(), {bits_of(x), bits_of(x) + 1});
+  for (const T x : {T(1), T(1.5), T(3.5)}) values.insert(values.end(), {BitsOf(x), BitsOf(x) + 1});
   for (const int exponent : {-bias<T> + 40, -bias<T> / 2, bias<T> / 2, bias<T> - 27})
     values.push_back((static_cast<uint64_t>(exponent + bias<T>) << fraction_bits<T>)+1);
-  const std::size_t positive = values.size();
+  const size_t positive = values.size();
   const uint64_t sign = uint64_t{1} << (8 * sizeof(T) - 1);
-  for (std::size_t i = 0; i < positive; ++i) values.push_back(values[i] | sign);
+  for (size_t i = 0; i < positive; ++i) values.push_back(values[i] | sign);
   return values;
 }
 
-std::vector<uint64_t> integer_specials(int width) {
+std::vector<uint64_t> IntegerSpecials(int width) {
   const uint64_t top = uint64_t{1} << (width - 1);
   std::vector<uint64_t> values = {0, 1, 2, 3, 7, 15, 16, 31, 32, 33, 63, 64, 65, 0xFFFF, 0x8000, 0x80008000, 0x7FFF8000};
   values.insert(values.end(), {top, top - 1, top + 1, ~uint64_t{0}, ~uint64_t{1}, 0x5555555555555555, 0x123456789ABCDEF0});
@@ -85,10 +85,10 @@ void SetLane(RawVector& v, Element element, int lane, uint64_t bits) {
 }
 
 const std::vector<uint64_t>& SpecialValues(Element element) {
-  static const auto f32 = floating_specials<float>();
-  static const auto f64 = floating_specials<double>();
-  static const auto integer32 = integer_specials(32);
-  static const auto integer64 = integer_specials(64);
+  static const auto f32 = FloatingSpecials<float>();
+  static const auto f64 = FloatingSpecials<double>();
+  static const auto integer32 = IntegerSpecials(32);
+  static const auto integer64 = IntegerSpecials(64);
   switch (element) {
     case Element::f32:
       return f32;
@@ -103,30 +103,30 @@ const std::vector<uint64_t>& SpecialValues(Element element) {
 
 namespace {
 const std::vector<uint64_t>& SpecialValuesInBrief(Element element) {
-  static const auto f32 = floating_specials_in_brief<float>();
-  static const auto f64 = floating_specials_in_brief<double>();
+  static const auto f32 = FloatingSpecialsInBrief<float>();
+  static const auto f64 = FloatingSpecialsInBrief<double>();
   return element == Element::f32 ? f32 : element == Element::f64 ? f64 : SpecialValues(element);
 }
 // Those that are combined in the operands of an operation.
-const std::vector<uint64_t>& combined_specials(const Operation& operation, Element element) {
+const std::vector<uint64_t>& CombinedSpecials(const Operation& operation, Element element) {
   const bool three = operation.operands.size() >= 3 && operation.operands[2] != Element::none;
   return three ? SpecialValuesInBrief(element) : SpecialValues(element);
 }
 }  // namespace
 
-uint64_t InputGenerator::special(Element element) {
+uint64_t InputGenerator::Special(Element element) {
   const auto& values = SpecialValues(element);
-  return values[below(values.size())];
+  return values[Below(values.size())];
 }
 
-uint64_t InputGenerator::integer_lane(int width) {
-  switch (below(4)) {
+uint64_t InputGenerator::IntegerLane(int width) {
+  switch (Below(4)) {
     case 0:
-      return special(width == 32 ? Element::integer32 : Element::integer64);
+      return Special(width == 32 ? Element::integer32 : Element::integer64);
     case 1:
-      return below(160) - 80;
+      return Below(160) - 80;
     case 2:
-      return random_() >> below(static_cast<uint64_t>(width));
+      return random_() >> Below(static_cast<uint64_t>(width));
     default:
       return random_();
   }
@@ -134,20 +134,20 @@ uint64_t InputGenerator::integer_lane(int width) {
 
 // One lane: 0 any bits; 1 an exponent near zero; 2 few bits in the significand; 3 close to a denormal or tiny; 4 near the
 // largest; 5 on or beside a multiple of a power of two.
-template <class T> uint64_t InputGenerator::floating_lane(int manner) {
+template <class T> uint64_t InputGenerator::FloatingLane(int manner) {
   constexpr int F = fraction_bits<T>;
   constexpr uint64_t fraction_mask = (uint64_t{1} << F) - 1;
   // Drawn one after the other, so that every compiler draws them in the same order.
   const uint64_t any = random_();
-  const uint64_t sign = below(2) << (8 * sizeof(T) - 1);
-  const uint64_t near = below(60);
-  const uint64_t cut = below(static_cast<uint64_t>(F));
-  const uint64_t cleared = below(static_cast<uint64_t>(F));
+  const uint64_t sign = Below(2) << (8 * sizeof(T) - 1);
+  const uint64_t near = Below(60);
+  const uint64_t cut = Below(static_cast<uint64_t>(F));
+  const uint64_t cleared = Below(static_cast<uint64_t>(F));
   const uint64_t fraction = any & fraction_mask;
   const auto with_exponent = [&](uint64_t field, uint64_t significand) { return sign | field << F | significand; };
   switch (manner) {
     case 0:
-      return static_cast<BitsOf<T>>(any);
+      return static_cast<Word<T>>(any);
     case 1:
       return with_exponent(static_cast<uint64_t>(bias<T>) - 8 + near % 16, fraction);
     case 2:
@@ -158,47 +158,46 @@ template <class T> uint64_t InputGenerator::floating_lane(int manner) {
       return with_exponent(2 * static_cast<uint64_t>(bias<T>) - near / 2, fraction);
     default: {
       const T grid = static_cast<T>(static_cast<int64_t>(any % 4096) - 2048) / static_cast<T>(uint64_t{1} << near % 8);
-      return (bits_of(grid) + cut % 3 - 1) | (grid == 0 ? sign : 0);
+      return (BitsOf(grid) + cut % 3 - 1) | (grid == 0 ? sign : 0);
     }
   }
 }
 
 // The lanes of all floating-point operands together: the second close to the first, the third close to minus their product.
-template <class T>
-void InputGenerator::fill_floating_lanes(int lane, const std::vector<Element>& elements, Operands& operands) {
+template <class T> void InputGenerator::FillFloatingLanes(int lane, const std::vector<Element>& elements, Operands& operands) {
   constexpr Element element = sizeof(T) == 4 ? Element::f32 : Element::f64;
-  const int manner = static_cast<int>(below(6));
-  const bool related = below(3) == 0;
+  const int manner = static_cast<int>(Below(6));
+  const bool related = Below(3) == 0;
   T previous[2] = {T(1), T(1)};
-  for (std::size_t i = 0; i < elements.size() && i < 3; ++i) {
+  for (size_t i = 0; i < elements.size() && i < 3; ++i) {
     if (elements[i] != element) continue;
-    const bool is_special = below(16) == 0;
-    const int own_manner = static_cast<int>(below(24));  // at times not that of the other operands
-    const uint64_t step = below(7) - 3;
-    uint64_t bits = is_special ? special(element) : floating_lane<T>(own_manner < 6 ? own_manner : manner);
-    if (related && i == 1 && elements.size() == 2) bits = bits_of(previous[0]) + step;
+    const bool is_special = Below(16) == 0;
+    const int own_manner = static_cast<int>(Below(24));  // at times not that of the other operands
+    const uint64_t step = Below(7) - 3;
+    uint64_t bits = is_special ? Special(element) : FloatingLane<T>(own_manner < 6 ? own_manner : manner);
+    if (related && i == 1 && elements.size() == 2) bits = BitsOf(previous[0]) + step;
     const T product = previous[0] * previous[1];
-    if (related && i == 2 && product == product) bits = bits_of(-product) + step;  // a NaN's bits are not the same everywhere
-    bits = static_cast<BitsOf<T>>(bits);
-    if (i < 2) previous[i] = std::bit_cast<T>(static_cast<BitsOf<T>>(bits));
+    if (related && i == 2 && product == product) bits = BitsOf(-product) + step;  // a NaN's bits are not the same everywhere
+    bits = static_cast<Word<T>>(bits);
+    if (i < 2) previous[i] = std::bit_cast<T>(static_cast<Word<T>>(bits));
     SetLane(operands.vector[i], element, lane, bits);
   }
 }
 
-void InputGenerator::fill(const Operation& operation, Operands& operands) {
+void InputGenerator::Fill(const Operation& operation, Operands& operands) {
   operands.mask = static_cast<uint32_t>(random_());
   const auto& elements = operation.operands;
-  for (std::size_t i = 0; i < elements.size() && i < 3; ++i)
+  for (size_t i = 0; i < elements.size() && i < 3; ++i)
     if (elements[i] == Element::integer32 || elements[i] == Element::integer64)
       for (int lane = 0; lane < 64 / LaneBytes(elements[i]); ++lane)
-        SetLane(operands.vector[i], elements[i], lane, integer_lane(8 * LaneBytes(elements[i])));
+        SetLane(operands.vector[i], elements[i], lane, IntegerLane(8 * LaneBytes(elements[i])));
   for (const Element element : elements) {
     if (element == Element::f32) {
-      for (int lane = 0; lane < 16; ++lane) fill_floating_lanes<float>(lane, elements, operands);
+      for (int lane = 0; lane < 16; ++lane) FillFloatingLanes<float>(lane, elements, operands);
       break;
     }
     if (element == Element::f64) {
-      for (int lane = 0; lane < 8; ++lane) fill_floating_lanes<double>(lane, elements, operands);
+      for (int lane = 0; lane < 8; ++lane) FillFloatingLanes<double>(lane, elements, operands);
       break;
     }
   }
@@ -209,7 +208,7 @@ uint64_t SpecialVectors(const Operation& operation) {
   int lanes = 1;
   for (const Element element : operation.operands)
     if (element != Element::none) {
-      combinations *= combined_specials(operation, element).size();
+      combinations *= CombinedSpecials(operation, element).size();
       lanes = 64 / LaneBytes(element);
     }
   return (combinations + static_cast<uint64_t>(lanes) - 1) / static_cast<uint64_t>(lanes);
@@ -220,11 +219,11 @@ void FillSpecials(const Operation& operation, uint64_t index, Operands& operands
   const auto& elements = operation.operands;
   for (int lane = 0; lane < 16; ++lane) {
     uint64_t combination = 0;
-    for (std::size_t i = 0; i < elements.size() && i < 3; ++i) {
+    for (size_t i = 0; i < elements.size() && i < 3; ++i) {
       if (elements[i] == Element::none || lane >= 64 / LaneBytes(elements[i])) continue;
       if (combination == 0)
         combination = index * static_cast<uint64_t>(64 / LaneBytes(elements[i])) + static_cast<uint64_t>(lane) + 1;
-      const auto& values = combined_specials(operation, elements[i]);
+      const auto& values = CombinedSpecials(operation, elements[i]);
       const uint64_t place = combination - 1;
       SetLane(operands.vector[i], elements[i], lane, values[place % values.size()]);
       combination = place / values.size() + 1;
@@ -232,4 +231,4 @@ void FillSpecials(const Operation& operation, uint64_t index, Operands& operands
   }
 }
 
-}  // namespace lum_test
+}  // namespace lum::test

@@ -8,7 +8,7 @@
 
 #include "operation_table.h"
 
-namespace lum_test {
+namespace lum::test {
 
 // The bits of special values of one element type.
 const std::vector<uint64_t>& SpecialValues(Element element);
@@ -17,14 +17,14 @@ class InputGenerator {
  public:
   explicit InputGenerator(uint64_t seed) : random_(seed) {}
   // Random lanes in every operand.
-  void fill(const Operation& operation, Operands& operands);
+  void Fill(const Operation& operation, Operands& operands);
 
  private:
-  uint64_t below(uint64_t n) { return random_() % n; }
-  uint64_t special(Element element);
-  uint64_t integer_lane(int width);
-  template <class T> uint64_t floating_lane(int manner);
-  template <class T> void fill_floating_lanes(int lane, const std::vector<Element>& elements, Operands& operands);
+  uint64_t Below(uint64_t n) { return random_() % n; }
+  uint64_t Special(Element element);
+  uint64_t IntegerLane(int width);
+  template <class T> uint64_t FloatingLane(int manner);
+  template <class T> void FillFloatingLanes(int lane, const std::vector<Element>& elements, Operands& operands);
 
   std::mt19937_64 random_;
 };
@@ -38,4 +38,4 @@ int LaneBytes(Element element);
 uint64_t GetLane(const RawVector& v, Element element, int lane);
 void SetLane(RawVector& v, Element element, int lane, uint64_t bits);
 
-}  // namespace lum_test
+}  // namespace lum::test

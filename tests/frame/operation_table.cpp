@@ -7,12 +7,12 @@
 
 #include "frame/vec.h"
 
-namespace lum_test {
+namespace lum::test {
 namespace {
 
 using namespace lum;
 
-template <Lane T> constexpr Element element_of() {
+template <Lane T> constexpr Element ElementOf() {
   if constexpr (std::same_as<T, float>) return Element::f32;
   else if constexpr (std::same_as<T, double>) return Element::f64;
   else return sizeof(T) == 4 ? Element::integer32 : Element::integer64;
@@ -24,8 +24,8 @@ template <Lane T> struct Count { int value; };
 // How an operand of each kind is read, and the element type of its vector.
 template <class Operand> struct Reader;
 template <Lane T> struct Reader<Vec<T>> {
-  static constexpr Element element = element_of<T>();
-  static Vec<T> read(const Operands& operands, std::size_t i) {
+  static constexpr Element element = ElementOf<T>();
+  static Vec<T> Read(const Operands& operands, size_t i) {
     T lanes[lanes_of<T>];
     std::memcpy(lanes, operands.vector[i].bytes, sizeof lanes);
     return load(lanes);
@@ -33,41 +33,41 @@ template <Lane T> struct Reader<Vec<T>> {
 };
 template <Lane T> struct Reader<Mask<T>> {
   static constexpr Element element = Element::none;
-  static Mask<T> read(const Operands& operands, std::size_t) { return mask_of<T>(operands.mask); }
+  static Mask<T> Read(const Operands& operands, size_t) { return mask_of<T>(operands.mask); }
 };
 template <Lane T> struct Reader<Count<T>> {
   static constexpr Element element = Element::none;
-  static Count<T> read(const Operands& operands, std::size_t) {
+  static Count<T> Read(const Operands& operands, size_t) {
     return {static_cast<int>(operands.mask % (static_cast<uint32_t>(lanes_of<T>) + 1))};
   }
 };
 template <Lane T> struct Reader<const T*> {
-  static constexpr Element element = element_of<T>();
-  static const T* read(const Operands& operands, std::size_t i) { return reinterpret_cast<const T*>(operands.vector[i].bytes); }
+  static constexpr Element element = ElementOf<T>();
+  static const T* Read(const Operands& operands, size_t i) { return reinterpret_cast<const T*>(operands.vector[i].bytes); }
 };
 
-template <Lane T> void write(RawVector& to, Vec<T> v) {
+template <Lane T> void Write(RawVector& to, Vec<T> v) {
   T lanes[lanes_of<T>];
   store(lanes, v);
   std::memcpy(to.bytes, lanes, sizeof lanes);
 }
-template <Lane T> void put(Outcome& outcome, Vec<T> v) { write(outcome.vector[0], v); }
-template <Lane T> void put(Outcome& outcome, Pair<T> pair) {
-  write(outcome.vector[0], pair.even);
-  write(outcome.vector[1], pair.odd);
+template <Lane T> void Put(Outcome& outcome, Vec<T> v) { Write(outcome.vector[0], v); }
+template <Lane T> void Put(Outcome& outcome, Pair<T> pair) {
+  Write(outcome.vector[0], pair.even);
+  Write(outcome.vector[1], pair.odd);
 }
-template <Floating T> void put(Outcome& outcome, TwoParts<Vec<T>> sum) {
-  write(outcome.vector[0], sum.head);
-  write(outcome.vector[1], sum.tail);
+template <Floating T> void Put(Outcome& outcome, TwoParts<Vec<T>> sum) {
+  Write(outcome.vector[0], sum.head);
+  Write(outcome.vector[1], sum.tail);
 }
-void put(Outcome& outcome, uint32_t bits) { std::memcpy(outcome.vector[0].bytes, &bits, sizeof bits); }
-void put(Outcome& outcome, bool truth) { put(outcome, static_cast<uint32_t>(truth)); }
-template <Lane T> void put(Outcome& outcome, Mask<T> mask) { put(outcome, to_bits(mask)); }
+void Put(Outcome& outcome, uint32_t bits) { std::memcpy(outcome.vector[0].bytes, &bits, sizeof bits); }
+void Put(Outcome& outcome, bool truth) { Put(outcome, static_cast<uint32_t>(truth)); }
+template <Lane T> void Put(Outcome& outcome, Mask<T> mask) { Put(outcome, to_bits(mask)); }
 
 // A captureless function object as an operation on raw vectors.
-template <class F, class... Kinds> void run_raw(const Operands& operands, Outcome& outcome) {
+template <class F, class... Kinds> void RunRaw(const Operands& operands, Outcome& outcome) {
   outcome = {};
-  [&]<std::size_t... i>(std::index_sequence<i...>) { put(outcome, F{}(Reader<Kinds>::read(operands, i)...)); }
+  [&]<size_t... i>(std::index_sequence<i...>) { Put(outcome, F{}(Reader<Kinds>::Read(operands, i)...)); }
   (std::index_sequence_for<Kinds...>{});
 }
 
@@ -75,33 +75,31 @@ class Builder {
  public:
   template <class... Kinds, class F> void add(const std::string& name, F, bool arithmetic = false) {
     const std::string vocabulary = name.substr(0, name.starts_with("operator") ? name.find(' ') : name.find_first_of("< "));
-    operations.push_back({name, vocabulary, {Reader<Kinds>::element...}, arithmetic, run_raw<F, Kinds...>});
+    operations.push_back({name, vocabulary, {Reader<Kinds>::element...}, arithmetic, RunRaw<F, Kinds...>});
   }
   template <class... Kinds, class F> void add_arithmetic(const std::string& name, F f) { add<Kinds...>(name, f, true); }
   std::vector<Operation> operations;
 };
 
-template <Lane T> std::string type_name() {
+template <Lane T> std::string TypeName() {
   const std::string bits = sizeof(T) == 4 ? "32" : "64";
   return (std::same_as<T, float> || std::same_as<T, double> ? " f" : std::is_signed_v<T> ? " i" : " u") + bits;
 }
 
-std::string hexadecimal(int n) {
+std::string Hexadecimal(int n) {
   constexpr char digits[] = "0123456789ABCDEF";
   return std::string("0x") + digits[n >> 4 & 15] + digits[n & 15];
 }
 
 // For each of the immediates calls f with it as a compile-time constant, and its text.
-template <int... imm, class F> void for_each_immediate(F f) {
-  (f(std::integral_constant<int, imm>{}, "<" + hexadecimal(imm) + ">"), ...);
+template <int... imm, class F> void ForEachImmediate(F f) {
+  (f(std::integral_constant<int, imm>{}, "<" + Hexadecimal(imm) + ">"), ...);
 }
-template <class F, int... imm> void for_immediates_below(std::integer_sequence<int, imm...>, F f) {
-  for_each_immediate<imm...>(f);
-}
+template <class F, int... imm> void ForImmediatesBelow(std::integer_sequence<int, imm...>, F f) { ForEachImmediate<imm...>(f); }
 
-template <Floating T, int R> void add_rounded(Builder& table, const std::string& rounding) {
+template <Floating T, int R> void AddRounded(Builder& table, const std::string& rounding) {
   using V = Vec<T>;
-  const auto t = rounding + type_name<T>();
+  const auto t = rounding + TypeName<T>();
   table.add_arithmetic<V, V>("add" + t, [](V a, V b) { return add<R>(a, b); });
   table.add_arithmetic<V, V>("sub" + t, [](V a, V b) { return sub<R>(a, b); });
   table.add_arithmetic<V, V>("mul" + t, [](V a, V b) { return mul<R>(a, b); });
@@ -114,28 +112,28 @@ template <Floating T, int R> void add_rounded(Builder& table, const std::string&
   table.add_arithmetic<V, V>("scalef" + t, [](V a, V b) { return scalef<R>(a, b); });
 }
 
-template <Floating T> void add_significand(Builder& table) {
+template <Floating T> void AddSignificand(Builder& table) {
   using V = Vec<T>;
-  const auto t = type_name<T>();
+  const auto t = TypeName<T>();
   table.add<V>("getexp" + t, [](V a) { return getexp(a); });
-  for_each_immediate<0x0, 0x1, 0x2, 0x3, 0x4, 0x5, 0x6, 0x7, 0x8, 0x9, 0xA, 0xB>([&](auto imm, const std::string& text) {
+  ForEachImmediate<0x0, 0x1, 0x2, 0x3, 0x4, 0x5, 0x6, 0x7, 0x8, 0x9, 0xA, 0xB>([&](auto imm, const std::string& text) {
     table.add<V>("getmant" + text + t, [](V a) { return getmant<decltype(imm)::value>(a); });
   });
-  for_each_immediate<0x0, 0x1, 0x2, 0x3, 0x4, 0x8, 0x9, 0xA, 0xB, 0xC, 0x18, 0x29, 0x48, 0x58, 0x68, 0x7A, 0x80, 0xFB>(
+  ForEachImmediate<0x0, 0x1, 0x2, 0x3, 0x4, 0x8, 0x9, 0xA, 0xB, 0xC, 0x18, 0x29, 0x48, 0x58, 0x68, 0x7A, 0x80, 0xFB>(
       [&](auto imm, const std::string& text) {
         table.add<V>("rndscale" + text + t, [](V a) { return rndscale<decltype(imm)::value>(a); });
       });
-  for_each_immediate<0x0, 0x9, 0xA, 0xB, 0xC, 0x28, 0x41, 0x51, 0x62, 0x73, 0xF8>([&](auto imm, const std::string& text) {
+  ForEachImmediate<0x0, 0x9, 0xA, 0xB, 0xC, 0x28, 0x41, 0x51, 0x62, 0x73, 0xF8>([&](auto imm, const std::string& text) {
     table.add<V>("reduce" + text + t, [](V a) { return reduce<decltype(imm)::value>(a); });
   });
-  for_each_immediate<0x01, 0x02, 0x04, 0x08, 0x10, 0x20, 0x40, 0x80, 0x06, 0x0E, 0x18, 0x1E, 0x50, 0x56, 0x5E, 0x87, 0x89, 0x99,
-                     0xBF, 0xDF, 0xFF>([&](auto imm, const std::string& text) {
+  ForEachImmediate<0x01, 0x02, 0x04, 0x08, 0x10, 0x20, 0x40, 0x80, 0x06, 0x0E, 0x18, 0x1E, 0x50, 0x56, 0x5E, 0x87, 0x89, 0x99,
+                   0xBF, 0xDF, 0xFF>([&](auto imm, const std::string& text) {
     table.add<V>("fpclass" + text + t, [](V a) { return fpclass<decltype(imm)::value>(a); });
   });
 }
 
 // a with an exponent from -8 to 7.
-template <Floating T> Vec<T> moderate(Vec<T> a) {
+template <Floating T> Vec<T> Moderate(Vec<T> a) {
   using U = UnsignedOf<T>;
   constexpr int fraction_bits = sizeof(T) == 4 ? 23 : 52;
   constexpr U bias = sizeof(T) == 4 ? 127 : 1023;
@@ -144,7 +142,7 @@ template <Floating T> Vec<T> moderate(Vec<T> a) {
 }
 
 // Estimates rounded to a grid. Not in a generic lambda, in which clang++ 14 does not find getmant.
-template <int grid, Floating T> void add_rounded_estimates(Builder& table, const std::string& text, const std::string& t) {
+template <int grid, Floating T> void AddRoundedEstimates(Builder& table, const std::string& text, const std::string& t) {
   using V = Vec<T>;
   table.add<V>("rounded_rcp14" + text + " of [1,2)" + t,
                [](V a) { return zero_unless(~unord(a, a), rounded_rcp14<grid, 0>(getmant<0>(a))); });
@@ -158,53 +156,53 @@ template <int grid, Floating T> void add_rounded_estimates(Builder& table, const
 }
 
 // The operations with a condition, on operands for which it holds.
-template <Floating T> void add_conditional(Builder& table) {
+template <Floating T> void AddConditional(Builder& table) {
   using V = Vec<T>;
-  const auto t = type_name<T>();
+  const auto t = TypeName<T>();
   constexpr T shifter = sizeof(T) == 4 ? T(0x1.8p19) : T(0x1.8p49);
-  table.add<V, V>("fma_floor" + t, [](V a, V b) { return fma_floor(moderate(a), moderate(b), all(shifter)); });
+  table.add<V, V>("fma_floor" + t, [](V a, V b) { return fma_floor(Moderate(a), Moderate(b), all(shifter)); });
   table.add<V>("fma_floor of NaN and small numbers" + t,
-               [](V a) { return fma_floor(select(le(all(T(1)), abs(a)), moderate(a), a), all(T(1.44269504)), all(shifter)); });
-  table.add<V>("rcp14_normal" + t, [](V a) { return rcp14_normal(moderate(a)); });
-  table.add<V>("rsqrt14_normal" + t, [](V a) { return rsqrt14_normal(abs(moderate(a))); });
-  table.add<V>("getexp_normal" + t, [](V a) { return getexp_normal(moderate(a)); });
-  for_each_immediate<0x0, 0x1, 0x2, 0x3, 0x4, 0x8, 0xA, 0xB>([&](auto imm, const std::string& text) {
-    table.add<V>("getmant_normal" + text + t, [](V a) { return getmant_normal<decltype(imm)::value>(abs(moderate(a))); });
+               [](V a) { return fma_floor(select(le(all(T(1)), abs(a)), Moderate(a), a), all(T(1.44269504)), all(shifter)); });
+  table.add<V>("rcp14_normal" + t, [](V a) { return rcp14_normal(Moderate(a)); });
+  table.add<V>("rsqrt14_normal" + t, [](V a) { return rsqrt14_normal(abs(Moderate(a))); });
+  table.add<V>("getexp_normal" + t, [](V a) { return getexp_normal(Moderate(a)); });
+  ForEachImmediate<0x0, 0x1, 0x2, 0x3, 0x4, 0x8, 0xA, 0xB>([&](auto imm, const std::string& text) {
+    table.add<V>("getmant_normal" + text + t, [](V a) { return getmant_normal<decltype(imm)::value>(abs(Moderate(a))); });
     table.add<V>("parts" + text + t, [](V a) {
       const auto [significand, exponent] = parts<decltype(imm)::value>(a);
       return Pair<T>{significand, exponent};
     });
   });
-  table.add<V, V>("scalef_normal" + t, [](V a, V b) { return scalef_normal(moderate(a), moderate(b) * all(T(0.25))); });
+  table.add<V, V>("scalef_normal" + t, [](V a, V b) { return scalef_normal(Moderate(a), Moderate(b) * all(T(0.25))); });
   table.add<V, V>("mul_toward_zero" + t, [](V a, V b) {
-    const auto [head, tail] = mul_toward_zero(moderate(a), moderate(b));
+    const auto [head, tail] = mul_toward_zero(Moderate(a), Moderate(b));
     return Pair<T>{head, tail};
   });
   table.add<V, V, V>("mul_toward_zero with a tail" + t, [](V a, V b, V c) {
-    const auto x = moderate(a);
-    const auto [head, tail] = mul_toward_zero(x, x * moderate(b) * all(T(0x1p-20)), moderate(c));
+    const auto x = Moderate(a);
+    const auto [head, tail] = mul_toward_zero(x, x * Moderate(b) * all(T(0x1p-20)), Moderate(c));
     return Pair<T>{head, tail};
   });
   // The sign of a zero is open.
   table.add<V>("split_floor<4>" + t, [](V a) {
     const auto [sum, rest] =
-        split_floor<4>(select(lt(abs(a), all(T(1))), a, moderate(a)), all(sizeof(T) == 4 ? T(0x1.8p19) : T(0x1.8p48)));
+        split_floor<4>(select(lt(abs(a), all(T(1))), a, Moderate(a)), all(sizeof(T) == 4 ? T(0x1.8p19) : T(0x1.8p48)));
     return Pair<T>{sum, rest + all(T(0))};
   });
-  for_each_immediate<4, 5>(
-      [&](auto imm, const std::string& text) { add_rounded_estimates<decltype(imm)::value, T>(table, text, t); });
+  ForEachImmediate<4, 5>(
+      [&](auto imm, const std::string& text) { AddRoundedEstimates<decltype(imm)::value, T>(table, text, t); });
 }
 
-template <Floating T> void add_floating(Builder& table) {
+template <Floating T> void AddFloating(Builder& table) {
   using V = Vec<T>;
   using U = Vec<UnsignedOf<T>>;
-  const auto t = type_name<T>();
-  add_rounded<T, rn>(table, "<rn>");
-  add_rounded<T, rd>(table, "<rd>");
-  add_rounded<T, ru>(table, "<ru>");
-  add_rounded<T, rz>(table, "<rz>");
-  add_significand<T>(table);
-  add_conditional<T>(table);
+  const auto t = TypeName<T>();
+  AddRounded<T, rn>(table, "<rn>");
+  AddRounded<T, rd>(table, "<rd>");
+  AddRounded<T, ru>(table, "<ru>");
+  AddRounded<T, rz>(table, "<rz>");
+  AddSignificand<T>(table);
+  AddConditional<T>(table);
   table.add_arithmetic<V, V>("operator+" + t, [](V a, V b) { return a + b; });
   table.add_arithmetic<V, V>("operator-" + t, [](V a, V b) { return a - b; });
   table.add_arithmetic<V, V>("operator*" + t, [](V a, V b) { return a * b; });
@@ -245,18 +243,18 @@ template <Floating T> void add_floating(Builder& table) {
   table.add<V>("swap_pairs" + t, [](V a) { return swap_pairs(a); });
   table.add<V>("duplicate_even" + t, [](V a) { return duplicate_even(a); });
   table.add<V>("duplicate_odd" + t, [](V a) { return duplicate_odd(a); });
-  for_immediates_below(std::make_integer_sequence<int, 32>{}, [&](auto imm, const std::string& text) {
+  ForImmediatesBelow(std::make_integer_sequence<int, 32>{}, [&](auto imm, const std::string& text) {
     table.add<V, V>("compare" + text + t, [](V a, V b) { return compare<decltype(imm)::value>(a, b); });
   });
 }
 
 // What every lane type has.
-template <Lane T> void add_common(Builder& table) {
+template <Lane T> void AddCommon(Builder& table) {
   using V = Vec<T>;
   using M = Mask<T>;
   using Index = Vec<SignedOf<T>>;
   using UnsignedIndex = Vec<UnsignedOf<T>>;
-  const auto t = type_name<T>();
+  const auto t = TypeName<T>();
   table.add<const T*>("all" + t, [](const T* p) { return all(*p); });
   table.add<const T*>("load" + t, [](const T* p) { return load(p); });
   table.add<const T*, V, M>("load masked" + t, [](const T* p, V fill, M m) { return load(m, p, fill); });
@@ -320,11 +318,11 @@ template <Lane T> void add_common(Builder& table) {
   });
 }
 
-template <Integer T> void add_shifts(Builder& table) {
+template <Integer T> void AddShifts(Builder& table) {
   using V = Vec<T>;
-  const auto t = type_name<T>();
+  const auto t = TypeName<T>();
   constexpr int width = 8 * sizeof(T);
-  for_each_immediate<0, 1, 5, 16, width - 1, width>([&](auto n, const std::string& text) {
+  ForEachImmediate<0, 1, 5, 16, width - 1, width>([&](auto n, const std::string& text) {
     table.add<V>("shift_left" + text + t, [](V a) { return shift_left<decltype(n)::value>(a); });
     table.add<V>("shift_right" + text + t, [](V a) { return shift_right<decltype(n)::value>(a); });
     table.add<V>("shift_right_arithmetic" + text + t, [](V a) { return shift_right_arithmetic<decltype(n)::value>(a); });
@@ -339,9 +337,9 @@ template <Integer T> void add_shifts(Builder& table) {
                   [](V a, V n) { return shift_right_arithmetic(a, n & all(T{127})); });
 }
 
-template <Integer T> void add_integer(Builder& table) {
+template <Integer T> void AddInteger(Builder& table) {
   using V = Vec<T>;
-  const auto t = type_name<T>();
+  const auto t = TypeName<T>();
   table.add<V>("as_float" + t, [](V a) { return as_float(a); });
   table.add<V>("as_signed" + t, [](V a) { return as_signed(a); });
   table.add<V>("as_unsigned" + t, [](V a) { return as_unsigned(a); });
@@ -357,18 +355,18 @@ template <Integer T> void add_integer(Builder& table) {
   table.add<V, V>("min" + t, [](V a, V b) { return min(a, b); });
   table.add<V, V>("max" + t, [](V a, V b) { return max(a, b); });
   table.add<V>("sign_mask" + t, [](V a) { return sign_mask(a); });
-  add_shifts<T>(table);
-  for_immediates_below(std::make_integer_sequence<int, 8>{}, [&](auto imm, const std::string& text) {
+  AddShifts<T>(table);
+  ForImmediatesBelow(std::make_integer_sequence<int, 8>{}, [&](auto imm, const std::string& text) {
     table.add<V, V>("compare" + text + t, [](V a, V b) { return compare<decltype(imm)::value>(a, b); });
   });
-  for_each_immediate<0x96, 0xF8, 0xFE, 0xFF, 0xE2, 0xD8, 0xCA, 0xB8, 0xEC, 0xEA, 0x78, 0x6C, 0xDE, 0xF6, 0xF2, 0x0F, 0x00, 0x28,
-                     0xD2, 0x1B>([&](auto imm, const std::string& text) {
+  ForEachImmediate<0x96, 0xF8, 0xFE, 0xFF, 0xE2, 0xD8, 0xCA, 0xB8, 0xEC, 0xEA, 0x78, 0x6C, 0xDE, 0xF6, 0xF2, 0x0F, 0x00, 0x28,
+                   0xD2, 0x1B>([&](auto imm, const std::string& text) {
     table.add<V, V, V>("ternary" + text + t, [](V a, V b, V c) { return ternary<decltype(imm)::value>(a, b, c); });
   });
 }
 
 // Operations of one width only, and those between widths.
-void add_conversions(Builder& table) {
+void AddConversions(Builder& table) {
   using F32 = Vec<float>;
   using F64 = Vec<double>;
   using I32 = Vec<int32_t>;
@@ -395,43 +393,43 @@ void add_conversions(Builder& table) {
   table.add<Mask<float>>("high_half", [](Mask<float> m) { return high_half(m); });
 }
 
-template <Floating T> void masked_load(uint32_t mask, const T* from, T* all_lanes) {
+template <Floating T> void MaskedLoad(uint32_t mask, const T* from, T* all_lanes) {
   store(all_lanes, load(mask_of<T>(mask), from, load(all_lanes)));
 }
-template <Floating T> void masked_store(uint32_t mask, T* to, const T* all_lanes) {
+template <Floating T> void MaskedStore(uint32_t mask, T* to, const T* all_lanes) {
   store(mask_of<T>(mask), to, load(all_lanes));
 }
-template <Floating T> void masked_gather(uint32_t mask, const T* base, const SignedOf<T>* index, T* all_lanes) {
+template <Floating T> void MaskedGather(uint32_t mask, const T* base, const SignedOf<T>* index, T* all_lanes) {
   store(all_lanes, gather(mask_of<T>(mask), base, load(index), load(all_lanes)));
 }
 
-OperationTable build() {
+OperationTable Build() {
   Builder table;
-  add_floating<float>(table);
-  add_floating<double>(table);
-  add_common<float>(table);
-  add_common<double>(table);
-  add_common<int32_t>(table);
-  add_common<uint32_t>(table);
-  add_common<int64_t>(table);
-  add_common<uint64_t>(table);
-  add_integer<int32_t>(table);
-  add_integer<uint32_t>(table);
-  add_integer<int64_t>(table);
-  add_integer<uint64_t>(table);
-  add_conversions(table);
-  return {std::move(table.operations), masked_load<float>,   masked_load<double>,  masked_store<float>,
-          masked_store<double>,        masked_gather<float>, masked_gather<double>};
+  AddFloating<float>(table);
+  AddFloating<double>(table);
+  AddCommon<float>(table);
+  AddCommon<double>(table);
+  AddCommon<int32_t>(table);
+  AddCommon<uint32_t>(table);
+  AddCommon<int64_t>(table);
+  AddCommon<uint64_t>(table);
+  AddInteger<int32_t>(table);
+  AddInteger<uint32_t>(table);
+  AddInteger<int64_t>(table);
+  AddInteger<uint64_t>(table);
+  AddConversions(table);
+  return {std::move(table.operations), MaskedLoad<float>,   MaskedLoad<double>,  MaskedStore<float>,
+          MaskedStore<double>,         MaskedGather<float>, MaskedGather<double>};
 }
 
 }  // namespace
 
 #if defined(LUM_AVX512)
-OperationTable Avx512Table() { return build(); }
+OperationTable Avx512Table() { return Build(); }
 #elif defined(LUM_AVX2)
-OperationTable Avx2Table() { return build(); }
+OperationTable Avx2Table() { return Build(); }
 #else
-OperationTable PortableTable() { return build(); }
+OperationTable PortableTable() { return Build(); }
 #endif
 
-}  // namespace lum_test
+}  // namespace lum::test

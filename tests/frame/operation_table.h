@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-namespace lum_test {
+namespace lum::test {
 
 enum class Element { none, f32, f64, integer32, integer64 };
 
@@ -45,4 +45,4 @@ OperationTable Avx512Table();
 OperationTable Avx2Table();
 OperationTable PortableTable();
 
-}  // namespace lum_test
+}  // namespace lum::test

@@ -6,7 +6,7 @@ function(add_operation_table name)
   add_library(${name} OBJECT ${vec_operations_dir}/operation_table.cpp)
   target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/src)
   target_compile_features(${name} PRIVATE cxx_std_20)
-  target_compile_options(${name} PRIVATE -ffp-contract=off -fno-math-errno ${ARGN})
+  target_compile_options(${name} PRIVATE ${LUM_WARNINGS} -ffp-contract=off -fno-math-errno ${ARGN})
 endfunction()
 
 add_executable(vec_operations_test ${vec_operations_dir}/vec_operations_test.cpp ${vec_operations_dir}/operation_inputs.cpp
@@ -14,7 +14,7 @@ add_executable(vec_operations_test ${vec_operations_dir}/vec_operations_test.cpp
 target_include_directories(vec_operations_test PRIVATE ${PROJECT_SOURCE_DIR}/src)
 target_compile_features(vec_operations_test PRIVATE cxx_std_20)
 # The inputs are computed, so these files must not depend on contraction either.
-target_compile_options(vec_operations_test PRIVATE -ffp-contract=off)
+target_compile_options(vec_operations_test PRIVATE ${LUM_WARNINGS} -ffp-contract=off)
 target_compile_definitions(vec_operations_test PRIVATE LUM_SOURCE_DIR="${PROJECT_SOURCE_DIR}")
 
 add_operation_table(operation_table_portable)

@@ -18,7 +18,7 @@
 #include "operation_inputs.h"
 #include "operation_table.h"
 
-namespace lum_test {
+namespace lum::test {
 namespace {
 
 struct LayerTable {
@@ -26,7 +26,7 @@ struct LayerTable {
   OperationTable table;
 };
 // The layers that run here, the portable one first and the instructions themselves, where the processor has them, last.
-const std::vector<LayerTable>& layers() {
+const std::vector<LayerTable>& Layers() {
   static const std::vector<LayerTable> list = [] {
     std::vector<LayerTable> found = {{"portable", PortableTable()}};
 #ifdef LUM_TEST_NATIVE
@@ -37,33 +37,33 @@ const std::vector<LayerTable>& layers() {
   }();
   return list;
 }
-const OperationTable& portable() { return layers().front().table; }
+const OperationTable& Portable() { return Layers().front().table; }
 
-bool is_nan(Element element, uint64_t bits) {
+bool IsNan(Element element, uint64_t bits) {
   return element == Element::f32 ? (bits & 0x7FFFFFFF) > 0x7F800000
                                  : element == Element::f64 && (bits & 0x7FFFFFFFFFFFFFFF) > 0x7FF0000000000000;
 }
-uint64_t quieted(Element element, uint64_t nan) { return nan | (element == Element::f32 ? 0x00400000 : 0x0008000000000000); }
+uint64_t Quieted(Element element, uint64_t nan) { return nan | (element == Element::f32 ? 0x00400000 : 0x0008000000000000); }
 
 // The NaNs among the operands of a lane, quieted.
-std::vector<uint64_t> lane_nans(const Operation& operation, const Operands& operands, int lane) {
+std::vector<uint64_t> LaneNans(const Operation& operation, const Operands& operands, int lane) {
   std::vector<uint64_t> nans;
-  for (std::size_t i = 0; i < operation.operands.size(); ++i) {
+  for (size_t i = 0; i < operation.operands.size(); ++i) {
     const Element element = operation.operands[i];
     if (LaneBytes(element) != LaneBytes(operation.operands[0])) continue;  // has other lanes
     const uint64_t bits = GetLane(operands.vector[i], element, lane);
-    if (is_nan(element, bits)) nans.push_back(quieted(element, bits));
+    if (IsNan(element, bits)) nans.push_back(Quieted(element, bits));
   }
   return nans;
 }
 
 // Where two operands of a lane are NaNs and the result is one of them, puts the first in its place: the order of the operands
 // within an instruction is the compiler's choice.
-void settle_nans(const Operation& operation, const Operands& operands, Outcome& outcome) {
+void SettleNans(const Operation& operation, const Operands& operands, Outcome& outcome) {
   if (!operation.arithmetic) return;
   const Element element = operation.operands[0];
   for (int lane = 0; lane < 64 / LaneBytes(element); ++lane) {
-    const auto nans = lane_nans(operation, operands, lane);
+    const auto nans = LaneNans(operation, operands, lane);
     if (nans.size() < 2) continue;
     for (RawVector& v : outcome.vector)
       for (const uint64_t nan : nans)
@@ -71,74 +71,74 @@ void settle_nans(const Operation& operation, const Operands& operands, Outcome& 
   }
 }
 
-std::string hexadecimal(const unsigned char* bytes, std::size_t count) {
+std::string Hexadecimal(const unsigned char* bytes, size_t count) {
   std::ostringstream text;
-  for (std::size_t i = count; i-- > 0;) text << "0123456789abcdef"[bytes[i] >> 4] << "0123456789abcdef"[bytes[i] & 15];
+  for (size_t i = count; i-- > 0;) text << "0123456789abcdef"[bytes[i] >> 4] << "0123456789abcdef"[bytes[i] & 15];
   return text.str();
 }
-std::string describe(const Operands& operands, const Outcome& got, const Outcome& expected) {
+std::string Describe(const Operands& operands, const Outcome& got, const Outcome& expected) {
   std::ostringstream text;
-  for (const RawVector& v : operands.vector) text << "operand  " << hexadecimal(v.bytes, 64) << '\n';
+  for (const RawVector& v : operands.vector) text << "operand  " << Hexadecimal(v.bytes, 64) << '\n';
   text << "mask     " << std::hex << operands.mask << '\n';
-  for (const RawVector& v : got.vector) text << "got      " << hexadecimal(v.bytes, 64) << '\n';
-  for (const RawVector& v : expected.vector) text << "expected " << hexadecimal(v.bytes, 64) << '\n';
+  for (const RawVector& v : got.vector) text << "got      " << Hexadecimal(v.bytes, 64) << '\n';
+  for (const RawVector& v : expected.vector) text << "expected " << Hexadecimal(v.bytes, 64) << '\n';
   return text.str();
 }
 
-bool same(const Outcome& a, const Outcome& b) { return std::memcmp(&a, &b, sizeof a) == 0; }
+bool Same(const Outcome& a, const Outcome& b) { return std::memcmp(&a, &b, sizeof a) == 0; }
 
 // All layers on the same operands; false, with a failure reported, when one differs from the last.
-bool agree(std::size_t index, const Operands& operands) {
-  const Operation& operation = portable().operations[index];
+bool Agree(size_t index, const Operands& operands) {
+  const Operation& operation = Portable().operations[index];
   Outcome expected;
-  layers().back().table.operations[index].run(operands, expected);
-  settle_nans(operation, operands, expected);
+  Layers().back().table.operations[index].run(operands, expected);
+  SettleNans(operation, operands, expected);
   bool all_same = true;
-  for (std::size_t i = 0; i + 1 < layers().size(); ++i) {
+  for (size_t i = 0; i + 1 < Layers().size(); ++i) {
     Outcome got;
-    layers()[i].table.operations[index].run(operands, got);
-    settle_nans(operation, operands, got);
-    if (same(got, expected)) continue;
-    ADD_FAILURE() << operation.name << " of layer " << layers()[i].name << '\n' << describe(operands, got, expected);
+    Layers()[i].table.operations[index].run(operands, got);
+    SettleNans(operation, operands, got);
+    if (Same(got, expected)) continue;
+    ADD_FAILURE() << operation.name << " of layer " << Layers()[i].name << '\n' << Describe(operands, got, expected);
     all_same = false;
   }
   return all_same;
 }
 
-uint64_t seed_of(const std::string& name, uint64_t salt) {
+uint64_t SeedOf(const std::string& name, uint64_t salt) {
   uint64_t seed = 14695981039346656037u ^ salt;
   for (const char c : name) seed = (seed ^ static_cast<unsigned char>(c)) * 1099511628211u;
   return seed;
 }
 
-bool on_floats(const Operation& operation) {
+bool OnFloats(const Operation& operation) {
   return !operation.operands.empty() && (operation.operands[0] == Element::f32 || operation.operands[0] == Element::f64);
 }
 
 TEST(VecOperations, SpecialValuesAsTheInstruction) {
-  if (layers().size() < 2) GTEST_SKIP() << "this processor has one layer; the recorded outcomes are compared instead";
-  for (std::size_t i = 0; i < portable().operations.size(); ++i) {
-    const Operation& operation = portable().operations[i];
+  if (Layers().size() < 2) GTEST_SKIP() << "this processor has one layer; the recorded outcomes are compared instead";
+  for (size_t i = 0; i < Portable().operations.size(); ++i) {
+    const Operation& operation = Portable().operations[i];
     Operands operands{};
     const uint64_t count = SpecialVectors(operation);
     for (uint64_t index = 0; index < count; ++index) {
       FillSpecials(operation, index, operands);
-      if (!agree(i, operands)) break;
+      if (!Agree(i, operands)) break;
     }
   }
 }
 
 TEST(VecOperations, RandomValuesAsTheInstruction) {
-  if (layers().size() < 2) GTEST_SKIP() << "this processor has one layer; the recorded outcomes are compared instead";
+  if (Layers().size() < 2) GTEST_SKIP() << "this processor has one layer; the recorded outcomes are compared instead";
   uint64_t lanes = 0;
-  for (std::size_t i = 0; i < portable().operations.size(); ++i) {
-    const Operation& operation = portable().operations[i];
-    InputGenerator inputs(seed_of(operation.name, 1));
+  for (size_t i = 0; i < Portable().operations.size(); ++i) {
+    const Operation& operation = Portable().operations[i];
+    InputGenerator inputs(SeedOf(operation.name, 1));
     Operands operands{};
-    const int count = operation.arithmetic ? 6000 : on_floats(operation) ? 1500 : 500;
+    const int count = operation.arithmetic ? 6000 : OnFloats(operation) ? 1500 : 500;
     for (int n = 0; n < count; ++n) {
-      inputs.fill(operation, operands);
-      if (!agree(i, operands)) break;
+      inputs.Fill(operation, operands);
+      if (!Agree(i, operands)) break;
       lanes += operation.operands.empty() || operation.operands[0] == Element::none
                    ? 1
                    : static_cast<uint64_t>(64 / LaneBytes(operation.operands[0]));
@@ -150,17 +150,17 @@ TEST(VecOperations, RandomValuesAsTheInstruction) {
 
 TEST(VecOperations, TablesHaveTheSameEntries) {
   std::set<std::string> names;
-  for (const Operation& operation : portable().operations)
+  for (const Operation& operation : Portable().operations)
     EXPECT_TRUE(names.insert(operation.name).second) << operation.name << " occurs twice";
-  for (const LayerTable& layer : layers()) {
-    ASSERT_EQ(layer.table.operations.size(), portable().operations.size()) << layer.name;
-    for (std::size_t i = 0; i < portable().operations.size(); ++i)
-      EXPECT_EQ(layer.table.operations[i].name, portable().operations[i].name) << layer.name;
+  for (const LayerTable& layer : Layers()) {
+    ASSERT_EQ(layer.table.operations.size(), Portable().operations.size()) << layer.name;
+    for (size_t i = 0; i < Portable().operations.size(); ++i)
+      EXPECT_EQ(layer.table.operations[i].name, Portable().operations[i].name) << layer.name;
   }
 }
 
 // The names of the operations that headers define, in their order.
-std::vector<std::string> defined_operations(std::initializer_list<std::string> headers) {
+std::vector<std::string> DefinedOperations(std::initializer_list<std::string> headers) {
   std::vector<std::string> names;
   const std::regex definition(R"((?:LUM_INLINE|\[\[gnu::noinline\]\]) [^(]*?\b(operator[^ (]+|\w+)\()");
   for (const std::string& header : headers) {
@@ -173,18 +173,18 @@ std::vector<std::string> defined_operations(std::initializer_list<std::string> h
   }
   return names;
 }
-std::vector<std::string> operations_of_layer(const std::string& layer) {
-  return defined_operations({layer + "/base.h", layer + "/arithmetic.h", layer + "/integers.h", layer + "/moves.h"});
+std::vector<std::string> OperationsOfLayer(const std::string& layer) {
+  return DefinedOperations({layer + "/base.h", layer + "/arithmetic.h", layer + "/integers.h", layer + "/moves.h"});
 }
 
 TEST(VecOperations, EveryOperationOfTheVocabularyHasAnEntry) {
   std::set<std::string> tested;
-  for (const Operation& operation : portable().operations) tested.insert(operation.vocabulary);
-  const auto native_names = operations_of_layer("avx512");
+  for (const Operation& operation : Portable().operations) tested.insert(operation.vocabulary);
+  const auto native_names = OperationsOfLayer("avx512");
   ASSERT_GE(native_names.size(), 100u);
   for (const auto& name : native_names) EXPECT_TRUE(tested.count(name)) << name << " has no entry in the table";
   tested.insert("sealed");  // changes nothing
-  for (const auto& name : defined_operations({"vec_shared.h"})) EXPECT_TRUE(tested.count(name)) << name << " has no entry";
+  for (const auto& name : DefinedOperations({"vec_shared.h"})) EXPECT_TRUE(tested.count(name)) << name << " has no entry";
 }
 
 TEST(VecOperations, AllLayersDefineTheSameOperationsInTheSameOrder) {
@@ -207,9 +207,9 @@ TEST(VecOperations, AllLayersDefineTheSameOperationsInTheSameOrder) {
                                          "JoinedTable"};
   for (const char* layer : {"portable", "avx2"}) {
     std::vector<std::string> names;
-    for (const auto& name : operations_of_layer(layer))
+    for (const auto& name : OperationsOfLayer(layer))
       if (!helpers.count(name)) names.push_back(name);
-    EXPECT_EQ(names, operations_of_layer("avx512")) << layer;
+    EXPECT_EQ(names, OperationsOfLayer("avx512")) << layer;
   }
 }
 
@@ -220,7 +220,7 @@ TEST(VecOperations, TheVocabularyListsEveryOperation) {
   for (std::string line; std::getline(file, line) && line.starts_with("//");)
     for (auto i = std::sregex_iterator(line.begin(), line.end(), word); i != std::sregex_iterator(); ++i)
       listed.insert(i->str());
-  for (const auto& names : {operations_of_layer("avx512"), defined_operations({"vec_shared.h"})})
+  for (const auto& names : {OperationsOfLayer("avx512"), DefinedOperations({"vec_shared.h"})})
     for (const auto& name : names)
       EXPECT_TRUE(name.starts_with("operator") || listed.count(name)) << name << " is not in frame/vec.h";
 }
@@ -237,26 +237,26 @@ struct Record {
   bool operator==(const Record&) const = default;
 };
 
-std::string in_full(const Outcome& outcome) {
-  std::string text = hexadecimal(outcome.vector[0].bytes, 64);
+std::string InFull(const Outcome& outcome) {
+  std::string text = Hexadecimal(outcome.vector[0].bytes, 64);
   text.erase(0, std::min(text.find_first_not_of('0'), text.size() - 1));
   return text;
 }
 
-Record record_of(const Operation& operation) {
+Record RecordOf(const Operation& operation) {
   Record record;
-  InputGenerator inputs(seed_of(operation.name, 2));
-  std::mt19937_64 choice(seed_of(operation.name, 3));
+  InputGenerator inputs(SeedOf(operation.name, 2));
+  std::mt19937_64 choice(SeedOf(operation.name, 3));
   Operands operands{};
   for (int block = 0; block < recorded_blocks; ++block) {
     uint64_t checksum = 14695981039346656037u;
     for (int n = 0; n < vectors_in_block; ++n) {
-      if (n % 2 == 0) inputs.fill(operation, operands);
+      if (n % 2 == 0) inputs.Fill(operation, operands);
       else FillSpecials(operation, choice() % SpecialVectors(operation), operands);
       Outcome outcome;
       operation.run(operands, outcome);
-      settle_nans(operation, operands, outcome);
-      if (block * vectors_in_block + n < outcomes_in_full) record.outcomes.push_back(in_full(outcome));
+      SettleNans(operation, operands, outcome);
+      if (block * vectors_in_block + n < outcomes_in_full) record.outcomes.push_back(InFull(outcome));
       for (const RawVector& v : outcome.vector)
         for (const unsigned char byte : v.bytes) checksum = (checksum ^ byte) * 1099511628211u;
     }
@@ -265,12 +265,12 @@ Record record_of(const Operation& operation) {
   return record;
 }
 
-void write_records(const OperationTable& table, const std::string& path) {
+void WriteRecords(const OperationTable& table, const std::string& path) {
   std::ofstream file(path);
   file << "# Written by `LUM_RECORD=FILE build/dev/tests/vec_operations_test`: what each operation gives, outcomes and "
           "checksums.\n";
   for (const Operation& operation : table.operations) {
-    const Record record = record_of(operation);
+    const Record record = RecordOf(operation);
     file << operation.name << '\n' << std::hex;
     for (const auto& outcome : record.outcomes) file << "  " << outcome << '\n';
     file << ' ';
@@ -281,7 +281,7 @@ void write_records(const OperationTable& table, const std::string& path) {
   ASSERT_TRUE(file) << "could not write " << path;
 }
 
-std::map<std::string, Record> read_records(const std::string& path) {
+std::map<std::string, Record> ReadRecords(const std::string& path) {
   std::map<std::string, Record> records;
   std::ifstream file(path);
   EXPECT_TRUE(file) << "could not read " << path;
@@ -299,24 +299,24 @@ std::map<std::string, Record> read_records(const std::string& path) {
 
 const std::string record_path = std::string(LUM_SOURCE_DIR) + "/tests/frame/recorded_operations.txt";
 
-void compare_with_records(const OperationTable& table) {
-  const auto records = read_records(record_path);
+void CompareWithRecords(const OperationTable& table) {
+  const auto records = ReadRecords(record_path);
   EXPECT_EQ(records.size(), table.operations.size());
   for (const Operation& operation : table.operations) {
     const auto expected = records.find(operation.name);
     ASSERT_NE(expected, records.end()) << operation.name << " is not in the record";
-    const Record got = record_of(operation);
-    EXPECT_EQ(expected->second.checksums.size(), static_cast<std::size_t>(recorded_blocks));
+    const Record got = RecordOf(operation);
+    EXPECT_EQ(expected->second.checksums.size(), static_cast<size_t>(recorded_blocks));
     EXPECT_EQ(got.outcomes, expected->second.outcomes) << operation.name;
     EXPECT_EQ(got.checksums, expected->second.checksums) << operation.name;
   }
 }
 
 TEST(VecOperations, OutcomesAsRecorded) {
-  if (const char* path = std::getenv("LUM_RECORD")) write_records(layers().back().table, path);
-  for (const LayerTable& layer : layers()) {
+  if (const char* path = std::getenv("LUM_RECORD")) WriteRecords(Layers().back().table, path);
+  for (const LayerTable& layer : Layers()) {
     SCOPED_TRACE(layer.name);
-    compare_with_records(layer.table);
+    CompareWithRecords(layer.table);
   }
 }
 
@@ -324,17 +324,17 @@ TEST(VecOperations, OutcomesAsRecorded) {
 class GuardedPage : public testing::Test {
  protected:
   void SetUp() override {
-    size_ = static_cast<std::size_t>(sysconf(_SC_PAGESIZE));
+    size_ = static_cast<size_t>(sysconf(_SC_PAGESIZE));
     pages_ = static_cast<unsigned char*>(mmap(nullptr, 3 * size_, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0));
     ASSERT_NE(pages_, MAP_FAILED);
     ASSERT_EQ(mprotect(begin(), size_, PROT_READ | PROT_WRITE), 0);
-    for (std::size_t i = 0; i < size_; ++i) begin()[i] = static_cast<unsigned char>(37 * i + 11);
+    for (size_t i = 0; i < size_; ++i) begin()[i] = static_cast<unsigned char>(37 * i + 11);
   }
   void TearDown() override { munmap(pages_, 3 * size_); }
   unsigned char* begin() { return pages_ + size_; }
   unsigned char* end() { return begin() + size_; }
 
-  template <class T> void masks_at_both_ends(void (*load)(uint32_t, const T*, T*), void (*store)(uint32_t, T*, const T*)) {
+  template <class T> void MasksAtBothEnds(void (*load)(uint32_t, const T*, T*), void (*store)(uint32_t, T*, const T*)) {
     constexpr int lanes = 64 / static_cast<int>(sizeof(T));
     for (int count = 0; count <= lanes; ++count) {
       const uint32_t low = (1u << count) - 1;
@@ -348,26 +348,26 @@ class GuardedPage : public testing::Test {
   template <class T>
   void check(void (*load)(uint32_t, const T*, T*), void (*store)(uint32_t, T*, const T*), unsigned char* place, uint32_t mask,
              uint32_t holes) {
-    constexpr std::size_t lanes = 64 / sizeof(T);
+    constexpr size_t lanes = 64 / sizeof(T);
     T values[lanes], old[lanes];
-    for (std::size_t i = 0; i < lanes; ++i) old[i] = values[i] = static_cast<T>(100 + i);
+    for (size_t i = 0; i < lanes; ++i) old[i] = values[i] = static_cast<T>(100 + i);
     const std::vector<unsigned char> before(begin(), end());
     T* const p = reinterpret_cast<T*>(place);
     load(mask & holes, p, values);
-    for (std::size_t i = 0; i < lanes; ++i) {
+    for (size_t i = 0; i < lanes; ++i) {
       const bool active = (mask & holes) >> i & 1;
       EXPECT_EQ(std::memcmp(&values[i], active ? static_cast<const void*>(p + i) : &old[i], sizeof(T)), 0);
     }
     store(mask & holes, p, old);
-    for (std::size_t i = 0; i < lanes; ++i) {
+    for (size_t i = 0; i < lanes; ++i) {
       if (!(mask >> i & 1)) continue;
       const bool active = holes >> i & 1;
-      const auto offset = static_cast<std::size_t>(reinterpret_cast<unsigned char*>(p + i) - begin());
+      const auto offset = static_cast<size_t>(reinterpret_cast<unsigned char*>(p + i) - begin());
       EXPECT_EQ(std::memcmp(p + i, active ? static_cast<const void*>(&old[i]) : &before[offset], sizeof(T)), 0);
     }
     std::memcpy(begin(), before.data(), size_);
   }
-  template <class T, class Index> void gather_beside_the_page(void (*gather)(uint32_t, const T*, const Index*, T*)) {
+  template <class T, class Index> void GatherBesideThePage(void (*gather)(uint32_t, const T*, const Index*, T*)) {
     constexpr int lanes = 64 / static_cast<int>(sizeof(T));
     T result[lanes];
     Index index[lanes];
@@ -382,32 +382,32 @@ class GuardedPage : public testing::Test {
       }
     }
   }
-  void every_masked_operation(const OperationTable& table) {
-    masks_at_both_ends<float>(table.masked_load_f32, table.masked_store_f32);
-    masks_at_both_ends<double>(table.masked_load_f64, table.masked_store_f64);
-    gather_beside_the_page<float>(table.masked_gather_f32);
-    gather_beside_the_page<double>(table.masked_gather_f64);
+  void EveryMaskedOperation(const OperationTable& table) {
+    MasksAtBothEnds<float>(table.masked_load_f32, table.masked_store_f32);
+    MasksAtBothEnds<double>(table.masked_load_f64, table.masked_store_f64);
+    GatherBesideThePage<float>(table.masked_gather_f32);
+    GatherBesideThePage<double>(table.masked_gather_f64);
   }
 
  private:
-  std::size_t size_ = 0;
+  size_t size_ = 0;
   unsigned char* pages_ = nullptr;
 };
 
 TEST_F(GuardedPage, OnlyLanesOfTheMaskAreTouched) {
-  for (const LayerTable& layer : layers()) {
+  for (const LayerTable& layer : Layers()) {
     SCOPED_TRACE(layer.name);
-    every_masked_operation(layer.table);
+    EveryMaskedOperation(layer.table);
   }
 }
 
 // All 2^32 floats through one entry of a layer's table and of the last one's, on two threads; gives the number of vectors that
 // differ.
-uint64_t differences_over_all_floats(const LayerTable& layer, const std::string& name) {
-  std::size_t index = 0;
-  while (portable().operations[index].name != name) ++index;
+uint64_t DifferencesOverAllFloats(const LayerTable& layer, const std::string& name) {
+  size_t index = 0;
+  while (Portable().operations[index].name != name) ++index;
   const auto layer_run = layer.table.operations[index].run;
-  const auto last_run = layers().back().table.operations[index].run;
+  const auto last_run = Layers().back().table.operations[index].run;
   std::atomic<uint64_t> differences{0};
   const auto half = [&](uint64_t first, uint64_t last) {
     Operands operands{};
@@ -419,7 +419,7 @@ uint64_t differences_over_all_floats(const LayerTable& layer, const std::string&
       }
       layer_run(operands, got);
       last_run(operands, expected);
-      if (!same(got, expected)) ++differences;
+      if (!Same(got, expected)) ++differences;
     }
   };
   std::thread other(half, 0, uint64_t{1} << 31);
@@ -430,12 +430,12 @@ uint64_t differences_over_all_floats(const LayerTable& layer, const std::string&
 
 TEST(VecOperations, ReciprocalEstimatesOfAllFloats) {
   if (!std::getenv("LUM_EXHAUSTIVE")) GTEST_SKIP() << "takes minutes: set LUM_EXHAUSTIVE=1";
-  if (layers().back().name != "avx512") GTEST_SKIP() << "this processor has no AVX-512";
-  for (std::size_t i = 0; i + 1 < layers().size(); ++i) {
-    EXPECT_EQ(differences_over_all_floats(layers()[i], "rcp14 f32"), 0u) << layers()[i].name;
-    EXPECT_EQ(differences_over_all_floats(layers()[i], "rsqrt14 f32"), 0u) << layers()[i].name;
+  if (Layers().back().name != "avx512") GTEST_SKIP() << "this processor has no AVX-512";
+  for (size_t i = 0; i + 1 < Layers().size(); ++i) {
+    EXPECT_EQ(DifferencesOverAllFloats(Layers()[i], "rcp14 f32"), 0u) << Layers()[i].name;
+    EXPECT_EQ(DifferencesOverAllFloats(Layers()[i], "rsqrt14 f32"), 0u) << Layers()[i].name;
   }
 }
 
 }  // namespace
-}  // namespace lum_test
+}  // namespace lum::test
