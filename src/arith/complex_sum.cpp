@@ -21,6 +21,12 @@ template <class T> LUM_INLINE Mask<T> Infinite(Vec<T> x) { return fpclass<classe
 // Components that are infinite or NaN.
 template <class T> LUM_INLINE Mask<T> NotFinite(Vec<T> x) { return fpclass<classes::nonfinite>(x); }
 
+// Numbers with a component of one of the classes.
+template <int classes, class T> LUM_INLINE Mask<T> InAnyPart(Interleaved<T> packed) {
+  const auto z = split(packed);
+  return fpclass<classes>(z.re) | fpclass<classes>(z.im);
+}
+
 struct Plus {
   template <class T> static LUM_INLINE Vec<T> Of(Vec<T> a, Vec<T> b) { return SumInOrder(a, b); }
 };
@@ -44,6 +50,12 @@ template <class E, class Operation> struct SumKernel : Kernel<E> {
   static LumStatus LaneRoutine(const E& a, const E& b, const E& sum) {
     return HasInfinity(sum) && !HasInfinity(a) && !HasInfinity(b) ? lumStsOverflow : lumStsOk;
   }
+  static constexpr bool second_is_short = true;
+  static LUM_INLINE Finished<E> SecondPath(Interleaved<T> a, Interleaved<T> b, const Lanes<E, Refused>& lanes) {
+    const auto overflows =
+        InAnyPart<classes::infinity>(lanes.value) & ~InAnyPart<classes::infinity>(a) & ~InAnyPart<classes::infinity>(b);
+    return {lanes.value, mask_of<T>(0), {.overflow = overflows}};
+  }
 };
 
 // An infinity, a NaN or a zero among the inputs keeps Sub of doubles from reporting.
@@ -60,6 +72,13 @@ struct SubDoubles : SumKernel<Lum64fc, Minus> {
   }
   static LumStatus LaneRoutine(const Lum64fc& a, const Lum64fc& b, const Lum64fc&) {
     return IsOrdinary(a.re) && IsOrdinary(a.im) && IsOrdinary(b.re) && IsOrdinary(b.im) ? lumStsOverflow : lumStsOk;
+  }
+  static LUM_INLINE Finished<Lum64fc> SecondPath(Interleaved<Lum64f> a, Interleaved<Lum64f> b,
+                                                 const Lanes<Lum64fc, Refused>& lanes) {
+    constexpr int not_ordinary = classes::nonfinite | classes::zero;
+    const auto overflows =
+        InAnyPart<classes::infinity>(lanes.value) & ~InAnyPart<not_ordinary>(a) & ~InAnyPart<not_ordinary>(b);
+    return {lanes.value, mask_of<Lum64f>(0), {.overflow = overflows}};
   }
 };
 
