@@ -48,15 +48,25 @@ inline const double* TailRow(double t) {
 }
 inline double TailEntry(const double* row, size_t column) { return row[column]; }
 
+// The columns, of a vector each.
+inline constexpr auto tail_columns = [] {
+  static_assert(tail_row_count <= lanes_of<Lum64f>);
+  Table<Lum64f, tail_row_size * lanes_of<Lum64f>> columns{};
+  for (size_t i = 0; i < tail_rows.size; ++i)
+    columns.entries[i % tail_row_size * lanes_of<Lum64f> + i / tail_row_size] = tail_rows.entries[i];
+  return columns;
+}();
 LUM_INLINE Vec<uint64_t> TailRow(Vec<Lum64f> t) {
   auto row = all(uint64_t{0});
   for (size_t i = 0; i + 1 < tail_row_count; ++i) {
     const auto is_beyond = mask_cast<uint64_t>(lt(all(tail_rows.entries[i * tail_row_size]), t));
-    row = row + zero_unless(is_beyond, all(uint64_t{tail_row_size}));
+    row = row + zero_unless(is_beyond, all(uint64_t{1}));
   }
   return row;
 }
-LUM_INLINE Vec<Lum64f> TailEntry(Vec<uint64_t> row, size_t column) { return gather<Lum64f>(tail_rows + column, row); }
+LUM_INLINE Vec<Lum64f> TailEntry(Vec<uint64_t> row, size_t column) {
+  return permute(load(tail_columns + column * lanes_of<Lum64f>), row);
+}
 
 // ---- The far tails
 
