@@ -47,7 +47,9 @@ loop* is the time of a loop over the standard library's function over ours. *flo
 processor's execution ports alone (llvm-mca, Ice Lake server model, in core cycles; the time stamp counter runs at another
 frequency).
 
-Zeros, infinities and other special arguments have [a page of their own](special-arguments.md).
+These are the figures of a processor with AVX-512. One with AVX2 alone takes [the layer for it](performance-a2.md), mostly two to
+three times as long; an older one [the portable layer](performance-p0.md), which is there for its bits and is slower than a loop over
+the standard library. Zeros, infinities and other special arguments have [a page of their own](special-arguments.md).
 
 Measured on {machine}. To repeat: `./run bench` (or `./run bench Exp`); `./run bench --compare BUILD Exp` sets two builds side
 by side. [data/performance.csv](data/performance.csv) has all figures."""

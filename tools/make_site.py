@@ -22,7 +22,7 @@ SECTIONS = [
     ("guide", "Guide", "How to use the library from each language.",
      ["docs/using", "docs/cpp", "docs/python", "docs/tool", "docs/faq", "examples/README"]),
     ("functions", "Functions", "What each function computes, how exact and how fast it is.",
-     ["docs/reference", "docs/names", "docs/accuracy", "docs/properties", "docs/performance", "docs/special-arguments", *FAMILIES]),
+     ["docs/reference", "docs/names", "docs/accuracy", "docs/properties", "docs/performance", "docs/performance-a2", "docs/performance-p0", "docs/special-arguments", *FAMILIES]),
     ("api", "Interfaces", "The functions as C, C++ and Python declare them.", ["api/c", "api/cpp", "api/python"]),
     ("develop", "Development", "How it is built and why it works.",
      ["docs/architecture", "docs/adding-a-function", "CONTRIBUTING", "CHANGELOG", *NOTES]),
