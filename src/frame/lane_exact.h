@@ -14,7 +14,7 @@ struct Unpacked {
   int exponent;
 };
 // For x finite and not zero; the significand has its leading bit at the place of the hidden bit.
-template <Floating T> inline Unpacked unpack(T x) {
+template <Floating T> constexpr Unpacked unpack(T x) {
   using F = Format<T>;
   const uint64_t b = to_bits(magnitude(x));
   if (b >= F::hidden)
@@ -23,7 +23,7 @@ template <Floating T> inline Unpacked unpack(T x) {
   return {b << shift, 1 - F::bias - F::fraction_bits - shift};
 }
 
-inline int leading_bit(Wide z) {
+constexpr int leading_bit(Wide z) {
   const auto high = static_cast<uint64_t>(z >> 64);
   return high ? 127 - std::countl_zero(high) : 63 - std::countl_zero(static_cast<uint64_t>(z));
 }
@@ -69,7 +69,7 @@ template <int R, Floating T> inline T round_pack(bool negative, Wide z, int expo
 }
 
 // x moved right by n places; the lowest bit of the result is also set when a set bit is lost.
-inline Wide shift_right_keeping_a_trace(Wide x, int n) {
+constexpr Wide shift_right_keeping_a_trace(Wide x, int n) {
   if (n == 0) return x;
   if (n > 127) return x != 0;
   const Wide lost = x & ((Wide{1} << n) - 1);

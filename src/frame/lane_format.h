@@ -23,9 +23,9 @@ template <Floating T> struct Format {
   static constexpr Bits one = static_cast<Bits>(bias) << fraction_bits;
 };
 
-template <Floating T> LUM_INLINE UnsignedOf<T> to_bits(T x) { return std::bit_cast<UnsignedOf<T>>(x); }
-template <Floating T> LUM_INLINE T from_bits(UnsignedOf<T> b) { return std::bit_cast<T>(b); }
-template <Floating T> LUM_INLINE T magnitude(T x) { return from_bits<T>(to_bits(x) & ~Format<T>::sign); }
+template <Floating T> LUM_INLINE constexpr UnsignedOf<T> to_bits(T x) { return std::bit_cast<UnsignedOf<T>>(x); }
+template <Floating T> LUM_INLINE constexpr T from_bits(UnsignedOf<T> b) { return std::bit_cast<T>(b); }
+template <Floating T> LUM_INLINE constexpr T magnitude(T x) { return from_bits<T>(to_bits(x) & ~Format<T>::sign); }
 // 2^n, for n in the range of normal numbers.
 template <Floating T> LUM_INLINE constexpr T power_of_two(int n) {
   using F = Format<T>;

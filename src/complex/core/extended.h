@@ -8,16 +8,20 @@
 
 #include <limits>
 
-#include "complex/core/soft_extended.h"
 #include "frame/types.h"
+
+#if __LDBL_MANT_DIG__ != 64 || defined(LUM_SOFT_EXTENDED)
+#define LUM_EXTENDED_IS_SOFT
+#include "complex/core/soft_extended.h"
+#endif
 
 namespace lum::inline LUM_LAYER {
 
-#if __LDBL_MANT_DIG__ == 64 && !defined(LUM_SOFT_EXTENDED)
+#ifdef LUM_EXTENDED_IS_SOFT
+using Extended = SoftExtended;
+#else
 using Extended = long double;
 inline Extended magnitude(Extended x) { return __builtin_fabsl(x); }
-#else
-using Extended = SoftExtended;
 #endif
 using ExtendedLimits = std::numeric_limits<Extended>;
 static_assert(ExtendedLimits::digits == 64 && ExtendedLimits::max_exponent == 16384);

@@ -9,15 +9,15 @@
 #include <limits>
 #include <type_traits>
 
-#include "frame/types.h"
+#include "frame/lane_exact.h"
 
 namespace lum::inline LUM_LAYER {
 
 class SoftExtended {
  public:
   constexpr SoftExtended() = default;
-  constexpr SoftExtended(double x) { *this = FromBinary(std::bit_cast<uint64_t>(x), 52, 11); }
-  constexpr SoftExtended(float x) { *this = FromBinary(std::bit_cast<uint32_t>(x), 23, 8); }
+  constexpr SoftExtended(double x) { *this = FromBinary(x); }
+  constexpr SoftExtended(float x) { *this = FromBinary(x); }
   template <std::integral T> constexpr SoftExtended(T n) {
     const bool negative = n < 0;
     const auto size = negative ? ~static_cast<uint64_t>(n) + 1 : static_cast<uint64_t>(n);
@@ -29,8 +29,8 @@ class SoftExtended {
     *this = SoftExtended{head} + SoftExtended{static_cast<double>(x - head)};
   }
 
-  constexpr explicit operator double() const { return std::bit_cast<double>(ToBinary<uint64_t>(52, 11)); }
-  constexpr explicit operator float() const { return std::bit_cast<float>(ToBinary<uint32_t>(23, 8)); }
+  explicit operator double() const { return ToBinary<double>(); }
+  explicit operator float() const { return ToBinary<float>(); }
   // Toward zero; given a number in the range of the type.
   template <std::integral T> constexpr explicit operator T() const {
     const int shift = bias + 63 - exponent();
@@ -74,15 +74,14 @@ class SoftExtended {
     if (a.is_nan() || b.is_nan()) return false;
     return (a.is_zero() && b.is_zero()) || (a.upper_ == b.upper_ && a.significand_ == b.significand_);
   }
-  friend constexpr bool operator<(SoftExtended a, SoftExtended b) { return Ordered(a, b) && a.key() < b.key(); }
-  friend constexpr bool operator<=(SoftExtended a, SoftExtended b) { return Ordered(a, b) && a.key() <= b.key(); }
+  friend constexpr bool operator<(SoftExtended a, SoftExtended b) { return Ordered(a, b) && IsBelow(a, b); }
+  friend constexpr bool operator<=(SoftExtended a, SoftExtended b) { return Ordered(a, b) && !IsBelow(b, a); }
   friend constexpr bool operator>(SoftExtended a, SoftExtended b) { return b < a; }
   friend constexpr bool operator>=(SoftExtended a, SoftExtended b) { return b <= a; }
 
  private:
   friend std::numeric_limits<SoftExtended>;
-  __extension__ using Wide = unsigned __int128;
-  __extension__ using SignedWide = __int128;
+  using Wide = lane::Wide;
   static constexpr int bias = 0x3fff, special = 0x7fff;
   static constexpr uint64_t leading = uint64_t{1} << 63, quiet = uint64_t{1} << 62;
 
@@ -121,28 +120,22 @@ class SoftExtended {
     const int shift = std::countl_zero(significand_);
     return {(exponent() == 0 ? 1 : exponent()) - shift, significand_ << shift};
   }
-  // Grows with the number.
-  constexpr SignedWide key() const {
-    const auto size = static_cast<SignedWide>(Wide{static_cast<uint64_t>(exponent())} << 64 | significand_);
-    return is_negative() ? -size : size;
+  // Whether a < b of numbers that are ordered.
+  static constexpr bool IsBelow(SoftExtended a, SoftExtended b) {
+    if (a.is_zero() && b.is_zero()) return false;
+    if (a.is_negative() != b.is_negative()) return a.is_negative();
+    if (a.is_negative()) return IsBelow(-b, -a);
+    return a.upper_ != b.upper_ ? a.upper_ < b.upper_ : a.significand_ < b.significand_;
   }
   static constexpr bool Ordered(SoftExtended a, SoftExtended b) { return !a.is_nan() && !b.is_nan(); }
 
-  // x moved right by n places; the lowest bit of the result is also set when a set bit is lost.
-  static constexpr Wide ShiftedRight(Wide x, int n) {
-    if (n == 0) return x;
-    if (n > 127) return x != 0 ? 1 : 0;
-    return x >> n | ((x << (128 - n)) != 0 ? 1 : 0);
-  }
-
   // +-x 2^(exponent - bias - 127), rounded once; x is not zero, and its lowest bit may stand for a part below it.
   static constexpr SoftExtended Normalised(bool negative, int exponent, Wide x) {
-    const auto high = static_cast<uint64_t>(x >> 64);
-    const int shift = high != 0 ? std::countl_zero(high) : 64 + std::countl_zero(static_cast<uint64_t>(x));
+    const int shift = 127 - lane::leading_bit(x);
     x <<= shift;
     exponent -= shift;
     if (exponent <= 0) {
-      x = ShiftedRight(x, 1 - exponent);
+      x = lane::shift_right_keeping_a_trace(x, 1 - exponent);
       exponent = 0;
     }
     auto kept = static_cast<uint64_t>(x >> 64);
@@ -174,48 +167,33 @@ class SoftExtended {
       negative = b.is_negative();
     }
     // One place above is free for a carry; below, the smaller one leaves a trace.
-    const Wide upper = Wide{x.significand} << 63, lower = ShiftedRight(Wide{y.significand} << 63, x.exponent - y.exponent);
+    const Wide upper = Wide{x.significand} << 63,
+               lower = lane::shift_right_keeping_a_trace(Wide{y.significand} << 63, x.exponent - y.exponent);
     const Wide sum = differ ? upper - lower : upper + lower;
     return sum == 0 ? Zero(false) : Normalised(negative, x.exponent + 1, sum);
   }
 
-  // From the bits of a format with a hidden leading bit, exactly; a NaN becomes quiet.
-  static constexpr SoftExtended FromBinary(uint64_t bits, int fraction_bits, int exponent_bits) {
-    const uint64_t field = bits >> fraction_bits & ((uint64_t{1} << exponent_bits) - 1);
-    const uint64_t fraction = bits << (63 - fraction_bits) & (leading - 1);
-    const bool negative = bits >> (fraction_bits + exponent_bits) != 0;
-    const int offset = bias - ((1 << (exponent_bits - 1)) - 1);
-    if (field == (uint64_t{1} << exponent_bits) - 1)
-      return Packed(negative, special, leading | fraction | (fraction != 0 ? quiet : 0));
-    if (field != 0) return Packed(negative, static_cast<int>(field) + offset, leading | fraction);
-    return fraction == 0 ? Zero(negative) : Normalised(negative, 1 + offset, Wide{fraction} << 64);
+  // Exactly; a NaN becomes quiet.
+  template <Floating T> static constexpr SoftExtended FromBinary(T x) {
+    using F = lane::Format<T>;
+    const bool negative = (lane::to_bits(x) & F::sign) != 0;
+    const auto size = lane::to_bits(lane::magnitude(x));
+    if (size == 0) return Zero(negative);
+    if (size == F::infinity) return Infinity(negative);
+    if (size > F::infinity) return Packed(negative, special, leading | quiet | uint64_t{size} << (63 - F::fraction_bits));
+    const auto [significand, exponent] = lane::unpack(x);
+    return Normalised(negative, exponent + bias + 127, significand);
   }
-
-  // The bits of the nearest number of such a format.
-  template <class Bits> constexpr Bits ToBinary(int fraction_bits, int exponent_bits) const {
-    const int largest_field = (1 << exponent_bits) - 1;
-    const Bits sign = static_cast<Bits>(is_negative() ? Bits{1} << (fraction_bits + exponent_bits) : 0);
-    const Bits infinity = static_cast<Bits>(static_cast<Bits>(largest_field) << fraction_bits);
-    const int dropped = 63 - fraction_bits;
-    if (is_nan()) return static_cast<Bits>(sign | infinity | static_cast<Bits>((significand_ | quiet) << 1 >> (dropped + 1)));
-    if (is_infinite()) return sign | infinity;
-    if (is_zero()) return sign;
-    const Unpacked x = unpacked();
-    int field = x.exponent - bias + ((1 << (exponent_bits - 1)) - 1);
-    int shift = dropped;
-    if (field <= 0) {
-      shift += 1 - field;
-      field = 1;
-    }
-    if (field >= largest_field) return sign | infinity;
-    const Wide kept = shift > 65 ? Wide{0} : Wide{x.significand} >> shift;
-    const Wide rest = shift > 65 ? Wide{1} : Wide{x.significand} & ((Wide{1} << shift) - 1);
-    const Wide half = Wide{1} << (shift > 65 ? 65 : shift - 1);
-    const bool up = rest > half || (rest == half && (kept & 1) != 0);
-    // The leading bit of kept, where it has one, carries into the field, and so does a significand rounded up to a power of
-    // two.
-    return static_cast<Bits>(
-        sign | ((static_cast<Bits>(field - 1) << fraction_bits) + static_cast<Bits>(kept) + static_cast<Bits>(up ? 1 : 0)));
+  template <Floating T> T ToBinary() const {
+    using F = lane::Format<T>;
+    using Bits = typename F::Bits;
+    const Bits sign = is_negative() ? F::sign : 0;
+    if (is_nan())
+      return lane::from_bits<T>(sign | F::infinity | F::quiet |
+                                static_cast<Bits>(significand_ << 1 >> (64 - F::fraction_bits)));
+    if (is_infinite()) return lane::from_bits<T>(sign | F::infinity);
+    if (is_zero()) return lane::from_bits<T>(sign);
+    return lane::round_pack<rn, T>(is_negative(), significand_, (exponent() == 0 ? 1 : exponent()) - bias - 63);
   }
 
   uint64_t significand_ = 0;
