@@ -14,13 +14,7 @@
 
 namespace lum::inline LUM_LAYER::erf {
 
-// ---- The operations and lookups of scalars, and those of vectors that have another form
-
-inline double negate(double a) { return -a; }
-inline double div(double a, double b) { return a / b; }
-inline double sqrt(double a) { return __builtin_sqrt(a); }
-inline double fma(double a, double b, double c) { return scalar_fma(a, b, c); }
-inline double fnma(double a, double b, double c) { return scalar_fma(-a, b, c); }
+// ---- Lookups, which scalars and vectors make in different ways
 
 // The steps of the scalar form.
 LUM_INLINE explog::LnParts<Vec<Lum64f>> SplitLn(Vec<Lum64f> x) {

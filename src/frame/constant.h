@@ -3,6 +3,7 @@
 
 #include <type_traits>
 
+#include "frame/scalar_fma.h"
 #include "frame/vec.h"
 
 namespace lum::inline LUM_LAYER {
@@ -12,6 +13,13 @@ template <class V, class T> LUM_INLINE V Constant(T c) {
   if constexpr (std::is_same_v<V, T>) return c;
   else return all(c);
 }
+
+// Operations that vectors have as functions.
+inline double negate(double a) { return -a; }
+inline double div(double a, double b) { return a / b; }
+inline double sqrt(double a) { return __builtin_sqrt(a); }
+inline double fma(double a, double b, double c) { return scalar_fma(a, b, c); }
+inline double fnma(double a, double b, double c) { return scalar_fma(-a, b, c); }
 
 // c0 + x (c1 + x (c2 + ...)), two operations a coefficient, each rounded: the steps of lane routines.
 template <class V, class T, size_t n> LUM_INLINE V unfused_horner(V x, const Polynomial<T, n>& p) {

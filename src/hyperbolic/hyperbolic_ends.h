@@ -11,14 +11,10 @@ namespace lum::inline LUM_LAYER::hyperbolic {
 
 // e^m / 2.
 LUM_INLINE Vec<Lum64f> HalfExponential(Vec<Lum64f> m) {
-  constexpr auto shifter = rounding_shifter<Lum64f>();
-  const auto shifted = m * all(64 * numbers::log2_e<Lum64f>) + all(shifter);
-  const auto n = shifted - all(shifter);
-  const auto q = (m - n * all(numbers::ln2_short<Lum64f> / 64)) - n * all(numbers::ln2_short_tail<Lum64f> / 64);
+  const auto [shifted, k, u] = explog::ExpDoubleReduced(m);
   const auto i = shift_left<1>(bits(shifted) & all(uint64_t{63}));
   const auto hi = gather<Lum64f>(exp2_pairs, i), lo = gather<Lum64f>(exp2_pairs + 1, i);
-  const auto p = q + q * q * unfused_horner(q, explog::exp_routine_64f);
-  return scalef(hi + (hi * p + lo), fma(n, all(1.0 / 64), all(-1.0)));  // scalef takes the floor of the exponent
+  return scalef(hi + (hi * u + lo), fma(k, all(1.0 / 64), all(-1.0)));  // scalef takes the floor of the exponent
 }
 LUM_INLINE Vec<Lum32f> HalfExponential(Vec<Lum32f> m) {
   return narrow(HalfExponential(widen_low(m)), HalfExponential(widen_high(m)));

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <limits>
 
-#include "explog/polynomials.h"
+#include "explog/exp_routine.h"
 #include "frame/constant.h"
 #include "frame/lane_format.h"
 #include "frame/literals.h"
@@ -35,13 +35,11 @@ inline constexpr auto exp2_pairs = table64({
 
 // e^m / 2, which is both functions where e^-m does not matter, up to the overflow of binary64.
 inline double HalfExponential(double m) {
-  const auto [count, q] = ReduceBySixtyFourths(m);
+  const auto [shifted, k, u] = explog::ExpDoubleReduced(m);
+  const auto count = static_cast<int>(k);
   const auto i = static_cast<size_t>(count & 63);
   const double hi = exp2_pairs[2 * i], lo = exp2_pairs[2 * i + 1];
-  const double p = q + q * q * unfused_horner(q, explog::exp_routine_64f);
-  const double sum = hi + (hi * p + lo);
-  const int exponent = (count >> 6) - 1;
-  return exponent == 1024 ? sum * 0x1p1023 * 2 : sum * lane::power_of_two<double>(exponent);  // 2^1024 is no number
+  return explog::ExpScaled(hi + (hi * u + lo), (count >> 6) - 1);
 }
 
 // With m = n ln 2 + q:  2^(n-1) + 2^(-n-1), the difference of the two, and q.

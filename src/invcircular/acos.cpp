@@ -50,19 +50,13 @@ template <int terms, class T> LUM_INLINE Vec<T> PlainRoot(Vec<T> y) {
   return fnma(s.h, s.p, s.g);
 }
 
-template <class T> struct Arccosine : Kernel<T> {
-  static LumStatus LaneRoutine(T x, T& result) { return OutsideUnitInterval(x, result); }
-  static constexpr bool second_is_short = true;
-  static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) { return OutsideUnitInterval(x, lanes); }
-};
-
-template <class T, Terms terms> struct PlainRootKernel : Arccosine<T> {
+template <class T, Terms terms> struct PlainRootKernel : OnUnitInterval<T> {
   static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) {
     const auto r = Reduce(x);
     return Join(x, r, PlainRoot<terms.root>(r.y), Correction<terms.is_long>(r.q));
   }
 };
-template <class T> struct SplitRootKernel : Arccosine<T> {
+template <class T> struct SplitRootKernel : OnUnitInterval<T> {
   static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) {
     const auto r = Reduce(x);
     return JoinSplit(x, r, SplitRootOf(r.y), LongCorrection(r.q));

@@ -91,14 +91,17 @@ LUM_INLINE SplitRoot<Lum64f> SplitRootOf(Vec<Lum64f> y) {
 }
 
 // Refused arguments are a NaN, which is quieted, or lie outside [-1, 1]: an invalid operation.
-template <class T> LumStatus OutsideUnitInterval(T x, T& result) {
-  result = lane::nan_of(x);
-  return x != x ? lumStsOk : lumStsDomain;
-}
-template <class T> LUM_INLINE Finished<T> OutsideUnitInterval(Vec<T> x, const Lanes<T>& lanes) {
-  const auto is_nan = unord(x, x);
-  const auto value = select(is_nan, x + x, all(lane::default_nan<T>()));
-  return {select(lanes.refused, value, lanes.value), mask_of<T>(0), {.domain = lanes.refused & ~is_nan}};
-}
+template <class T> struct OnUnitInterval : Kernel<T> {
+  static LumStatus LaneRoutine(T x, T& result) {
+    result = lane::nan_of(x);
+    return x != x ? lumStsOk : lumStsDomain;
+  }
+  static constexpr bool second_is_short = true;
+  static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) {
+    const auto is_nan = unord(x, x);
+    const auto value = select(is_nan, x + x, all(lane::default_nan<T>()));
+    return {select(lanes.refused, value, lanes.value), mask_of<T>(0), {.domain = lanes.refused & ~is_nan}};
+  }
+};
 
 }  // namespace lum::inline LUM_LAYER::invcircular

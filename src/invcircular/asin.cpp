@@ -45,26 +45,20 @@ template <int terms, class T> LUM_INLINE Vec<T> MinusRoot(Vec<T> y) {
   return fms(s.h, s.p, s.g);
 }
 
-template <class T> struct Arcsine : Kernel<T> {
-  static LumStatus LaneRoutine(T x, T& result) { return OutsideUnitInterval(x, result); }
-  static constexpr bool second_is_short = true;
-  static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) { return OutsideUnitInterval(x, lanes); }
-};
-
-template <class T, Terms terms> struct PlainRootKernel : Arcsine<T> {
+template <class T, Terms terms> struct PlainRootKernel : OnUnitInterval<T> {
   static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) {
     const auto r = Reduce(x);
     return Join(x, r, MinusRoot<terms.root>(r.y), Correction<terms.is_long>(r.q));
   }
 };
-template <class T> struct SplitRootKernel : Arcsine<T> {
+template <class T> struct SplitRootKernel : OnUnitInterval<T> {
   static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) {
     const auto r = Reduce(x);
     return JoinSplit(x, r, SplitRootOf(r.y), LongCorrection(r.q));
   }
 };
 
-struct A21_32f : Arcsine<Lum32f> {
+struct A21_32f : OnUnitInterval<Lum32f> {
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
     const auto r = Reduce(x);
     return Join(x, r, sqrt(r.y) * all(-2.0f), LongCorrection(r.q));

@@ -27,27 +27,33 @@ inline ScaledNumber Scale(double a) {
   return {lane::significand_of(a), exponent + lane::exponent_field(a)};
 }
 
-// The angle of (x, y), both positive and finite, with y / x within 2^-63 to 2^63.
+// The angle of a row of the interval constants and of (u, v) less that row's centre c: that of (x, y), or in the last interval
+// of (y, -x), where both numbers are positive and finite and their ratio is within 2^-63 to 2^63.
+template <class V> LUM_INLINE TwoParts<V> AngleFromCentre(V u, V v, V c, V angle_head, V angle_tail) {
+  const TwoParts<V> cu = two_product(c, u), cv = two_product(c, v);
+  const TwoParts<V> n = two_sum(v, negate(cu.head)), d = two_sum(u, cv.head);
+  const V t = div(n.head, d.head);
+  const TwoParts<V> td = two_product(t, d.head);
+  const V rest = ((n.head - td.head) - td.tail) + (n.tail - cu.tail) - t * (d.tail + cv.tail);
+  const V s = t * t;
+  const V p = unfused_horner(s, invcircular::atan2_A53);
+
+  const TwoParts<V> head = two_sum(angle_head, t);
+  return {head.head, head.tail + (angle_tail + div(rest, d.head) + t * s * p)};
+}
 inline TwoParts<double> ScalarAngle(double y, double x) {
   using C = IntervalConstants<Lum64f>;
   size_t i = 0;
   while (i < 4 && y > C::thresholds[i] * x) ++i;
-  if (i == 4) {
-    const double old_x = x;
-    x = y;
-    y = -old_x;
-  }
-  const double c = C::centres[i];
-  const TwoParts<double> cx = two_product(c, x), cy = two_product(c, y);
-  const TwoParts<double> n = two_sum(y, -cx.head), d = two_sum(x, cy.head);
-  const double t = n.head / d.head;
-  const TwoParts<double> td = two_product(t, d.head);
-  const double rest = ((n.head - td.head) - td.tail) + (n.tail - cx.tail) - t * (d.tail + cy.tail);
-  const double s = t * t;
-  const double p = unfused_horner(s, invcircular::atan2_A53);
+  const bool is_steep = i == 4;
+  return AngleFromCentre(is_steep ? y : x, is_steep ? -x : y, C::centres[i], C::angles.heads[i], C::angles.tails[i]);
+}
 
-  const TwoParts<double> head = two_sum(C::angles.heads[i], t);
-  return {head.head, head.tail + (C::angles.tails[i] + rest / d.head + t * s * p)};
+// pi - r, rounded.
+template <class V> LUM_INLINE V PiLess(const TwoParts<V>& r) {
+  constexpr auto& pi = numbers::pi_beside_angles_parts<Lum64f>;
+  const TwoParts<V> head = two_sum(Constant<V>(pi[0]), negate(r.head));
+  return head.head + (head.tail + (Constant<V>(pi[1]) - r.tail));
 }
 
 // The angles of the axes and of the diagonals.
@@ -85,9 +91,7 @@ template <class T> T Atan2Magnitude(double ay, double ax, bool x_negative) {
       r = ScalarAngle(y.significand * scale, x.significand);
     }
   }
-  if (!x_negative) return static_cast<T>(r.head + r.tail);
-  const TwoParts<double> head = two_sum(numbers::pi_beside_angles_parts<Lum64f>[0], -r.head);
-  return static_cast<T>(head.head + (head.tail + (numbers::pi_beside_angles_parts<Lum64f>[1] - r.tail)));
+  return static_cast<T>(x_negative ? PiLess(r) : r.head + r.tail);
 }
 
 template <class T> void Atan2Routine(T y, T x, T& result) {
@@ -115,18 +119,9 @@ LUM_INLINE TwoParts<Vec<Lum64f>> AngleOfScaled(Vec<Lum64f> y, Vec<Lum64f> x) {
     for (int i = 0; i < 4; ++i) entry = select(is_above(i), all(entries[i + 1]), entry);
     return entry;
   };
-  const auto c = chosen(C::centres), angle_head = chosen(C::angles.heads), angle_tail = chosen(C::angles.tails);
   const auto is_steep = is_above(3);
-  const auto v = select(is_steep, negate(x), y), u = select(is_steep, y, x);
-  const auto cu = two_product(c, u), cv = two_product(c, v);
-  const auto n = two_sum(v, negate(cu.head)), d = two_sum(u, cv.head);
-  const auto t = div(n.head, d.head);
-  const auto td = two_product(t, d.head);
-  const auto rest = ((n.head - td.head) - td.tail) + (n.tail - cu.tail) - t * (d.tail + cv.tail);
-  const auto s = t * t;
-  const auto head = two_sum(angle_head, t);
-  const auto polynomial = unfused_horner(s, invcircular::atan2_A53);
-  return {head.head, head.tail + (angle_tail + div(rest, d.head) + t * s * polynomial)};
+  return AngleFromCentre(select(is_steep, y, x), select(is_steep, negate(x), y), chosen(C::centres), chosen(C::angles.heads),
+                         chosen(C::angles.tails));
 }
 
 // The angle of (|x|, |y|) or of (-|x|, |y|), both finite and not zero.
@@ -140,9 +135,7 @@ LUM_INLINE Vec<Lum64f> AngleOfFinite(Vec<Lum64f> ay, Vec<Lum64f> ax, Mask<Lum64f
   TwoParts<Vec<Lum64f>> r = {select(steep, all(C::angles.heads[4]), of_near.head),
                              select(steep, all(C::angles.tails[4]), of_near.tail)};
   r = {zero_unless(~flat, r.head), zero_unless(~flat, r.tail)};
-  constexpr auto& pi = numbers::pi_beside_angles_parts<Lum64f>;
-  const auto head = two_sum(all(pi[0]), negate(r.head));
-  auto angle = select(x_negative, head.head + (head.tail + (all(pi[1]) - r.tail)), r.head + r.tail);
+  auto angle = select(x_negative, PiLess(r), r.head + r.tail);
   const auto quotient = flat & ~x_negative;
   if (any(quotient)) angle = select(quotient, div(select(quotient, ay, all(0.0)), ax), angle);  // also where it is denormal
   return angle;
