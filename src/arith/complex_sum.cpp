@@ -34,7 +34,8 @@ struct Minus {
   template <class T> static LUM_INLINE Vec<T> Of(Vec<T> a, Vec<T> b) { return a - b; }
 };
 
-template <class E, class Operation> struct SumKernel : Kernel<E> {
+// Components of the `excusing` classes among the inputs keep an infinite sum from being an overflow.
+template <class E, class Operation, int excusing = classes::infinity> struct SumKernel : Kernel<E> {
   using T = Real<E>;
   using Refused = ComponentMask<T>;
   static constexpr bool is_single = std::is_same_v<E, Lum32fc>;
@@ -52,8 +53,7 @@ template <class E, class Operation> struct SumKernel : Kernel<E> {
   }
   static constexpr bool second_is_short = true;
   static LUM_INLINE Finished<E> SecondPath(Interleaved<T> a, Interleaved<T> b, const Lanes<E, Refused>& lanes) {
-    const auto overflows =
-        InAnyPart<classes::infinity>(lanes.value) & ~InAnyPart<classes::infinity>(a) & ~InAnyPart<classes::infinity>(b);
+    const auto overflows = InAnyPart<classes::infinity>(lanes.value) & ~InAnyPart<excusing>(a) & ~InAnyPart<excusing>(b);
     return {lanes.value, mask_of<T>(0), {.overflow = overflows}};
   }
 };
@@ -63,7 +63,7 @@ bool IsOrdinary(Lum64f x) { return x != 0 && x - x == 0; }
 
 // Two deliberate differences from the other sums: an overflow beside a zero component goes unreported, and the hook is given
 // src1 twice.
-struct SubDoubles : SumKernel<Lum64fc, Minus> {
+struct SubDoubles : SumKernel<Lum64fc, Minus, classes::nonfinite | classes::zero> {
   static constexpr Variant variant = element_loop_variant;
   static constexpr bool hook_has_first_source_only = true;
   static LUM_INLINE Lanes<Lum64fc, Refused> VectorPath(Interleaved<Lum64f> a, Interleaved<Lum64f> b) {
@@ -72,13 +72,6 @@ struct SubDoubles : SumKernel<Lum64fc, Minus> {
   }
   static LumStatus LaneRoutine(const Lum64fc& a, const Lum64fc& b, const Lum64fc&) {
     return IsOrdinary(a.re) && IsOrdinary(a.im) && IsOrdinary(b.re) && IsOrdinary(b.im) ? lumStsOverflow : lumStsOk;
-  }
-  static LUM_INLINE Finished<Lum64fc> SecondPath(Interleaved<Lum64f> a, Interleaved<Lum64f> b,
-                                                 const Lanes<Lum64fc, Refused>& lanes) {
-    constexpr int not_ordinary = classes::nonfinite | classes::zero;
-    const auto overflows =
-        InAnyPart<classes::infinity>(lanes.value) & ~InAnyPart<not_ordinary>(a) & ~InAnyPart<not_ordinary>(b);
-    return {lanes.value, mask_of<Lum64f>(0), {.overflow = overflows}};
   }
 };
 

@@ -12,7 +12,7 @@ struct ExpEnds {
   static LUM_INLINE CoreValue OfFar(ComplexVec<Lum64f> z) {
     // Beyond these limits every result overflows, or vanishes.
     const auto x = min(max(z.re, all(-1500.0)), all(1500.0));
-    const auto e = TakePowersOfTwo(x, rndscale<binary_places(0) | quiet>(x * all(numbers::log2_e<Lum64f> / 512)));
+    const auto e = TakePowersOfTwo(x);
     const auto power = ExponentialOf(e.reduced);
     // The sine of a number so small is the number.
     const auto angle = Raised(z.im);

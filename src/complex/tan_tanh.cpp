@@ -50,7 +50,7 @@ LUM_INLINE TangentOfAny TangentAtEnds(Vec<Lum64f> exponent, Vec<Lum64f> angle) {
   const auto f = FactorsOfAny(or_sign(exponent, min(magnitude, all(limit))), angle);
   const auto reciprocal = Quotient({all(1.0), all(0.0)}, Add(Square(f.cosine), Square(f.sinh)));
   const auto twice = max(all(-1600.0), all(-2.0) * magnitude);
-  const auto e = TakePowersOfTwo(twice, rndscale<binary_places(0) | quiet>(twice * all(numbers::log2_e<Lum64f> / 512)));
+  const auto e = TakePowersOfTwo(twice);
   const auto factor = Select(beyond, Scaled(ExponentialOf(e.reduced), 4), reciprocal);
   const auto hyperbolic = Product(Product(f.sinh, f.cosh), reciprocal), circular = Product(Product(f.sine, f.cosine), factor);
   const auto rounded = [](HeadTail part, Vec<Lum64f> power) __attribute__((always_inline)) {

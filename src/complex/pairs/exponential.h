@@ -79,5 +79,9 @@ LUM_INLINE RestOfExponent TakePowersOfTwo(Vec<Lum64f> x, Vec<Lum64f> k) {
   r = two_sum(r.head, r.tail + rest.tail);  // the rest's tail may be large beside r
   return result;
 }
+// The nearest k.
+LUM_INLINE RestOfExponent TakePowersOfTwo(Vec<Lum64f> x) {
+  return TakePowersOfTwo(x, rndscale<binary_places(0) | quiet>(x * all(numbers::log2_e<Lum64f> / 512)));
+}
 
 }  // namespace lum::inline LUM_LAYER
