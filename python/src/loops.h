@@ -185,6 +185,11 @@ bool Entangled(const char* in, npy_intp in_step, const char* out, npy_intp out_s
 
 // ---- Loops
 
+// run(i, count) for all blocks of at most `length` of n elements.
+template <class Run> void ForBlocks(npy_intp n, npy_intp length, const Run& run) {
+  for (npy_intp i = 0; i < n; i += length) run(i, n - i < length ? n - i : length);
+}
+
 template <class In, class Out> void OneInput(char** args, const npy_intp* dimensions, const npy_intp* steps, void* data) {
   const auto& function = *static_cast<const Function*>(data);
   const auto call = reinterpret_cast<LumStatus (*)(const In*, Out*, int32_t)>(function.address);
@@ -195,25 +200,23 @@ template <class In, class Out> void OneInput(char** args, const npy_intp* dimens
   const bool entangled = Entangled<In, Out>(x, steps[0], y, steps[1], n);
   const bool contiguous = steps[0] == sizeof(In) && steps[1] == sizeof(Out) && x != y && !entangled;
   if (contiguous) {
-    for (npy_intp i = 0; i < n; i += run_length<In>) {
-      const npy_intp count = n - i < run_length<In> ? n - i : run_length<In>;
+    ForBlocks(n, run_length<In>, [&](npy_intp i, npy_intp count) {
       const auto* from = reinterpret_cast<const In*>(x) + i;
       auto* to = reinterpret_cast<Out*>(y) + i;
       const LumStatus status = call(from, to, static_cast<int32_t>(count));
       flags.Ask(FlagsOfBlock<In, Out>(function.kind, status, from, nullptr, to, count));
-    }
+    });
     return;
   }
   const npy_intp block = entangled ? 1 : buffered;
   In arguments[buffered];
   Out results[buffered];
-  for (npy_intp i = 0; i < n; i += block) {
-    const npy_intp count = n - i < block ? n - i : block;
+  ForBlocks(n, block, [&](npy_intp i, npy_intp count) {
     Gather(arguments, x + i * steps[0], steps[0], count);
     const LumStatus status = call(arguments, results, static_cast<int32_t>(count));
     flags.Ask(FlagsOfBlock<In, Out>(function.kind, status, arguments, nullptr, results, count));
     Scatter(y + i * steps[1], steps[1], results, count);
-  }
+  });
 }
 
 // call(x1, x2, result, count) over arrays or buffers.
@@ -226,25 +229,23 @@ void OverTwoInputs(char** args, const npy_intp* dimensions, const npy_intp* step
   const bool entangled = Entangled<T, T>(x1, steps[0], y, steps[2], n) || Entangled<T, T>(x2, steps[1], y, steps[2], n);
   const bool contiguous = steps[0] == sizeof(T) && steps[1] == sizeof(T) && steps[2] == sizeof(T) && x1 != y && x2 != y;
   if (contiguous && !entangled) {
-    for (npy_intp i = 0; i < n; i += run_length<T>) {
-      const npy_intp count = n - i < run_length<T> ? n - i : run_length<T>;
+    ForBlocks(n, run_length<T>, [&](npy_intp i, npy_intp count) {
       const auto *from1 = reinterpret_cast<const T*>(x1) + i, *from2 = reinterpret_cast<const T*>(x2) + i;
       auto* to = reinterpret_cast<T*>(y) + i;
       const LumStatus status = call(from1, from2, to, static_cast<int32_t>(count));
       flags.Ask(FlagsOfBlock<T, T>(kind, status, from1, from2, to, count));
-    }
+    });
     return;
   }
   const npy_intp block = entangled ? 1 : buffered;
   T arguments1[buffered], arguments2[buffered], results[buffered];
-  for (npy_intp i = 0; i < n; i += block) {
-    const npy_intp count = n - i < block ? n - i : block;
+  ForBlocks(n, block, [&](npy_intp i, npy_intp count) {
     Gather(arguments1, x1 + i * steps[0], steps[0], count);
     Gather(arguments2, x2 + i * steps[1], steps[1], count);
     const LumStatus status = call(arguments1, arguments2, results, static_cast<int32_t>(count));
     flags.Ask(FlagsOfBlock<T, T>(kind, status, arguments1, arguments2, results, count));
     Scatter(y + i * steps[2], steps[2], results, count);
-  }
+  });
 }
 
 template <class T> void TwoInputs(char** args, const npy_intp* dimensions, const npy_intp* steps, void* data) {
@@ -282,27 +283,25 @@ template <class T, bool exchanged> void TwoOutputs(char** args, const npy_intp* 
   const bool contiguous = steps[0] == sizeof(T) && first_step == sizeof(T) && second_step == sizeof(T) && args[0] != first &&
                           args[0] != second && !Entangled<T, T>(first, first_step, second, second_step, n);
   if (contiguous && !entangled) {
-    for (npy_intp i = 0; i < n; i += run_length<T>) {
-      const npy_intp count = n - i < run_length<T> ? n - i : run_length<T>;
+    ForBlocks(n, run_length<T>, [&](npy_intp i, npy_intp count) {
       const auto* from = reinterpret_cast<const T*>(args[0]) + i;
       auto *to1 = reinterpret_cast<T*>(first) + i, *to2 = reinterpret_cast<T*>(second) + i;
       const LumStatus status = call(from, to1, to2, static_cast<int32_t>(count));
       flags.Ask(FlagsOfBlock<T, T>(function.kind, status, from, nullptr, to1, count) |
                 FlagsOfBlock<T, T>(function.kind, status, from, nullptr, to2, count));
-    }
+    });
     return;
   }
   const npy_intp block = entangled ? 1 : buffered;
   T arguments[buffered], results1[buffered], results2[buffered];
-  for (npy_intp i = 0; i < n; i += block) {
-    const npy_intp count = n - i < block ? n - i : block;
+  ForBlocks(n, block, [&](npy_intp i, npy_intp count) {
     Gather(arguments, args[0] + i * steps[0], steps[0], count);
     const LumStatus status = call(arguments, results1, results2, static_cast<int32_t>(count));
     flags.Ask(FlagsOfBlock<T, T>(function.kind, status, arguments, nullptr, results1, count) |
               FlagsOfBlock<T, T>(function.kind, status, arguments, nullptr, results2, count));
     Scatter(first + i * first_step, first_step, results1, count);
     Scatter(second + i * second_step, second_step, results2, count);
-  }
+  });
 }
 
 }  // namespace lum::python
