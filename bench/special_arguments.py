@@ -13,7 +13,7 @@ PARTS = ["function", "length", "who", "argument", "share"]
 SHARES = ["all", "1 of 2", "1 of 32", "1 of 1000"]
 KEYS = ["function", "argument", "share"]
 CANDIDATES = ["low", "middle", "high", "scalar", "sleef_u10", "libmvec"]
-TAGS = {"A11": "low", "A26": "low", "A21": "middle", "A50": "middle", "A24": "high", "A53": "high", "lumvm": "high"}
+LEVELS = {"lumvm": "high"} | {tag: level for tags in catalogue.TAGS.values() for tag, level in zip(tags, CANDIDATES)}
 WORST = 25
 
 PAGE_TEXT = """<!-- Written by `./run bench --special` (bench/special_arguments.py) from docs/data/special.csv; do not edit. -->
@@ -66,7 +66,7 @@ def measured(build, function):
     rows = {}
     for row in run_benchmarks(build, [function], ["--special"], PARTS, repetitions=7, of_all=min, min_time=0.0003):
         key = tuple(row[part] for part in KEYS)
-        rows.setdefault(key, dict(zip(KEYS, key)))[TAGS.get(row["who"], row["who"])] = f"{float(row['ticks']):.3g}"
+        rows.setdefault(key, dict(zip(KEYS, key)))[LEVELS.get(row["who"], row["who"])] = f"{float(row['ticks']):.3g}"
     return rows
 
 
@@ -167,8 +167,9 @@ def report(build, functions):
     for function in functions or dict.fromkeys(row.function for row in catalogue.rows()):
         stored = {key: row for key, row in stored.items() if key[0].rsplit("_", 1)[0] != function}
         stored.update(measured(build, function))
+    rows = [row for _, row in sorted(stored.items())]
     with DATA.open("w", newline="") as file:
         writer = csv.DictWriter(file, [*KEYS, *CANDIDATES], lineterminator="\n", restval="")
         writer.writeheader()
-        writer.writerows(row for _, row in sorted(stored.items()))
-    write_page(stored.values())
+        writer.writerows(rows)
+    write_page(rows)
