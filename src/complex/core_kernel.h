@@ -21,6 +21,7 @@ inline bool TakesVectorPath() { return false; }
 template <class Path, class Ends, OneInputCore core, class E> struct SilentKernel : Kernel<E> {
   static constexpr Variant variant = scalar_core_variant;
   static constexpr int vectors = 1;
+  static constexpr bool second_is_shared = true;
   static LUM_INLINE Lanes<E> VectorPath(Interleaved<Real<E>> z) { return PathOfElements<Path, E>(z); }
   static LUM_INLINE Lanes<E> SecondPath(Interleaved<Real<E>> z, const Lanes<E>& lanes) {
     return SecondPathAsCore<Ends>(z, lanes, IsForSecondPath(z, lanes.refused));

@@ -78,6 +78,7 @@ struct SingleExponential {
 
 template <class E> struct ExpKernel : Kernel<E> {
   static constexpr int vectors = 1;
+  static constexpr bool second_is_shared = true;
   static LUM_INLINE Finished<E> SecondPath(Packed<E> z, const Lanes<E>& lanes) {
     return ReportingSecondPath<ExpEnds>(z, lanes, lanes.refused);
   }

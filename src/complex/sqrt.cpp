@@ -68,6 +68,7 @@ struct SqrtEnds {
 
 template <class E, bool refuses_numbers = true> struct SqrtKernel : Kernel<E> {
   static constexpr int vectors = 1;
+  static constexpr bool second_is_shared = true;
   static LUM_INLINE Lanes<E> SecondPath(Packed<E> z, const Lanes<E>& lanes) {
     return SecondPathAsCore<SqrtEnds, refuses_numbers>(z, lanes, lanes.refused);
   }

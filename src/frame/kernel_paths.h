@@ -14,9 +14,9 @@
 // Constants that a kernel may override: variant, vectors (in a block), fill (of inactive lanes: never to be refused), is_short
 // (a vector path of a few operations, which is inlined in either layer), and those of the second path:
 //   second_is_short: a few operations, so that it costs less to run it than to see whether a vector needs it.
+//   second_is_shared: its long part is a function that the kernels of several tags share, so that the rest may stand inline.
 //   hides_refused: the processor would stop at denormal numbers that the first path makes of refused arguments, so the loop
-//   over
-//     both paths has the fill in their place.
+//     over both paths has the fill in their place.
 //   second_in_all_layers: the lane routine knows only what the second path leaves. Otherwise the portable layer has the
 //     routine alone, which is faster there.
 // A kernel with a parameter has it as a data member; all others are empty.
@@ -42,6 +42,7 @@ template <class InputElement, class OutputElement = InputElement> struct Kernel 
   static constexpr bool is_short = false;
   static constexpr Real<Input> fill = Real<Input>(0.75);
   static constexpr bool second_is_short = false;
+  static constexpr bool second_is_shared = false;
   static constexpr bool hides_refused = false;
   static constexpr bool second_in_all_layers = false;
   static constexpr bool hook_has_first_source_only = false;  // in the place of the second, too
@@ -139,13 +140,17 @@ template <class K, int n> LUM_INLINE auto SeveralNans(const Inputs<K, n>& x) {
     return is_nan(x[0]) & is_nan(x[1]);
   }
 }
+// The second path once: a long one as a function that all blocks and the tail share.
+template <class K, int n, class Result>
+LUM_INLINE auto SharedSecondPath(const K& kernel, const Inputs<K, n>& x, const Result& r) {
+  if constexpr (vectors_fit_registers && (K::second_is_short || K::second_is_shared)) return SecondPathOf<K, n>(kernel, x, r);
+  else return CalledSecondPath<K, n>(kernel, x, r);
+}
 template <class K, int n, class Result> LUM_INLINE auto ComputeSecond(const K& kernel, const Inputs<K, n>& x, const Result& r) {
-  if constexpr (!vectors_fit_registers) {
-    return CalledSecondPath<K, n>(kernel, x, r);
-  } else if constexpr (orders_nans || !requires { ~r.refused; }) {
-    return SecondPathOf<K, n>(kernel, x, r);
+  if constexpr (!vectors_fit_registers || orders_nans || !requires { ~r.refused; }) {
+    return SharedSecondPath<K, n>(kernel, x, r);
   } else {
-    auto second = SecondPathOf<K, n>(kernel, x, r);
+    auto second = SharedSecondPath<K, n>(kernel, x, r);
     second.refused = second.refused | (r.refused & SeveralNans<K, n>(x));
     return second;
   }

@@ -19,6 +19,14 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_SYSTEM_PROCESSOR MATCHES "x86_
            COMMAND ${Python3_EXECUTABLE} ${CMAKE_CURRENT_SOURCE_DIR}/surface/dynamic_section.py $<TARGET_FILE:lumvm>)
 endif()
 
+# The library with all layers, as g++ makes it for x86-64.
+if("lumvmk0" IN_LIST LUM_LIBRARIES AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_BUILD_TYPE STREQUAL "Release")
+  add_test(NAME surface.library_size
+           COMMAND ${Python3_EXECUTABLE} ${CMAKE_CURRENT_SOURCE_DIR}/surface/library_size.py $<TARGET_FILE:lumvm> 12)
+else()
+  add_skipped_test(surface.library_size "not an optimised build of all layers by g++")
+endif()
+
 # The header alone, as a C and as a C++ program would include it; both programs call the library.
 add_executable(test.surface.header_c surface/header.c)
 set_target_properties(test.surface.header_c PROPERTIES C_EXTENSIONS OFF)
