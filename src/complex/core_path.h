@@ -4,6 +4,10 @@
 // refused.
 #pragma once
 
+#include <array>
+#include <cstddef>
+#include <utility>
+
 #include "complex/core_on_lane.h"
 #include "complex/pairs/pair.h"
 
@@ -91,21 +95,37 @@ LUM_INLINE NarrowedPart NarrowedAsCore(Vec<Lum64f> low, Vec<Lum64f> high) {
 LUM_INLINE ComplexVec<Lum64f> WidenLow(ComplexVec<Lum32f> z) { return {widen_low(z.re), widen_low(z.im)}; }
 LUM_INLINE ComplexVec<Lum64f> WidenHigh(ComplexVec<Lum32f> z) { return {widen_high(z.re), widen_high(z.im)}; }
 
+LUM_INLINE Lanes<Lum32fc> NarrowedHalves(const PathValue& low, const PathValue& high) {
+  const auto re = NarrowedAsCore(low.re.head, high.re.head), im = NarrowedAsCore(low.im.head, high.im.head);
+  return {join(ComplexVec<Lum32f>{re.value, im.value}), join(low.refused, high.refused) | re.refused | im.refused};
+}
 template <class Path, class... Inputs> LUM_INLINE Lanes<Lum32fc> NarrowedPath(const Inputs&... packed) {
   if constexpr (streams_fit_registers) {
     const auto outside = (HasNonFinitePart(split(packed)) | ...);
     if (none(~outside)) [[unlikely]]
       return {{all(0.0f), all(0.0f)}, outside};
   }
-  const auto low = PathOfVector<Path>(WidenLow(split(packed))...), high = PathOfVector<Path>(WidenHigh(split(packed))...);
-  const auto re = NarrowedAsCore(low.re.head, high.re.head), im = NarrowedAsCore(low.im.head, high.im.head);
-  return {join(ComplexVec<Lum32f>{re.value, im.value}), join(low.refused, high.refused) | re.refused | im.refused};
+  return NarrowedHalves(PathOfVector<Path>(WidenLow(split(packed))...), PathOfVector<Path>(WidenHigh(split(packed))...));
+}
+// Of a vector whose first count elements alone are in use: a short call is spared the half without any, and the path stands
+// there once. A function of its own, so that its stack is free again before a second path runs.
+template <class Path, size_t... j, class... Inputs>
+[[gnu::noinline]] Lanes<Lum32fc> NarrowedTail(int count, std::index_sequence<j...>, const Inputs&... packed) {
+  const std::array<ComplexVec<Lum64f>, sizeof...(j)> halves[] = {{WidenLow(split(packed))...}, {WidenHigh(split(packed))...}};
+  PathValue values[2];
+  for (int half = 0; half * lanes_of<Lum64f> < count; ++half) values[half] = PathOfVector<Path>(halves[half][j]...);
+  if (count <= lanes_of<Lum64f>) values[1] = values[0];
+  return NarrowedHalves(values[0], values[1]);
 }
 
 // The path in either type, of one or two arguments.
 template <class Path, class E, class... Inputs> LUM_INLINE Lanes<E> PathOfElements(const Inputs&... packed) {
   if constexpr (std::is_same_v<E, Lum64fc>) return RoundedPath<Path>(packed...);
   else return NarrowedPath<Path>(packed...);
+}
+template <class Path, class E, class... Inputs> LUM_INLINE Lanes<E> PathOfTail(int count, const Inputs&... packed) {
+  if constexpr (std::is_same_v<E, Lum64fc>) return RoundedPath<Path>(packed...);
+  else return NarrowedTail<Path>(count, std::index_sequence_for<Inputs...>(), packed...);
 }
 
 }  // namespace lum::inline LUM_LAYER

@@ -91,6 +91,13 @@ template <class E, bool by_conjugate> struct Low : Product<E, by_conjugate> {
     const Interleaved<T> r{Joined<by_conjugate>(low, low_products), Joined<by_conjugate>(high, high_products)};
     return {r, {HasCancelled(low_products, r.low), HasCancelled(high_products, r.high)}};
   }
+  // In the lanes of the fill a difference cancels.
+  static LUM_INLINE Lanes<E, ComponentMask<T>> TailPath(Interleaved<T> z, Interleaved<T> w, int count) {
+    auto r = VectorPath(z, w);
+    const auto in_use = FirstComponents<T>(count);
+    r.refused = {r.refused.low & in_use.low, r.refused.high & in_use.high};
+    return r;
+  }
 };
 
 template <bool by_conjugate> struct A24_32fc : Product<Lum32fc, by_conjugate> {

@@ -77,6 +77,9 @@ template <class E> struct PowKernel : Kernel<E> {
   static LUM_INLINE Lanes<E> VectorPath(Interleaved<Real<E>> z, Interleaved<Real<E>> w) {
     return PathOfElements<PowPath, E>(z, w);
   }
+  static LUM_INLINE Lanes<E> TailPath(Interleaved<Real<E>> z, Interleaved<Real<E>> w, int count) {
+    return PathOfTail<PowPath, E>(count, z, w);
+  }
   static LumStatus LaneRoutine(const E& z, const E& w, E& result) { return ReportingCoreOnLane<CorePow>(z, w, result); }
 };
 
@@ -87,6 +90,9 @@ template <class E> struct PowxKernel : Kernel<E> {
   E exponent;
 
   LUM_INLINE Lanes<E> VectorPath(Interleaved<Real<E>> z) const { return PowKernel<E>::VectorPath(z, Exponents()); }
+  LUM_INLINE Lanes<E> TailPath(Interleaved<Real<E>> z, int count) const {
+    return PowKernel<E>::TailPath(z, Exponents(), count);
+  }
   LUM_INLINE Finished<E> SecondPath(Interleaved<Real<E>> z, const Lanes<E>& lanes) const {
     return PowKernel<E>::SecondPath(z, Exponents(), lanes);
   }

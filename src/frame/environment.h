@@ -138,7 +138,8 @@ template <Variant variant> LUM_INLINE Environment Enter() {
 }
 
 // A changed MXCSR is restored with the flags it had. An unchanged one loses the five flags other than precision, also those
-// that the caller had set before the call: this asymmetry is deliberate, and it saves a write in the usual case.
+// that the caller had set before the call: this asymmetry is deliberate. Where the precision flag is known, the register is
+// written without being read: reading it takes some processors as long as a short call's vectors.
 LUM_INLINE void Leave(const Environment& environment) {
   ClearX87Flags();
   if (environment.x87_changed) WriteX87Control(environment.x87_control);
@@ -146,15 +147,17 @@ LUM_INLINE void Leave(const Environment& environment) {
     WriteMxcsr(environment.mxcsr);
     return;
   }
-  const uint32_t now = ReadMxcsr();
-#ifdef LUM_AVX512
   constexpr uint32_t other_flags = mxcsr_flags & ~mxcsr_precision_flag;
-  if ((now & other_flags) != 0) WriteMxcsr(now & ~other_flags);
-#else
-  // Portable vector operations raise the precision flag where the suppressed ones do not.
-  const uint32_t clean = (now & ~mxcsr_flags) | (environment.mxcsr & mxcsr_precision_flag);
-  if (now != clean) WriteMxcsr(clean);
+#ifdef LUM_AVX512
+  if ((environment.mxcsr & mxcsr_precision_flag) == 0) {
+    const uint32_t now = ReadMxcsr();
+    if ((now & other_flags) != 0) WriteMxcsr(now & ~other_flags);
+    return;
+  }
 #endif
+  // Set before the call it stays set. In the other layers it is as it was: their vector operations raise it where the
+  // suppressed ones do not.
+  WriteMxcsr(environment.mxcsr & ~other_flags);
 }
 
 #else  // the standard library's environment

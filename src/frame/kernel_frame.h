@@ -209,7 +209,7 @@ LUM_INLINE int64_t Block(const K& kernel, const Arrays<K, n, m>& arrays, int64_t
 // A vector of fewer elements, the rest of its lanes holding the fill.
 template <class K, int n, int m>
 LUM_INLINE void TailStep(const K& kernel, const Arrays<K, n, m>& arrays, int64_t i, int count, Call& call) {
-  const auto result = Compute<K, n>(kernel, LoadStep<K, n, m>(arrays, i, count));
+  const auto result = ComputeTail<K, n>(kernel, LoadStep<K, n, m>(arrays, i, count), count);
   if constexpr (requires { result.refused; }) {
     if (any(result.refused)) [[unlikely]] {
       if constexpr (HasSecondPath<K>) TailOfBothPaths<K, n, m>(kernel, arrays, i, count, call);

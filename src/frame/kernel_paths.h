@@ -4,6 +4,8 @@
 //   VectorPath(x...)
 //     A pure function of packed inputs. Returns Packed<Output>, or Lanes<Output> with the mask of refused lanes; with two
 //     outputs TwoValues<Output> or TwoLanes<Output>.
+//   TailPath(x..., count)
+//     Optional: the vector path where only the first count elements are in use, for kernels that spare something then.
 //   LaneRoutine(x..., r...)
 //     Finishes one refused element: scalars in, results by reference, which hold the vector path's values. Returns the
 //     element's LumStatus; a silent kernel's returns void, and the kernel's status is then always 0.
@@ -115,6 +117,13 @@ concept RefusesLanes = requires(const K kernel, const Inputs<K, n> x) {
 template <class K, int n> LUM_INLINE auto Compute(const K& kernel, const Inputs<K, n>& x) {
   if constexpr (RefusesLanes<K, n> && !vectors_fit_registers && !K::is_short) return CalledVectorPath<K, n>(kernel, x);
   else return VectorPathOf<K, n>(kernel, x);
+}
+
+// The same of a vector of which the first count elements are in use.
+template <class K, int n> LUM_INLINE auto ComputeTail(const K& kernel, const Inputs<K, n>& x, int count) {
+  if constexpr (n == 1 && requires { kernel.TailPath(x[0], count); }) return kernel.TailPath(x[0], count);
+  else if constexpr (n == 2 && requires { kernel.TailPath(x[0], x[1], count); }) return kernel.TailPath(x[0], x[1], count);
+  else return Compute<K, n>(kernel, x);
 }
 
 template <class K, int n, class Result> LUM_INLINE auto SecondPathOf(const K& kernel, const Inputs<K, n>& x, const Result& r) {
