@@ -1,9 +1,6 @@
 // Sums and products of which two NaNs give the first one, quieted.
 #pragma once
 
-#include <cstring>
-#include <utility>
-
 #include "frame/vec.h"
 
 namespace lum::inline LUM_LAYER::arith {
@@ -40,35 +37,23 @@ template <Floating T> LUM_INLINE Vec<T> ProductInOrder(Vec<T> a, Vec<T> b) {
 #else
 #define LUM_ORDERED(operation, x, y) asm(operation " %1, %0" : "+x"(x) : "x"(y))
 #endif
-template <Floating T, class Operation, size_t... i>
-LUM_INLINE Vec<T> ByRegisters(const Vec<T>& a, const Vec<T>& b, Operation operation, std::index_sequence<i...>) {
-  using Register [[gnu::vector_size(16)]] = T;
-  const auto register_at = [](const Vec<T>& v, size_t index) {
-    Register x;
-    std::memcpy(&x, v.lane + index * (16 / sizeof(T)), sizeof x);
-    return x;
-  };
-  Register results[] = {register_at(a, i)...};
-  (operation(results[i], register_at(b, i)), ...);
-  return std::bit_cast<Vec<T> >(results);
-}
 template <Floating T> LUM_INLINE Vec<T> SumInOrder(const Vec<T>& a, const Vec<T>& b) {
-  return ByRegisters(
-      a, b,
-      [](auto& x, auto y) {
+  return each_part<T>(
+      [](auto x, auto y) __attribute__((always_inline)) {
         if constexpr (is32<T>) LUM_ORDERED("addps", x, y);
         else LUM_ORDERED("addpd", x, y);
+        return x;
       },
-      std::make_index_sequence<4>());
+      a, b);
 }
 template <Floating T> LUM_INLINE Vec<T> ProductInOrder(const Vec<T>& a, const Vec<T>& b) {
-  return ByRegisters(
-      a, b,
-      [](auto& x, auto y) {
+  return each_part<T>(
+      [](auto x, auto y) __attribute__((always_inline)) {
         if constexpr (is32<T>) LUM_ORDERED("mulps", x, y);
         else LUM_ORDERED("mulpd", x, y);
+        return x;
       },
-      std::make_index_sequence<4>());
+      a, b);
 }
 #undef LUM_ORDERED
 #else

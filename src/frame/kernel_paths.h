@@ -225,15 +225,14 @@ template <class K, int n, int m> LUM_INLINE auto ComputeBoth(const K& kernel, co
   }
 }
 
+// The inputs of a vector; as one expression, since a loop would keep them in memory.
 template <class K, int n, int m> LUM_INLINE Inputs<K, n> LoadStep(const Arrays<K, n, m>& a, int64_t i) {
-  Inputs<K, n> x;
-  for (int j = 0; j < n; ++j) x[j] = LoadElements(a.src[j] + i);
-  return x;
+  if constexpr (n == 1) return {LoadElements(a.src[0] + i)};
+  else return {LoadElements(a.src[0] + i), LoadElements(a.src[1] + i)};
 }
 template <class K, int n, int m> LUM_INLINE Inputs<K, n> LoadStep(const Arrays<K, n, m>& a, int64_t i, int count) {
-  Inputs<K, n> x;
-  for (int j = 0; j < n; ++j) x[j] = LoadElements(count, a.src[j] + i, K::fill);
-  return x;
+  if constexpr (n == 1) return {LoadElements(count, a.src[0] + i, K::fill)};
+  else return {LoadElements(count, a.src[0] + i, K::fill), LoadElements(count, a.src[1] + i, K::fill)};
 }
 
 template <class K, int n, int m, class Result> LUM_INLINE void StoreStep(const Arrays<K, n, m>& a, int64_t i, const Result& r) {

@@ -4,24 +4,12 @@
 #include <cstring>
 
 #include "frame/lane_format.h"
-#include "frame/vec_types.h"
+#include "frame/portable/registers.h"
 
 namespace lum {
 inline namespace portable {
 
-// ---- Types
-
-template <Lane T> struct alignas(16) Vec { T lane[lanes_of<T>]; };
-// A vector as a parameter of an inlined function that hands it on to a called one: a copy would have its own place on the
-// stack.
-template <Lane T> using VecIn = const Vec<T>&;
-
-// All bits set in the lanes of the mask, none in the others. The lanes are of type T, since some compilers do not vectorise a
-// comparison of doubles that gives integers.
-template <Lane T> struct alignas(16) Mask {
-  T lane[lanes_of<T>];
-  LUM_INLINE UnsignedOf<T> bits_of(int i) const { return std::bit_cast<UnsignedOf<T>>(lane[i]); }
-};
+// ---- Types: those of registers.h
 
 template <class T> inline constexpr bool is32 = sizeof(T) == 4;
 inline constexpr bool vectors_fit_registers = false;
@@ -29,38 +17,22 @@ inline constexpr bool has_second_paths = false;
 inline constexpr bool orders_nans = false;
 inline constexpr bool streams_fit_registers = false;
 
-// The vector of value(i) in lane i.
-template <Lane T, class F> LUM_INLINE Vec<T> each_lane(F value) {
-  Vec<T> r;
-  for (int i = 0; i < lanes_of<T>; ++i) r.lane[i] = value(i);
-  return r;
-}
-// The mask of the lanes in which condition(i) holds.
-template <Lane T, class F> LUM_INLINE Mask<T> each_mask_lane(F condition) {
-  Mask<T> r;
-  constexpr T set = std::bit_cast<T>(static_cast<UnsignedOf<T>>(~UnsignedOf<T>{0}));
-  for (int i = 0; i < lanes_of<T>; ++i) r.lane[i] = condition(i) ? set : T{0};
-  return r;
-}
-// The mask whose lanes have the bits that value(i) gives.
-template <Lane T, class F> LUM_INLINE Mask<T> each_mask_bits(F value) {
-  Mask<T> r;
-  for (int i = 0; i < lanes_of<T>; ++i) r.lane[i] = std::bit_cast<T>(static_cast<UnsignedOf<T>>(value(i)));
-  return r;
-}
-
 // ---- Make, load, store
 
 // x in every lane.
 template <Lane T> LUM_INLINE Vec<T> all(T x) {
-  return each_lane<T>([&](int) { return x; });
+  Register<T> r;
+  for (int i = 0; i < lanes_of_register<T>; ++i) r[i] = x;
+  return from_parts<Vec<T>>([&](int) __attribute__((always_inline)) { return r; });
 }
 
 // A whole vector from memory of any alignment.
 template <Lane T> LUM_INLINE Vec<T> load(const T* p) {
-  Vec<T> r;
-  std::memcpy(&r, p, sizeof r);
-  return r;
+  return from_parts<Vec<T>>([&](int part) __attribute__((always_inline)) {
+    Register<T> r;
+    std::memcpy(&r, p + part * lanes_of_register<T>, sizeof r);
+    return r;
+  });
 }
 
 // The lanes of the mask from memory, which alone is read; the others from fill.
@@ -70,7 +42,13 @@ template <Lane T> LUM_INLINE Vec<T> load(const Mask<T>& mask, const T* p, Vec<T>
   return fill;
 }
 
-template <Lane T> LUM_INLINE void store(T* p, const Vec<T>& a) { std::memcpy(p, &a, sizeof a); }
+template <Lane T> LUM_INLINE void store(T* p, const Vec<T>& a) {
+  [&]<size_t... part>(std::index_sequence<part...>) __attribute__((always_inline)) {
+    const Register<T> parts[] = {part_of(a, static_cast<int>(part))...};
+    (std::memcpy(p + static_cast<int>(part) * lanes_of_register<T>, &parts[part], sizeof parts[part]), ...);
+  }
+  (std::make_index_sequence<parts_of_vector>());
+}
 
 // Writes the lanes of the mask and touches no other memory.
 template <Lane T> LUM_INLINE void store(const Mask<T>& mask, T* p, const Vec<T>& a) {
@@ -80,11 +58,11 @@ template <Lane T> LUM_INLINE void store(const Mask<T>& mask, T* p, const Vec<T>&
 
 // ---- Reinterpretation
 
-template <Floating T> LUM_INLINE Vec<UnsignedOf<T>> bits(const Vec<T>& a) { return std::bit_cast<Vec<UnsignedOf<T>>>(a); }
-template <Integer32 T> LUM_INLINE Vec<float> as_float(const Vec<T>& a) { return std::bit_cast<Vec<float>>(a); }
-template <Integer64 T> LUM_INLINE Vec<double> as_float(const Vec<T>& a) { return std::bit_cast<Vec<double>>(a); }
-template <Integer T> LUM_INLINE Vec<SignedOf<T>> as_signed(const Vec<T>& a) { return std::bit_cast<Vec<SignedOf<T>>>(a); }
-template <Integer T> LUM_INLINE Vec<UnsignedOf<T>> as_unsigned(const Vec<T>& a) { return std::bit_cast<Vec<UnsignedOf<T>>>(a); }
+template <Floating T> LUM_INLINE Vec<UnsignedOf<T>> bits(const Vec<T>& a) { return recast<Vec<UnsignedOf<T>>>(a); }
+template <Integer32 T> LUM_INLINE Vec<float> as_float(const Vec<T>& a) { return recast<Vec<float>>(a); }
+template <Integer64 T> LUM_INLINE Vec<double> as_float(const Vec<T>& a) { return recast<Vec<double>>(a); }
+template <Integer T> LUM_INLINE Vec<SignedOf<T>> as_signed(const Vec<T>& a) { return recast<Vec<SignedOf<T>>>(a); }
+template <Integer T> LUM_INLINE Vec<UnsignedOf<T>> as_unsigned(const Vec<T>& a) { return recast<Vec<UnsignedOf<T>>>(a); }
 // The lanes of one width seen as lanes of the other, the low half first.
 template <Integer64 T> LUM_INLINE Vec<uint32_t> as_lanes32(const Vec<T>& a) {
   return each_lane<uint32_t>(
@@ -110,23 +88,30 @@ template <Lane T> LUM_INLINE uint32_t to_bits(const Mask<T>& m) {
 }
 // The mask of lanes of one type as that of another type with as many lanes.
 template <Lane To, Lane From>
-requires(sizeof(To) == sizeof(From)) LUM_INLINE Mask<To> mask_cast(const Mask<From>& m) { return std::bit_cast<Mask<To>>(m); }
+requires(sizeof(To) == sizeof(From)) LUM_INLINE Mask<To> mask_cast(const Mask<From>& m) { return recast<Mask<To>>(m); }
 template <Lane T> LUM_INLINE Mask<T> operator&(const Mask<T>& a, const Mask<T>& b) {
-  return each_mask_bits<T>([&](int i) { return a.bits_of(i) & b.bits_of(i); });
+  return each_mask_part<T>(
+      [](auto x, auto y) __attribute__((always_inline)) { return x & y; }, a, b);
 }
 template <Lane T> LUM_INLINE Mask<T> operator|(const Mask<T>& a, const Mask<T>& b) {
-  return each_mask_bits<T>([&](int i) { return a.bits_of(i) | b.bits_of(i); });
+  return each_mask_part<T>(
+      [](auto x, auto y) __attribute__((always_inline)) { return x | y; }, a, b);
 }
 template <Lane T> LUM_INLINE Mask<T> operator^(const Mask<T>& a, const Mask<T>& b) {
-  return each_mask_bits<T>([&](int i) { return a.bits_of(i) ^ b.bits_of(i); });
+  return each_mask_part<T>(
+      [](auto x, auto y) __attribute__((always_inline)) { return x ^ y; }, a, b);
 }
 template <Lane T> LUM_INLINE Mask<T> operator~(const Mask<T>& a) {
-  return each_mask_bits<T>([&](int i) { return ~a.bits_of(i); });
+  return each_mask_part<T>(
+      [](auto x) __attribute__((always_inline)) { return ~x; }, a);
 }
 template <Lane T> LUM_INLINE bool any(const Mask<T>& a) {
-  UnsignedOf<T> united = 0;
-  for (int i = 0; i < lanes_of<T>; ++i) united |= a.bits_of(i);
-  return united != 0;
+  auto united = part_of(a, 0);
+  [&]<size_t... part>(std::index_sequence<part...>) __attribute__((always_inline)) {
+    ((united |= part_of(a, static_cast<int>(part))), ...);
+  }
+  (std::make_index_sequence<parts_of_vector>());
+  return any_bit(united);
 }
 template <Lane T> LUM_INLINE bool none(const Mask<T>& a) { return !any(a); }
 // The mask, of which the compiler knows nothing. Clang makes a choice between a + b and a a sum with a chosen summand, b or -0,
@@ -157,40 +142,6 @@ LUM_INLINE Mask<double> low_half(const Mask<float>& m) {
 }
 LUM_INLINE Mask<double> high_half(const Mask<float>& m) {
   return each_mask_lane<double>([&](int i) { return m.bits_of(i + 8) != 0; });
-}
-
-// ---- Lane by lane, some lanes with care
-
-// r with careful(a, b, ...) in the lanes of which doubt has bits set.
-template <auto careful, Floating T, class... Operands>
-[[gnu::noinline, gnu::cold]] void redo_lanes(Vec<T>& r, const Mask<T>& doubt, const Operands&... operands) {
-  for (int i = 0; i < lanes_of<T>; ++i)
-    if (doubt.bits_of(i)) r.lane[i] = careful(operands.lane[i]...);
-}
-// The result that quick(i) gives in every lane, with careful(a, b, ...) instead where doubt(i, result) has bits set. The copies
-// keep the operands themselves out of memory on the usual way.
-template <auto careful, Floating T, class Quick, class Doubt, class... Operands>
-LUM_INLINE Vec<T> each_lane_with_care(Quick quick, Doubt doubt, const Vec<T>& first, const Operands&... rest) {
-  const Vec<T> r = each_lane<T>(quick);
-  Mask<T> doubts;
-  for (int i = 0; i < lanes_of<T>; ++i) doubts.lane[i] = doubt(i, r.lane[i]);
-  if (none(doubts)) [[likely]]
-    return r;
-  Vec<T> redone = r;
-  [&doubts, &redone](Vec<T> a, Operands... others) { redo_lanes<careful>(redone, doubts, a, others...); }(first, rest...);
-  return redone;
-}
-// The result that quick(i) gives in every lane, with careful(a, b, ...) where that is a NaN: for operations that are one
-// instruction of the processor, but for the choice among NaNs. The copies are as above.
-template <auto careful, Floating T, class Quick, class... Operands>
-LUM_INLINE Vec<T> each_lane_but_nans(Quick quick, const Vec<T>& first, const Operands&... rest) {
-  const Vec<T> r = each_lane<T>(quick);
-  const Mask<T> nans = each_mask_lane<T>([&](int i) { return lane::is_nan(r.lane[i]); });
-  if (none(nans)) [[likely]]
-    return r;
-  Vec<T> redone = r;
-  [&nans, &redone](Vec<T> a, Operands... others) { redo_lanes<careful>(redone, nans, a, others...); }(first, rest...);
-  return redone;
 }
 
 }  // namespace portable

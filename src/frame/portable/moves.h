@@ -11,7 +11,13 @@ inline namespace portable {
 // Entry index mod lanes of the table.
 template <Lane T, Integer I>
 requires(sizeof(T) == sizeof(I)) LUM_INLINE Vec<T> permute(const Vec<T>& table, const Vec<I>& index) {
-  return each_lane<T>([&](int i) { return table.lane[raw(index.lane[i]) & (lanes_of<T> - 1)]; });
+  return each_part<T>(
+      [&table](auto at) __attribute__((always_inline)) {
+        Register<T> r;
+        for (int i = 0; i < lanes_of_register<T>; ++i) r[i] = table.lane[raw(at[i]) & (lanes_of<T> - 1)];
+        return r;
+      },
+      index);
 }
 // The table whose first half is low and second half is high, as one array. A choice between an element of low and one of high
 // is not the same to g++ 12: at -O3 it makes one load of two addresses, and then removes the stores to a vector that it
@@ -27,12 +33,24 @@ template <Lane T> struct JoinedTable {
 template <Lane T, Integer I>
 requires(sizeof(T) == sizeof(I)) LUM_INLINE Vec<T> permute2(const Vec<T>& low, const Vec<T>& high, const Vec<I>& index) {
   const JoinedTable<T> table(low, high);
-  return each_lane<T>([&](int i) { return table.entry[raw(index.lane[i]) & (2 * lanes_of<T> - 1)]; });
+  return each_part<T>(
+      [&table](auto at) __attribute__((always_inline)) {
+        Register<T> r;
+        for (int i = 0; i < lanes_of_register<T>; ++i) r[i] = table.entry[raw(at[i]) & (2 * lanes_of<T> - 1)];
+        return r;
+      },
+      index);
 }
 // base[index] per lane, the index signed and of the lane's width.
 template <Lane T, Integer I>
 requires(sizeof(T) == sizeof(I)) LUM_INLINE Vec<T> gather(const T* base, const Vec<I>& index) {
-  return each_lane<T>([&](int i) { return base[static_cast<SignedOf<I>>(index.lane[i])]; });
+  return each_part<T>(
+      [base](auto at) __attribute__((always_inline)) {
+        Register<T> r;
+        for (int i = 0; i < lanes_of_register<T>; ++i) r[i] = base[static_cast<SignedOf<I>>(at[i])];
+        return r;
+      },
+      index);
 }
 // The same in the lanes of the mask, which alone are read; the others from old.
 template <Lane T, Integer I>
