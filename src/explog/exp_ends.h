@@ -82,7 +82,7 @@ template <class T, class AtEnds> LUM_INLINE Finished<T> ExpSecondPath(Vec<T> x, 
   if (any(between)) {
     const Lanes<T> of_ends = at_ends(select(between, x, all(T(0))));
     value = select(between, of_ends.value, value);
-    remaining = between & of_ends.refused;
+    remaining = between & finite & of_ends.refused;  // a NaN comes through
   }
   const auto denormal = lt(x, all(Limits::denormal)) & finite;
   return {value, remaining, {.overflow = above & finite, .underflow = denormal}};
