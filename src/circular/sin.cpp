@@ -1,7 +1,7 @@
 // sin x. With |x| = n pi + r:  sin x = sign(x) (-1)^n sin r, and sin r by an odd polynomial. 32f A24 evaluates the same in
 // binary64; 64f A53 reduces to sixteenths of a half turn with a table. Beyond the threshold of the reduction a second vector
-// path takes the bits of x / (2 pi) from a table of the bits of 1/pi; 64f A26 has a scalar routine there instead.
-#include "circular/chunk_routine.h"
+// path takes the bits of x / (2 pi) from a table of the bits of 1/pi; 64f A26 adds products with pieces of 4/pi there.
+#include "circular/chunk_path.h"
 #include "circular/half_turns.h"
 #include "circular/large_reduction.h"
 #include "circular/nonfinite.h"
@@ -69,12 +69,9 @@ struct A26_64f : Kernel<Lum64f> {
     Lum64f cosine;
     return SineAndCosine(x, result, cosine);
   }
-  // Huge numbers remain.
-  static constexpr bool second_is_short = true;
   static LUM_INLINE Finished<Lum64f> SecondPath(Vec<Lum64f> x, const Lanes<Lum64f>& lanes) {
-    return {SelectNonFinite(x, lanes.value),
-            lanes.refused & ~fpclass<classes::nonfinite>(x),
-            {.domain = fpclass<classes::infinity>(x)}};
+    const auto a = ReduceBeyondThreshold(x, lanes.refused & ~fpclass<classes::nonfinite>(x));
+    return MergeLarge(x, lanes, SineOf(a));
   }
 };
 

@@ -1,4 +1,5 @@
 // sin x and cos x into two arrays, from one reduction. 32f A11 and A21 are the same kernel but for their place in the table.
+#include "circular/chunk_path.h"
 #include "circular/sine_cosine.h"
 #include "frame/kernel_frame.h"
 #include "frame/kernels.h"
@@ -30,12 +31,11 @@ struct A11_32f : WithLarge<QuarterTurns_A21> {};
 struct A21_32f : WithLarge<QuarterTurns_A21> {};
 struct A24_32f : WithLarge<QuarterTurns_A24> {};
 struct A26_64f : Plain<SineAndCosine_A26> {
-  // Huge numbers remain.
-  static constexpr bool second_is_short = true;
   static LUM_INLINE TwoFinished<T> SecondPath(Vec<T> x, const TwoLanes<T>& lanes) {
-    return {SelectNonFinite(x, lanes.value1),
-            SelectNonFinite(x, lanes.value2),
-            lanes.refused & ~fpclass<classes::nonfinite>(x),
+    const auto a = ReduceBeyondThreshold(x, lanes.refused & ~fpclass<classes::nonfinite>(x));
+    return {SelectNonFinite(x, select(lanes.refused, SineOf(a), lanes.value1)),
+            SelectNonFinite(x, select(lanes.refused, CosineOf(a), lanes.value2)),
+            mask_of<T>(0),
             {.domain = fpclass<classes::infinity>(x)}};
   }
 };

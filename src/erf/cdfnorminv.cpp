@@ -1,6 +1,8 @@
 // The quantile of the normal distribution, cdfnorminv p = -sqrt 2 erfcinv(2 p), for the smaller of p and 1 - p, whose quantile
 // is negative; p > 1/2 turns the sign. In binary64 a large table of expansion points and a series; in binary32 a polynomial on
 // each binade of the smaller. Arguments too close to 0 or 1, and 1/2 itself, go to a lane routine.
+#include <type_traits>
+
 #include "erf/inverse_polynomials.h"
 #include "erf/inverse_routine.h"
 #include "erf/inverse_rows.h"
@@ -46,7 +48,10 @@ template <class T> struct NormalInverse : Kernel<T> {
   static LumStatus LaneRoutine(T x, T& result) { return FinishRefused(x, result); }
   static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) {
     const auto of_tail = [](Vec<Lum64f> p) __attribute__((always_inline)) {
-      return xor_sign(all(0.5) - p, QuantileOfTail(min(p, all(1.0) - p)));
+      const auto smaller = min(p, all(1.0) - p);
+      if constexpr (std::is_same_v<T, Lum32f>)
+        return xor_sign(all(0.5) - p, NearErfcInvOfTail(smaller + smaller) * all(minus_root2));
+      else return xor_sign(all(0.5) - p, QuantileOfTail(smaller));
     };
     return FinishEnds(x, lanes, T(1), false, of_tail);
   }

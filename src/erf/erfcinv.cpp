@@ -1,6 +1,8 @@
 // The inverse of erfc, of the smaller q of x and 2 - x; x > 1 turns the sign. In binary64 a large table of expansion points and
 // a series; in binary32 a polynomial on each binade of q. Arguments too close to 0 or 2, and in binary64 also 1, go to a lane
 // routine.
+#include <type_traits>
+
 #include "erf/inverse_polynomials.h"
 #include "erf/inverse_routine.h"
 #include "erf/inverse_rows.h"
@@ -33,7 +35,9 @@ template <class T> struct ComplementInverse : Kernel<T> {
   static LumStatus LaneRoutine(T x, T& result) { return FinishRefused(x, result); }
   static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) {
     const auto of_tail = [](Vec<Lum64f> q) __attribute__((always_inline)) {
-      return xor_sign(all(1.0) - q, ErfcInvOfTail(min(q, all(2.0) - q)).head);
+      const auto smaller = min(q, all(2.0) - q);
+      if constexpr (std::is_same_v<T, Lum32f>) return xor_sign(all(1.0) - q, NearErfcInvOfTail(smaller));
+      else return xor_sign(all(1.0) - q, ErfcInvOfTail(smaller).head);
     };
     return FinishEnds(x, lanes, T(2), true, of_tail);
   }

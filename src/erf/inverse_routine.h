@@ -16,13 +16,19 @@ namespace lum::inline LUM_LAYER::erf {
 
 // ---- Lookups, which scalars and vectors make in different ways
 
+// One more word, since rows are read four words at a time.
+inline constexpr auto ln_rows = [] {
+  constexpr auto& rows = explog::ln_routine_rows;
+  Table<Lum64f, rows.size + 1> padded{};
+  for (size_t i = 0; i < rows.size; ++i) padded.entries[i] = rows.entries[i];
+  return padded;
+}();
 // The steps of the scalar form.
 LUM_INLINE explog::LnParts<Vec<Lum64f>> SplitLn(Vec<Lum64f> x) {
   constexpr auto& table = explog::ln_routine_rows;
   const auto e = getexp(x), m = getmant<significand::from_1_to_2>(x);
   const auto i = bits(m + all(explog::shifter_to_index<Lum64f>)) & all(uint64_t{0x7F});
-  const auto row = i + shift_left<1>(i);
-  const auto c = gather<Lum64f>(table, row), hi = gather<Lum64f>(table + 1, row), lo = gather<Lum64f>(table + 2, row);
+  const auto [c, hi, lo, next_row] = gather_rows<Lum64f>(ln_rows, i + shift_left<1>(i));
   const auto head = (m + all(2097152.0)) - all(2097152.0);
   return {e * all(table.entries[3 * 64 + 1]) + hi, e * all(table.entries[3 * 64 + 2]) + lo, c * head - all(1.0),
           c * (m - head)};
@@ -90,6 +96,19 @@ template <class V> LUM_INLINE TwoParts<V> ErfcInvOfTail(V q) {
   return fast_two_sum(root, rest - correction);
 }
 
+// The same for numbers of binary32 but for 2^-39 of it, which rarely matters to the rounding. The last two coefficients are too
+// small to matter, and no t is beyond the fourth row.
+LUM_INLINE Vec<Lum64f> NearErfcInvOfTail(Vec<Lum64f> q) {
+  const auto [hi, lo, v, w] = SplitLn(q);
+  const auto t = v + w;
+  const auto root = sqrt(negate(hi + (t + fma(t * t, horner(t, part<0, 4>(log_series)), lo))));
+  const auto row = TailRow(root);
+  const auto u = root - TailEntry(row, 1);
+  auto correction = TailEntry(row, tail_row_size - 3);
+  for (size_t i = tail_row_size - 4; i >= 2; --i) correction = fma(correction, u, TailEntry(row, i));
+  return root - correction;
+}
+
 // ---- The ends of the domain
 
 // An argument at an end of the domain, and one outside of it.
@@ -104,7 +123,8 @@ template <class T> LumStatus OutsideDomain(T& result) {
 }
 
 // The ends 0 and `upper` of the domain, the middle, whose value is 0, NaN and what is outside of the domain, in the lanes that
-// a first path refuses; the pole at 0 is positive or negative. of_tail is the function of the numbers between, in binary64.
+// a first path refuses; the pole at 0 is positive or negative. of_tail is the function of the numbers between, in binary64; to
+// binary32 it is rounded where 2^-38 of it make no difference, and the other lanes remain.
 template <class T, class OfTail>
 LUM_INLINE Finished<T> FinishEnds(Vec<T> x, const Lanes<T>& lanes, T upper, bool positive_at_zero, OfTail of_tail) {
   constexpr auto infinity = std::numeric_limits<T>::infinity();
@@ -115,12 +135,22 @@ LUM_INLINE Finished<T> FinishEnds(Vec<T> x, const Lanes<T>& lanes, T upper, bool
   value = select(at_upper, all(positive_at_zero ? -infinity : infinity), value);
   value = select(outside, all(std::numeric_limits<T>::quiet_NaN()), value);
   const auto between = lanes.refused & ~(at_zero | at_upper | middle | outside | is_nan);
+  auto remaining = mask_of<T>(0);
   if (any(between)) {
     const auto in_tail = select(between, x, all(T(0x1p-40)));
-    if constexpr (sizeof(T) == sizeof(Lum64f)) value = select(between, of_tail(in_tail), value);
-    else value = select(between, narrow(of_tail(widen_low(in_tail)), of_tail(widen_high(in_tail))), value);
+    if constexpr (sizeof(T) == sizeof(Lum64f)) {
+      value = select(between, of_tail(in_tail), value);
+    } else {
+      const auto low = of_tail(widen_low(in_tail)), high = of_tail(widen_high(in_tail));
+      const auto rounded = [&](double factor) __attribute__((always_inline)) {
+        return narrow(low * all(factor), high * all(factor));
+      };
+      const auto of_between = rounded(1 - 0x1p-38);
+      value = select(between, of_between, value);
+      remaining = between & ne(of_between, rounded(1 + 0x1p-38));
+    }
   }
-  return {select(lanes.refused, value, lanes.value), mask_of<T>(0), {.domain = outside, .singularity = at_zero | at_upper}};
+  return {select(lanes.refused, value, lanes.value), remaining, {.domain = outside, .singularity = at_zero | at_upper}};
 }
 
 }  // namespace lum::inline LUM_LAYER::erf

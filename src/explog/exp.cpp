@@ -5,58 +5,17 @@
 #include <cstdint>
 
 #include "explog/exp_ends.h"
+#include "explog/exp_reduction.h"
 #include "explog/exp_routine.h"
 #include "explog/polynomials.h"
 #include "frame/kernel_frame.h"
 #include "frame/kernels.h"
 #include "frame/numbers.h"
-#include "tables/table.h"
 
 namespace lum::inline LUM_LAYER {
 namespace {
 
 using namespace explog;
-
-template <class T> struct ExpConstants;
-template <> struct ExpConstants<Lum32f> {
-  static constexpr auto shifter = rounding_shifter<Lum32f>(4);
-  static constexpr auto threshold = -ExpLimits<Lum32f>::denormal;
-  static constexpr auto head = table32({
-#include "tables/generated/exp2_32f_16_head.inc"
-  });
-  static constexpr auto tail = table32({
-#include "tables/generated/exp2_32f_16_tail.inc"
-  });
-};
-template <> struct ExpConstants<Lum64f> {
-  // The low bits leave the index bits at zero and are subtracted out again.
-  static constexpr auto shifter = rounding_shifter<Lum64f>(3) + 0x3FF0p-3;
-  static constexpr auto threshold = f64(0x40861DA04CBAFE44, 707.7032713517042);
-  static constexpr auto head = table64({
-#include "tables/generated/exp2_64f_8_head.inc"
-  });
-  static constexpr auto tail = table64({
-#include "tables/generated/exp2_64f_8_tail.inc"
-  });
-};
-
-template <class T> struct Reduced {
-  Vec<T> n, r;           // x = n ln 2 + r
-  Vec<UnsignedOf<T>> j;  // in the low bits: the index into the tables
-  Mask<T> refused;       // lanes beyond the threshold; NaN is not among them, n carries it to the result
-};
-
-template <int ln2_parts, class T> LUM_INLINE Reduced<T> Reduce(Vec<T> x) {
-  using C = ExpConstants<T>;
-  const auto t = fma_floor(x, all(numbers::log2_e<T>), all(C::shifter));
-  const auto n = t - all(C::shifter);  // exact
-  auto r = fnma(n, all(numbers::ln2<T>), x);
-  if constexpr (ln2_parts == 2) r = fnma(n, all(numbers::ln2_tail<T>), r);
-  return {n, r, bits(t), le(all(C::threshold), abs(x))};
-}
-
-template <class T> LUM_INLINE Vec<T> Head(const Reduced<T>& a) { return permute(load<T>(ExpConstants<T>::head), a.j); }
-template <class T> LUM_INLINE Vec<T> Tail(const Reduced<T>& a) { return permute(load<T>(ExpConstants<T>::tail), a.j); }
 
 // The scale factor of a vanishing result would be denormal.
 template <class T> struct ExpKernel : Kernel<T> {
@@ -83,26 +42,26 @@ template <class T> struct ByDouble : ExpKernel<T> {
 
 struct A11_32f : Float {
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
-    const auto a = Reduce<1>(x);
+    const auto a = ReduceExp<1>(x);
     const auto p = horner(a.r, explog::exp_A11);
-    return {p * scalef_normal(Head(a), a.n), a.refused};
+    return {p * scalef_normal(ExpHead(a), a.n), a.refused};
   }
 };
 
 struct A21_32f : Float {
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
-    const auto a = Reduce<2>(x);
+    const auto a = ReduceExp<2>(x);
     const auto u = fma(a.r * a.r, horner(a.r, explog::exp_A21), a.r);
-    const auto s = scalef_normal(Head(a), a.n);
+    const auto s = scalef_normal(ExpHead(a), a.n);
     return {fma(u, s, s), a.refused};
   }
 };
 
 struct A24_32f : ByDouble<Lum32f> {
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
-    const auto a = Reduce<2>(x);
-    const auto u = fma(horner(a.r, explog::exp_A21), a.r * a.r, Tail(a) + a.r);
-    const auto s = scalef_normal(Head(a), a.n);
+    const auto a = ReduceExp<2>(x);
+    const auto u = fma(horner(a.r, explog::exp_A21), a.r * a.r, ExpTail(a) + a.r);
+    const auto s = scalef_normal(ExpHead(a), a.n);
     return {fma(u, s, s), a.refused};
   }
 };
@@ -113,26 +72,26 @@ struct Double : ByDouble<Lum64f> {
 
 struct A26_64f : Double {
   static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
-    const auto a = Reduce<1>(x);
+    const auto a = ReduceExp<1>(x);
     const auto p = horner(a.r, explog::exp_A26);
-    const auto head = Head(a);
+    const auto head = ExpHead(a);
     return {scalef_normal(fma(p, head * a.r, head), a.n), a.refused};
   }
 };
 
 struct A50_64f : Double {
   static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
-    const auto a = Reduce<2>(x);
-    const auto head = Head(a);
+    const auto a = ReduceExp<2>(x);
+    const auto head = ExpHead(a);
     return {scalef_normal(fma(horner(a.r, explog::exp_A50), head * a.r, head), a.n), a.refused};
   }
 };
 
 struct A53_64f : Double {
   static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
-    const auto a = Reduce<2>(x);
-    const auto head = Head(a);
-    const auto u = fma(horner(a.r, explog::exp_A50), a.r, Tail(a));
+    const auto a = ReduceExp<2>(x);
+    const auto head = ExpHead(a);
+    const auto u = fma(horner(a.r, explog::exp_A50), a.r, ExpTail(a));
     return {scalef_normal(fma(u, head, head), a.n), a.refused};
   }
 };

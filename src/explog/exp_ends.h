@@ -4,6 +4,7 @@
 
 #include <limits>
 
+#include "explog/exp_reduction.h"
 #include "explog/exp_routine.h"
 #include "frame/kernel_frame.h"
 
@@ -17,14 +18,14 @@ template <int scale> LUM_INLINE Vec<Lum32f> RoundedToDenormal(Vec<Lum32f> v) {
 }
 
 // e^x of numbers between the refusal and the ends, in the lanes of the mask; the others hold an ordinary number.
-LUM_INLINE Vec<Lum32f> ExpFloatAtEnds(Vec<Lum32f> x) {
+LUM_INLINE Lanes<Lum32f> ExpFloatAtEnds(Vec<Lum32f> x) {
   const auto a = ExpFloatReduced(x);
   const auto denormal = lt(x, all(ExpLimits<Lum32f>::denormal));
   const auto raised = scalef(a.p, a.m + all(60.0f));
   // The error of p may bring it above the smallest normal number.
   const auto rounds = denormal & le(raised, all(0x1p-66f));
   const auto normal = scalef(a.p, select(rounds, all(0.0f), a.m));
-  return select(rounds, RoundedToDenormal<60>(raised), normal);
+  return {select(rounds, RoundedToDenormal<60>(raised), normal), mask_of<Lum32f>(0)};
 }
 
 struct ExpDoubleValue {
@@ -33,15 +34,15 @@ struct ExpDoubleValue {
 LUM_INLINE ExpDoubleValue ExpDoubleAtEnds(Vec<Lum64f> x) {
   const auto a = ExpDoubleReduced(x);
   const auto j = shift_left<1>(bits(a.shifted) & all(uint64_t{63}));
-  const auto head = gather<Lum64f>(exp2_pairs, j), tail = gather<Lum64f>(exp2_pairs + 1, j);
+  const auto [head, tail] = gather_pairs<Lum64f>(exp2_pairs, j);
   return {head, (a.u + tail) * head, a.k * all(1.0 / 64)};  // scalef takes the floor of the exponent
 }
 
-LUM_INLINE Vec<Lum64f> ExpAtEnds(Vec<Lum64f> x) {
+LUM_INLINE Lanes<Lum64f> ExpAtEnds(Vec<Lum64f> x) {
   const auto a = ExpDoubleAtEnds(x);
   const auto normal = scalef(a.head + a.p, a.exponent);
   const auto denormal = lt(x, all(ExpLimits<Lum64f>::denormal));
-  if (!any(denormal)) return normal;
+  if (!any(denormal)) return {normal, mask_of<Lum64f>(0)};
   // The steps of ExpScaledToDenormal.
   const auto exponent = select(denormal, a.exponent, all(-1000.0)) + all(60.0);
   const auto up = scalef(a.p, exponent), b = scalef(a.head, exponent);
@@ -56,24 +57,20 @@ LUM_INLINE Vec<Lum64f> ExpAtEnds(Vec<Lum64f> x) {
   const auto in_two_parts = counted(hi, unit) + counted(lo, 1.5 * unit);
   const auto is_short = lt(exponent, all(exp_last_short + 60 + 1.0));
   const auto count = select(mask_cast<uint64_t>(is_short), counted(s, unit), in_two_parts);
-  return select(denormal, as_float(count), normal);
+  return {select(denormal, as_float(count), normal), mask_of<Lum64f>(0)};
 }
-LUM_INLINE Vec<Lum32f> ExpAtEnds(Vec<Lum32f> x) {
-  const auto of_half = [](Vec<Lum64f> half) __attribute__((always_inline)) {
-    const auto a = ExpDoubleAtEnds(half);
-    return scalef(a.head + a.p, a.exponent);
+// c e^x. The rounding to binary32 is in doubt next to a tie alone.
+LUM_INLINE Lanes<Lum32f> ScaledExpAtEnds(Vec<Lum32f> x, double c) {
+  const auto low = ExpInBinary64(widen_low(x)), high = ExpInBinary64(widen_high(x));
+  const auto rounded = [&](double factor) __attribute__((always_inline)) {
+    return narrow(low * all(factor), high * all(factor));
   };
-  const auto low = of_half(widen_low(x)), high = of_half(widen_high(x));
-  const auto denormal = lt(x, all(ExpLimits<Lum32f>::denormal));
-  constexpr double unit = 0x1p-97;  // its last bit is worth the smallest positive number of binary32
-  const auto counted = [](Vec<Lum64f> v) __attribute__((always_inline)) { return bits(v + all(unit)) - bits(all(unit)); };
-  const auto rounded = as_float(narrow(counted(low), counted(high)));
-  const auto shown = [](Mask<Lum64f> m, Vec<Lum64f> v) __attribute__((always_inline)) { return select(m, all(1.0), v); };
-  const auto normal = narrow(shown(low_half(denormal), low), shown(high_half(denormal), high));
-  return select(denormal, rounded, normal);
+  const auto value = rounded(c * (1 - 0x1p-46));
+  return {value, ne(value, rounded(c * (1 + 0x1p-46)))};
 }
+LUM_INLINE Lanes<Lum32f> ExpAtEnds(Vec<Lum32f> x) { return ScaledExpAtEnds(x, 1); }
 
-// at_ends is the function between the refusal and the ends.
+// at_ends is the function between the refusal and the ends; where it refuses, the lane routine remains.
 template <class T, class AtEnds> LUM_INLINE Finished<T> ExpSecondPath(Vec<T> x, const Lanes<T>& lanes, AtEnds at_ends) {
   using Limits = ExpLimits<T>;
   const auto finite = lt(abs(x), all(std::numeric_limits<T>::infinity()));
@@ -81,9 +78,14 @@ template <class T, class AtEnds> LUM_INLINE Finished<T> ExpSecondPath(Vec<T> x, 
   const auto between = lanes.refused & ~(above | below);
   auto value = select(above, all(std::numeric_limits<T>::infinity()), lanes.value);
   value = select(below, all(T(0)), value);
-  if (any(between)) value = select(between, at_ends(select(between, x, all(T(0)))), value);
+  auto remaining = mask_of<T>(0);
+  if (any(between)) {
+    const Lanes<T> of_ends = at_ends(select(between, x, all(T(0))));
+    value = select(between, of_ends.value, value);
+    remaining = between & finite & of_ends.refused;  // a NaN comes through
+  }
   const auto denormal = lt(x, all(Limits::denormal)) & finite;
-  return {value, mask_of<T>(0), {.overflow = above & finite, .underflow = denormal}};
+  return {value, remaining, {.overflow = above & finite, .underflow = denormal}};
 }
 
 }  // namespace lum::inline LUM_LAYER::explog

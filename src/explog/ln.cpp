@@ -76,8 +76,9 @@ struct A24_32f : Float {
     // Every refused x has a special c, too.
     const auto special = fpclass<classes::not_positive_normal>(c);
     if (any(special)) [[unlikely]] {
-      lanes.value = select(special, SecondLevel(x), lanes.value);
       lanes.refused = fpclass<classes::not_positive_finite>(x);
+      const auto second = special & ~lanes.refused;
+      if (any(second)) lanes.value = select(second, SecondLevel(x), lanes.value);
     }
     return lanes;
   }

@@ -17,30 +17,12 @@
 
 namespace lum::inline LUM_LAYER {
 
-// Reports as bits, of the lanes in use.
-struct ReportBits {
-  uint32_t domain = 0, singularity = 0, overflow = 0, underflow = 0;
-
-  uint32_t Any() const { return domain | singularity | overflow | underflow; }
-  LumStatus Of(int lane) const {
-    if ((domain >> lane & 1) != 0) return lumStsDomain;
-    if ((singularity >> lane & 1) != 0) return lumStsSingularity;
-    if ((overflow >> lane & 1) != 0) return lumStsOverflow;
-    return (underflow >> lane & 1) != 0 ? lumStsUnderflow : lumStsOk;
-  }
-};
-template <class T> LUM_INLINE ReportBits BitsOf(const Reports<T>& r, uint32_t in_use) {
-  return {to_bits(r.domain) & in_use, to_bits(r.singularity) & in_use, to_bits(r.overflow) & in_use,
-          to_bits(r.underflow) & in_use};
-}
-LUM_INLINE ReportBits BitsOf(const NoReports&, uint32_t) { return {}; }
-
-// A block with refused lanes: its inputs and the vector paths' results in lane order.
-template <class K, int n, int m> struct SpilledBlock {
-  alignas(64) typename K::Input inputs[n][block_of<K>];
-  alignas(64) typename K::Output results[m][block_of<K>];
-  uint32_t refused[vectors_of<K>] = {};  // the lanes of each vector
-  ReportBits reports[vectors_of<K>];
+// A block with refused lanes, or refused elements side by side: inputs and the vector paths' results in lane order.
+template <class K, int n, int m, int vectors = vectors_of<K>> struct SpilledBlock {
+  alignas(64) typename K::Input inputs[n][vectors * step_of<K>];
+  alignas(64) typename K::Output results[m][vectors * step_of<K>];
+  uint32_t refused[vectors] = {};  // the lanes of each vector
+  ReportBits reports[vectors];
 
   bool IsRefused(int lane) const { return (refused[lane / step_of<K>] >> (lane % step_of<K>)&1) != 0; }
   LumStatus Reported(int lane) const { return reports[lane / step_of<K>].Of(lane % step_of<K>); }
@@ -48,20 +30,25 @@ template <class K, int n, int m> struct SpilledBlock {
 
 namespace frame {
 
+LUM_INLINE uint32_t RemainingBits(uint32_t lanes) { return lanes; }
+template <Floating T> LUM_INLINE uint32_t RemainingBits(ComponentMask<T> m) { return element_bits(m); }
+LUM_INLINE bool AnyRemaining(uint32_t lanes) { return lanes != 0; }
+template <Floating T> LUM_INLINE bool AnyRemaining(ComponentMask<T> m) { return any(m); }
+
 // What both paths made of vector v of a block.
-template <class K, int n, int m, class Both>
-LUM_INLINE void Spill(const Inputs<K, n>& x, const Both& r, int v, uint32_t in_use, SpilledBlock<K, n, m>& block) {
+template <class K, int n, int m, class Both, int vectors>
+LUM_INLINE void Spill(const Inputs<K, n>& x, const Both& r, int v, uint32_t in_use, SpilledBlock<K, n, m, vectors>& block) {
   for (int j = 0; j < n; ++j) StoreElements(&block.inputs[j][v * step_of<K>], x[j]);
   for (int j = 0; j < m; ++j) StoreElements(&block.results[j][v * step_of<K>], r.values[j]);
   // A fill lane is refused only where a parameter makes it so; its result would be dropped by the masked store.
-  block.refused[v] = element_bits(r.remaining) & in_use;
-  block.reports[v] = BitsOf(r.reports, in_use);
+  block.refused[v] = RemainingBits(r.remaining) & in_use;
+  block.reports[v] = r.reports.Among(in_use);
 }
 
 // An element that reports passes through the caller's array and the hook.
-template <class K, int n, int m>
+template <class K, int n, int m, int vectors>
 LUM_INLINE void ReportLane(LumStatus reported, const Arrays<K, n, m>& arrays, int64_t index, int lane,
-                           SpilledBlock<K, n, m>& block, Call& call) {
+                           SpilledBlock<K, n, m, vectors>& block, Call& call) {
   auto& r = block.results;
   call.status = reported;
   for (int j = 0; j < m; ++j) arrays.dst[j][index] = r[j][lane];
@@ -72,9 +59,9 @@ LUM_INLINE void ReportLane(LumStatus reported, const Arrays<K, n, m>& arrays, in
 }
 
 // The lane routine on one spilled lane, or the report of a lane that the second path has finished.
-template <class K, int n, int m>
+template <class K, int n, int m, int vectors>
 LUM_INLINE void FinishLane(const K& kernel, const Arrays<K, n, m>& arrays, int64_t index, int lane,
-                           SpilledBlock<K, n, m>& block, Call& call) {
+                           SpilledBlock<K, n, m, vectors>& block, Call& call) {
   auto& x = block.inputs;
   auto& r = block.results;
   const auto routine = [&] {
@@ -98,7 +85,7 @@ __attribute__((noinline, cold)) void FinishSpilled(const K& kernel, const Arrays
                                                    SpilledBlock<K, n, m>& block, Call& call) {
   constexpr int step = step_of<K>;
   for (int v = 0; v * step < count; ++v) {
-    uint32_t lanes = block.refused[v] | block.reports[v].Any();
+    uint32_t lanes = block.refused[v] | block.reports[v].Reporting();
     if constexpr (K::variant.x87 == X87Form::lazy) {
       if (lanes != 0 && !call.environment.x87_prepared) X87Prepare(call.environment);
     }
@@ -133,8 +120,8 @@ __attribute__((noinline, cold)) void FinishLanes(const K& kernel, const Arrays<K
 namespace frame {
 
 // The status of the last lane that reports.
-LUM_INLINE void TakeLastReport(const ReportBits& reports, Call& call) {
-  if (reports.Any() != 0) call.status = reports.Of(std::bit_width(reports.Any()) - 1);
+LUM_INLINE void TakeLastReport(ReportBits reports, Call& call) {
+  if (reports.word != 0) call.status = reports.Of(std::bit_width(reports.Reporting()) - 1);
 }
 
 // A full block by both paths; true where the first one refused lanes of it.
@@ -143,32 +130,127 @@ LUM_INLINE bool BlockOfBothPaths(const K& kernel, const Arrays<K, n, m>& arrays,
                                  std::index_sequence<v...>) {
   const std::array r{ComputeBoth<K, n, m>(kernel, LoadStep<K, n, m>(arrays, first + static_cast<int64_t>(v) * step_of<K>))...};
   constexpr uint32_t all_lanes = (1u << step_of<K>)-1u;
-  const std::array reports{BitsOf(r[v].reports, all_lanes)...};
-  if (any((r[v].remaining | ...)) || (!element_hook_is_empty && (reports[v].Any() | ...) != 0)) [[unlikely]] {
+  if (AnyRemaining((r[v].remaining | ...)) || (!element_hook_is_empty && (r[v].reports.word | ...) != 0)) [[unlikely]] {
     SpilledBlock<K, n, m> block;
     (Spill<K, n, m>(LoadStep<K, n, m>(arrays, first + static_cast<int64_t>(v) * step_of<K>), r[v], v, all_lanes, block), ...);
     FinishSpilled(kernel, arrays, first, block_of<K>, block, call);
     return true;
   }
-  (TakeLastReport(reports[v], call), ...);
+  (TakeLastReport(r[v].reports, call), ...);
   for (int j = 0; j < m; ++j) {
     (StoreElements(arrays.dst[j] + first + static_cast<int64_t>(v) * step_of<K>, r[v].values[j]), ...);
   }
   return (r[v].any_refused || ...);
 }
 
+// The refused elements of some vectors are packed side by side where the second path is long, which then runs over them alone.
+template <class K>
+concept PacksRefused = packs_lanes && !K::second_is_short && std::is_floating_point_v<typename K::Input> &&
+                       std::is_same_v<typename K::Input, typename K::Output>;
+inline constexpr int most_packed = 16;  // vectors
+
+// With one more vector, of fill.
+template <class K, int n, int m> using PackedElements = SpilledBlock<K, n, m, most_packed + 1>;
+
+// The lane routine and the reports of packed elements: those of the vectors from index first on whose lanes are the bits.
+template <class K, int n, int m>
+__attribute__((noinline, cold)) void FinishPacked(const K& kernel, const Arrays<K, n, m>& arrays, int64_t first,
+                                                  const uint32_t (&lanes)[most_packed], int count,
+                                                  PackedElements<K, n, m>& packed, Call& call) {
+  if constexpr (K::variant.x87 == X87Form::lazy) {
+    if (!call.environment.x87_prepared) X87Prepare(call.environment);
+  }
+  int element = 0;
+  for (int v = 0; v < count; ++v) {
+    for (uint32_t rest = lanes[v]; rest != 0; rest &= rest - 1, ++element) {
+      FinishLane(kernel, arrays, first + v * step_of<K> + std::countr_zero(rest), element, packed, call);
+    }
+  }
+}
+
+// The second path over packed elements. True where an element has to pass through FinishPacked.
+template <class K, int n, int m>
+LUM_INLINE bool FinishPackedVectors(const K& kernel, int elements, PackedElements<K, n, m>& packed, Call& call) {
+  using T = typename K::Input;
+  constexpr int step = step_of<K>;
+  bool is_cold = false;
+  for (int j = 0; j < n; ++j) store(&packed.inputs[j][elements], all(T(K::fill)));
+  for (int v = 0; v * step < elements; ++v) {
+    const int count = std::min(step, elements - v * step);
+    Inputs<K, n> x;
+    for (int j = 0; j < n; ++j) x[j] = load(&packed.inputs[j][v * step]);
+    decltype(Compute<K, n>(kernel, x)) refused_alone{};
+    refused_alone.refused = first_lanes<T>(count);
+    const auto r = ComputeSecond<K, n, m>(kernel, x, refused_alone);
+    Spill<K, n, m>(x, r, v, (1u << count) - 1u, packed);
+    TakeLastReport(packed.reports[v], call);
+    is_cold = is_cold || packed.refused[v] != 0 || (!element_hook_is_empty && packed.reports[v].word != 0);
+  }
+  return is_cold;
+}
+
+// Some vectors from index first on, the refused elements packed. Returns their number.
+template <class K, int n, int m>
+LUM_INLINE int VectorsOfBothPaths(const K& kernel, const Arrays<K, n, m>& arrays, int64_t first, int count, Call& call) {
+  using T = typename K::Input;
+  constexpr int step = step_of<K>;
+  constexpr uint32_t all_lanes = (1u << step) - 1u;
+  PackedElements<K, n, m> packed;
+  uint32_t refused[most_packed];
+  int elements = 0;
+  for (int v = 0; v < count; ++v) {
+    const auto x = LoadStep<K, n, m>(arrays, first + v * step);
+    const auto r = ComputeFirst<K, n>(kernel, x);
+    refused[v] = to_bits(r.refused);
+    if (refused[v] == all_lanes) {  // has no need for the first path's values
+      for (int j = 0; j < n; ++j) store(&packed.inputs[j][elements], x[j]);
+      elements += step;
+      continue;
+    }
+    StoreStep<K, n, m>(arrays, first + v * step, r);
+    for (int j = 0; j < n; ++j) store(&packed.inputs[j][elements], compress(r.refused, x[j]));
+    elements += std::popcount(refused[v]);
+  }
+  if (elements == 0) return 0;
+  if (FinishPackedVectors<K, n, m>(kernel, elements, packed, call)) [[unlikely]] {
+    FinishPacked(kernel, arrays, first, refused, count, packed, call);
+  }
+  int element = 0;
+  for (int v = 0; v < count; ++v) {
+    const auto lanes = mask_of<T>(refused[v]);
+    for (int j = 0; j < m; ++j) {
+      auto* const dst = arrays.dst[j] + first + v * step;
+      const auto results = load(&packed.results[j][element]);
+      if (refused[v] == all_lanes) store(dst, results);
+      else store(dst, select(lanes, expand(lanes, results), load(dst)));
+    }
+    element += std::popcount(refused[v]);
+  }
+  return elements;
+}
+
 // A block with refused lanes, and those behind it: special arguments come in clusters, so this loop goes on until some blocks
-// have had none. Returns the index behind its last block.
+// have had none. Returns the index behind its last vector.
 template <class K, int n, int m>
 __attribute__((noinline)) int64_t BlocksOfBothPaths(const K& kernel, const Arrays<K, n, m>& arrays, int64_t first, int64_t len,
                                                     Call& call) {
-  constexpr int most_ordinary = 2;
-  int ordinary = 0;
-  do {
-    const bool refuses = BlockOfBothPaths<K, n, m>(kernel, arrays, first, call, std::make_index_sequence<vectors_of<K>>());
-    ordinary = refuses ? 0 : ordinary + 1;
-    first += block_of<K>;
-  } while (ordinary < most_ordinary && first + block_of<K> <= len);
+  if constexpr (PacksRefused<K>) {
+    // Of more vectors at a time the longer the cluster is.
+    for (int most = vectors_of<K>; first + step_of<K> <= len; most = std::min(2 * most, most_packed)) {
+      const auto vectors = static_cast<int>(std::min<int64_t>(most, (len - first) / step_of<K>));
+      const bool refuses = VectorsOfBothPaths<K, n, m>(kernel, arrays, first, vectors, call) != 0;
+      first += vectors * step_of<K>;
+      if (!refuses) break;
+    }
+  } else {
+    constexpr int most_ordinary = 2;
+    int ordinary = 0;
+    do {
+      const bool refuses = BlockOfBothPaths<K, n, m>(kernel, arrays, first, call, std::make_index_sequence<vectors_of<K>>());
+      ordinary = refuses ? 0 : ordinary + 1;
+      first += block_of<K>;
+    } while (ordinary < most_ordinary && first + block_of<K> <= len);
+  }
   return first;
 }
 
@@ -179,8 +261,8 @@ __attribute__((noinline)) void TailOfBothPaths(const K& kernel, const Arrays<K, 
   const auto x = LoadStep<K, n, m>(arrays, i, count);
   const auto r = ComputeBoth<K, n, m>(kernel, x);
   const uint32_t in_use = (1u << count) - 1u;
-  const auto reports = BitsOf(r.reports, in_use);
-  if (any(r.remaining) || (!element_hook_is_empty && reports.Any() != 0)) {
+  const auto reports = r.reports.Among(in_use);
+  if (AnyRemaining(r.remaining) || (!element_hook_is_empty && reports.word != 0)) {
     SpilledBlock<K, n, m> block;
     Spill<K, n, m>(x, r, 0, in_use, block);
     FinishSpilled(kernel, arrays, i, count, block, call);

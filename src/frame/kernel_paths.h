@@ -15,7 +15,8 @@
 //     also the lanes that report, by status. Values and statuses are those of the lane routine.
 // Constants that a kernel may override: variant, vectors (in a block), fill (of inactive lanes: never to be refused), is_short
 // (a vector path of a few operations, which is inlined in either layer), and those of the second path:
-//   second_is_short: a few operations, so that it costs less to run it than to see whether a vector needs it.
+//   second_is_short: a few operations, so that it costs less to run it than to see whether a vector needs it, or to bring the
+//   refused elements of several vectors together.
 //   second_is_shared: its long part is a function that the kernels of several tags share, so that the rest may stand inline.
 //   hides_refused: the processor would stop at denormal numbers that the first path makes of refused arguments, so the loop
 //     over both paths has the fill in their place.
@@ -62,7 +63,27 @@ template <class E> struct TwoLanes {
 
 // Lanes that report, by status; at most one for each lane.
 template <class T> struct Reports { Mask<T> domain{}, singularity{}, overflow{}, underflow{}; };
-struct NoReports {};
+// The same as bits, 16 lanes for each status, in one word.
+struct ReportBits {
+  uint64_t word = 0;
+
+  LUM_INLINE ReportBits Among(uint32_t lanes) const { return {word & lanes * uint64_t{0x0001000100010001}}; }
+  LUM_INLINE uint32_t Reporting() const {
+    const uint64_t pairs = word | word >> 32;
+    return (pairs | pairs >> 16) & 0xFFFF;
+  }
+  LumStatus Of(int lane) const {
+    constexpr LumStatus statuses[] = {lumStsDomain, lumStsSingularity, lumStsOverflow, lumStsUnderflow};
+    for (int i = 0; i < 4; ++i) {
+      if ((word >> (16 * i + lane) & 1) != 0) return statuses[i];
+    }
+    return lumStsOk;
+  }
+};
+template <class T> LUM_INLINE ReportBits BitsOf(const Reports<T>& r) {
+  const auto word = [](Mask<T> m) __attribute__((always_inline)) { return uint64_t{to_bits(m)}; };
+  return {word(r.domain) | word(r.singularity) << 16 | word(r.overflow) << 32 | word(r.underflow) << 48};
+}
 // What a second path gives where elements may report.
 template <class E> struct Finished {
   Packed<E> value;
@@ -130,10 +151,6 @@ template <class K, int n, class Result> LUM_INLINE auto SecondPathOf(const K& ke
   if constexpr (n == 1) return kernel.SecondPath(x[0], r);
   else return kernel.SecondPath(x[0], x[1], r);
 }
-template <class K, int n, class Result>
-[[gnu::noinline]] auto CalledSecondPath(const K& kernel, const Inputs<K, n>& x, const Result& r) {
-  return SecondPathOf<K, n>(kernel, x, r);
-}
 // Lanes with NaNs in several places, of which the result is that of the first: where operations do not order them, the lane
 // routine does.
 template <class K, int n> LUM_INLINE auto SeveralNans(const Inputs<K, n>& x) {
@@ -149,21 +166,6 @@ template <class K, int n> LUM_INLINE auto SeveralNans(const Inputs<K, n>& x) {
     return is_nan(x[0]) & is_nan(x[1]);
   }
 }
-// The second path once: a long one as a function that all blocks and the tail share.
-template <class K, int n, class Result>
-LUM_INLINE auto SharedSecondPath(const K& kernel, const Inputs<K, n>& x, const Result& r) {
-  if constexpr (vectors_fit_registers && (K::second_is_short || K::second_is_shared)) return SecondPathOf<K, n>(kernel, x, r);
-  else return CalledSecondPath<K, n>(kernel, x, r);
-}
-template <class K, int n, class Result> LUM_INLINE auto ComputeSecond(const K& kernel, const Inputs<K, n>& x, const Result& r) {
-  if constexpr (!vectors_fit_registers || orders_nans || !requires { ~r.refused; }) {
-    return SharedSecondPath<K, n>(kernel, x, r);
-  } else {
-    auto second = SharedSecondPath<K, n>(kernel, x, r);
-    second.refused = second.refused | (r.refused & SeveralNans<K, n>(x));
-    return second;
-  }
-}
 template <class K>
 concept HasSecondPath = (has_second_paths || K::second_in_all_layers) && requires {
   &K::SecondPath;
@@ -175,20 +177,40 @@ template <class K, int m, class Result> LUM_INLINE Outputs<K, m> Values(const Re
   else return {r};
 }
 
-// What both paths make of a vector.
-template <class K, int m, class Remaining, class Reported> struct BothPaths {
+// What both paths make of a vector. Masks are bits here, each in one word, as what a function returns in memory has to be read
+// back by loads of the size of its stores.
+template <class K, int m, class Remaining> struct BothPaths {
   Outputs<K, m> values;
-  bool any_refused;     // by the first path
   Remaining remaining;  // for the lane routine
-  Reported reports;
+  ReportBits reports;
+  bool any_refused;  // by the first path
 };
+template <Lane T> LUM_INLINE uint32_t InWord(Mask<T> m) { return to_bits(m); }
+template <Floating T> LUM_INLINE ComponentMask<T> InWord(ComponentMask<T> m) { return m; }
 template <class K, int m, class Result> LUM_INLINE auto AsBothPaths(const Result& r, bool any_refused) {
-  using Remaining = decltype(r.refused);
-  if constexpr (requires { r.reports; }) {
-    return BothPaths<K, m, Remaining, decltype(r.reports)>{Values<K, m>(r), any_refused, r.refused, r.reports};
-  } else {
-    return BothPaths<K, m, Remaining, NoReports>{Values<K, m>(r), any_refused, r.refused, {}};
+  ReportBits reports;
+  if constexpr (requires { r.reports; }) reports = BitsOf(r.reports);
+  return BothPaths<K, m, decltype(InWord(r.refused))>{Values<K, m>(r), InWord(r.refused), reports, any_refused};
+}
+
+template <class K, int n, int m, class Result>
+LUM_INLINE auto FinishVector(const K& kernel, const Inputs<K, n>& x, const Result& r) {
+  auto second = SecondPathOf<K, n>(kernel, x, r);
+  if constexpr (vectors_fit_registers && !orders_nans && requires { ~r.refused; }) {
+    second.refused = second.refused | (r.refused & SeveralNans<K, n>(x));
   }
+  return AsBothPaths<K, m>(second, true);
+}
+template <class K, int n, int m, class Result>
+[[gnu::noinline]] auto CalledFinishVector(const K& kernel, const Inputs<K, n>& x, const Result& r) {
+  return FinishVector<K, n, m>(kernel, x, r);
+}
+// The second path once: a long one as a function that all blocks and the tail share.
+template <class K, int n, int m, class Result>
+LUM_INLINE auto ComputeSecond(const K& kernel, const Inputs<K, n>& x, const Result& r) {
+  if constexpr (vectors_fit_registers && (K::second_is_short || K::second_is_shared))
+    return FinishVector<K, n, m>(kernel, x, r);
+  else return CalledFinishVector<K, n, m>(kernel, x, r);
 }
 
 // The first path where both run.
@@ -209,19 +231,21 @@ template <class K, int n, int m> LUM_INLINE auto ComputeBoth(const K& kernel, co
   if constexpr (!HasSecondPath<K>) {
     return AsBothPaths<K, m>(first, any(first.refused));
   } else if constexpr (K::second_is_short) {
-    return AsBothPaths<K, m>(ComputeSecond<K, n>(kernel, x, first), any(first.refused));
+    auto both = ComputeSecond<K, n, m>(kernel, x, first);
+    both.any_refused = any(first.refused);
+    return both;
   } else {
-    using Result = decltype(AsBothPaths<K, m>(ComputeSecond<K, n>(kernel, x, first), true));
+    using Result = decltype(ComputeSecond<K, n, m>(kernel, x, first));
     if constexpr (requires { ~first.refused; }) {
       // There is no need for the first path's values where it refuses all.
       if (none(~first.refused)) {
         std::remove_const_t<decltype(first)> no_values{};
         no_values.refused = first.refused;
-        return AsBothPaths<K, m>(ComputeSecond<K, n>(kernel, x, no_values), true);
+        return ComputeSecond<K, n, m>(kernel, x, no_values);
       }
     }
-    if (any(first.refused)) return AsBothPaths<K, m>(ComputeSecond<K, n>(kernel, x, first), true);
-    return Result{Values<K, m>(first), false, {}, {}};
+    if (any(first.refused)) return ComputeSecond<K, n, m>(kernel, x, first);
+    return Result{Values<K, m>(first), {}, {}, false};
   }
 }
 

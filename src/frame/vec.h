@@ -24,7 +24,9 @@
 //   conversions  widen_low widen_high(v)  narrow(low, high)  to_float(v)  to_double(v)
 //   lookup       permute(table, index)  permute2(low, high, index)
 //                gather(base, index)  gather(mask, base, index, old)  gather_rows(base, index)
+//                gather_pairs(base, index)
 //   moves        deinterleave(a, b)  interleave(even, odd)  swap_pairs(v)  duplicate_even(v)  duplicate_odd(v)
+//                compress(m, v)  expand(m, v)
 //   formulas     horner(x, c0, ...)  horner estrin(x, p)  horner_of_pairs(x, square, p)  two_sum fast_two_sum two_product(a, b)
 //
 // A conditional operation is the one that its name begins with, for operands that fulfil its condition; of others it gives any

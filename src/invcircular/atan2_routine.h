@@ -9,6 +9,7 @@
 #include "frame/lane_format.h"
 #include "frame/two_parts.h"
 #include "invcircular/atan2_constants.h"
+#include "invcircular/atan2_path.h"
 #include "invcircular/polynomials.h"
 
 namespace lum::inline LUM_LAYER::invcircular {
@@ -124,8 +125,8 @@ LUM_INLINE TwoParts<Vec<Lum64f>> AngleOfScaled(Vec<Lum64f> y, Vec<Lum64f> x) {
                          chosen(C::angles.tails));
 }
 
-// The angle of (|x|, |y|) or of (-|x|, |y|), both finite and not zero.
-LUM_INLINE Vec<Lum64f> AngleOfFinite(Vec<Lum64f> ay, Vec<Lum64f> ax, Mask<Lum64f> x_negative) {
+// The angle of (|x|, |y|) or of (-|x|, |y|), both finite and not zero; refused is where its rounding is in doubt.
+LUM_INLINE Lanes<Lum64f> AngleOfFinite(Vec<Lum64f> ay, Vec<Lum64f> ax, Mask<Lum64f> x_negative) {
   using C = IntervalConstants<Lum64f>;
   const auto y = Scale(ay), x = Scale(ax);
   const auto difference = y.exponent - x.exponent;
@@ -138,11 +139,31 @@ LUM_INLINE Vec<Lum64f> AngleOfFinite(Vec<Lum64f> ay, Vec<Lum64f> ax, Mask<Lum64f
   auto angle = select(x_negative, PiLess(r), r.head + r.tail);
   const auto quotient = flat & ~x_negative;
   if (any(quotient)) angle = select(quotient, div(select(quotient, ay, all(0.0)), ax), angle);  // also where it is denormal
-  return angle;
+  return {angle, mask_of<Lum64f>(0)};
 }
-LUM_INLINE Vec<Lum32f> AngleOfFinite(Vec<Lum32f> ay, Vec<Lum32f> ax, Mask<Lum32f> x_negative) {
-  return narrow(AngleOfFinite(widen_low(ay), widen_low(ax), low_half(x_negative)),
-                AngleOfFinite(widen_high(ay), widen_high(ax), high_half(x_negative)));
+
+// The same of numbers of binary32 in binary64, where numerator and denominator have no rounding error. What is left, of less
+// than 2^-51 of the angle, matters to the rounding to binary32 next to a tie alone. A quotient below 2^-60 is the angle itself.
+LUM_INLINE Lanes<Lum64f> NearAngle(Vec<Lum64f> ay, Vec<Lum64f> ax, Mask<Lum64f> x_negative) {
+  using C = IntervalConstants<Lum64f>;
+  const auto& tables = arctan2::interval_tables<Lum64f>;
+  auto sum = select(x_negative, all(0x1p52 + 8), all(0x1p52));  // counts the thresholds below the ratio
+  for (const double threshold : C::thresholds) sum = add(lt(all(threshold) * ax, ay), sum, all(1.0));
+  const auto is_steep = lt(all(C::thresholds[3]) * ax, ay);
+  const auto v = select(is_steep, negate(ax), ay), u = select(is_steep, ay, ax);
+  const auto c = arctan2::Lookup(tables.centre, bits(sum));
+  const auto t = div(fnma(c, u, v), fma(c, v, u));
+  const auto s = t * t;
+  const auto angle = fma(t * s, horner(s, invcircular::atan2_A53), t);
+  const auto value = arctan2::Lookup(tables.head, bits(sum)) + select(x_negative, negate(angle), angle);
+  constexpr uint64_t tie = uint64_t{1} << 28, margin = 16;
+  const auto beside_tie = (bits(value) - all(tie - margin)) & all(2 * tie - 1);
+  return {value, mask_cast<Lum64f>(le(beside_tie, all(2 * margin)))};
+}
+LUM_INLINE Lanes<Lum32f> AngleOfFinite(Vec<Lum32f> ay, Vec<Lum32f> ax, Mask<Lum32f> x_negative) {
+  const auto low = NearAngle(widen_low(ay), widen_low(ax), low_half(x_negative));
+  const auto high = NearAngle(widen_high(ay), widen_high(ax), high_half(x_negative));
+  return {narrow(low.value, high.value), join(low.refused, high.refused)};
 }
 
 // The second path of the arctangent of two arguments.
@@ -161,11 +182,14 @@ template <class T> LUM_INLINE Lanes<T> Atan2OfSpecial(Vec<T> y, Vec<T> x, const 
   angle = select(nan, y + x, or_sign(y, angle));
   // Numbers near the ends of the exponent range.
   const auto finite = lanes.refused & ~(y_zero | x_infinite | across | nan);
+  auto in_doubt = mask_of<T>(0);
   if (any(finite)) {
     const auto ay = select(finite, abs(y), all(T(1))), ax = select(finite, abs(x), all(T(1)));
-    angle = select(finite, or_sign(y, AngleOfFinite(ay, ax, x_negative)), angle);
+    const auto of_finite = AngleOfFinite(ay, ax, x_negative);
+    angle = select(finite, or_sign(y, of_finite.value), angle);
+    in_doubt = finite & of_finite.refused;
   }
-  return {select(lanes.refused, angle, lanes.value), mask_of<T>(0)};
+  return {select(lanes.refused, angle, lanes.value), in_doubt};
 }
 
 }  // namespace lum::inline LUM_LAYER::invcircular

@@ -140,8 +140,10 @@ template <class T> LUM_INLINE Vec<T> PowerMagnitude(Vec<T> x, Vec<T> y) {
   return select(far, zero_unless(~falls, all(std::numeric_limits<T>::infinity())), value);
 }
 
-// The second path for any arguments.
-template <class T> LUM_INLINE Finished<T> PowerSecondPath(Vec<T> x, Vec<T> y, const Lanes<T>& lanes) {
+// The second path for any arguments. magnitude_of is the power of finite numbers, the first positive, neither power trivial; it
+// refuses lanes for the lane routine.
+template <class T, class MagnitudeOf>
+LUM_INLINE Finished<T> PowerSecondPath(Vec<T> x, Vec<T> y, const Lanes<T>& lanes, MagnitudeOf magnitude_of) {
   constexpr int truncated = binary_places(0) | rz | quiet;
   const auto one = eq(x, all(T(1))) | fpclass<classes::zero>(y), nan = unord(x, y) & ~one;
   const auto whole = eq(rndscale<truncated>(y), y);
@@ -159,9 +161,11 @@ template <class T> LUM_INLINE Finished<T> PowerSecondPath(Vec<T> x, Vec<T> y, co
   const auto grows = le(all(T(1)), magnitude) ^ y_negative;
   auto value = zero_unless(grows, all(std::numeric_limits<T>::infinity()));
   value = select(is_unit, all(T(1)), value);
+  auto remaining = mask_of<T>(0);
   if (any(general)) {
-    const auto computed = PowerMagnitude(select(general, magnitude, all(T(2))), select(general, y, all(T(1))));
-    value = select(general, computed, value);
+    const Lanes<T> computed = magnitude_of(select(general, magnitude, all(T(2))), select(general, y, all(T(1))));
+    value = select(general, computed.value, value);
+    remaining = general & computed.refused;
   }
   value = value | sign;
   value = select(fractional, all(-std::numeric_limits<T>::quiet_NaN()), value);
@@ -169,8 +173,14 @@ template <class T> LUM_INLINE Finished<T> PowerSecondPath(Vec<T> x, Vec<T> y, co
   value = select(one, all(T(1)), value);
   const auto at_pole = zero & y_negative & ~(one | nan);
   return {select(lanes.refused, value, lanes.value),
-          mask_of<T>(0),
+          remaining,
           {.domain = lanes.refused & (at_pole | (fractional & ~(one | nan)))}};
+}
+template <class T> LUM_INLINE Finished<T> PowerSecondPath(Vec<T> x, Vec<T> y, const Lanes<T>& lanes) {
+  return PowerSecondPath(
+      x, y, lanes, [](Vec<T> base, Vec<T> exponent) __attribute__((always_inline))->Lanes<T> {
+        return {PowerMagnitude(base, exponent), mask_of<T>(0)};
+      });
 }
 
 }  // namespace lum::inline LUM_LAYER::pow

@@ -1,7 +1,7 @@
 // x^y for one y: the general paths of Powx, a kernel a tier. Those of binary32 and A26 go by natural logarithm and exponential,
 // A50 and A53 by base 2 with large tables and the exponent split in two short parts. All of them refuse x that is not a
 // positive normal number, products next to the ends of the range, and every x where y is infinite or NaN; refused lanes have
-// the second path of Pow, in binary64 for both types.
+// the second path of Pow, whose magnitudes are those of a single rounding in binary32.
 #pragma once
 
 #include <cstdint>
@@ -14,6 +14,45 @@
 
 namespace lum::inline LUM_LAYER::pow {
 
+// ln x = e ln 2 + T + ln(1 + r), r = c m - 1 with c the integer next to 1024/m, m in [1, 2).
+template <size_t n> LUM_INLINE Vec<Lum64f> GatheredLn(Vec<Lum64f> x, const Polynomial<Lum64f, n>& polynomial) {
+  static constexpr auto table = table64({
+#include "tables/generated/powx_ln_64f_513.inc"
+  });
+  const auto m = as_float((bits(x) & all(lane::Format<Lum64f>::fraction)) | bits(all(0x1p-10)));  // times 2^-10
+  const auto c = rndscale<binary_places(0) | quiet>(rcp14(m));                                    // from 512 to 1024
+  const auto r = fms(c, m, all(1.0));
+  const auto row = shift_right<43>(bits(c)) & all(uint64_t{0x3FF});
+  const auto e = add(le(c, all(724.0)), getexp(x), all(1.0));
+  const auto p = fma(horner(r, polynomial), r * r, r);
+  return fma(e, all(numbers::ln2<Lum64f>), gather<Lum64f>(table, row)) + p;
+}
+
+constexpr auto powx_exp2 = by_columns<2>(table64({
+#include "tables/generated/exp2_64f_128_pairs.inc"
+}));
+constexpr int powx_exp2_rows = 128;
+
+// x^y of positive finite numbers of binary32 but for 2^-43 of it, which rarely matters to the rounding: refused is where it
+// does.
+LUM_INLINE Vec<Lum64f> PowerInBinary64(Vec<Lum64f> x, Vec<Lum64f> y) {
+  constexpr Polynomial<Lum64f, 4> ln_series = {{-1.0 / 2, 1.0 / 3, -1.0 / 4, 1.0 / 5}};
+  const auto p = (y * GatheredLn(x, ln_series)) * all(numbers::log2_e<Lum64f>);
+  const auto in_range = min(max(p, all(-300.0)), all(300.0));
+  const auto z = in_range + all(rounding_shifter<Lum64f>(7));
+  const auto n = z - all(rounding_shifter<Lum64f>(7)), g = in_range - n;
+  const auto scaled = scalef(gather<Lum64f>(powx_exp2, bits(z) & all(uint64_t{powx_exp2_rows - 1})), n);
+  return fma(g * scaled, horner(g, pow::powx_exp2_A50), scaled);
+}
+LUM_INLINE Lanes<Lum32f> PowerByBinary64(Vec<Lum32f> x, Vec<Lum32f> y) {
+  const auto low = PowerInBinary64(widen_low(x), widen_low(y)), high = PowerInBinary64(widen_high(x), widen_high(y));
+  const auto rounded = [&](double factor) __attribute__((always_inline)) {
+    return narrow(low * all(factor), high * all(factor));
+  };
+  const auto value = rounded(1 - 0x1p-40);
+  return {value, ne(value, rounded(1 + 0x1p-40))};
+}
+
 template <class T> struct PowxGeneral : Kernel<T> {
   T value;
 
@@ -23,25 +62,18 @@ template <class T> struct PowxGeneral : Kernel<T> {
     result = static_cast<T>(wide);
     return status;
   }
-  // The steps of PowerRoutine over vectors.
-
   LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) const {
+    auto r = SecondPathOf(x, lanes);
     // Of two NaNs the element's is the result, which only a layer that orders them gives.
-    auto in_doubt = mask_of<T>(0);
-    if constexpr (!orders_nans) in_doubt = unord(x, x) & unord(all(value), all(value)) & lanes.refused;
-    if constexpr (std::is_same_v<T, Lum64f>) {
-      auto r = PowerSecondPath(x, all(value), lanes);
-      r.refused = r.refused | in_doubt;
-      return r;
-    } else {
-      const auto half = [&](Vec<Lum64f> wide, Mask<Lum64f> refused) __attribute__((always_inline)) {
-        return PowerSecondPath(wide, widen_low(all(value)), Lanes<Lum64f>{all(1.0), refused});
-      };
-      const auto low = half(widen_low(x), low_half(lanes.refused)), high = half(widen_high(x), high_half(lanes.refused));
-      return {select(lanes.refused, narrow(low.value, high.value), lanes.value),
-              in_doubt,
-              {.domain = join(low.reports.domain, high.reports.domain)}};
-    }
+    if constexpr (!orders_nans) r.refused = r.refused | (unord(x, x) & unord(all(value), all(value)) & lanes.refused);
+    return r;
+  }
+  LUM_INLINE Finished<T> SecondPathOf(Vec<T> x, const Lanes<T>& lanes) const {
+    if constexpr (std::is_same_v<T, Lum64f>) return PowerSecondPath(x, all(value), lanes);
+    else
+      return PowerSecondPath(
+          x, all(value), lanes,
+          [](Vec<T> base, Vec<T> exponent) __attribute__((always_inline)) { return PowerByBinary64(base, exponent); });
   }
   // All lanes or none.
   LUM_INLINE Mask<T> ValueIsNotFinite() const { return fpclass<classes::nonfinite>(all(value)); }
@@ -136,20 +168,6 @@ struct PowxA21_32f : PowxGeneral<Lum32f> {
 
 // ---- Natural logarithm and exponential in binary64: A24 of binary32 and A26
 
-// ln x = e ln 2 + T + ln(1 + r), r = c m - 1 with c the integer next to 1024/m, m in [1, 2).
-template <size_t n> LUM_INLINE Vec<Lum64f> GatheredLn(Vec<Lum64f> x, const Polynomial<Lum64f, n>& polynomial) {
-  static constexpr auto table = table64({
-#include "tables/generated/powx_ln_64f_513.inc"
-  });
-  const auto m = as_float((bits(x) & all(lane::Format<Lum64f>::fraction)) | bits(all(0x1p-10)));  // times 2^-10
-  const auto c = rndscale<binary_places(0) | quiet>(rcp14(m));                                    // from 512 to 1024
-  const auto r = fms(c, m, all(1.0));
-  const auto row = shift_right<43>(bits(c)) & all(uint64_t{0x3FF});
-  const auto e = add(le(c, all(724.0)), getexp(x), all(1.0));
-  const auto p = fma(horner(r, polynomial), r * r, r);
-  return fma(e, all(numbers::ln2<Lum64f>), gather<Lum64f>(table, row)) + p;
-}
-
 // e^t = 2^N 2^(i/2048) (1 + g), the table scaled so that the error of the last factor is balanced.
 LUM_INLINE Vec<Lum64f> GatheredExp(Vec<Lum64f> t) {
   static constexpr auto table = table64({
@@ -240,11 +258,6 @@ LUM_INLINE Exponent128 MultiplyShort(const TwoParts<Vec<Lum64f>>& log, Vec<Lum64
   const auto b = fma(log.tail, y, log.head * (y - y_head));
   return {n, (a - n) + b, bits(z) & all(uint64_t{127}), HighWordAbove<0x408FEFFE>(a)};  // about 1022
 }
-
-constexpr auto powx_exp2 = by_columns<2>(table64({
-#include "tables/generated/exp2_64f_128_pairs.inc"
-}));
-constexpr int powx_exp2_rows = 128;
 
 struct PowxA50_64f : PowxGeneral<Lum64f> {
   LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) const {

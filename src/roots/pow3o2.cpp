@@ -27,6 +27,16 @@ constexpr auto midpoint_values = table64({
 constexpr auto midpoint_reciprocals = table64({
 #include "tables/generated/pow3o2_reciprocal_64f_32.inc"
 });
+// Rows of both and the reciprocal, for vectors.
+constexpr auto midpoint_rows = [] {
+  Table<Lum64f, 4 * 64> rows{};
+  for (size_t i = 0; i < 64; ++i) {
+    rows.entries[4 * i] = midpoint_values.entries[2 * i];
+    rows.entries[4 * i + 1] = midpoint_values.entries[2 * i + 1];
+    rows.entries[4 * i + 2] = midpoint_reciprocals.entries[i % 32];
+  }
+  return rows;
+}();
 constexpr auto pow3o2_64f = polynomial64({
 #include "tables/generated/pow3o2_polynomial_64f_7.inc"
 });
@@ -55,15 +65,14 @@ template <class T> LUM_INLINE Vec<Lum64f> OfNormal(Vec<Lum64f> x) {
   const auto cell = shift_right<47>(pattern) & all(uint64_t{63});
   const auto midpoint = as_float((pattern & all(uint64_t{0x000F800000000000})) | all(uint64_t{0x3FF0400000000000}));
   const auto significand = as_float((pattern & all(lane::Format<double>::fraction)) | all(std::bit_cast<uint64_t>(1.0)));
-  const auto t = (significand - midpoint) * gather<Lum64f>(midpoint_reciprocals, cell & all(uint64_t{31}));
-  const auto row = shift_left<1>(cell);
-  const auto hi = gather<Lum64f>(midpoint_values, row);
+  const auto row = gather_rows<Lum64f>(midpoint_rows, shift_left<2>(cell));
+  const auto t = (significand - midpoint) * row.column2;
   const auto p = CellPolynomial<T>(t) * t;
   // Half the exponent, downward: of its field and 1, less half of the bias and 1.
   constexpr auto bias = uint64_t{lane::Format<double>::bias};
   const auto half = shift_right<1>(exponent_field(x) + all(uint64_t{1})) - all((bias + 1) / 2);
   const auto scale = power_of_two<Lum64f>(half + shift_left<1>(half) + all(bias));
-  return (hi + (hi * p + gather<Lum64f>(midpoint_values + 1, row))) * scale;
+  return (row.column0 + (row.column0 * p + row.column1)) * scale;
 }
 
 template <class T> struct Limits;
@@ -79,6 +88,7 @@ template <> struct Limits<Lum64f> {
 };
 
 template <class T> struct Pow3o2Kernel : Kernel<T> {
+  static constexpr bool hides_refused = true;
   static LUM_INLINE Mask<T> Refused(Vec<T> x) {
     using L = Limits<T>;
     const auto distance = bits(x) - all(L::lowest);
@@ -122,7 +132,12 @@ template <class T> struct Pow3o2Kernel : Kernel<T> {
   static LUM_INLINE Vec<Lum64f> BetweenEnds(Vec<Lum64f> x) {
     const auto is_small = lt(x, all(0x1p-680));
     const auto power = OfNormal<Lum64f>(select(is_small, x * all(0x1p60), x));
-    return select(is_small, power * all(0x1p-90), power);
+    // A denormal result counts the units of a sum whose last bit is worth the smallest positive number, 90 powers of 2 higher.
+    constexpr double addend = 0x1p-932;
+    const auto is_denormal = is_small & lt(power, all(addend));
+    const auto denormal = as_float(bits(power + all(addend)) - bits(all(addend)));
+    const auto normal = select(is_denormal, all(1.0), power) * select(is_small, all(0x1p-90), all(1.0));
+    return select(is_denormal, denormal, normal);
   }
 };
 

@@ -88,6 +88,23 @@ TEST(Exp, ThresholdOfTheVectorPath) {
   ExpectFinite("Exp_64f", negative, lumStsOk);
 }
 
+// All arguments of binary32 at the ends of the range, where a vector decides by itself which results it may round: the layers
+// agree, and one of them takes the lane routine for all.
+TEST(Exp, AllFloatsAtTheEnds) {
+  for (const Export* entry : ExportsNamed("Exp_32f")) {
+    Batch batch(*entry);
+    for (const auto& [first, last] : {std::pair{0x42AEAC4Fu, 0x42B17217u}, std::pair{0xC2AEAC4Fu, 0xC2CFF1B4u}}) {
+      for (uint32_t pattern = first; pattern <= last; ++pattern) batch.src1.Append({pattern, 0});
+    }
+    std::string reason;
+    const Output expected = Callee(*TestLibrary("p0", "", reason), *entry).Run(batch);
+    for (const std::string& library : RunnableLibraries()) {
+      EXPECT_EQ(FirstDifference(expected, Callee(*TestLibrary(library, "", reason), *entry).Run(batch)), "equal")
+          << library << ' ' << entry->name;
+    }
+  }
+}
+
 // From here down results are denormal and report, though they are not zero.
 TEST(Exp, FirstDenormalResults) {
   const float last_float = -87.33654022216797f;

@@ -246,6 +246,8 @@ template <Floating T> void AddFloating(Builder& table) {
   ForImmediatesBelow(std::make_integer_sequence<int, 32>{}, [&](auto imm, const std::string& text) {
     table.add<V, V>("compare" + text + t, [](V a, V b) { return compare<decltype(imm)::value>(a, b); });
   });
+  table.add<V, Mask<T>>("compress" + t, [](V a, Mask<T> m) { return compress(m, a); });
+  table.add<V, Mask<T>>("expand" + t, [](V a, Mask<T> m) { return expand(m, a); });
 }
 
 // What every lane type has.
@@ -316,6 +318,12 @@ template <Lane T> void AddCommon(Builder& table) {
     const auto r = gather_rows(p + lanes_of<T> / 4, shift_right_arithmetic<top_bits + 1>(i));
     return Pair<T>{r.column2, r.column3};
   });
+  if constexpr (sizeof(T) == 8) {
+    table.add<const T*, Index>("gather_pairs" + t, [](const T* p, Index i) {
+      const auto r = gather_pairs(p + lanes_of<T> / 4, shift_right_arithmetic<top_bits + 1>(i));
+      return Pair<T>{r.column0, r.column1};
+    });
+  }
 }
 
 template <Integer T> void AddShifts(Builder& table) {

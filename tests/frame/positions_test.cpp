@@ -68,6 +68,23 @@ TEST_P(Positions, AmongJunk) {
   }
 }
 
+// Elements that a first path refuses among others, or the reverse, in any share: long paths take such elements out of many
+// vectors together.
+TEST_P(Positions, FewAmongMany) {
+  const Batch batch = Sample(entry(), 500, 7);
+  const Alone alone(callee(), batch);
+  Random random(8);
+  for (size_t period : {2, 5, 32, 200}) {
+    for (int round = 0; round < 6; ++round) {
+      std::vector<size_t> order(700 + random() % 64, random() % batch.size());
+      for (size_t& i : order) {
+        if (random() % period == 0) i = random() % batch.size();
+      }
+      ExpectSameAsAlone(Select(batch, alone, order));
+    }
+  }
+}
+
 // Whether a function has something to report; of the test kernels all but the silent one.
 bool IsReporting(const Subject& subject) {
   if (subject.is_test_kernel) return subject.entry->name.find("Silent") == std::string_view::npos;

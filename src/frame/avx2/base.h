@@ -17,6 +17,7 @@ template <Lane T> using VecIn = Vec<T>;
 template <Lane T> struct Mask { half::HalfMask<T> low, high; };
 
 inline constexpr bool vectors_fit_registers = true;
+inline constexpr bool packs_lanes = false;
 inline constexpr bool has_second_paths = true;
 // The compilers may exchange the operands of sums and products, so that of two NaNs the other one is taken.
 inline constexpr bool orders_nans = false;

@@ -108,6 +108,20 @@ template <Lane T, Integer I> LUM_INLINE HalfColumns<T> gather_rows(const T* base
   }
 }
 
+template <Lane T> struct HalfTwoColumns { Half<T> column0, column1; };
+template <Lane T, Integer64 I> LUM_INLINE HalfTwoColumns<T> gather_pairs(const T* base, Half<I> index) {
+  alignas(32) SignedOf<T> i[Half<T>::lanes];
+  _mm256_store_si256(reinterpret_cast<__m256i*>(i), index.v);
+  const auto pairs = [&](int j) __attribute__((always_inline)) {
+    const auto pair = [&](int k) __attribute__((always_inline)) {
+      return _mm_loadu_si128(reinterpret_cast<const __m128i*>(base + i[k]));
+    };
+    return _mm256_inserti128_si256(_mm256_castsi128_si256(pair(j)), pair(j + 2), 1);
+  };
+  const __m256i even = pairs(0), odd = pairs(1);
+  return {from_raw<T>(_mm256_unpacklo_epi64(even, odd)), from_raw<T>(_mm256_unpackhi_epi64(even, odd))};
+}
+
 // The even or odd lanes of both.
 template <Floating T> LUM_INLINE Half<T> even_lanes(Half<T> a, Half<T> b) {
   if constexpr (is32<T>) return from_raw<T>(low_words(raw(a), raw(b)));

@@ -20,6 +20,22 @@ requires(sizeof(T) == sizeof(I)) LUM_INLINE Vec<T> permute2(Vec<T> low, Vec<T> h
   const half::Table<T, 2> entries{low.low, low.high, high.low, high.high};
   return {entries[index.low.v], entries[index.high.v]};
 }
+// The lanes of the mask side by side in the low lanes, zeros above them.
+template <Floating T> LUM_INLINE Vec<T> compress(Mask<T> m, Vec<T> a) {
+  alignas(32) T lanes[lanes_of<T>], packed[lanes_of<T>] = {};
+  store(lanes, a);
+  int count = 0;
+  for (uint32_t rest = to_bits(m); rest != 0; rest &= rest - 1) packed[count++] = lanes[std::countr_zero(rest)];
+  return load(packed);
+}
+// The low lanes in their order in the lanes of the mask, zeros in the others.
+template <Floating T> LUM_INLINE Vec<T> expand(Mask<T> m, Vec<T> a) {
+  alignas(32) T packed[lanes_of<T>], lanes[lanes_of<T>] = {};
+  store(packed, a);
+  int count = 0;
+  for (uint32_t rest = to_bits(m); rest != 0; rest &= rest - 1) lanes[std::countr_zero(rest)] = packed[count++];
+  return load(lanes);
+}
 // base[index] per lane, the index signed and of the lane's width, in the lanes of the mask, which alone are read; the others
 // from old.
 template <Lane T, Integer I>
@@ -41,6 +57,14 @@ template <Lane T, Integer I>
 requires(sizeof(T) == sizeof(I)) LUM_INLINE Columns<T> gather_rows(const T* base, Vec<I> index) {
   const auto low = half::gather_rows(base, index.low), high = half::gather_rows(base, index.high);
   return {{low.column0, high.column0}, {low.column1, high.column1}, {low.column2, high.column2}, {low.column3, high.column3}};
+}
+
+// The two entries from base[index] on, of each lane.
+template <Lane T> struct TwoColumns { Vec<T> column0, column1; };
+template <Lane T, Integer64 I>
+requires(sizeof(T) == sizeof(I)) LUM_INLINE TwoColumns<T> gather_pairs(const T* base, Vec<I> index) {
+  const auto low = half::gather_pairs(base, index.low), high = half::gather_pairs(base, index.high);
+  return {{low.column0, high.column0}, {low.column1, high.column1}};
 }
 
 template <Lane T> struct Pair { Vec<T> even, odd; };

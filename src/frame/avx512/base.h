@@ -27,6 +27,7 @@ template <Lane T> struct Mask { typename MaskBitsOf<lanes_of<T>>::Type k; };
 
 template <class T> inline constexpr bool is32 = sizeof(T) == 4;
 inline constexpr bool vectors_fit_registers = true;
+inline constexpr bool packs_lanes = true;
 inline constexpr bool has_second_paths = true;
 inline constexpr bool orders_nans = true;
 inline constexpr bool streams_fit_registers = true;

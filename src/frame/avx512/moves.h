@@ -24,6 +24,16 @@ requires(sizeof(T) == sizeof(I)) LUM_INLINE Vec<T> permute2(Vec<T> low, Vec<T> h
   else if constexpr (is32<T>) return {_mm512_permutex2var_epi32(low.v, index.v, high.v)};
   else return {_mm512_permutex2var_epi64(low.v, index.v, high.v)};
 }
+// The lanes of the mask side by side in the low lanes, zeros above them.
+template <Floating T> LUM_INLINE Vec<T> compress(Mask<T> m, Vec<T> a) {
+  if constexpr (is32<T>) return {_mm512_maskz_compress_ps(m.k, a.v)};
+  else return {_mm512_maskz_compress_pd(m.k, a.v)};
+}
+// The low lanes in their order in the lanes of the mask, zeros in the others.
+template <Floating T> LUM_INLINE Vec<T> expand(Mask<T> m, Vec<T> a) {
+  if constexpr (is32<T>) return {_mm512_maskz_expand_ps(m.k, a.v)};
+  else return {_mm512_maskz_expand_pd(m.k, a.v)};
+}
 // base[index] per lane, the index signed and of the lane's width, in the lanes of the mask, which alone are read; the others
 // from old.
 template <Lane T, Integer I>
@@ -83,6 +93,26 @@ requires(sizeof(T) == sizeof(I)) LUM_INLINE Columns<T> gather_rows(const T* base
     return columns(_mm512_shuffle_i64x2(ab_even, cd_even, 0x88), _mm512_shuffle_i64x2(ab_odd, cd_odd, 0x88),
                    _mm512_shuffle_i64x2(ab_even, cd_even, 0xDD), _mm512_shuffle_i64x2(ab_odd, cd_odd, 0xDD));
   }
+}
+
+// The two entries from base[index] on, of each lane, by loads of both.
+template <Lane T> struct TwoColumns { Vec<T> column0, column1; };
+template <Lane T, Integer64 I>
+requires(sizeof(T) == sizeof(I)) LUM_INLINE TwoColumns<T> gather_pairs(const T* base, Vec<I> index) {
+  alignas(64) SignedOf<T> i[lanes_of<T>];
+  _mm512_store_si512(i, index.v);
+  const auto pairs = [&](int j) __attribute__((always_inline)) {
+    const auto pair = [&](int k) __attribute__((always_inline)) {
+      return _mm_loadu_si128(reinterpret_cast<const __m128i*>(base + i[k]));
+    };
+    const __m256i low = _mm256_inserti128_si256(_mm256_castsi128_si256(pair(j)), pair(j + 2), 1);
+    const __m256i high = _mm256_inserti128_si256(_mm256_castsi128_si256(pair(j + 4)), pair(j + 6), 1);
+    return _mm512_inserti64x4(_mm512_castsi256_si512(low), high, 1);
+  };
+  const __m512i even = pairs(0), odd = pairs(1);
+  const __m512i first = _mm512_unpacklo_epi64(even, odd), second = _mm512_unpackhi_epi64(even, odd);
+  if constexpr (std::same_as<T, double>) return {{_mm512_castsi512_pd(first)}, {_mm512_castsi512_pd(second)}};
+  else return {{first}, {second}};
 }
 
 template <Lane T> struct Pair { Vec<T> even, odd; };

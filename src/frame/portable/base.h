@@ -13,6 +13,7 @@ inline namespace portable {
 
 template <class T> inline constexpr bool is32 = sizeof(T) == 4;
 inline constexpr bool vectors_fit_registers = false;
+inline constexpr bool packs_lanes = false;
 inline constexpr bool has_second_paths = false;
 inline constexpr bool orders_nans = false;
 inline constexpr bool streams_fit_registers = false;

@@ -41,6 +41,24 @@ requires(sizeof(T) == sizeof(I)) LUM_INLINE Vec<T> permute2(const Vec<T>& low, c
       },
       index);
 }
+// The lanes of the mask side by side in the low lanes, zeros above them.
+template <Floating T> LUM_INLINE Vec<T> compress(const Mask<T>& m, const Vec<T>& a) {
+  Vec<T> r{};
+  int count = 0;
+  for (int i = 0; i < lanes_of<T>; ++i) {
+    if (m.bits_of(i) != 0) r.lane[count++] = a.lane[i];
+  }
+  return r;
+}
+// The low lanes in their order in the lanes of the mask, zeros in the others.
+template <Floating T> LUM_INLINE Vec<T> expand(const Mask<T>& m, const Vec<T>& a) {
+  Vec<T> r{};
+  int count = 0;
+  for (int i = 0; i < lanes_of<T>; ++i) {
+    if (m.bits_of(i) != 0) r.lane[i] = a.lane[count++];
+  }
+  return r;
+}
 // base[index] per lane, the index signed and of the lane's width.
 template <Lane T, Integer I>
 requires(sizeof(T) == sizeof(I)) LUM_INLINE Vec<T> gather(const T* base, const Vec<I>& index) {
@@ -65,6 +83,13 @@ template <Lane T> struct Columns { Vec<T> column0, column1, column2, column3; };
 template <Lane T, Integer I>
 requires(sizeof(T) == sizeof(I)) LUM_INLINE Columns<T> gather_rows(const T* base, const Vec<I>& index) {
   return {gather(base, index), gather(base + 1, index), gather(base + 2, index), gather(base + 3, index)};
+}
+
+// The two entries from base[index] on, of each lane.
+template <Lane T> struct TwoColumns { Vec<T> column0, column1; };
+template <Lane T, Integer64 I>
+requires(sizeof(T) == sizeof(I)) LUM_INLINE TwoColumns<T> gather_pairs(const T* base, const Vec<I>& index) {
+  return {gather(base, index), gather(base + 1, index)};
 }
 
 template <Lane T> struct Pair { Vec<T> even, odd; };
