@@ -11,7 +11,7 @@
 //                reduce<imm>(a), by the names of immediates.h  exponent_field(a)  power_of_two<T>(field)
 //   rounded      rounded_rcp14<grid, interval>(m)  shifted_rcp14<grid, interval>(m)  rcp14_halves_up<bits>(a)
 //   conditional  fma_floor(a, b, c)  rcp14_normal(a)  rsqrt14_normal(a)  getexp_normal(a)  getmant_normal<imm>(a)
-//                scalef_normal(a, b)  mul_toward_zero(a, b)  mul_toward_zero(a, a_tail, b)  split_floor<grid>(a, c)
+//                rcp14_halves_up_normal<bits>(a)  scalef_normal(a, b)  mul_toward_zero(a, b)  mul_toward_zero(a, a_tail, b)  split_floor<grid>(a, c)
 //   masks        eq ne lt le nlt nle unord compare<predicate>(a, b)  fpclass<classes>(a)  test_any test_none(a, b)
 //                & | ^ ~  any none(m)  to_bits(m)  spread(m)  sign_mask(v)  mask_cast<T>(m)  join(low, high)
 //                low_half high_half(m)

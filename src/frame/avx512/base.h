@@ -28,6 +28,8 @@ template <Lane T> struct Mask { typename MaskBitsOf<lanes_of<T>>::Type k; };
 template <class T> inline constexpr bool is32 = sizeof(T) == 4;
 inline constexpr bool vectors_fit_registers = true;
 inline constexpr bool has_second_paths = true;
+// Whether rcp14 and rsqrt14 take any number at no cost. Otherwise paths that need normal ones refuse the others.
+inline constexpr bool estimates_take_all = true;
 inline constexpr bool orders_nans = true;
 inline constexpr bool streams_fit_registers = true;
 

@@ -26,6 +26,8 @@ template <Lane T> struct alignas(16) Mask {
 template <class T> inline constexpr bool is32 = sizeof(T) == 4;
 inline constexpr bool vectors_fit_registers = false;
 inline constexpr bool has_second_paths = false;
+// Whether rcp14 and rsqrt14 take any number at no cost. Otherwise paths that need normal ones refuse the others.
+inline constexpr bool estimates_take_all = true;
 inline constexpr bool orders_nans = false;
 inline constexpr bool streams_fit_registers = false;
 
