@@ -69,8 +69,8 @@ template <class T> LUM_INLINE Vec<T> Entry(const T* table, Vec<UnsignedOf<T>> k)
 }
 template <class T> LUM_INLINE Vec<T> TangentOf(const Reduced<T>& a) { return Entry<T>(TanConstants<T>::table, a.k); }
 
-// 1 / d to 14 bits in binary32, to 28 in binary64. 1 - T p is a normal number, from 1/2 on, and at the pole below a tenth of the
-// largest number.
+// 1 / d to 14 bits in binary32, to 28 in binary64. 1 - T p is a normal number, from 1/2 on, and at the pole below a tenth of
+// the largest number.
 LUM_INLINE Vec<Lum32f> Reciprocal(Vec<Lum32f> d) { return rcp14_normal(d); }
 LUM_INLINE Vec<Lum64f> Reciprocal(Vec<Lum64f> d) {
   const auto seed = rcp14_normal(d);

@@ -14,8 +14,8 @@ LUM_INLINE Vec<Lum64f> RootSeries(Vec<Lum64f> e) { return horner(e, hyperbolic::
 LUM_INLINE Vec<Lum32f> ShortRootSeries(Vec<Lum32f>) { return all(0.5f); }
 LUM_INLINE Vec<Lum64f> ShortRootSeries(Vec<Lum64f> e) { return horner(e, hyperbolic::root_A26); }
 
-// sqrt(s + s_tail) for a normal s, but for refused and large lanes, where the result is not used. The tail is up to 2^-14 of the head; where s may be next to zero, g_tail is large enough for its share in
-// the series to matter.
+// sqrt(s + s_tail) for a normal s, but for refused and large lanes, where the result is not used. The tail is up to 2^-14 of
+// the head; where s may be next to zero, g_tail is large enough for its share in the series to matter.
 enum class Sums { from_one, from_zero };
 template <Sums sums, class T> LUM_INLINE TwoParts<Vec<T>> RootOf(Vec<T> s, Vec<T> s_tail) {
   const auto y = rsqrt14_normal(s);

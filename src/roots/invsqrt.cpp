@@ -14,8 +14,8 @@ namespace {
 // Zeros, infinities and negative numbers are refused; NaN and denormals run through where the estimate takes them. A tier has
 // the root of x from its estimate s.
 template <class T, class Tier> struct InvSqrtKernel : Kernel<T> {
-  static constexpr int refused = classes::zero | classes::infinity | classes::negative |
-                                 (estimates_take_all ? 0 : classes::nan | classes::denormal);
+  static constexpr int refused =
+      classes::zero | classes::infinity | classes::negative | (estimates_take_all ? 0 : classes::nan | classes::denormal);
   static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) { return {Tier::Root(x, rsqrt14_normal(x)), fpclass<refused>(x)}; }
   static LumStatus LaneRoutine(T x, T& result) {
     constexpr auto infinity = std::numeric_limits<T>::infinity();
@@ -75,9 +75,7 @@ LUM_INLINE Vec<Lum64f> Series(Vec<Lum64f> s, Vec<Lum64f> d) {
   return fma(p, s * d, s);
 }
 struct A50_64f : InvSqrtKernel<Lum64f, A50_64f> {
-  static LUM_INLINE Vec<Lum64f> Root(Vec<Lum64f> x, Vec<Lum64f> s) {
-    return Series(s, fnma(s * x, s, all(1.0)));
-  }
+  static LUM_INLINE Vec<Lum64f> Root(Vec<Lum64f> x, Vec<Lum64f> s) { return Series(s, fnma(s * x, s, all(1.0))); }
 };
 struct A53_64f : InvSqrtKernel<Lum64f, A53_64f> {
   static LUM_INLINE Vec<Lum64f> Root(Vec<Lum64f> x, Vec<Lum64f> s) {
