@@ -130,8 +130,8 @@ struct A53_64fc : QuotientKernel<Lum64fc> {
   }
 
   // Where scaling takes many instructions the first path goes without, which is the same but for a power of 2, and refuses
-  // parts that are so small or large that it could matter, NaN, and numbers that are zero as a whole. The quotient of others
-  // stands once.
+  // parts that are so small or large that it could matter, NaN, and numbers that are zero as a whole. All calls share one
+  // copy of either and of its stack.
   static constexpr bool scales_all = !vectors_fit_registers || streams_fit_registers;
   static LUM_INLINE Mask<Lum64f> IsExtreme(ComplexVec<Lum64f> z) {
     const auto low = all(0x1p-100), high = all(0x1p100), zero = all(0.0);
@@ -142,13 +142,14 @@ struct A53_64fc : QuotientKernel<Lum64fc> {
   [[gnu::noinline]] static Lanes<Lum64fc> CalledScaledQuotient(const Interleaved<Lum64f>& z, const Interleaved<Lum64f>& w) {
     return ScaledQuotient(z, w);
   }
-  static LUM_INLINE Lanes<Lum64fc> VectorPath(Interleaved<Lum64f> packed_z, Interleaved<Lum64f> packed_w) {
-    if constexpr (scales_all) {
-      return ScaledQuotient(packed_z, packed_w);
-    } else {
-      const auto z = split(packed_z), w = split(packed_w);
-      return {join(OrdinaryQuotient(z, w)), IsExtreme(z) | IsExtreme(w)};
-    }
+  [[gnu::noinline]] static Lanes<Lum64fc> CalledOrdinaryQuotient(const Interleaved<Lum64f>& packed_z,
+                                                                 const Interleaved<Lum64f>& packed_w) {
+    const auto z = split(packed_z), w = split(packed_w);
+    return {join(OrdinaryQuotient(z, w)), IsExtreme(z) | IsExtreme(w)};
+  }
+  static LUM_INLINE Lanes<Lum64fc> VectorPath(Interleaved<Lum64f> z, Interleaved<Lum64f> w) {
+    if constexpr (scales_all) return ScaledQuotient(z, w);
+    else return CalledOrdinaryQuotient(z, w);
   }
   static LUM_INLINE Finished<Lum64fc> SecondPath(Interleaved<Lum64f> z, Interleaved<Lum64f> w, const Lanes<Lum64fc>& lanes) {
     if constexpr (scales_all) return QuotientKernel<Lum64fc>::SecondPath(z, w, lanes);
