@@ -69,10 +69,11 @@ template <class T> LUM_INLINE Vec<T> Entry(const T* table, Vec<UnsignedOf<T>> k)
 }
 template <class T> LUM_INLINE Vec<T> TangentOf(const Reduced<T>& a) { return Entry<T>(TanConstants<T>::table, a.k); }
 
-// 1 / d to 14 bits in binary32, to 28 in binary64.
-LUM_INLINE Vec<Lum32f> Reciprocal(Vec<Lum32f> d) { return rcp14(d); }
+// 1 / d to 14 bits in binary32, to 28 in binary64. 1 - T p is a normal number, from 1/2 on, and at the pole below a tenth of
+// the largest number.
+LUM_INLINE Vec<Lum32f> Reciprocal(Vec<Lum32f> d) { return rcp14_normal(d); }
 LUM_INLINE Vec<Lum64f> Reciprocal(Vec<Lum64f> d) {
-  const auto seed = rcp14(d);
+  const auto seed = rcp14_normal(d);
   return fma(fnma(d, seed, all(1.0)), seed, seed);
 }
 
@@ -136,7 +137,7 @@ struct A11_32f : Tangent<A11_32f, Lum32f> {
   static LUM_STAGE Vec<Lum32f> Evaluate(const Reduced<Lum32f>& a) {
     const auto t = TangentOf(a);
     const auto p = fma(horner(a.hi, circular::tan_A11) * a.hi, a.hi * a.hi, a.hi);
-    return (t + p) * rcp14(fnma(t, p, all(1.0f)));  // the reciprocal's 14 bits are enough
+    return (t + p) * Reciprocal(fnma(t, p, all(1.0f)));  // the reciprocal's 14 bits are enough
   }
 };
 

@@ -107,29 +107,53 @@ struct A53_64fc : QuotientKernel<Lum64fc> {
     return far(z.re) | far(z.im);
   }
 
-  static LUM_INLINE Lanes<Lum64fc> QuotientOf(const Interleaved<Lum64f>& packed_z, const Interleaved<Lum64f>& packed_w) {
-    const auto unscaled_z = split(packed_z), unscaled_w = split(packed_w);
-    const auto [z, z_exponent] = Scale(unscaled_z);
-    const auto [w, w_exponent] = Scale(unscaled_w);
+  // z / w where no product and no error of one leaves the range. The square of the divisor's modulus is a normal number.
+  static LUM_INLINE ComplexVec<Lum64f> OrdinaryQuotient(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w) {
     const auto square = SumOfProducts(w.re, w.re, w.im, w.im);
     const auto re = SumOfProducts(z.re, w.re, z.im, w.im);
     const auto im = SumOfProducts(z.im, w.re, negate(z.re), w.im);
-    auto r = rcp14(square.head);
+    auto r = rcp14_normal(square.head);
     r = fma(fnma(square.head, r, all(1.0)), r, r);
     r = fma(fnma(square.head, r, all(1.0)), r, r);
+    return {Ratio(re, square, r), Ratio(im, square, r)};
+  }
+  static LUM_INLINE Lanes<Lum64fc> ScaledQuotient(const Interleaved<Lum64f>& packed_z, const Interleaved<Lum64f>& packed_w) {
+    const auto unscaled_z = split(packed_z), unscaled_w = split(packed_w);
+    const auto [z, z_exponent] = Scale(unscaled_z);
+    const auto [w, w_exponent] = Scale(unscaled_w);
     const auto back = z_exponent - w_exponent;
-    const ComplexVec<Lum64f> q{scalef(Ratio(re, square, r), back), scalef(Ratio(im, square, r), back)};
+    const auto ordinary = OrdinaryQuotient(z, w);
+    const ComplexVec<Lum64f> q{scalef(ordinary.re, back), scalef(ordinary.im, back)};
     // Where an argument is zero as a whole, its exponent is infinite and the quotient is NaN.
     return {join(q),
             IsFar(unscaled_z) | IsFar(unscaled_w) | fpclass<classes::nonfinite>(q.re) | fpclass<classes::nonfinite>(q.im)};
   }
-  // Where registers do not hold the intermediate vectors, all calls share one copy of it and of its stack.
-  [[gnu::noinline]] static Lanes<Lum64fc> CalledQuotientOf(const Interleaved<Lum64f>& z, const Interleaved<Lum64f>& w) {
-    return QuotientOf(z, w);
+
+  // Where scaling takes many instructions the first path goes without, which is the same but for a power of 2, and refuses
+  // parts that are so small or large that it could matter, NaN, and numbers that are zero as a whole. All calls share one
+  // copy of either and of its stack.
+  static constexpr bool scales_all = !vectors_fit_registers || streams_fit_registers;
+  static LUM_INLINE Mask<Lum64f> IsExtreme(ComplexVec<Lum64f> z) {
+    const auto low = all(0x1p-100), high = all(0x1p100), zero = all(0.0);
+    const auto re = abs(z.re), im = abs(z.im);
+    return nle(re, high) | nle(im, high) | (lt(re, low) & lt(im, low)) | (lt(re, low) & lt(zero, re)) |
+           (lt(im, low) & lt(zero, im));
+  }
+  [[gnu::noinline]] static Lanes<Lum64fc> CalledScaledQuotient(const Interleaved<Lum64f>& z, const Interleaved<Lum64f>& w) {
+    return ScaledQuotient(z, w);
+  }
+  [[gnu::noinline]] static Lanes<Lum64fc> CalledOrdinaryQuotient(const Interleaved<Lum64f>& packed_z,
+                                                                 const Interleaved<Lum64f>& packed_w) {
+    const auto z = split(packed_z), w = split(packed_w);
+    return {join(OrdinaryQuotient(z, w)), IsExtreme(z) | IsExtreme(w)};
   }
   static LUM_INLINE Lanes<Lum64fc> VectorPath(Interleaved<Lum64f> z, Interleaved<Lum64f> w) {
-    if constexpr (vectors_fit_registers && !streams_fit_registers) return CalledQuotientOf(z, w);
-    else return QuotientOf(z, w);
+    if constexpr (scales_all) return ScaledQuotient(z, w);
+    else return CalledOrdinaryQuotient(z, w);
+  }
+  static LUM_INLINE Finished<Lum64fc> SecondPath(Interleaved<Lum64f> z, Interleaved<Lum64f> w, const Lanes<Lum64fc>& lanes) {
+    if constexpr (scales_all) return QuotientKernel<Lum64fc>::SecondPath(z, w, lanes);
+    else return QuotientKernel<Lum64fc>::SecondPath(z, w, CalledScaledQuotient(z, w));
   }
 };
 

@@ -70,18 +70,20 @@ struct A21_32f : Log1p<Lum32f> {
   }
 };
 
-// s = 2^e m, w next to 1/m with the given fraction bits.
+// s = 2^e m, w next to 1/m with the given fraction bits. A sum s is no denormal number; refused are those that are not positive
+// normal ones.
 template <class T> struct Reciprocal {
   Vec<T> e, m, w;
   Vec<T> c;              // at the scale of m
   Vec<UnsignedOf<T>> j;  // in the low bits: the row of w in a table of 2^(fraction_bits - 1) rows
+  Mask<T> refused;
 };
 template <int fraction_bits, class T> LUM_INLINE Reciprocal<T> TakeReciprocal(Vec<T> x) {
   constexpr T shifter = rounding_shifter<T>(fraction_bits);  // the sum has the row in its low bits
   const auto [s, c] = AddOne(x);
-  const auto [m, e] = parts<significand::from_1_to_2 | significand::nan_if_negative>(s);
+  const auto m = getmant_normal<significand::from_1_to_2>(s), e = getexp_normal(s);
   const auto t = shifted_rcp14<fraction_bits, significand::from_1_to_2>(m);
-  return {e, m, t - all(shifter), scalef(c, negate(e)), bits(t)};
+  return {e, m, t - all(shifter), scalef_normal(c, negate(e)), bits(t), fpclass<classes::not_positive_normal>(s)};
 }
 
 // The reduced argument r and what its sum has lost.
@@ -90,10 +92,10 @@ template <class T> LUM_INLINE TwoParts<Vec<T>> ReduceInTwoParts(const Reciprocal
   return fast_two_sum(r0, a.c * a.w);
 }
 
-// hi + lo + ln(1 + r) with ln(1 + r) = r + r^2 p. Of an s that is refused, hi is infinite or r NaN, so the sum's tail is NaN.
-template <class T> LUM_INLINE Lanes<T> JoinPairs(Vec<T> x, Vec<T> hi, Vec<T> lo, Vec<T> r, Vec<T> p) {
+// hi + lo + ln(1 + r) with ln(1 + r) = r + r^2 p.
+template <class T> LUM_INLINE Vec<T> JoinPairs(Vec<T> x, Vec<T> hi, Vec<T> lo, Vec<T> r, Vec<T> p) {
   const auto s = fast_two_sum(hi, r);
-  return {or_sign(x, s.head + (fma(r * r, p, lo) + s.tail)), unord(s.tail, s.tail)};
+  return or_sign(x, s.head + (fma(r * r, p, lo) + s.tail));
 }
 
 struct A24_32f : Log1p<Lum32f> {
@@ -103,12 +105,12 @@ struct A24_32f : Log1p<Lum32f> {
   }));
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
     const auto a = TakeReciprocal<6>(x);
-    const auto k = (a.e - all(1.0f)) - getexp_normal(a.w);
+    const auto k = sub(le(all(1.0f), a.w), a.e, all(1.0f), a.e);  // w is in [1/2, 1]
     const auto r = ReduceInTwoParts(a);
     const auto hi = fma(k, all(numbers::ln2_short<Lum32f>), permute2(load<Lum32f>(pairs), load(pairs + 16), a.j));
     const auto lo = fma(k, all(numbers::ln2_short_tail<Lum32f>), permute2(load(pairs + 32), load(pairs + 48), a.j));
     const auto p = horner(r.head, explog::log1p_A24);
-    return JoinPairs(x, hi, lo + r.tail, r.head, p);
+    return {JoinPairs(x, hi, lo + r.tail, r.head, p), a.refused};
   }
 };
 
@@ -122,7 +124,7 @@ LUM_INLINE Vec<Lum64f> ReducedInOnePart(const Reciprocal<Lum64f>& a) { return fm
 LUM_INLINE Lanes<Lum64f> JoinOnePart(Vec<Lum64f> x, const Reciprocal<Lum64f>& a, Vec<Lum64f> r, Vec<Lum64f> p) {
   const auto q = fma(p, r * r, r);
   const auto b = fma(RaisedExponent(a), all(numbers::ln2<Lum64f>), permute2(load<Lum64f>(rows), load(rows + 8), a.j));
-  return {or_sign(x, b + q), unord(q, q)};
+  return {or_sign(x, b + q), a.refused};
 }
 
 struct A26_64f : Log1p<Lum64f> {
@@ -153,7 +155,7 @@ struct A53_64f : Log1p<Lum64f> {
     const auto r = ReduceInTwoParts(a);
     const auto hi = fma(e, all(numbers::ln2_short<Lum64f>), permute2(load<Lum64f>(pairs), load(pairs + 8), a.j));
     const auto lo = fma(e, all(numbers::ln2_rest<Lum64f>), permute2(load(pairs + 16), load(pairs + 24), a.j));
-    return JoinPairs(x, hi, lo + r.tail, r.head, estrin(r.head, explog::log1p_A50));
+    return {JoinPairs(x, hi, lo + r.tail, r.head, estrin(r.head, explog::log1p_A50)), a.refused};
   }
 };
 

@@ -299,8 +299,7 @@ LUM_INLINE void TailStep(const K& kernel, const Arrays<K, n, m>& arrays, int64_t
       return;
     }
   }
-  const auto values = Values<K, m>(result);
-  for (int j = 0; j < m; ++j) StoreElements(count, arrays.dst[j] + i, values[j]);
+  StoreStep<K, n, m>(arrays, i, count, result);
 }
 
 // The environment, the blocks and the tail of a call whose arguments are good.

@@ -259,12 +259,26 @@ template <class K, int n, int m> LUM_INLINE Inputs<K, n> LoadStep(const Arrays<K
   else return {LoadElements(count, a.src[0] + i, K::fill), LoadElements(count, a.src[1] + i, K::fill)};
 }
 
+// Without an array of results, which g++ would have on the stack.
+template <class Result> LUM_INLINE const auto& Value(const Result& r) {
+  if constexpr (requires { r.value; }) return r.value;
+  else return r;
+}
 template <class K, int n, int m, class Result> LUM_INLINE void StoreStep(const Arrays<K, n, m>& a, int64_t i, const Result& r) {
   if constexpr (m == 2) {
     StoreElements(a.dst[0] + i, r.value1);
     StoreElements(a.dst[1] + i, r.value2);
   } else {
-    StoreElements(a.dst[0] + i, Values<K, m>(r)[0]);
+    StoreElements(a.dst[0] + i, Value(r));
+  }
+}
+template <class K, int n, int m, class Result>
+LUM_INLINE void StoreStep(const Arrays<K, n, m>& a, int64_t i, int count, const Result& r) {
+  if constexpr (m == 2) {
+    StoreElements(count, a.dst[0] + i, r.value1);
+    StoreElements(count, a.dst[1] + i, r.value2);
+  } else {
+    StoreElements(count, a.dst[0] + i, Value(r));
   }
 }
 

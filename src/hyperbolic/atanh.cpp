@@ -26,7 +26,8 @@ template <class T> LUM_INLINE Sides<T> SidesOf(Vec<T> x) {
   const auto p = one + a, q = one - a;
   const auto p_tail = (one - p) + a, q_tail = (one - q) - a;
   const auto wp = ShortReciprocalOf(p), wq = ShortReciprocalOf(q);
-  return {a, {wp, Residue(wp, p, p_tail)}, {wq, Residue(wq, q, q_tail)}, getexp(wq) - getexp(wp), RowOf(wp), RowOf(wq)};
+  const auto exponent = getexp_normal(wq) - getexp_normal(wp);
+  return {a, {wp, Residue(wp, p, p_tail)}, {wq, Residue(wq, q, q_tail)}, exponent, RowOf(wp), RowOf(wq)};
 }
 
 // Half the sum with the sign of x.

@@ -14,11 +14,11 @@ LUM_INLINE Vec<Lum64f> RootSeries(Vec<Lum64f> e) { return horner(e, hyperbolic::
 LUM_INLINE Vec<Lum32f> ShortRootSeries(Vec<Lum32f>) { return all(0.5f); }
 LUM_INLINE Vec<Lum64f> ShortRootSeries(Vec<Lum64f> e) { return horner(e, hyperbolic::root_A26); }
 
-// sqrt(s + s_tail). The tail is up to 2^-14 of the head; where s may be next to zero, g_tail is large enough for its share in
-// the series to matter.
+// sqrt(s + s_tail) for a normal s, but for refused and large lanes, where the result is not used. The tail is up to 2^-14 of
+// the head; where s may be next to zero, g_tail is large enough for its share in the series to matter.
 enum class Sums { from_one, from_zero };
 template <Sums sums, class T> LUM_INLINE TwoParts<Vec<T>> RootOf(Vec<T> s, Vec<T> s_tail) {
-  const auto y = rsqrt14(s);
+  const auto y = rsqrt14_normal(s);
   const auto g = s * y;
   const auto g_tail = fma(y, s_tail, fms(y, s, g));
   const auto e = fnma(y, g_tail, fnma(g, y, all(T(1))));
@@ -26,7 +26,7 @@ template <Sums sums, class T> LUM_INLINE TwoParts<Vec<T>> RootOf(Vec<T> s, Vec<T
   return {g, fma(full * e, RootSeries(e), g_tail)};
 }
 template <class T> LUM_INLINE Vec<T> ShortRootOf(Vec<T> s) {
-  const auto y = rsqrt14(s);
+  const auto y = rsqrt14_normal(s);
   const auto g = s * y;
   const auto e = fnma(g, y, all(T(1)));
   return fma(g * e, ShortRootSeries(e), g);
@@ -40,7 +40,7 @@ template <class T> LUM_INLINE Vec<T> EighthIf(Mask<T> large, Vec<T> a, Vec<T> su
   return select(large, a * all(T(0.125)), sum);
 }
 template <class T> LUM_INLINE Vec<T> ExponentOf(Vec<T> w, Mask<T> large) {
-  const auto k = getexp(w);
+  const auto k = getexp_normal(w);
   return sub(large, k, all(T(4)), k);
 }
 

@@ -42,8 +42,11 @@ template <> struct LogTable<Lum64f> {
   }));
 };
 
-// 1/x rounded to N steps a power of 2 by integer arithmetic, which may carry into the exponent.
-template <class T> LUM_INLINE Vec<T> ShortReciprocalOf(Vec<T> x) { return rcp14_halves_up<LogTable<T>::reciprocal_bits>(x); }
+// 1/x rounded to N steps a power of 2 by integer arithmetic, which may carry into the exponent; x and 1/x are normal numbers
+// but in refused lanes.
+template <class T> LUM_INLINE Vec<T> ShortReciprocalOf(Vec<T> x) {
+  return rcp14_halves_up_normal<LogTable<T>::reciprocal_bits>(x);
+}
 // w (head + tail) - 1. The first step is exact but for one rounding.
 template <class T> LUM_INLINE Vec<T> Residue(Vec<T> w, Vec<T> head, Vec<T> tail) {
   return fma(w, tail, fms(w, head, all(T(1))));

@@ -2,6 +2,8 @@
 // polynomial runs around a centre. Row 0 runs from zero, with slope 1 and no constant term, so that denormals come out as they
 // are; the last row is the constant 1. The high tiers hold the value at the centre in two parts. The cheapest is a rational
 // function. No tier ever reports.
+#include <type_traits>
+
 #include "frame/kernel_frame.h"
 #include "frame/kernels.h"
 #include "hyperbolic/polynomials.h"
@@ -35,17 +37,37 @@ template <class T> struct HyperbolicTangent : Kernel<T> {
   }
 };
 
-// Columns of rows_of<T> entries: the centre, the coefficients from the constant one up, what the constant one lacks.
-template <class T> inline constexpr int rows_of = 2 * lanes_of<T>;
-template <int column, class T> LUM_INLINE Vec<T> Lookup(const T* columns, Vec<SignedOf<T>> row) {
-  constexpr int first = column * rows_of<T>;
-  return permute2(load(columns + first), load(columns + first + lanes_of<T>), row);
-}
+// The entries of a row: the centre, the coefficients from the constant one up, what the constant one lacks. From a table of two
+// vectors a column by permutation.
+template <const auto& table, int columns, class T> struct ByColumns {
+  static constexpr auto entries = by_columns<columns>(table);
+  Vec<SignedOf<T>> row;
+
+  template <int column> LUM_INLINE Vec<T> Entry() const {
+    constexpr int first = column * 2 * lanes_of<T>;
+    return permute2(load(entries + first), load(entries + first + lanes_of<T>), row);
+  }
+};
+// From the table as it is, with four entries of a row at a time: the compiler sees the common ones.
+template <const auto& table, int columns, class T> struct ByRows {
+  Vec<SignedOf<T>> row;
+
+  template <int column> LUM_INLINE Vec<T> Entry() const {
+    constexpr int first = column / 4 * 4 + 4 <= columns ? column / 4 * 4 : columns - 4;
+    const auto entries = gather_rows<T>(table + first, mul_low_halves(as_unsigned(row), all(uint64_t{columns})));
+    if constexpr (column == first) return entries.column0;
+    else if constexpr (column == first + 1) return entries.column1;
+    else if constexpr (column == first + 2) return entries.column2;
+    else return entries.column3;
+  }
+};
+template <class T, const auto& table, int columns>
+using Row = std::conditional_t<permutes_doubles || sizeof(T) == 4, ByColumns<table, columns, T>, ByRows<table, columns, T>>;
 
 // The polynomial, or without its constant term and divided by d: the coefficients of d^last down to d^first.
-template <int first, int last, class T> LUM_INLINE Vec<T> Polynomial(const T* columns, Vec<SignedOf<T>> row, Vec<T> d) {
-  if constexpr (first == last) return Lookup<last + 1>(columns, row);
-  else return fma(Polynomial<first + 1, last>(columns, row, d), d, Lookup<first + 1>(columns, row));
+template <int first, int last, class R, class T> LUM_INLINE Vec<T> Polynomial(const R& row, Vec<T> d) {
+  if constexpr (first == last) return row.template Entry<last + 1>();
+  else return fma(Polynomial<first + 1, last>(row, d), d, row.template Entry<first + 1>());
 }
 
 // v >= 0 with the sign of x, for a = |x|.
@@ -58,31 +80,32 @@ struct Accuracy {
   int degree;
   bool in_two_parts;
 };
-template <Accuracy accuracy, class T> LUM_INLINE Lanes<T> BySegments(const T* columns, Vec<T> x) {
+template <Accuracy accuracy, const auto& table, class T> LUM_INLINE Lanes<T> BySegments(Vec<T> x) {
   using S = Segments<T>;
   const auto a = as_float(shift_right<1>(shift_left<1>(bits(x))));  // |x|, and below its sign, without a constant
   const auto b = as_signed(bits(a));
-  const auto row = shift_right<S::shift>(min(max(b - all(S::base), all(SignedOf<T>{0})), all(S::span)));
-  const auto d = a - Lookup<0>(columns, row);
+  const Row<T, table, accuracy.degree + 3> row{
+      shift_right<S::shift>(min(max(b - all(S::base), all(SignedOf<T>{0})), all(S::span)))};
+  const auto d = a - row.template Entry<0>();
   const auto refused = mask_cast<T>(lt(all(S::last_kept), b));
   if constexpr (accuracy.in_two_parts) {
-    const auto q = fma(Polynomial<1, accuracy.degree>(columns, row, d), d, Lookup<accuracy.degree + 2>(columns, row));
-    return {WithSignOf(x, a, Lookup<1>(columns, row) + q), refused};
+    const auto q = fma(Polynomial<1, accuracy.degree>(row, d), d, row.template Entry<accuracy.degree + 2>());
+    return {WithSignOf(x, a, row.template Entry<1>() + q), refused};
   } else {
-    return {WithSignOf(x, a, Polynomial<0, accuracy.degree>(columns, row, d)), refused};
+    return {WithSignOf(x, a, Polynomial<0, accuracy.degree>(row, d)), refused};
   }
 }
 
 constexpr int float_degree = 6, short_degree = 10, long_degree = 16;
-constexpr auto float_columns = by_columns<float_degree + 3>(table32({
+constexpr auto float_table = table32({
 #include "tables/generated/tanh_32f_32_degree_6.inc"
-}));
-constexpr auto short_columns = by_columns<short_degree + 3>(table64({
+});
+constexpr auto short_table = table64({
 #include "tables/generated/tanh_64f_16_degree_10.inc"
-}));
-constexpr auto long_columns = by_columns<long_degree + 3>(table64({
+});
+constexpr auto long_table = table64({
 #include "tables/generated/tanh_64f_16_degree_16.inc"
-}));
+});
 
 struct A11_32f : Kernel<Lum32f> {
   static constexpr Variant variant = pure_vector_variant;
@@ -99,31 +122,31 @@ struct A11_32f : Kernel<Lum32f> {
 
 struct A21_32f : HyperbolicTangent<Lum32f> {
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
-    return BySegments<Accuracy{.degree = float_degree, .in_two_parts = false}, Lum32f>(float_columns, x);
+    return BySegments<Accuracy{.degree = float_degree, .in_two_parts = false}, float_table>(x);
   }
 };
 
 struct A24_32f : HyperbolicTangent<Lum32f> {
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
-    return BySegments<Accuracy{.degree = float_degree, .in_two_parts = true}, Lum32f>(float_columns, x);
+    return BySegments<Accuracy{.degree = float_degree, .in_two_parts = true}, float_table>(x);
   }
 };
 
 struct A26_64f : HyperbolicTangent<Lum64f> {
   static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
-    return BySegments<Accuracy{.degree = short_degree, .in_two_parts = false}, Lum64f>(short_columns, x);
+    return BySegments<Accuracy{.degree = short_degree, .in_two_parts = false}, short_table>(x);
   }
 };
 
 struct A50_64f : HyperbolicTangent<Lum64f> {
   static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
-    return BySegments<Accuracy{.degree = long_degree, .in_two_parts = false}, Lum64f>(long_columns, x);
+    return BySegments<Accuracy{.degree = long_degree, .in_two_parts = false}, long_table>(x);
   }
 };
 
 struct A53_64f : HyperbolicTangent<Lum64f> {
   static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
-    return BySegments<Accuracy{.degree = long_degree, .in_two_parts = true}, Lum64f>(long_columns, x);
+    return BySegments<Accuracy{.degree = long_degree, .in_two_parts = true}, long_table>(x);
   }
 };
 

@@ -7,13 +7,14 @@
 
 namespace lum::inline LUM_LAYER::invcircular {
 
-// n / d to nearly the last place, by significands and exponents, so that no size of n and d matters.
+// 1 / m of normal numbers to twice the bits of the estimate and more.
 LUM_INLINE Vec<Lum32f> SignificandReciprocal(Vec<Lum32f> m) { return rcp14_normal(m); }
 LUM_INLINE Vec<Lum64f> SignificandReciprocal(Vec<Lum64f> m) {
   const auto w = rcp14_normal(m);
   const auto e = fnma(m, w, all(1.0));
   return fma(w, fma(e, e, e), w);
 }
+// n / d to nearly the last place, by significands and exponents, so that no size of n and d matters.
 template <class T> LUM_INLINE Vec<T> ScaledQuotient(Vec<T> n, Vec<T> d) {
   const auto [n_significand, n_exponent] = parts<significand::from_1_to_2>(n);
   const auto [d_significand, d_exponent] = parts<significand::from_1_to_2>(d);

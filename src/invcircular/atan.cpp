@@ -63,12 +63,20 @@ template <class T> struct Reduced {
 template <class T> LUM_INLINE Reduced<T> Reduce(Vec<T> x) {
   using G = Grid<T>;
   const auto a = abs(x);
-  const auto r = reduce<binary_places(2) | quiet>(a);  // exact
-  const auto c = a - r;
+  const auto sum = a + all(G::shifter);
+  const auto c = sum - all(G::shifter);
+  const auto r = a - c;  // exact
   const auto large = le(all(G::large), a);
   const auto n = select(large, all(T(-1)), r);
   const auto d = select(large, min(all(G::clamp), a), fma(a, c, all(T(1))));
-  return {a, c, a + all(G::shifter), n, d, large};
+  return {a, c, sum, n, d, large};
+}
+
+// n / d to nearly the last place. The residual is exact: n is no smaller than the last place of a, and d is 1 where a is small.
+template <class T> LUM_INLINE Vec<T> Quotient(Vec<T> n, Vec<T> d) {
+  const auto w = SignificandReciprocal(d);
+  const auto q = n * w;
+  return fma(fnma(q, d, n), w, q);
 }
 
 template <class T> struct TableTier : Kernel<T> { static constexpr Variant variant = pure_vector_variant; };
@@ -77,16 +85,16 @@ template <class T> struct Mid : TableTier<T> {
   static LUM_INLINE Vec<T> VectorPath(Vec<T> x) {
     const auto u = Reduce(x);
     const auto base = select(u.large, all(half_pi<T>), Lookup(Grid<T>::head, u.sum));
-    const auto t = ScaledQuotient(u.n, u.d);
+    const auto t = Quotient(u.n, u.d);
     const auto s = t * t;
     return xor_sign(x, base + fma(t * s, Cubic(s), t));
   }
 };
 
-// 1 / d, by one Newton step for each doubling of the 14 bits.
+// 1 / d of normal numbers, by one Newton step for each doubling of the 14 bits.
 template <class T> LUM_INLINE Vec<T> NewtonStep(Vec<T> w, Vec<T> d) { return fma(w, fnma(d, w, all(T(1))), w); }
 template <class T> LUM_INLINE Vec<T> FullReciprocal(Vec<T> d) {
-  const auto w = NewtonStep(rcp14(d), d);
+  const auto w = NewtonStep(rcp14_normal(d), d);
   if constexpr (sizeof(T) == 4) return w;
   else return NewtonStep(w, d);
 }

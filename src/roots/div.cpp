@@ -36,9 +36,9 @@ template <class T> LUM_INLINE Mask<T> Refused(Vec<T> y) {
   return mask_cast<T>(nlt(bits(abs(y)) - all(smallest), all(beyond - smallest)));
 }
 
-// 1 / y from its estimate: r0 (1 + e + ... + e^terms).
+// 1 / y from its estimate, of a y that is not refused: r0 (1 + e + ... + e^terms).
 template <int terms, class T> LUM_INLINE Vec<T> Reciprocal(Vec<T> y) {
-  const auto r0 = rcp14(y);
+  const auto r0 = rcp14_normal(y);
   if constexpr (terms == 0) return r0;
   const auto e = fnma(y, r0, all(T(1)));
   auto p = e;
@@ -51,21 +51,41 @@ template <class T, int terms> struct SeriesTerms : DivKernel<T> {
   static LUM_INLINE Lanes<T> VectorPath(Vec<T> x, Vec<T> y) { return {x * Reciprocal<terms>(y), Refused(y)}; }
 };
 
-// Significands in [1, 2) and exponents apart. Infinities and zeros come out of the difference of the exponents.
+// x / y for numbers whose quotient, residual and reciprocal are normal.
+template <class T> LUM_INLINE Vec<T> Quotient(Vec<T> x, Vec<T> y) {
+  const auto r0 = rcp14_normal(y);
+  const auto q = x * r0;
+  auto r = r0;
+  if constexpr (std::is_same_v<T, Lum64f>) {
+    const auto e = fnma(y, r0, all(T(1)));
+    r = fma(r0, fma(e, e, e), r0);
+  }
+  return fma(r, fnma(q, y, x), q);
+}
+
+// Significands in [1, 2) and exponents apart. Infinities and zeros come out of the difference of the exponents. Where that
+// takes many instructions the first path divides the numbers themselves, which is the same but for a power of 2, and refuses
+// those so small or large that an intermediate value could be beyond the normal numbers.
 template <class T> struct BySignificands : DivKernel<T> {
   static LUM_INLINE Lanes<T> VectorPath(Vec<T> x, Vec<T> y) {
+    if constexpr (estimates_take_all) return Scaled(x, y);
+    else return {Quotient(x, y), IsExtreme(x) | IsExtreme(y)};
+  }
+  static LUM_INLINE Finished<T> SecondPath(Vec<T> x, Vec<T> y, const Lanes<T>& lanes) {
+    return DivKernel<T>::SecondPath(x, y, estimates_take_all ? lanes : Scaled(x, y));
+  }
+
+ private:
+  static LUM_INLINE Mask<T> IsExtreme(Vec<T> x) {
+    constexpr T large = std::is_same_v<T, Lum32f> ? T(0x1p60) : T(0x1p500);
+    const auto a = abs(x);
+    return nle(all(1 / large), a) | nle(a, all(large));
+  }
+  static LUM_INLINE Lanes<T> Scaled(Vec<T> x, Vec<T> y) {
     const auto [xm, xe] = parts<significand::from_1_to_2>(x);
     const auto [ym, ye] = parts<significand::from_1_to_2>(y);
     const auto d = xe - ye;
-    const auto r0 = rcp14_normal(ym);
-    const auto q = xm * r0;
-    auto r = r0;
-    if constexpr (std::is_same_v<T, Lum64f>) {
-      const auto e = fnma(ym, r0, all(T(1)));
-      r = fma(r0, fma(e, e, e), r0);
-    }
-    const auto residual = fnma(q, ym, xm);
-    return {scalef(fma(r, residual, q), d), fpclass<classes::nan | classes::zero>(y)};
+    return {scalef(Quotient(xm, ym), d), fpclass<classes::nan | classes::zero>(y)};
   }
 };
 

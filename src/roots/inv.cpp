@@ -1,6 +1,7 @@
 // 1 / x without a divide instruction: an estimate of 14 bits, and Newton steps r' = r + r (1 - x r), each doubling the bits.
 // Zeros, infinities and numbers whose estimate is a zero or an infinity are left to the divide instruction.
 #include <cstdint>
+#include <limits>
 
 #include "frame/kernel_frame.h"
 #include "frame/kernels.h"
@@ -8,31 +9,47 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
-template <class T> struct InvKernel : Kernel<T> {
+// A tier has 1 / x of all numbers from the estimate r0, and which it leaves to the divide instruction. Where the estimate takes
+// normal numbers alone, the first path refuses all others, and those without a normal reciprocal.
+template <class T, class Tier> struct InvKernel : Kernel<T> {
+  static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) {
+    if constexpr (estimates_take_all) {
+      return Of(x, rcp14(x));
+    } else {
+      constexpr T smallest = std::numeric_limits<T>::min();
+      const auto a = abs(x);
+      return {Tier::Reciprocal(x, rcp14_normal(x)), nle(all(smallest), a) | nlt(a, all(1 / smallest))};
+    }
+  }
   static LumStatus LaneRoutine(T x, T& result) {
     result = T(1) / x;
     return x == 0 ? lumStsSingularity : lumStsOk;
   }
   static constexpr bool second_is_short = true;
   static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) {
-    const auto quotient = div(all(T(1)), select(lanes.refused, x, all(T(1))));
-    return {select(lanes.refused, quotient, lanes.value), mask_of<T>(0), {.singularity = fpclass<classes::zero>(x)}};
+    const auto full = estimates_take_all ? lanes : Of(x, rcp14(x));
+    const auto quotient = div(all(T(1)), select(full.refused, x, all(T(1))));
+    return {select(full.refused, quotient, full.value), mask_of<T>(0), {.singularity = fpclass<classes::zero>(x)}};
   }
+
+ private:
+  static LUM_INLINE Lanes<T> Of(Vec<T> x, Vec<T> r0) { return {Tier::Reciprocal(x, r0), Tier::Refused(x, r0)}; }
 };
 
 // Refuses by the input, not by the estimate: that of a tiny denormal is an infinity, which stands. This differs from the tiers
 // with a Newton step, whose refused denormals have the scalar quotient, and is deliberate.
-template <class T> struct Estimate : InvKernel<T> {
-  static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) { return {rcp14(x), fpclass<classes::zero | classes::infinity>(x)}; }
+template <class T> struct Estimate : InvKernel<T, Estimate<T>> {
+  static LUM_INLINE Vec<T> Reciprocal(Vec<T>, Vec<T> r0) { return r0; }
+  static LUM_INLINE Mask<T> Refused(Vec<T> x, Vec<T>) { return fpclass<classes::zero | classes::infinity>(x); }
 };
 
-template <class T, int steps> struct NewtonSteps : InvKernel<T> {
-  static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) {
-    const auto r0 = rcp14(x);
+template <class T, int steps> struct NewtonSteps : InvKernel<T, NewtonSteps<T, steps>> {
+  static LUM_INLINE Vec<T> Reciprocal(Vec<T> x, Vec<T> r0) {
     auto r = r0;
     for (int i = 0; i < steps; ++i) r = fma(fnma(x, r, all(T(1))), r, r);
-    return {r, fpclass<classes::zero | classes::infinity>(r0)};
+    return r;
   }
+  static LUM_INLINE Mask<T> Refused(Vec<T>, Vec<T> r0) { return fpclass<classes::zero | classes::infinity>(r0); }
 };
 
 using A11_32f = Estimate<Lum32f>;

@@ -11,9 +11,12 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
-// Zeros, infinities and negative numbers are refused; NaN and denormals run through.
-template <class T> struct InvSqrtKernel : Kernel<T> {
-  static LUM_INLINE Mask<T> Refused(Vec<T> x) { return fpclass<classes::zero | classes::infinity | classes::negative>(x); }
+// Zeros, infinities and negative numbers are refused; NaN and denormals run through where the estimate takes them. A tier has
+// the root of x from its estimate s.
+template <class T, class Tier> struct InvSqrtKernel : Kernel<T> {
+  static constexpr int refused =
+      classes::zero | classes::infinity | classes::negative | (estimates_take_all ? 0 : classes::nan | classes::denormal);
+  static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) { return {Tier::Root(x, rsqrt14_normal(x)), fpclass<refused>(x)}; }
   static LumStatus LaneRoutine(T x, T& result) {
     constexpr auto infinity = std::numeric_limits<T>::infinity();
     if (x == 0) {
@@ -31,39 +34,38 @@ template <class T> struct InvSqrtKernel : Kernel<T> {
   static constexpr bool second_is_short = true;
   static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) {
     // For zeros and infinities the estimate is the result.
-    const auto value = select(fpclass<classes::zero | classes::infinity>(x), rsqrt14(x), lanes.value);
+    const auto s = rsqrt14(x);
+    const auto value =
+        select(fpclass<classes::zero | classes::infinity>(x), s, estimates_take_all ? lanes.value : Tier::Root(x, s));
     return {select(fpclass<classes::negative>(x), all(std::numeric_limits<T>::quiet_NaN()), value),
             mask_of<T>(0),
             {.domain = fpclass<classes::below_zero>(x), .singularity = fpclass<classes::zero>(x)}};
   }
 };
 
-struct A11_32f : InvSqrtKernel<Lum32f> {
-  static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) { return {rsqrt14(x), Refused(x)}; }
+struct A11_32f : InvSqrtKernel<Lum32f, A11_32f> {
+  static LUM_INLINE Vec<Lum32f> Root(Vec<Lum32f>, Vec<Lum32f> s) { return s; }
 };
-struct A21_32f : InvSqrtKernel<Lum32f> {
-  static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
-    const auto s = rsqrt14(x);
+struct A21_32f : InvSqrtKernel<Lum32f, A21_32f> {
+  static LUM_INLINE Vec<Lum32f> Root(Vec<Lum32f> x, Vec<Lum32f> s) {
     const auto e = fma(all(-0.5f) * s, s * x, all(0.5f));
-    return {fma(e, s, s), Refused(x)};
+    return fma(e, s, s);
   }
 };
-struct A24_32f : InvSqrtKernel<Lum32f> {
-  static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
-    const auto s = rsqrt14(x);
+struct A24_32f : InvSqrtKernel<Lum32f, A24_32f> {
+  static LUM_INLINE Vec<Lum32f> Root(Vec<Lum32f> x, Vec<Lum32f> s) {
     const auto t = s * x;
     const auto u = all(-0.5f) * s;
     const auto e0 = fma(u, t, all(0.5f));
     const auto w = fms(x, s, t);  // exact
     const auto e = fma(u, w, e0);
-    return {fma(e, s, s), Refused(x)};
+    return fma(e, s, s);
   }
 };
-struct A26_64f : InvSqrtKernel<Lum64f> {
-  static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
-    const auto s = rsqrt14(x);
+struct A26_64f : InvSqrtKernel<Lum64f, A26_64f> {
+  static LUM_INLINE Vec<Lum64f> Root(Vec<Lum64f> x, Vec<Lum64f> s) {
     const auto e = fnma(s * x, all(0.5) * s, all(0.5));
-    return {fma(e, s, s), Refused(x)};
+    return fma(e, s, s);
   }
 };
 
@@ -72,19 +74,15 @@ LUM_INLINE Vec<Lum64f> Series(Vec<Lum64f> s, Vec<Lum64f> d) {
   const auto p = horner(d, roots::invsqrt_A50);
   return fma(p, s * d, s);
 }
-struct A50_64f : InvSqrtKernel<Lum64f> {
-  static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
-    const auto s = rsqrt14(x);
-    return {Series(s, fnma(s * x, s, all(1.0))), Refused(x)};
-  }
+struct A50_64f : InvSqrtKernel<Lum64f, A50_64f> {
+  static LUM_INLINE Vec<Lum64f> Root(Vec<Lum64f> x, Vec<Lum64f> s) { return Series(s, fnma(s * x, s, all(1.0))); }
 };
-struct A53_64f : InvSqrtKernel<Lum64f> {
-  static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
-    const auto s = rsqrt14(x);
+struct A53_64f : InvSqrtKernel<Lum64f, A53_64f> {
+  static LUM_INLINE Vec<Lum64f> Root(Vec<Lum64f> x, Vec<Lum64f> s) {
     const auto t = s * x;
     const auto d0 = fnma(t, s, all(1.0));
     const auto w = fms(x, s, t);  // exact
-    return {Series(s, fnma(w, s, d0)), Refused(x)};
+    return Series(s, fnma(w, s, d0));
   }
 };
 

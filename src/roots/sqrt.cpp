@@ -14,9 +14,18 @@ namespace {
 
 using namespace roots;
 
-// Zeros, infinities and negative numbers are refused; NaN and denormals run through.
-template <class T> struct SqrtKernel : Kernel<T> {
-  static LUM_INLINE Mask<T> Refused(Vec<T> x) { return fpclass<classes::zero | classes::infinity | classes::negative>(x); }
+// Zeros, infinities and negative numbers are refused; where the estimate takes normal numbers alone, also NaN and what is below
+// the tier's lowest argument. A tier has the root of x from the estimate s of 1 / sqrt x, and as OrdinaryRoot the same from its
+// lowest argument on.
+template <class T, class Tier> struct SqrtKernel : Kernel<T> {
+  static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) {
+    if constexpr (estimates_take_all) {
+      return {Tier::Root(x, rsqrt14(x)), fpclass<classes::zero | classes::infinity | classes::negative>(x)};
+    } else {
+      const auto refused = nle(all(Tier::lowest), x) | nlt(x, all(std::numeric_limits<T>::infinity()));
+      return {Tier::OrdinaryRoot(x, rsqrt14_normal(x)), refused};
+    }
+  }
   static LumStatus LaneRoutine(T x, T& result) {
     if (x < 0) {
       result = std::numeric_limits<T>::quiet_NaN();
@@ -28,38 +37,47 @@ template <class T> struct SqrtKernel : Kernel<T> {
   static constexpr bool second_is_short = true;
   static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) {
     const auto negative = fpclass<classes::below_zero>(x);
-    const auto value = select(fpclass<classes::zero | classes::plus_infinity>(x), x, lanes.value);
+    const auto ordinary = estimates_take_all ? lanes.value : Tier::Root(x, rsqrt14(x));
+    const auto value = select(fpclass<classes::zero | classes::plus_infinity>(x), x, ordinary);
     return {select(negative, all(std::numeric_limits<T>::quiet_NaN()), value), mask_of<T>(0), {.domain = negative}};
   }
 };
 
-template <class T, Steps steps> struct Coupled : SqrtKernel<T> {
-  static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) {
-    return {CoupledSteps<steps>(Start(x, rsqrt14(x))).g, SqrtKernel<T>::Refused(x)};
-  }
+template <class T, Steps steps> struct Coupled : SqrtKernel<T, Coupled<T, steps>> {
+  static constexpr T lowest = std::numeric_limits<T>::min();
+  static LUM_INLINE Vec<T> Root(Vec<T> x, Vec<T> s) { return CoupledSteps<steps>(Start(x, s)).g; }
+  static LUM_INLINE Vec<T> OrdinaryRoot(Vec<T> x, Vec<T> s) { return Root(x, s); }
 };
 
-// From this estimate of 1 / sqrt x on the residual is scaled, by 4^k, and the root by 2^k.
+// From this estimate of 1 / sqrt x on the residual is scaled, by 4^k, and the root by 2^k; from the lowest argument on there is
+// no such estimate.
 template <class T> struct Scaling;
 template <> struct Scaling<Lum32f> {
   static constexpr auto threshold = 0x1p39f;
+  static constexpr auto lowest = 0x1p-77f;
   static constexpr auto root = 0x1p39f;
   static constexpr auto square = 0x1p78f;
   static constexpr auto inverse = 0x1p-78f;
 };
 template <> struct Scaling<Lum64f> {
   static constexpr auto threshold = 0x1p458;
+  static constexpr auto lowest = 0x1p-915;
   static constexpr auto root = 0x1p458;
   static constexpr auto square = 0x1p916;
   static constexpr auto inverse = 0x1p-916;
 };
 
-template <class T> struct Heron : SqrtKernel<T> {
-  static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) {
+template <class T> struct Heron : SqrtKernel<T, Heron<T>> {
+  static constexpr T lowest = Scaling<T>::lowest;
+  static LUM_INLINE Roots<T> Begin(Vec<T> x, Vec<T> s) {
+    const auto a = Start(x, s);
+    if constexpr (std::is_same_v<T, Lum64f>) return CoupledStep(a);
+    else return a;
+  }
+  static LUM_INLINE Vec<T> OrdinaryRoot(Vec<T> x, Vec<T> s) { return HeronStep(x, Begin(x, s)); }
+  static LUM_INLINE Vec<T> Root(Vec<T> x, Vec<T> s) {
     using C = Scaling<T>;
-    const auto s = rsqrt14(x);
-    auto a = Start(x, s);
-    if constexpr (std::is_same_v<T, Lum64f>) a = CoupledStep(a);
+    const auto a = Begin(x, s);
     const auto small = lt(all(C::threshold), s);
     // Decided lane by lane: an ordinary lane has the same bits beside a small one as alone.
     auto scaled_x = x, scaled_g = a.g, scaled_h = a.h;
@@ -69,7 +87,7 @@ template <class T> struct Heron : SqrtKernel<T> {
       scaled_h = select(small, a.h * all(C::inverse), a.h);
     }
     const auto residual = fnma(scaled_g, scaled_g, scaled_x);  // exact
-    return {fma(residual, scaled_h, a.g), SqrtKernel<T>::Refused(x)};
+    return fma(residual, scaled_h, a.g);
   }
 };
 

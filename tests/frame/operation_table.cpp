@@ -153,6 +153,7 @@ template <int grid, Floating T> void AddRoundedEstimates(Builder& table, const s
   table.add<V>("shifted_rcp14" + text + " of [1/2,1)" + t,
                [](V a) { return zero_unless(lt(getmant<6>(a), all(T(1))), shifted_rcp14<grid, 2>(getmant<6>(a))); });
   table.add<V>("rcp14_halves_up" + text + t, [](V a) { return rcp14_halves_up<grid>(a); });
+  table.add<V>("rcp14_halves_up_normal" + text + t, [](V a) { return rcp14_halves_up_normal<grid>(Moderate(a)); });
 }
 
 // The operations with a condition, on operands for which it holds.

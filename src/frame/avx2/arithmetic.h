@@ -187,6 +187,10 @@ template <int grid, int interval, Floating T> LUM_INLINE Vec<T> shifted_rcp14(Ve
 }
 // rcp14(a) with its significand rounded to the given fraction bits, halves up; a carry goes into the exponent.
 template <int kept, Floating T> LUM_INLINE Vec<T> rcp14_halves_up(Vec<T> a) { return half::rcp14_halves_up<kept>(a); }
+// The same of normal numbers with a normal reciprocal; in other lanes any value.
+template <int kept, Floating T> LUM_INLINE Vec<T> rcp14_halves_up_normal(Vec<T> a) {
+  return half::rcp14_halves_up_normal<kept>(a);
+}
 // a - rndscale<imm>(a), the exact remainder.
 template <int imm, Floating T> LUM_INLINE Vec<T> reduce(Vec<T> a) {
   return {half::reduce<imm>(a.low), half::reduce<imm>(a.high)};

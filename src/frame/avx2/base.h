@@ -19,6 +19,10 @@ template <Lane T> struct Mask { half::HalfMask<T> low, high; };
 inline constexpr bool vectors_fit_registers = true;
 inline constexpr bool packs_lanes = false;
 inline constexpr bool has_second_paths = true;
+// Whether rcp14 and rsqrt14 take any number at no cost. Otherwise paths that need normal ones refuse the others.
+inline constexpr bool estimates_take_all = false;
+// Whether permute2 of doubles takes less than the loads and the transposition of rows.
+inline constexpr bool permutes_doubles = false;
 // The compilers may exchange the operands of sums and products, so that of two NaNs the other one is taken.
 inline constexpr bool orders_nans = false;
 inline constexpr bool streams_fit_registers = false;

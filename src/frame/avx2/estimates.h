@@ -220,6 +220,7 @@ template <int grid, int interval> LUM_INLINE Vec<double> shifted_rcp14(Vec<doubl
   const Word w = upper_words(m);
   return of_words(shift_right<fb>(stepped < interval == 0 ? grid : grid + 1, fb, true > (w)), all(shifter));
 }
+template <int kept, Floating T> LUM_INLINE Vec<T> rcp14_halves_up_normal(Vec<T> a) { return short_rcp14<kept, false>(a); }
 template <int kept, Floating T> LUM_INLINE Vec<T> rcp14_halves_up(Vec<T> a) {
   constexpr auto one = [](T x) {
     constexpr auto half_step = UnsignedOf<T>{1} << (lane::Format<T>::fraction_bits - kept - 1);

@@ -86,13 +86,22 @@ template <Lane T> LUM_INLINE HalfMask<T> first_lanes(int count, int first) {
     return {_mm256_cmpgt_epi32(_mm256_set1_epi32(count - first), _mm256_setr_epi32(0, 1, 2, 3, 4, 5, 6, 7))};
   else return {_mm256_cmpgt_epi64(_mm256_set1_epi64x(count - first), _mm256_setr_epi64x(0, 1, 2, 3))};
 }
+// By the top bits of the mask's lanes. g++ takes the intrinsic for a comparison with zero, and makes it where a mask serves
+// several times.
 template <Lane T> LUM_INLINE Half<T> select(HalfMask<T> m, Half<T> a, Half<T> b) {
+#ifdef __clang__
   if constexpr (is32<T>)
     return from_raw<T>(_mm256_castps_si256(
         _mm256_blendv_ps(_mm256_castsi256_ps(raw(b)), _mm256_castsi256_ps(raw(a)), _mm256_castsi256_ps(m.v))));
   else
     return from_raw<T>(_mm256_castpd_si256(
         _mm256_blendv_pd(_mm256_castsi256_pd(raw(b)), _mm256_castsi256_pd(raw(a)), _mm256_castsi256_pd(m.v))));
+#else
+  Half<T> r;
+  if constexpr (is32<T>) asm("vblendvps %3, %2, %1, %0" : "=x"(r.v) : "x"(b.v), "xm"(a.v), "x"(m.v));
+  else asm("vblendvpd %3, %2, %1, %0" : "=x"(r.v) : "x"(b.v), "xm"(a.v), "x"(m.v));
+  return r;
+#endif
 }
 template <Lane T> LUM_INLINE Half<T> zero_unless(HalfMask<T> m, Half<T> a) {
   return from_raw<T>(_mm256_and_si256(raw(a), m.v));

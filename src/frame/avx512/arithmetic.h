@@ -154,6 +154,8 @@ template <int kept, Floating T> LUM_INLINE Vec<T> rcp14_halves_up(Vec<T> a) {
   constexpr Bits half_step = Bits{1} << ((is32<T> ? 23 : 52) - kept - 1);
   return as_float((bits(rcp14(a)) + all(half_step)) & all(static_cast<Bits>(~(2 * half_step - 1))));
 }
+// The same of normal numbers with a normal reciprocal; in other lanes any value.
+template <int kept, Floating T> LUM_INLINE Vec<T> rcp14_halves_up_normal(Vec<T> a) { return rcp14_halves_up<kept>(a); }
 // a - rndscale<imm>(a), the exact remainder.
 template <int imm, Floating T> LUM_INLINE Vec<T> reduce(Vec<T> a) {
   if constexpr (is32<T>) return {_mm512_reduce_round_ps(a.v, imm, _MM_FROUND_NO_EXC)};

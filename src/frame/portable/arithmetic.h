@@ -283,6 +283,8 @@ template <int kept, Floating T> LUM_INLINE Vec<T> rcp14_halves_up(const Vec<T>& 
   constexpr Bits half_step = Bits{1} << ((is32<T> ? 23 : 52) - kept - 1);
   return as_float((bits(rcp14(a)) + all(half_step)) & all(static_cast<Bits>(~(2 * half_step - 1))));
 }
+// The same of normal numbers with a normal reciprocal; in other lanes any value.
+template <int kept, Floating T> LUM_INLINE Vec<T> rcp14_halves_up_normal(const Vec<T>& a) { return rcp14_halves_up<kept>(a); }
 // a - rndscale<imm>(a), the exact remainder.
 template <int imm, Floating T> [[gnu::noinline]] Vec<T> reduce(const Vec<T>& a) {
   return each_lane<T>([&](int i) { return lane::reduce<imm>(a.lane[i]); });

@@ -15,6 +15,10 @@ template <class T> inline constexpr bool is32 = sizeof(T) == 4;
 inline constexpr bool vectors_fit_registers = false;
 inline constexpr bool packs_lanes = false;
 inline constexpr bool has_second_paths = false;
+// Whether rcp14 and rsqrt14 take any number at no cost. Otherwise paths that need normal ones refuse the others.
+inline constexpr bool estimates_take_all = true;
+// Whether permute2 of doubles takes less than the loads and the transposition of rows.
+inline constexpr bool permutes_doubles = true;
 inline constexpr bool orders_nans = false;
 inline constexpr bool streams_fit_registers = false;
 
