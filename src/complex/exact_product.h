@@ -50,13 +50,14 @@ LUM_INLINE CorePart RoundedToNormal(const ScaledSum& s, Vec<Lum64f> distance) {
 // least denormal number; an exact head may lie in the middle between two. With exponents below the least all numbers vanish.
 LUM_INLINE CorePart RoundedBelowNormal(const ScaledSum& s, Vec<Lum64f> given_distance) {
   const auto exponent = max(s.exponent, all(-2000.0));
-  const auto shifter = or_sign(s.head, scalef(all(1.0), all(-1022.0) - exponent));
+  const auto whole = s.head + s.tail, leading = select(IsZero(whole), s.head, whole);  // the heads may have cancelled
+  const auto shifter = or_sign(leading, scalef(all(1.0), all(-1022.0) - exponent));
   const auto sum = shifter + s.head;
   const auto rest = s.head - (sum - shifter);
   const auto distance = zero_unless(~s.is_exact, fma(abs(rest), all(0x1p-52), given_distance));
   const auto above = sum + (rest + (s.tail + distance)), below = sum + (rest + (s.tail - distance));
   const auto value = scalef(above - shifter, exponent);
-  return {or_sign(s.head, value), eq(above, below) & le(abs(value), all(0x1p-1022))};
+  return {or_sign(leading, value), eq(above, below) & le(abs(value), all(0x1p-1022))};
 }
 
 // Both parts in the wanted lanes.
