@@ -16,6 +16,9 @@ LUM_INLINE AngleAndLogarithm ArccosineParts(ComplexVec<Lum64f> z) {
   const auto parts = InverseParts<Arc::cosine>(abs(z.re), abs(z.im));
   return {Reflected(z.re, parts.angle), parts.logarithm};
 }
+LUM_INLINE Vec<Lum64f> AngleError(Vec<Lum64f> x, HeadTail angle) {
+  return angle.head * select(lt(x, all(0.0)), all(mirrored_angle_error), all(angle_error<Arc::cosine>));
+}
 LUM_INLINE ScaledArcParts ArccosinePartsOfAny(ComplexVec<Lum64f> z) {
   auto scaled = InversePartsOfAny<Arc::cosine>(abs(z.re), abs(z.im));
   scaled.parts.angle = Reflected(z.re, scaled.parts.angle);
@@ -28,7 +31,8 @@ struct AcosPath {
   static LUM_INLINE Mask<Lum64f> IsOutside(ComplexVec<Lum64f> z) { return HasFarPart(z); }
   static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z) {
     const auto parts = ArccosineParts(z);
-    return ValueWithin(parts.angle, -XorSign(z.im, parts.logarithm), inverse_error, IsOutside(z));
+    return {parts.angle, -XorSign(z.im, parts.logarithm), AngleError(z.re, parts.angle), ArcLogarithmError(parts.logarithm),
+            IsOutside(z)};
   }
 };
 struct AcosEnds {
@@ -54,7 +58,8 @@ struct AcoshPath {
   static LUM_INLINE Mask<Lum64f> IsOutside(ComplexVec<Lum64f> z) { return HasFarPart(z); }
   static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z) {
     const auto parts = ArccosineParts(z);
-    return ValueWithin(parts.logarithm, XorSign(z.im, parts.angle), inverse_error, IsOutside(z));
+    return {parts.logarithm, XorSign(z.im, parts.angle), ArcLogarithmError(parts.logarithm), AngleError(z.re, parts.angle),
+            IsOutside(z)};
   }
 };
 struct AcoshEnds {
