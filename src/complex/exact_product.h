@@ -47,7 +47,8 @@ LUM_INLINE CorePart RoundedToNormal(const ScaledSum& s, Vec<Lum64f> distance) {
   return {value, eq(above, below) & lt(all(0x1p-1022), abs(value))};
 }
 // Where it is zero or below the normal numbers. In the sum with the shifter, which has its sign, the last place is worth the
-// least denormal number; an exact head may lie in the middle between two. With exponents below the least all numbers vanish.
+// least denormal number; an exact head may lie in the middle between two. Below an
+// exponent of -2000 all vanish.
 LUM_INLINE CorePart RoundedBelowNormal(const ScaledSum& s, Vec<Lum64f> given_distance) {
   const auto exponent = max(s.exponent, all(-2000.0));
   const auto whole = s.head + s.tail, leading = select(IsZero(whole), s.head, whole);  // the heads may have cancelled
