@@ -39,8 +39,10 @@ struct AcosEnds {
   static constexpr bool no_float_is_far = true;
   static LUM_INLINE CoreValue OfFar(ComplexVec<Lum64f> z) {
     const auto scaled = ArccosinePartsOfAny(z);
-    return CoreValueOf(RoundedInverse(scaled.parts.angle, scaled.angle_exponent),
-                       RoundedInverse(-XorSign(z.im, scaled.parts.logarithm), scaled.logarithm_exponent), scaled.is_known);
+    const auto& [angle, logarithm] = scaled.parts;
+    return CoreValueOf(RoundedAtEnds(angle, AngleError(z.re, angle), scaled.angle_exponent),
+                       RoundedAtEnds(-XorSign(z.im, logarithm), ArcLogarithmError(logarithm), scaled.logarithm_exponent),
+                       scaled.is_known);
   }
   static LUM_INLINE Mask<Lum64f> IsSpecial(ComplexVec<Lum64f> z) { return HasNonFinitePart(z); }
   static LUM_INLINE ComplexVec<Lum64f> OfSpecial(ComplexVec<Lum64f> z) {
@@ -66,8 +68,9 @@ struct AcoshEnds {
   static constexpr bool no_float_is_far = true;
   static LUM_INLINE CoreValue OfFar(ComplexVec<Lum64f> z) {
     const auto scaled = ArccosinePartsOfAny(z);
-    return CoreValueOf(RoundedInverse(scaled.parts.logarithm, scaled.logarithm_exponent),
-                       RoundedInverse(XorSign(z.im, scaled.parts.angle), scaled.angle_exponent), scaled.is_known);
+    const auto& [angle, logarithm] = scaled.parts;
+    return CoreValueOf(RoundedAtEnds(logarithm, ArcLogarithmError(logarithm), scaled.logarithm_exponent),
+                       RoundedAtEnds(XorSign(z.im, angle), AngleError(z.re, angle), scaled.angle_exponent), scaled.is_known);
   }
   static LUM_INLINE Mask<Lum64f> IsSpecial(ComplexVec<Lum64f> z) { return HasNonFinitePart(z); }
   static LUM_INLINE ComplexVec<Lum64f> OfSpecial(ComplexVec<Lum64f> z) {

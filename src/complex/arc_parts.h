@@ -48,7 +48,5 @@ LUM_INLINE Vec<Lum64f> ArcLogarithmError(HeadTail logarithm) {
   const auto magnitude = abs(logarithm.head);
   return select(lt(magnitude, all(0.97)), magnitude * all(9.25), fma(magnitude, all(1.1875), all(7.75)));
 }
-// A bound for all parts.
-constexpr double inverse_error = 16;
 
 }  // namespace lum::inline LUM_LAYER

@@ -42,8 +42,9 @@ struct AsinhEnds {
   static constexpr bool no_float_is_far = true;
   static LUM_INLINE CoreValue OfFar(ComplexVec<Lum64f> z) {
     const auto scaled = ArcsinePartsOfAny(z.im, z.re);
-    return CoreValueOf(RoundedInverse(scaled.parts.logarithm, scaled.logarithm_exponent),
-                       RoundedInverse(scaled.parts.angle, scaled.angle_exponent), scaled.is_known);
+    const auto& parts = scaled.parts;
+    return CoreValueOf(RoundedAtEnds(parts.logarithm, ArcLogarithmError(parts.logarithm), scaled.logarithm_exponent),
+                       RoundedAtEnds(parts.angle, AngleError(parts), scaled.angle_exponent), scaled.is_known);
   }
   static LUM_INLINE Mask<Lum64f> IsSpecial(ComplexVec<Lum64f> z) { return HasNonFinitePart(z); }
   static LUM_INLINE ComplexVec<Lum64f> OfSpecial(ComplexVec<Lum64f> z) {
@@ -60,8 +61,10 @@ struct AsinEnds {
   static constexpr bool no_float_is_far = true;
   static LUM_INLINE CoreValue OfFar(ComplexVec<Lum64f> z) {
     const auto scaled = ArcsinePartsOfAny(z.re, z.im);
-    return CoreValueOf(RoundedInverse(scaled.parts.angle, scaled.angle_exponent),
-                       RoundedInverse(scaled.parts.logarithm, scaled.logarithm_exponent), scaled.is_known);
+    const auto& parts = scaled.parts;
+    return CoreValueOf(RoundedAtEnds(parts.angle, AngleError(parts), scaled.angle_exponent),
+                       RoundedAtEnds(parts.logarithm, ArcLogarithmError(parts.logarithm), scaled.logarithm_exponent),
+                       scaled.is_known);
   }
   static LUM_INLINE Mask<Lum64f> IsSpecial(ComplexVec<Lum64f> z) { return HasNonFinitePart(z); }
   static LUM_INLINE ComplexVec<Lum64f> OfSpecial(ComplexVec<Lum64f> z) {
