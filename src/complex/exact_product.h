@@ -8,13 +8,21 @@
 
 namespace lum::inline LUM_LAYER {
 
-// By significands and exponents; a zero's exponent is -infinity.
+// By significands and exponents; a zero's exponent is -infinity. Where powers of 2 beyond the range are taken lane by lane, a
+// zero is its own significand, and smaller products stop at 2^-1000.
+constexpr bool takes_any_power = streams_fit_registers;
+LUM_INLINE Parts<Lum64f> PartsOf(Vec<Lum64f> x) {
+  const auto p = parts<significand::from_1_to_2>(x);
+  if constexpr (takes_any_power) return p;
+  else return {select(IsZero(x), x, p.significand), p.exponent};
+}
+LUM_INLINE Vec<Lum64f> ScaledSignificand(Parts<Lum64f> x, Vec<Lum64f> power) {
+  return scalef(x.significand, takes_any_power ? power : max(power, all(-1000.0)));
+}
 struct ComplexParts {
   Parts<Lum64f> re, im;
 };
-LUM_INLINE ComplexParts PartsOf(ComplexVec<Lum64f> z) {
-  return {parts<significand::from_1_to_2>(z.re), parts<significand::from_1_to_2>(z.im)};
-}
+LUM_INLINE ComplexParts PartsOf(ComplexVec<Lum64f> z) { return {PartsOf(z.re), PartsOf(z.im)}; }
 LUM_INLINE Parts<Lum64f> operator-(Parts<Lum64f> x) { return {negate(x.significand), x.exponent}; }
 
 // a c + b d as head + tail, but for 2^exponent, right to 2^801. The larger of the products is from 2^900 to 2^902, so that what
@@ -26,8 +34,8 @@ struct ScaledSum {
 LUM_INLINE ScaledSum SumOfTwoProducts(Parts<Lum64f> a, Parts<Lum64f> c, Parts<Lum64f> b, Parts<Lum64f> d) {
   const auto first_exponent = a.exponent + c.exponent, second_exponent = b.exponent + d.exponent;
   const auto exponent = max(max(first_exponent, second_exponent), all(-5000.0)) - all(900.0);
-  const auto first = two_product(scalef(a.significand, first_exponent - exponent), c.significand);
-  const auto second = two_product(scalef(b.significand, second_exponent - exponent), d.significand);
+  const auto first = two_product(ScaledSignificand(a, first_exponent - exponent), c.significand);
+  const auto second = two_product(ScaledSignificand(b, second_exponent - exponent), d.significand);
   const auto sum = two_sum(first.head, second.head);
   const auto tail = sum.tail + (first.tail + second.tail);
   return {sum.head, tail, exponent, IsZero(tail) & (IsZero(first.tail) | IsZero(sum.head))};
