@@ -7,12 +7,12 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
-// |z| of finite numbers other than zero, as the core has it.
+// |z| of finite numbers other than zero, as the core has it: the square is right to two units of 2^-64, and the root is rounded.
 LUM_INLINE RoundedPart ModulusAsCore(ComplexVec<Lum64f> z) {
   const auto exponent = getexp(max(abs(z.re), abs(z.im)));
   const auto x = Raised(z.re, negate(exponent)).value, y = Raised(z.im, negate(exponent)).value;
   const auto root = SquareRoot(Add(ExactSquare(x), ExactSquare(y)));
-  constexpr double root_error = 5;
+  constexpr double root_error = 2.0625;
   return RoundedAtEnds(root, root.head * all(root_error), exponent);
 }
 [[maybe_unused]] LUM_INLINE Lanes<Lum64f> FarModulus(ComplexVec<Lum64f> z) {

@@ -16,6 +16,9 @@ LUM_INLINE AngleAndLogarithm ArccosineParts(ComplexVec<Lum64f> z) {
   const auto parts = InverseParts<Arc::cosine>(abs(z.re), abs(z.im));
   return {Reflected(z.re, parts.angle), parts.logarithm};
 }
+LUM_INLINE Vec<Lum64f> AngleError(Vec<Lum64f> x, HeadTail angle) {
+  return angle.head * select(lt(x, all(0.0)), all(mirrored_angle_error), all(angle_error<Arc::cosine>));
+}
 LUM_INLINE ScaledArcParts ArccosinePartsOfAny(ComplexVec<Lum64f> z) {
   auto scaled = InversePartsOfAny<Arc::cosine>(abs(z.re), abs(z.im));
   scaled.parts.angle = Reflected(z.re, scaled.parts.angle);
@@ -28,15 +31,18 @@ struct AcosPath {
   static LUM_INLINE Mask<Lum64f> IsOutside(ComplexVec<Lum64f> z) { return HasFarPart(z); }
   static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z) {
     const auto parts = ArccosineParts(z);
-    return ValueWithin(parts.angle, -XorSign(z.im, parts.logarithm), inverse_error, IsOutside(z));
+    return {parts.angle, -XorSign(z.im, parts.logarithm), AngleError(z.re, parts.angle), ArcLogarithmError(parts.logarithm),
+            IsOutside(z)};
   }
 };
 struct AcosEnds {
   static constexpr bool no_float_is_far = true;
   static LUM_INLINE CoreValue OfFar(ComplexVec<Lum64f> z) {
     const auto scaled = ArccosinePartsOfAny(z);
-    return CoreValueOf(RoundedInverse(scaled.parts.angle, scaled.angle_exponent),
-                       RoundedInverse(-XorSign(z.im, scaled.parts.logarithm), scaled.logarithm_exponent), scaled.is_known);
+    const auto& [angle, logarithm] = scaled.parts;
+    return CoreValueOf(RoundedAtEnds(angle, AngleError(z.re, angle), scaled.angle_exponent),
+                       RoundedAtEnds(-XorSign(z.im, logarithm), ArcLogarithmError(logarithm), scaled.logarithm_exponent),
+                       scaled.is_known);
   }
   static LUM_INLINE Mask<Lum64f> IsSpecial(ComplexVec<Lum64f> z) { return HasNonFinitePart(z); }
   static LUM_INLINE ComplexVec<Lum64f> OfSpecial(ComplexVec<Lum64f> z) {
@@ -54,15 +60,17 @@ struct AcoshPath {
   static LUM_INLINE Mask<Lum64f> IsOutside(ComplexVec<Lum64f> z) { return HasFarPart(z); }
   static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z) {
     const auto parts = ArccosineParts(z);
-    return ValueWithin(parts.logarithm, XorSign(z.im, parts.angle), inverse_error, IsOutside(z));
+    return {parts.logarithm, XorSign(z.im, parts.angle), ArcLogarithmError(parts.logarithm), AngleError(z.re, parts.angle),
+            IsOutside(z)};
   }
 };
 struct AcoshEnds {
   static constexpr bool no_float_is_far = true;
   static LUM_INLINE CoreValue OfFar(ComplexVec<Lum64f> z) {
     const auto scaled = ArccosinePartsOfAny(z);
-    return CoreValueOf(RoundedInverse(scaled.parts.logarithm, scaled.logarithm_exponent),
-                       RoundedInverse(XorSign(z.im, scaled.parts.angle), scaled.angle_exponent), scaled.is_known);
+    const auto& [angle, logarithm] = scaled.parts;
+    return CoreValueOf(RoundedAtEnds(logarithm, ArcLogarithmError(logarithm), scaled.logarithm_exponent),
+                       RoundedAtEnds(XorSign(z.im, angle), AngleError(z.re, angle), scaled.angle_exponent), scaled.is_known);
   }
   static LUM_INLINE Mask<Lum64f> IsSpecial(ComplexVec<Lum64f> z) { return HasNonFinitePart(z); }
   static LUM_INLINE ComplexVec<Lum64f> OfSpecial(ComplexVec<Lum64f> z) {

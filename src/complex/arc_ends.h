@@ -26,8 +26,4 @@ template <Arc arc> LUM_INLINE ScaledArcParts InversePartsOfAny(Vec<Lum64f> u, Ve
   return {parts, angle_exponent, zero_unless(lt(z.u.value, one), z.v.exponent), ~IsNextToBranch(z)};
 }
 
-LUM_INLINE RoundedPart RoundedInverse(HeadTail part, Vec<Lum64f> exponent) {
-  return RoundedAtEnds(part, abs(part.head) * all(inverse_error), exponent);
-}
-
 }  // namespace lum::inline LUM_LAYER

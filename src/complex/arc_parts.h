@@ -37,7 +37,16 @@ template <Arc arc> LUM_INLINE AngleAndLogarithm InverseParts(Vec<Lum64f> given_u
   return {ZeroUnless(has_angle, angle), ZeroUnless(has_logarithm, LogarithmOfOnePlus(Add(above_one, root)))};
 }
 
-// The core's steps add up to this.
-constexpr double inverse_error = 16;
+// What the core's parts may be off, in units of 2^-64: sums over its steps, each with half a last place and what it makes of
+// the errors of those before. The distances r and s are right to 3 units, A to 4. The cosine u/A is right to 5 and, where it is
+// near 1, the side beside it to 6.75; an arccosine does not magnify that, an arcsine by less than 1.85. A mirrored angle is
+// taken from a rounded pi. The logarithm's argument is right to 7.75 where A is above 3/2, else its difference from 1 to 8,
+// relatively.
+template <Arc arc> constexpr double angle_error = arc == Arc::cosine ? 8 : 10.5;
+constexpr double mirrored_angle_error = 10;
+LUM_INLINE Vec<Lum64f> ArcLogarithmError(HeadTail logarithm) {
+  const auto magnitude = abs(logarithm.head);
+  return select(lt(magnitude, all(0.97)), magnitude * all(9.25), fma(magnitude, all(1.1875), all(7.75)));
+}
 
 }  // namespace lum::inline LUM_LAYER

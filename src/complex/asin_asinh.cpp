@@ -11,6 +11,9 @@ LUM_INLINE AngleAndLogarithm ArcsineParts(Vec<Lum64f> angle_side, Vec<Lum64f> ot
   const auto parts = InverseParts<Arc::sine>(abs(angle_side), abs(other));
   return {XorSign(angle_side, parts.angle), XorSign(other, parts.logarithm)};
 }
+LUM_INLINE Vec<Lum64f> AngleError(const AngleAndLogarithm& parts) {
+  return abs(parts.angle.head) * all(angle_error<Arc::sine>);
+}
 LUM_INLINE ScaledArcParts ArcsinePartsOfAny(Vec<Lum64f> angle_side, Vec<Lum64f> other) {
   auto scaled = InversePartsOfAny<Arc::sine>(abs(angle_side), abs(other));
   scaled.parts = {XorSign(angle_side, scaled.parts.angle), XorSign(other, scaled.parts.logarithm)};
@@ -22,7 +25,7 @@ struct AsinPath {
   static LUM_INLINE Mask<Lum64f> IsOutside(ComplexVec<Lum64f> z) { return HasFarPart(z); }
   static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z) {
     const auto parts = ArcsineParts(z.re, z.im);
-    return ValueWithin(parts.angle, parts.logarithm, inverse_error, IsOutside(z));
+    return {parts.angle, parts.logarithm, AngleError(parts), ArcLogarithmError(parts.logarithm), IsOutside(z)};
   }
 };
 
@@ -31,7 +34,7 @@ struct AsinhPath {
   static LUM_INLINE Mask<Lum64f> IsOutside(ComplexVec<Lum64f> z) { return HasFarPart(z); }
   static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z) {
     const auto parts = ArcsineParts(z.im, z.re);
-    return ValueWithin(parts.logarithm, parts.angle, inverse_error, IsOutside(z));
+    return {parts.logarithm, parts.angle, ArcLogarithmError(parts.logarithm), AngleError(parts), IsOutside(z)};
   }
 };
 
@@ -39,8 +42,9 @@ struct AsinhEnds {
   static constexpr bool no_float_is_far = true;
   static LUM_INLINE CoreValue OfFar(ComplexVec<Lum64f> z) {
     const auto scaled = ArcsinePartsOfAny(z.im, z.re);
-    return CoreValueOf(RoundedInverse(scaled.parts.logarithm, scaled.logarithm_exponent),
-                       RoundedInverse(scaled.parts.angle, scaled.angle_exponent), scaled.is_known);
+    const auto& parts = scaled.parts;
+    return CoreValueOf(RoundedAtEnds(parts.logarithm, ArcLogarithmError(parts.logarithm), scaled.logarithm_exponent),
+                       RoundedAtEnds(parts.angle, AngleError(parts), scaled.angle_exponent), scaled.is_known);
   }
   static LUM_INLINE Mask<Lum64f> IsSpecial(ComplexVec<Lum64f> z) { return HasNonFinitePart(z); }
   static LUM_INLINE ComplexVec<Lum64f> OfSpecial(ComplexVec<Lum64f> z) {
@@ -57,8 +61,10 @@ struct AsinEnds {
   static constexpr bool no_float_is_far = true;
   static LUM_INLINE CoreValue OfFar(ComplexVec<Lum64f> z) {
     const auto scaled = ArcsinePartsOfAny(z.re, z.im);
-    return CoreValueOf(RoundedInverse(scaled.parts.angle, scaled.angle_exponent),
-                       RoundedInverse(scaled.parts.logarithm, scaled.logarithm_exponent), scaled.is_known);
+    const auto& parts = scaled.parts;
+    return CoreValueOf(RoundedAtEnds(parts.angle, AngleError(parts), scaled.angle_exponent),
+                       RoundedAtEnds(parts.logarithm, ArcLogarithmError(parts.logarithm), scaled.logarithm_exponent),
+                       scaled.is_known);
   }
   static LUM_INLINE Mask<Lum64f> IsSpecial(ComplexVec<Lum64f> z) { return HasNonFinitePart(z); }
   static LUM_INLINE ComplexVec<Lum64f> OfSpecial(ComplexVec<Lum64f> z) {

@@ -25,12 +25,17 @@ LUM_INLINE AtanhValue AtanhParts(Vec<Lum64f> x, Vec<Lum64f> y) {
   const auto t = Add(Product(below, above), -y2);
   const auto angle = Scaled(Angle({ay + ay, all(0.0)}, t), 0.5);
 
-  // The core takes the logarithm of a rounded ratio where that is not next to 1, and rounds t where it is no small difference.
+  // Where the ratio is not next to 1, the core takes the logarithm of a ratio of squared distances. Those are right to two
+  // units, or four where 1 + x is rounded, the ratio to one more.
+  const auto ratio_error = select(lt(all(0x1p-10), ax), all(1.3125), all(2.5));
   const auto logarithm_error =
-      select(lt(all(0.0299), ratio.head), fma(logarithm.head, all(3.0), all(2.5)), logarithm.head * all(6.0));
+      select(lt(all(0.0299), ratio.head), fma(logarithm.head, all(1.25), ratio_error), logarithm.head * all(6.0));
+  // It rounds t where that is no small difference, by up to three times the sum of its terms. Else it has the sum of two
+  // angles, each right to two units.
   const auto cancelled = fma(ax, ax, one) + y2.head;
   const auto growth = cancelled * rcp14(max(abs(t.head), ay + ay));
-  return {XorSign(x, logarithm), XorSign(y, angle), logarithm_error, angle.head * fma(growth, all(4.1), all(8.0))};
+  const auto angle_error = select(lt(abs(t.head), all(0.0299)), all(4.125), fma(growth, all(3.0625), all(1.25)));
+  return {XorSign(x, logarithm), XorSign(y, angle), logarithm_error, angle.head * angle_error};
 }
 
 struct AtanhPath {

@@ -10,25 +10,20 @@ namespace lum::inline LUM_LAYER {
 struct QuotientEnds {
   using Number = ComplexVec<Lum64f>;
 
-  // A sum over the square, times 2^exponent. A zero is positive.
-  static LUM_INLINE RoundedPart Part(const ScaledSum& s, HeadTail square, Vec<Lum64f> exponent) {
-    const auto q = Quotient({s.sum.head, s.sum.tail}, square);
-    const auto error = fma(abs(q.head), all(1.25), s.sum.residue * all(0x1p66));
-    const auto rounded = RoundedAtEnds(q, error, s.exponent + exponent);
-    const auto is_zero = IsZero(s.sum.head) & IsZero(s.sum.residue);
-    return {zero_unless(~is_zero, rounded.value), rounded.refused & ~is_zero};
+  // A sum over the square, whose relative error is no more than some units of 2^-104.
+  static LUM_INLINE ScaledSum Part(const ScaledSum& s, const ScaledSum& square) {
+    const auto q = Scaled(Quotient({s.head, s.tail}, {square.head, square.tail}), 0x1p900);
+    const auto is_zero = IsZero(s.head) & IsZero(s.tail);
+    return {zero_unless(~is_zero, q.head), zero_unless(~is_zero, q.tail), (s.exponent - square.exponent) - all(900.0), is_zero};
   }
-  // Of finite numbers, the divisor other than zero.
-  static LUM_INLINE CoreValue OfFinite(Number z, Number w) {
-    const auto is_zero = IsZero(z.re) & IsZero(z.im);
-    auto a = ScaledOf(Select(is_zero, {all(1.0), all(1.0)}, z));
-    a.re.value = zero_unless(~is_zero, a.re.value);
-    a.im.value = zero_unless(~is_zero, a.im.value);
-    const auto b = ScaledOf(w);
-    const auto square = Add(ExactSquare(b.re.value), ExactSquare(b.im.value));
-    const auto exponent = a.exponent - b.exponent;
-    const auto re = SumOfTwoProducts(a.re, b.re, a.im, b.im), im = SumOfTwoProducts(a.im, b.re, -a.re, b.im);
-    return CoreValueOf(Part(re, square, exponent), Part(im, square, exponent), re.is_known & im.is_known);
+  static LUM_INLINE Vec<Lum64f> DistanceFromCore(const ScaledSum& q) { return fma(abs(q.head), all(0x1.4p-64), all(0x1p803)); }
+  // Of finite numbers, the divisor other than zero. A zero is positive.
+  static LUM_INLINE CorePair OfFinite(Number given_z, Number given_w, Mask<Lum64f> wanted) {
+    const auto z = PartsOf(given_z), w = PartsOf(given_w);
+    const auto square = SumOfTwoProducts(w.re, w.re, w.im, w.im);
+    const auto re = Part(SumOfTwoProducts(z.re, w.re, z.im, w.im), square);
+    const auto im = Part(SumOfTwoProducts(z.im, w.re, -z.re, w.im), square);
+    return RoundedPair(re, DistanceFromCore(re), im, DistanceFromCore(im), wanted);
   }
 
   // An infinity or a zero in the direction of z conj(w).
@@ -64,9 +59,8 @@ struct QuotientEnds {
   // Where they do not fit registers the numbers take too much of the stack.
   if constexpr (streams_fit_registers) {
     if (any(wanted & ~special)) {
-      result = QuotientEnds::OfFinite(z, w);
-      result.is_known = (result.is_known & ~special) | by_rule;
-      result.is_sure = result.is_sure | by_rule;
+      const auto finite = QuotientEnds::OfFinite(z, w, wanted & ~special);
+      result = {finite.value, by_rule | ~special, by_rule | finite.is_sure};
     }
   }
   if (any(wanted & special)) result.value = Select(special, QuotientEnds::OfSpecial(z, w), result.value);

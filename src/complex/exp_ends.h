@@ -18,7 +18,7 @@ struct ExpEnds {
     const auto angle = Raised(z.im);
     const auto circular = SineCosineOfAny(angle.value);
     const auto re = Product(power, circular.cosine), im = Product(power, circular.sine);
-    constexpr double product_error = 5;
+    constexpr double product_error = 4.3125;
     return CoreValueOf(RoundedAtEnds(re, abs(re.head) * all(product_error), e.exponent),
                        RoundedAtEnds(im, abs(im.head) * all(product_error), e.exponent + angle.exponent), ~circular.refused);
   }

@@ -23,7 +23,7 @@ LUM_INLINE Factors FactorsOf(Vec<Lum64f> exponent, Vec<Lum64f> angle, double lar
   return {circular.sine, circular.cosine, hyperbolic.sinh, hyperbolic.cosh, refused};
 }
 
-// A product of two factors that are right to 0.56 units in the last place of Extended, rounded.
-constexpr double product_error = 5;
+// A product of two factors that are right to 0.56 units in the last place of Extended, rounded; and one of the pairs to 2^-64.
+constexpr double product_error = 4.3125;
 
 }  // namespace lum::inline LUM_LAYER

@@ -8,11 +8,13 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
-// The constant and the product are rounded too.
+// The core's constant is a quarter of a unit off, and the product is rounded too.
 LUM_INLINE PathValue DecimalOf(const LogarithmValue& value) {
   const HeadTail log10_e{all(numbers::log10_e<Lum64f>), all(numbers::log10_e_tail<Lum64f>)};
   const auto re = Product(value.modulus, log10_e), im = Product(value.angle, log10_e);
-  return {re, im, fma(abs(re.head), all(2.5), value.modulus_error * log10_e.head), abs(im.head) * all(4.5), value.refused};
+  const auto product_error = all(1.3125);
+  return {re, im, fma(abs(re.head), product_error, value.modulus_error * log10_e.head),
+          fma(abs(im.head), product_error, value.angle_error * log10_e.head), value.refused};
 }
 
 struct Log10Path {

@@ -7,19 +7,30 @@
 
 namespace lum::inline LUM_LAYER {
 
-// ln |z| next to the unit circle, where it is half of |z|^2 - 1. The leading difference is exact, and of the sums that follow
-// the core, too, rounds off no more than 2^-64.
+// |z|^2 - 1 next to the unit circle as the sum of two pairs. The leading difference is exact. Where there is one number alone,
+// it is so for the core, too.
+struct SquareLessOne {
+  TwoParts<Vec<Lum64f>> first, tails;
+  Mask<Lum64f> is_exact;
+};
+LUM_INLINE SquareLessOne SquareLessOneOf(Vec<Lum64f> large, Vec<Lum64f> small) {
+  const auto a = ExactSquare(large), b = ExactSquare(small);
+  const auto sum = fast_two_sum(a.head, b.head);
+  const auto first = two_sum(sum.head - all(1.0), sum.tail), tails = two_sum(a.tail, b.tail);
+  return {first, tails, IsZero(a.tail) & IsZero(b.tail) & IsZero(first.tail)};
+}
+
+// ln |z| next to the unit circle, where it is half of |z|^2 - 1. In each of three sums the core rounds off no more than 2^-64.
 struct SmallLogarithm {
   HeadTail value;
   Vec<Lum64f> error;
 };
-LUM_INLINE SmallLogarithm LogarithmNextToCircle(Vec<Lum64f> large, Vec<Lum64f> small) {
-  const auto a = ExactSquare(large), b = ExactSquare(small);
-  const auto sum = fast_two_sum(a.head, b.head);
-  const auto first = two_sum(sum.head - all(1.0), sum.tail), tails = two_sum(a.tail, b.tail);
+LUM_INLINE SmallLogarithm LogarithmNextToCircle(const SquareLessOne& square) {
+  const auto& [first, tails, is_exact] = square;
   const auto s = two_sum(first.head, tails.head);
   const auto value = Scaled(LogarithmOfOnePlus(fast_two_sum(s.head, s.tail + (first.tail + tails.tail))), 0.5);
-  return {value, fma(abs(value.head), all(6.0), all(2.0) * (abs(first.head) + abs(tails.head)))};
+  const auto summed = zero_unless(~is_exact, all(1.5625) * (abs(first.head) + abs(tails.head)));
+  return {value, fma(abs(value.head), all(function_error), summed)};
 }
 // Where the first path has refused a logarithm for that.
 LUM_INLINE Mask<Lum64f> IsNextToCircle(ComplexVec<Lum64f> z) {
@@ -41,11 +52,15 @@ LUM_INLINE ScaledLogarithm LogarithmOfAny(ComplexVec<Lum64f> z) {
   value.modulus = Add(value.modulus, {common * all(ln2[0]), common * all(ln2[1])});
   const auto magnitude = abs(value.modulus.head);
   value.modulus_error = ModulusError(magnitude, nle(magnitude, all(0.0147)));
-  const auto is_next = IsNextToCircle(z);
-  if (any(is_next)) {
-    const auto logarithm = LogarithmNextToCircle(large, min(ax, ay));
-    value.modulus = Select(is_next, logarithm.value, value.modulus);
-    value.modulus_error = select(is_next, logarithm.error, value.modulus_error);
+  const auto is_near = lt(magnitude, all(0.0147)), is_next = IsNextToCircle(z);
+  if (any(is_near)) {
+    const auto square = SquareLessOneOf(large, min(ax, ay));
+    value.modulus_error = select(is_near & square.is_exact, magnitude * all(function_error), value.modulus_error);
+    if (any(is_next)) {
+      const auto logarithm = LogarithmNextToCircle(square);
+      value.modulus = Select(is_next, logarithm.value, value.modulus);
+      value.modulus_error = select(is_next, logarithm.error, value.modulus_error);
+    }
   }
   // Its square is lost beside 1.
   value.refused = is_next & IsBelow(min(ax, ay), 0x1p-200);

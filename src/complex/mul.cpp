@@ -2,7 +2,7 @@
 // four products. The low tags take one of them exactly, in a fused step, and refuse a lane whose difference has cancelled. The
 // others of 32fc take both exactly in binary64; those of 64fc keep the errors of both and refuse numbers near the ends of the
 // range, zeros among them.
-#include "complex/exact_product.h"
+#include "complex/mul_second_path.h"
 #include "complex/product_routine.h"
 #include "frame/kernels.h"
 
@@ -55,6 +55,7 @@ LUM_INLINE CoreValue32 ProductAsCore(ComplexVec<Lum32f> z, ComplexVec<Lum32f> w,
 
 template <class E, bool by_conjugate> struct Product : Kernel<E> {
   static constexpr int vectors = 1;
+  static constexpr bool second_is_shared = true;
   static LUM_INLINE Finished<E> SecondPath(Packed<E> packed_z, Packed<E> packed_w,
                                            const Lanes<E, ComponentMask<Real<E>>>& lanes) {
     using T = Real<E>;
@@ -115,6 +116,7 @@ template <bool by_conjugate> struct A24_32fc : Product<Lum32fc, by_conjugate> {
 };
 
 template <bool by_conjugate> struct A53_64fc : Product<Lum64fc, by_conjugate> {
+  static constexpr bool hides_refused = true;
   // The products and their errors are normal numbers between these ends: one signed comparison, as the difference wraps round
   // for patterns below the lower end.
   static LUM_INLINE Mask<Lum64f> IsFar(Vec<Lum64f> x) {

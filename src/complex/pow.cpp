@@ -22,7 +22,7 @@ struct PowPath {
     const auto circular = SineCosineOf(angle);
     const auto refused = logarithm.refused | re.refused | im.refused | circular.refused | IsFar(exponent, largest_exponent) |
                          IsFar(angle, largest_angle);
-    constexpr double product_error = 5;
+    constexpr double product_error = 4.3125;
     return SmallValueWithin(Product(e, circular.cosine), Product(e, circular.sine), product_error, refused);
   }
   [[gnu::noinline]] static PathValue CalledValue(const ComplexVec<Lum64f>& z, const ComplexVec<Lum64f>& w) {

@@ -12,6 +12,11 @@ namespace {
 // The root as the core has it, in pairs. The smaller part is proportional to y where that is the smaller one by far.
 struct SqrtParts {
   HeadTail large, small;
+
+  // What the core's may be off, in units of 2^-64: the modulus is right to two, its mean with |x| to three, the root to half of
+  // that and its own rounding; the quotient is rounded, too.
+  LUM_INLINE Vec<Lum64f> LargeError() const { return large.head * all(2.5625); }
+  LUM_INLINE Vec<Lum64f> SmallError() const { return small.head * all(3.5625); }
 };
 LUM_INLINE SqrtParts SqrtPartsOf(Vec<Lum64f> x, Vec<Lum64f> y) {
   const auto ax = abs(x), ay = abs(y);
@@ -19,7 +24,7 @@ LUM_INLINE SqrtParts SqrtPartsOf(Vec<Lum64f> x, Vec<Lum64f> y) {
   const auto large = SquareRoot(Scaled(Add(modulus, ax), 0.5));
   return {large, Quotient({ay * all(0.5), all(0.0)}, large)};
 }
-constexpr double root_error = 5;
+constexpr double root_on_axis_error = 1.0625;
 
 struct SqrtEnds {
   // One root serves the numbers of both axes: sqrt |x|, or sqrt(|y|/2) in both parts.
@@ -29,7 +34,7 @@ struct SqrtEnds {
     const auto m = scalef(magnitude, all(-2.0) * half);
     const auto is_real = IsZero(z.im), is_left = lt(z.re, all(0.0));
     const auto root = SquareRoot({select(is_real, m, all(0.5) * m), all(0.0)});
-    const auto rounded = RoundedAsCore(root, root.head * all(root_error));
+    const auto rounded = RoundedAsCore(root, root.head * all(root_on_axis_error));
     const auto value = scalef(rounded.value, half);
     return {{zero_unless(~(is_real & is_left), value), or_sign(z.im, zero_unless(~is_real | is_left, value))},
             mask_of<Lum64f>(~0u),
@@ -41,10 +46,8 @@ struct SqrtEnds {
     const auto down = all(-2.0) * half;
     const auto x = Raised(z.re, down), y = Raised(z.im, down);
     const auto parts = SqrtPartsOf(x.value, y.value);
-    const auto rounded = [](HeadTail part, Vec<Lum64f> exponent) __attribute__((always_inline)) {
-      return RoundedAtEnds(part, part.head * all(root_error), exponent);
-    };
-    const auto large = rounded(parts.large, half), small = rounded(parts.small, half + y.exponent);
+    const auto large = RoundedAtEnds(parts.large, parts.LargeError(), half);
+    const auto small = RoundedAtEnds(parts.small, parts.SmallError(), half + y.exponent);
     const auto is_left = lt(z.re, all(0.0));
     return {{select(is_left, small.value, large.value), or_sign(z.im, select(is_left, large.value, small.value))},
             mask_of<Lum64f>(~0u),
@@ -189,8 +192,9 @@ struct SqrtPath {
   static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z) {
     const auto parts = SqrtPartsOf(z.re, z.im);
     const auto is_left = lt(z.re, all(0.0));
-    return ValueWithin(Select(is_left, parts.small, parts.large), XorSign(z.im, Select(is_left, parts.large, parts.small)),
-                       root_error, IsOutside(z));
+    const auto large_error = parts.LargeError(), small_error = parts.SmallError();
+    return {Select(is_left, parts.small, parts.large), XorSign(z.im, Select(is_left, parts.large, parts.small)),
+            select(is_left, small_error, large_error), select(is_left, large_error, small_error), IsOutside(z)};
   }
 };
 

@@ -218,7 +218,7 @@ template <class K, int n> LUM_INLINE auto ComputeFirst(const K& kernel, const In
   auto r = Compute<K, n>(kernel, x);
   if constexpr (K::hides_refused) {
     Inputs<K, n> hidden = x;
-    for (auto& values : hidden) values = select(r.refused, all(K::fill), values);
+    for (auto& values : hidden) values = FilledWhere(r.refused, values, K::fill);
     const auto refused = r.refused;
     r = Compute<K, n>(kernel, hidden);
     r.refused = refused;
@@ -236,13 +236,11 @@ template <class K, int n, int m> LUM_INLINE auto ComputeBoth(const K& kernel, co
     return both;
   } else {
     using Result = decltype(ComputeSecond<K, n, m>(kernel, x, first));
-    if constexpr (requires { ~first.refused; }) {
-      // There is no need for the first path's values where it refuses all.
-      if (none(~first.refused)) {
-        std::remove_const_t<decltype(first)> no_values{};
-        no_values.refused = first.refused;
-        return ComputeSecond<K, n, m>(kernel, x, no_values);
-      }
+    // There is no need for the first path's values where it refuses all.
+    if (has_all_elements(first.refused)) {
+      std::remove_const_t<decltype(first)> no_values{};
+      no_values.refused = first.refused;
+      return ComputeSecond<K, n, m>(kernel, x, no_values);
     }
     if (any(first.refused)) return ComputeSecond<K, n, m>(kernel, x, first);
     return Result{Values<K, m>(first), {}, {}, false};

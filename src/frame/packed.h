@@ -35,8 +35,21 @@ template <Floating T> uint32_t element_bits(ComponentMask<T> m) {
   return elements;
 }
 template <Floating T> LUM_INLINE bool any(ComponentMask<T> m) { return any(m.low | m.high); }
+// Whether all elements are in a mask.
+template <Lane T> LUM_INLINE bool has_all_elements(Mask<T> m) { return none(~m); }
+template <Floating T> LUM_INLINE bool has_all_elements(ComponentMask<T> m) {
+  constexpr uint32_t even = 0x5555u & ((1u << lanes_of<T>)-1u);
+  const uint32_t low = to_bits(m.low), high = to_bits(m.high);
+  return ((low | low >> 1) & (high | high >> 1) & even) == even;
+}
 template <Floating T> LUM_INLINE ComponentMask<T> operator|(ComponentMask<T> a, ComponentMask<T> b) {
   return {a.low | b.low, a.high | b.high};
+}
+
+// x with the fill in the places of the mask.
+template <Floating T> LUM_INLINE Vec<T> FilledWhere(Mask<T> m, Vec<T> x, T fill) { return select(m, all(fill), x); }
+template <Floating T> LUM_INLINE Interleaved<T> FilledWhere(ComponentMask<T> m, Interleaved<T> x, T fill) {
+  return {FilledWhere(m.low, x.low, fill), FilledWhere(m.high, x.high, fill)};
 }
 
 template <class E> struct PackedOf { using Type = Vec<E>; };

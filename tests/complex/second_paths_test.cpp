@@ -17,6 +17,12 @@ class Parts {
 
   Bits Ordinary() { return {format_.pattern(Uniform(-3, 3)), format_.pattern(Uniform(-3, 3))}; }
   Bits Special() { return {SpecialPart(), SpecialPart()}; }
+  // Both parts of about the same size, any one.
+  Bits OfOneSize() {
+    const int exponent = is_single_ ? Integer(-149, 125) : Integer(-1074, 1021);
+    const auto part = [&] { return Signed(format_.pattern(std::ldexp(Uniform(1, 4), exponent))); };
+    return {part(), part()};
+  }
   // One element of `period` special.
   Bits Mixed(size_t period) { return random_() % period == 0 ? Special() : Ordinary(); }
 
@@ -111,6 +117,35 @@ TEST_P(SecondPaths, UniformArraysAsThePortableLibrary) {
         const Output actual = Callee(*TestLibrary(name, "", reason), entry).Run(batch);
         ASSERT_EQ(DifferenceOfLibraries(expected, actual, batch), "equal") << name;
       }
+    }
+  }
+}
+
+// Second arguments of the parts of the first ones, nearly or exactly: sums of products cancel, down to zero.
+TEST_P(SecondPaths, CancellingProductsAsThePortableLibrary) {
+  const Export& entry = *GetParam();
+  if (entry.inputs() != 2) return;
+  std::string reason;
+  const support::Library* portable = TestLibrary("p0", "", reason);
+  if (portable == nullptr) GTEST_SKIP() << reason;
+  const Format format = FormatOf(entry.input);
+  Parts parts(format, entry.input == Element::c32);
+  Random random(24);
+  const auto nearly = [&](Bits z) {
+    const uint64_t bits = (random() % 2 == 0 ? z.re : z.im) ^ (random() % 2 == 0 ? format.sign() : 0);
+    return random() % 4 == 0 ? bits ^ uint64_t{1} << random() % 20 : bits;
+  };
+  for (int round = 0; round < 200; ++round) {
+    Batch batch(entry);
+    for (int i = 0; i < 500; ++i) {
+      const Bits z = round % 2 == 0 ? parts.Special() : parts.OfOneSize();
+      batch.src1.Append(z);
+      batch.src2.Append({nearly(z), nearly(z)});
+    }
+    const Output expected = Callee(*portable, entry).Run(batch);
+    for (const std::string& name : RunnableLibraries()) {
+      const Output actual = Callee(*TestLibrary(name, "", reason), entry).Run(batch);
+      ASSERT_EQ(DifferenceOfLibraries(expected, actual, batch), "equal") << name;
     }
   }
 }

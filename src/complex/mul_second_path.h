@@ -1,0 +1,40 @@
+// The second path of products: what the core has for any numbers.
+#pragma once
+
+#include "complex/exact_product.h"
+
+namespace lum::inline LUM_LAYER {
+
+// Which of two NaNs the core's products give depends on how they were compiled.
+template <class T> LUM_INLINE Mask<T> HaveTwoNans(ComplexVec<T> z, ComplexVec<T> w) {
+  return unord(z.re, z.im) & unord(w.re, w.im);
+}
+
+// Of finite numbers.
+LUM_INLINE CorePair ProductOfFinite(ComplexVec<Lum64f> given_z, ComplexVec<Lum64f> given_w, Mask<Lum64f> wanted) {
+  const auto z = PartsOf(given_z), w = PartsOf(given_w);
+  const auto re = SumOfTwoProducts(z.re, w.re, -z.im, w.im), im = SumOfTwoProducts(z.re, w.im, z.im, w.re);
+  return RoundedPair(re, DistanceFromCore(re), im, DistanceFromCore(im), wanted);
+}
+
+LUM_INLINE Mask<Lum64f> IsZeroAsWhole(ComplexVec<Lum64f> z) {
+  return mask_cast<Lum64f>(test_none(bits(z.re) | bits(z.im), all(~sign_bit<Lum64f>)));
+}
+// The products in the lanes of the mask; the others are not sure. Plain products and sums are the core's where a number is not
+// finite, and where one is zero.
+LUM_INLINE CorePair ProductAsCore(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w, Mask<Lum64f> wanted) {
+  const auto zero = all(0.0), zeros = fma(z.re, zero, fma(z.im, zero, fma(w.re, zero, w.im * zero)));
+  const auto is_plain = wanted & (unord(zeros, zeros) | IsZeroAsWhole(z) | IsZeroAsWhole(w));
+  CorePair product{z, is_plain};
+  if (any(is_plain)) {
+    product = {{z.re * w.re + negate(z.im * w.im), z.re * w.im + z.im * w.re}, is_plain & ~HaveTwoNans(z, w)};
+  }
+  const auto rest = wanted & ~is_plain;
+  if (any(rest)) {
+    const auto finite = ProductOfFinite(z, w, rest);
+    product = {Select(rest, finite.value, product.value), product.is_sure | (finite.is_sure & rest)};
+  }
+  return product;
+}
+
+}  // namespace lum::inline LUM_LAYER
