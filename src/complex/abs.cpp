@@ -7,7 +7,8 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
-// |z| of finite numbers other than zero, as the core has it: the square is right to two units of 2^-64, and the root is rounded.
+// |z| of finite numbers other than zero, as the core has it: the square is right to two units of 2^-64, and the root is
+// rounded.
 LUM_INLINE RoundedPart ModulusAsCore(ComplexVec<Lum64f> z) {
   const auto exponent = getexp(max(abs(z.re), abs(z.im)));
   const auto x = Raised(z.re, negate(exponent)).value, y = Raised(z.im, negate(exponent)).value;

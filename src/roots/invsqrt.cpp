@@ -15,8 +15,11 @@ namespace {
 // the root of x from its estimate s.
 template <class T, class Tier> struct InvSqrtKernel : Kernel<T> {
   static constexpr int refused =
-      classes::zero | classes::infinity | classes::negative | (estimates_take_all ? 0 : classes::nan | classes::denormal);
-  static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) { return {Tier::Root(x, rsqrt14_normal(x)), fpclass<refused>(x)}; }
+      estimates_take_all ? classes::zero | classes::infinity | classes::negative : classes::not_positive_normal;
+  static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) {
+    if constexpr (estimates_take_all) return {Tier::Root(x, rsqrt14(x)), fpclass<refused>(x)};
+    else return {Tier::Root(x, rsqrt14_normal(x)), fpclass<refused>(x)};
+  }
   static LumStatus LaneRoutine(T x, T& result) {
     constexpr auto infinity = std::numeric_limits<T>::infinity();
     if (x == 0) {

@@ -133,7 +133,7 @@ TEST_P(SecondPaths, CancellingProductsAsThePortableLibrary) {
   Random random(24);
   const auto nearly = [&](Bits z) {
     const uint64_t bits = (random() % 2 == 0 ? z.re : z.im) ^ (random() % 2 == 0 ? format.sign() : 0);
-    return random() % 4 == 0 ? bits ^ uint64_t{1} << random() % 20 : bits;
+    return random() % 4 == 0 ? bits ^ uint64_t { 1 } << random() % 20 : bits;
   };
   for (int round = 0; round < 200; ++round) {
     Batch batch(entry);

@@ -127,7 +127,7 @@ template <Floating T> void AddSignificand(Builder& table) {
     table.add<V>("reduce" + text + t, [](V a) { return reduce<decltype(imm)::value>(a); });
   });
   ForEachImmediate<0x01, 0x02, 0x04, 0x08, 0x10, 0x20, 0x40, 0x80, 0x06, 0x0E, 0x18, 0x1E, 0x50, 0x56, 0x5E, 0x87, 0x89, 0x99,
-                   0xBF, 0xDF, 0xFF>([&](auto imm, const std::string& text) {
+                   0x9F, 0xBF, 0xDF, 0xFF>([&](auto imm, const std::string& text) {
     table.add<V>("fpclass" + text + t, [](V a) { return fpclass<decltype(imm)::value>(a); });
   });
 }

@@ -164,8 +164,8 @@ template <auto careful, Floating T, class... Operands>
     if (doubt.bits_of(i)) r.lane[i] = careful(operands.lane[i]...);
   return r;
 }
-// r, but that in lanes of which doubt has bits set, if there are any. What goes to the call and comes from it are copies, so that
-// on the usual way nothing is in memory.
+// r, but that in lanes of which doubt has bits set, if there are any. What goes to the call and comes from it are copies, so
+// that on the usual way nothing is in memory.
 template <auto careful, Floating T, class... Operands>
 LUM_INLINE Vec<T> with_lanes_redone(const Vec<T>& r, const Mask<T>& doubt, const Operands&... operands) {
   if (none(doubt)) [[likely]]
@@ -186,11 +186,13 @@ LUM_INLINE Vec<T> each_lane_with_care(Quick quick, Doubt doubt, const Operands&.
 template <auto careful, Floating T, class Quick, class... Operands>
 LUM_INLINE Vec<T> each_part_but_nans(Quick quick, const Operands&... operands) {
   const Vec<T> r = each_part<T>(quick, operands...);
-  const Mask<T> nans = each_mask_part<T>([](auto x) __attribute__((always_inline)) { return x != x; }, r);
+  const Mask<T> nans = each_mask_part<T>(
+      [](auto x) __attribute__((always_inline)) { return x != x; }, r);
   return with_lanes_redone<careful>(r, nans, operands...);
 }
 // Where the processor gives other NaNs than these, lanes with one are done again.
-template <auto careful, Floating T, class Quick> LUM_INLINE Vec<T> each_part_with_these_nans(Quick quick, const Vec<T>& a, const Vec<T>& b) {
+template <auto careful, Floating T, class Quick>
+LUM_INLINE Vec<T> each_part_with_these_nans(Quick quick, const Vec<T>& a, const Vec<T>& b) {
   if constexpr (lane::processor_gives_these_nans) return each_part<T>(quick, a, b);
   else return each_part_but_nans<careful, T>(quick, a, b);
 }
