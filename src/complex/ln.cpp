@@ -16,6 +16,7 @@ namespace {
 
 template <class E> struct LnKernel : Kernel<E> {
   static constexpr int vectors = 1;
+  static constexpr bool second_is_shared = true;
   static void LaneRoutine(const E& z, E& result) { SilentCoreOnLane<CoreLog>(z, result); }
   static LUM_INLINE Lanes<E> SecondPath(Packed<E> z, const Lanes<E>& lanes) {
     // The first path takes so much of the stack where it does not fit registers that there is no room for far numbers.
