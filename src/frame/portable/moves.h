@@ -106,7 +106,13 @@ template <Floating T> LUM_INLINE Pair<T> deinterleave(const Vec<T>& a, const Vec
   return r;
 }
 // The sequence (first, second) whose even and odd lanes are those given: the inverse of deinterleave.
-template <Floating T> LUM_INLINE Pair<T> interleave(const Vec<T>& even, const Vec<T>& odd) {
+template <Floating T> LUM_INLINE Pair<T> interleave(const Vec<T>& given, const Vec<T>& odd) {
+#ifdef __clang__
+  // Of x beside x + c clang makes one sum, of x and -0 or c, which quiets a signalling NaN; it does not know this copy.
+  const Vec<T> even = as_float(spread(of_unknown_origin(std::bit_cast<Mask<T>>(given))));
+#else
+  const Vec<T>& even = given;
+#endif
   constexpr int half = lanes_of<T> / 2;
   Pair<T> r;
   for (int i = 0; i < half; ++i) {
