@@ -128,7 +128,7 @@ class Judge {
       for (size_t i = 0; i < block_size; ++i) {
         const double error = CheapError(block, 1, i);
         open += IsNearHalf(error) ? 1 : 0;
-        errors[i] = (error <= errors[i]) | (errors[i] != errors[i]) ? errors[i] : error;
+        errors[i] = ((error <= errors[i]) | (errors[i] != errors[i])) ? errors[i] : error;
       }
     }
     for (const double error : errors) {
