@@ -8,13 +8,11 @@ namespace lum::inline LUM_LAYER {
 
 // Whether a call goes through the vector path: not where what a core does in the caller's rounding (to narrow, and the products
 // of a power) is not to nearest, nor where the caller has denormal numbers flushed, which tails may be and numbers of Extended
-// are not. The portable vectors are slower than the core.
+// are not. Without a fused multiply-add pairs take longer than the core.
 #if defined(LUM_AVX512) || defined(LUM_AVX2)
 inline constexpr bool has_fast_vectors = true;
-inline bool TakesVectorPath() { return (ReadMxcsr() & (mxcsr_rounding | mxcsr_flush_to_zero | mxcsr_denormals_are_zero)) == 0; }
 #else
-inline constexpr bool has_fast_vectors = false;
-inline bool TakesVectorPath() { return false; }
+inline constexpr bool has_fast_vectors = lane::processor_has_fma;
 #endif
 
 // The kernels of functions that report nothing, and of those that report overflow.
@@ -51,13 +49,13 @@ template <class Path, class Ends, OneInputCore core, class E> struct ReportingKe
 // The array function of a core and its path, which reports nothing or reports overflow.
 template <class Path, class Ends, OneInputCore core, class E> LumStatus RunSilent(const E* src, E* dst, int32_t len) {
   if constexpr (has_fast_vectors) {
-    if (TakesVectorPath()) return OneInput<SilentKernel<Path, Ends, core, E>>(src, dst, len);
+    if (RoundsToNearestOnly()) return OneInput<SilentKernel<Path, Ends, core, E>>(src, dst, len);
   }
   return SilentLoop<core>(src, dst, len);
 }
 template <class Path, class Ends, OneInputCore core, class E> LumStatus RunReporting(const E* src, E* dst, int32_t len) {
   if constexpr (has_fast_vectors) {
-    if (TakesVectorPath()) return OneInput<ReportingKernel<Path, Ends, core, E>>(src, dst, len);
+    if (RoundsToNearestOnly()) return OneInput<ReportingKernel<Path, Ends, core, E>>(src, dst, len);
   }
   return ReportingLoop<core, E>::Run(src, dst, len);
 }

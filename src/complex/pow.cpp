@@ -102,13 +102,13 @@ template <class E> struct PowxKernel : Kernel<E> {
 
 template <class E> LUM_INLINE LumStatus RunPow(const E* src1, const E* src2, E* dst, int32_t len) {
   if constexpr (has_fast_vectors) {
-    if (TakesVectorPath()) return TwoInputs<PowKernel<E>>(src1, src2, dst, len);
+    if (RoundsToNearestOnly()) return TwoInputs<PowKernel<E>>(src1, src2, dst, len);
   }
   return ReportingTwoInputsLoop<CorePow, E>::Run(src1, src2, dst, len);
 }
 template <class E> LUM_INLINE LumStatus RunPowx(const E* src, const E& exponent, E* dst, int32_t len) {
   if constexpr (has_fast_vectors) {
-    if (TakesVectorPath()) return OneInput<PowxKernel<E>>(src, dst, len, {{}, exponent});
+    if (RoundsToNearestOnly()) return OneInput<PowxKernel<E>>(src, dst, len, {{}, exponent});
   }
   return ReportingParameterLoop<CorePow, E>::Run(src, exponent, dst, len);
 }

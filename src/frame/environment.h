@@ -160,6 +160,11 @@ LUM_INLINE void Leave(const Environment& environment) {
   WriteMxcsr(environment.mxcsr & ~other_flags);
 }
 
+// Whether the caller's arithmetic rounds to nearest and flushes nothing.
+inline bool RoundsToNearestOnly() {
+  return (ReadMxcsr() & (mxcsr_rounding | mxcsr_flush_to_zero | mxcsr_denormals_are_zero)) == 0;
+}
+
 #else  // the standard library's environment
 
 struct Environment {
@@ -181,6 +186,16 @@ template <Variant variant> inline Environment Enter() {
 }
 
 inline void Leave(const Environment& environment) { std::fesetenv(&environment.saved); }
+
+inline bool RoundsToNearestOnly() {
+#if defined(__aarch64__)
+  uint64_t control;
+  asm volatile("mrs %0, fpcr" : "=r"(control) : : "memory");
+  constexpr uint64_t rounding_and_flushing = 0x01C00000;
+  if ((control & rounding_and_flushing) != 0) return false;
+#endif
+  return std::fegetround() == FE_TONEAREST;
+}
 
 #endif
 

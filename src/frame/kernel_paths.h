@@ -196,7 +196,7 @@ template <class K, int m, class Result> LUM_INLINE auto AsBothPaths(const Result
 template <class K, int n, int m, class Result>
 LUM_INLINE auto FinishVector(const K& kernel, const Inputs<K, n>& x, const Result& r) {
   auto second = SecondPathOf<K, n>(kernel, x, r);
-  if constexpr (vectors_fit_registers && !orders_nans && requires { ~r.refused; }) {
+  if constexpr (!orders_nans && requires { ~r.refused; }) {
     second.refused = second.refused | (r.refused & SeveralNans<K, n>(x));
   }
   return AsBothPaths<K, m>(second, true);

@@ -18,6 +18,21 @@ inline constexpr Line reciprocal_root_lines[64] = {
 #include "tables/generated/rsqrt14.inc"
 };
 
+// The same with the constant and the slope of a line in one word: the significand at place j of a segment is
+// (constant * 2^scale - slope * j) >> 9. The segments' order is changed in the bits of `swapped`.
+struct alignas(64) LineWords {
+  uint32_t word[64];
+  constexpr LineWords(const Line (&lines)[64], int scale, int swapped) : word{} {
+    for (int i = 0; i < 64; ++i) {
+      const Line& from = lines[i ^ swapped];
+      word[i] = (from.a + (512 >> scale) * from.b) << 10 | from.b;
+    }
+  }
+};
+inline constexpr LineWords reciprocal_line_words{reciprocal_lines, 8, 0};
+// The last bit of the exponent field names the half: an odd field belongs to an even exponent.
+inline constexpr LineWords reciprocal_root_line_words{reciprocal_root_lines, 7, 32};
+
 // |x| = 1.fraction * 2^exponent for x finite and not zero.
 template <Floating T> struct Parts {
   UnsignedOf<T> fraction;

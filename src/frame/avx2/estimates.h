@@ -72,24 +72,9 @@ template <int n, int place> LUM_INLINE Word entry(const uint32_t* table, Word w)
 
 // ---- Estimates to 14 bits
 
-// The lines of reciprocal_estimates.h: the constant and the slope in one word. The significand at place j of a segment is
-// (constant * 2^scale - slope * j) >> 9.
-struct alignas(32) Lines {
-  uint32_t word[64];
-  constexpr Lines(const lane::Line (&lines)[64], int scale, int swapped) : word{} {
-    for (int i = 0; i < 64; ++i) {
-      const lane::Line& from = lines[i ^ swapped];
-      word[i] = (from.a + (512 >> scale) * from.b) << 10 | from.b;
-    }
-  }
-};
-inline constexpr Lines reciprocal_lines{lane::reciprocal_lines, 8, 0};
-// An odd exponent field belongs to an even exponent.
-inline constexpr Lines reciprocal_root_lines{lane::reciprocal_root_lines, 7, 32};
-
 // The significand for the bits of w below place + 6, in 16 fraction bits.
-template <int scale, int place> LUM_INLINE Word on_line(const Lines& table, Word w) {
-  const Word line = entry<6, place>(table.word, w);
+template <int scale, int place> LUM_INLINE Word on_line(const lane::LineWords& lines, Word w) {
+  const Word line = entry<6, place>(lines.word, w);
   const Word j = shift_right<place - 10>(w) & all(1023u);
   const Word down{_mm256_madd_epi16((line & all(1023u)).v, j.v)};
   return shift_right<9>(shift_left<scale>(shift_right<10>(line)) - down);
@@ -100,7 +85,7 @@ template <Floating T> LUM_INLINE Vec<T> rcp14_normal(Vec<T> a) {
   constexpr int fb = F::fraction_bits;
   return by_top_words(
       a, [](Word w, Word below) __attribute__((always_inline)) {
-        const Word significand = shift_left<fb - 16>(on_line<8, fb - 6>(reciprocal_lines, w));
+        const Word significand = shift_left<fb - 16>(on_line<8, fb - 6>(lane::reciprocal_line_words, w));
         const auto is_power = eq((w & all(F::fraction)) | below, all(0u));
         const Word field = all((2 * F::bias - 2) << fb) - (w & all(~F::fraction));
         return field + select(is_power, all(2 * F::hidden), significand);
@@ -111,7 +96,7 @@ template <Floating T> LUM_INLINE Vec<T> rsqrt14_normal(Vec<T> a) {
   constexpr int fb = F::fraction_bits;
   return by_top_words(
       a, [](Word w, Word below) __attribute__((always_inline)) {
-        const Word significand = shift_left<fb - 16>(on_line<7, fb - 5>(reciprocal_root_lines, w));
+        const Word significand = shift_left<fb - 16>(on_line<7, fb - 5>(lane::reciprocal_root_line_words, w));
         // Of the fraction and the exponent's last bit only the latter is set.
         const auto is_power = eq(((w ^ all(F::hidden)) & all(2 * F::hidden - 1)) | below, all(0u));
         const Word half_field = shift_right<1>(w + all(F::hidden)) & all(~F::fraction);

@@ -1,21 +1,24 @@
 // Floating-point arithmetic, comparison and selection lane by lane, a part of frame/vec_portable.h.
 #pragma once
 
-#include "frame/lane_significand.h"
 #include "frame/portable/base.h"
-#include "frame/reciprocal_estimates.h"
-#include "frame/two_parts.h"
+#include "frame/portable/directed.h"
 
 namespace lum {
 inline namespace portable {
 
 // ---- Arithmetic
 
+// Directed rounding without a fused multiply-add is that of one lane, in straight lines.
 template <int R = rn, Floating T> LUM_INLINE Vec<T> add(const Vec<T>& a, const Vec<T>& b) {
-  if constexpr (R != rn) return each_lane<T>([&](int i) { return lane::add<R>(a.lane[i], b.lane[i]); });
-  else
+  if constexpr (R == rn) {
     return each_part_with_these_nans<lane::add<rn, T>, T>(
         [](auto x, auto y) __attribute__((always_inline)) { return x + y; }, a, b);
+  } else if constexpr (lane::processor_has_fma) {
+    return each_part_with_care<lane::add<R, T>, T>(reg::directed_add<R, T>, reg::directed_add_doubt<R, T>, a, b);
+  } else {
+    return each_lane<T>([&](int i) { return lane::add<R>(a.lane[i], b.lane[i]); });
+  }
 }
 template <int R = rn, Floating T> LUM_INLINE Vec<T> sub(const Vec<T>& a, const Vec<T>& b) {
   if constexpr (R != rn) return each_lane<T>([&](int i) { return lane::sub<R>(a.lane[i], b.lane[i]); });
@@ -29,10 +32,14 @@ template <int R = rn, Floating T> [[gnu::noinline]] Vec<T> called_mul(const Vec<
       [&](int i, T r) { return lane::mul_doubt<R>(a.lane[i], b.lane[i], r); }, a, b);
 }
 template <int R = rn, Floating T> LUM_INLINE Vec<T> mul(const Vec<T>& a, const Vec<T>& b) {
-  if constexpr (R != rn) return called_mul<R>(a, b);
-  else
+  if constexpr (R == rn) {
     return each_part_with_these_nans<lane::careful_mul<rn, T>, T>(
         [](auto x, auto y) __attribute__((always_inline)) { return x * y; }, a, b);
+  } else if constexpr (lane::processor_has_fma) {
+    return each_part_with_care<lane::careful_mul<R, T>, T>(reg::directed_mul<R, T>, reg::directed_mul_doubt<T>, a, b);
+  } else {
+    return called_mul<R>(a, b);
+  }
 }
 template <int R = rn, Floating T> [[gnu::noinline]] Vec<T> called_div(const Vec<T>& a, const Vec<T>& b) {
   return each_lane<T>([&](int i) { return lane::div<R>(a.lane[i], b.lane[i]); });
@@ -46,14 +53,6 @@ template <int R = rn, Floating T> LUM_INLINE Vec<T> div(const Vec<T>& a, const V
 template <int R = rn, Floating T> [[gnu::noinline]] Vec<T> sqrt(const Vec<T>& a) {
   return each_lane<T>([&](int i) { return lane::sqrt<R>(a.lane[i]); });
 }
-// +-(a b) +- c with one rounding.
-template <bool negate_product, bool negate_addend, Floating T>
-LUM_INLINE Vec<T> native_fma(const Vec<T>& a, const Vec<T>& b, const Vec<T>& c) {
-  const auto quick = [](auto x, auto y, auto z) __attribute__((always_inline)) {
-    return register_fma<T>(negate_product ? -x : x, y, negate_addend ? -z : z);
-  };
-  return each_part_but_nans<lane::careful_fma<rn, negate_product, negate_addend, T>, T>(quick, a, b, c);
-}
 template <int R, bool negate_product, bool negate_addend, Floating T>
 [[gnu::noinline]] Vec<T> called_fma(const Vec<T>& a, const Vec<T>& b, const Vec<T>& c) {
   const auto quick = [&](int i) {
@@ -62,10 +61,16 @@ template <int R, bool negate_product, bool negate_addend, Floating T>
   return each_lane_with_care<lane::careful_fma<R, negate_product, negate_addend, T>, T>(
       quick, [&](int i, T r) { return lane::fma_doubt<R>(a.lane[i], b.lane[i], c.lane[i], r); }, a, b, c);
 }
+// +-(a b) +- c with one rounding.
 template <int R, bool negate_product, bool negate_addend, Floating T>
 LUM_INLINE Vec<T> signed_fma(const Vec<T>& a, const Vec<T>& b, const Vec<T>& c) {
-  if constexpr (R == rn && lane::processor_has_fma) return native_fma<negate_product, negate_addend>(a, b, c);
-  else return called_fma<R, negate_product, negate_addend>(a, b, c);
+  constexpr auto careful = lane::careful_fma<R, negate_product, negate_addend, T>;
+  if constexpr (!lane::processor_has_fma) return called_fma<R, negate_product, negate_addend>(a, b, c);
+  else if constexpr (R != rn)
+    return each_part_with_care<careful, T>(reg::directed_fma<R, negate_product, negate_addend, T>,
+                                           reg::directed_fma_doubt<R, negate_product, negate_addend, T>, a, b, c);
+  else if constexpr (reg::fma_gives_these_nans) return each_part<T>(reg::fma<negate_product, negate_addend, T>, a, b, c);
+  else return each_part_but_nans<careful, T>(reg::fma<negate_product, negate_addend, T>, a, b, c);
 }
 // a b + c with one rounding.
 template <int R = rn, Floating T> LUM_INLINE Vec<T> fma(const Vec<T>& a, const Vec<T>& b, const Vec<T>& c) {
@@ -87,22 +92,41 @@ template <int R = rn, Floating T> LUM_INLINE Vec<T> fnms(const Vec<T>& a, const 
 // is negative is no denormal number. Of other lanes any value, a NaN of a one.
 template <Floating T> LUM_INLINE Vec<T> fma_floor(const Vec<T>& a, const Vec<T>& b, const Vec<T>& c) {
   if constexpr (!lane::processor_has_fma) return fma<rz>(a, b, c);
-  const auto s = fma(a, b, c);
-  // The difference from c is exact, and one unit down is right where the sum was rounded up.
-  return each_part<T>(
-      [](auto x, auto y, auto z, auto sum) __attribute__((always_inline)) {
-        const Register<T> error = register_fma<T>(x, y, z - sum);
-        return register_cast<UnsignedOf<T>>(sum) + register_cast<UnsignedOf<T>>(error < 0);
-      },
-      a, b, c, s);
+  else return each_part<T>(reg::fma_floor<T>, a, b, c);
+}
+// The heads and tails that pairs(part of a, part of b, ...) gives.
+template <Floating T, class Pairs, class... Operands>
+LUM_INLINE TwoParts<Vec<T>> each_part_in_two(Pairs pairs, const Operands&... operands) {
+  TwoParts<Vec<T>> r;
+  const auto set = [&](int part) __attribute__((always_inline)) {
+    const TwoParts<Register<T>> of_part = pairs(part_of(operands, part)...);
+    set_part(r.head, part, of_part.head);
+    set_part(r.tail, part, of_part.tail);
+  };
+  [&]<size_t... part>(std::index_sequence<part...>) __attribute__((always_inline)) { (set(static_cast<int>(part)), ...); }
+  (std::make_index_sequence<parts_of_vector>());
+  return r;
 }
 // a b rounded toward zero, and what is left of it, exactly: of products that are finite and whose lowest bit is in the range.
 template <Floating T> LUM_INLINE TwoParts<Vec<T>> mul_toward_zero(const Vec<T>& a, const Vec<T>& b) {
+  if constexpr (lane::processor_has_fma) {
+    const auto r = each_part_in_two<T>(
+        [](auto x, auto y) __attribute__((always_inline)) { return reg::mul_toward_zero<T>(x, y); }, a, b);
+    if (none(each_mask_part<T>(reg::is_small_product<T>, r.head, a, b))) [[likely]]
+      return r;
+  }
   const auto head = mul<rz>(a, b);
   return {head, fms<rz>(a, b, head)};
 }
 // (a + a_tail) b, each step toward zero, for a tail that is zero or from 2^-212 (float: 2^-96) to 2^-8 of a.
 template <Floating T> LUM_INLINE TwoParts<Vec<T>> mul_toward_zero(const Vec<T>& a, const Vec<T>& a_tail, const Vec<T>& b) {
+  if constexpr (lane::processor_has_fma) {
+    const auto r = each_part_in_two<T>(
+        [](auto x, auto x_tail, auto y) __attribute__((always_inline)) { return reg::mul_toward_zero<T>(x, x_tail, y); }, a,
+        a_tail, b);
+    if (none(each_mask_part<T>(reg::is_small_product<T>, r.head, a, b))) [[likely]]
+      return r;
+  }
   const auto first = mul<rz>(a, b);
   const auto second = fma<rz>(a_tail, b, fms<rz>(a, b, first));
   const auto head = add<rz>(first, second);
@@ -110,14 +134,17 @@ template <Floating T> LUM_INLINE TwoParts<Vec<T>> mul_toward_zero(const Vec<T>& 
 }
 // c with the sign of the even or of the odd lanes changed.
 template <int odd, Floating T> LUM_INLINE Vec<T> negate_every_other(const Vec<T>& c) {
-  return each_lane<T>([&](int i) { return i % 2 == odd ? -c.lane[i] : c.lane[i]; });
+  return each_part<T>(
+      [](auto x) __attribute__((always_inline)) { return reg::with_signs_of_every_other_changed<odd, T>(x); }, c);
 }
 // r, where c is a NaN and neither a nor b is one with that NaN in its own sign.
 template <Floating T> LUM_INLINE Vec<T> restore_nan(const Vec<T>& r, const Vec<T>& a, const Vec<T>& b, const Vec<T>& c) {
-  return each_lane<T>([&](int i) {
-    const bool from_c = lane::is_nan(c.lane[i]) && !lane::is_nan(a.lane[i]) && !lane::is_nan(b.lane[i]);
-    return from_c ? lane::quieted(c.lane[i]) : r.lane[i];
-  });
+  return each_part<T>(
+      [](auto result, auto x, auto y, auto z) __attribute__((always_inline)) {
+        const auto from_c = reg::lanes_where<T>((z != z) & (x == x) & (y == y));
+        return reg::chosen<T>(from_c, reg::number<T>(reg::bits<T>(z) | lane::Format<T>::quiet), result);
+      },
+      r, a, b, c);
 }
 // a b - c in even lanes, a b + c in odd ones, with one rounding.
 template <Floating T> LUM_INLINE Vec<T> fmaddsub(const Vec<T>& a, const Vec<T>& b, const Vec<T>& c) {
@@ -139,227 +166,98 @@ template <Floating T> LUM_INLINE Vec<T> max(const Vec<T>& a, const Vec<T>& b) {
 }
 // 1 / a with a relative error below 2^-14; a zero gives an infinity and an infinity a zero, of its sign.
 template <Floating T> LUM_INLINE Vec<T> rcp14(const Vec<T>& a) {
-  const auto has_no_normal_reciprocal = each_mask_part<T>(
-      [](auto x) __attribute__((always_inline)) {
-        using F = lane::Format<T>;
-        const auto m = register_cast<UnsignedOf<T>>(x) & (F::sign - 1);
-        return m - F::hidden >= F::infinity - 3 * F::hidden;
-      },
-      a);
-  return with_lanes_redone<lane::rcp14<T>>(rcp14_normal(a), has_no_normal_reciprocal, a);
+  return each_part_with_care<lane::rcp14<T>, T>(reg::rcp14_of_normal<T>, reg::has_no_normal_reciprocal<T>, a);
 }
 // 1 / sqrt a with a relative error below 2^-14; a zero gives an infinity of its sign, a negative number the default NaN.
 template <Floating T> LUM_INLINE Vec<T> rsqrt14(const Vec<T>& a) {
-  const auto is_not_positive_normal = each_mask_part<T>(
-      [](auto x) __attribute__((always_inline)) {
-        using F = lane::Format<T>;
-        return register_cast<UnsignedOf<T>>(x) - F::hidden >= F::infinity - F::hidden;
-      },
-      a);
-  return with_lanes_redone<lane::rsqrt14<T>>(rsqrt14_normal(a), is_not_positive_normal, a);
+  return each_part_with_care<lane::rsqrt14<T>, T>(reg::rsqrt14_of_normal<T>, reg::is_not_positive_normal<T>, a);
 }
 // Of numbers that are normal and have a normal reciprocal; in other lanes any value.
-template <Floating T> LUM_INLINE Vec<T> rcp14_normal(const Vec<T>& a) {
-  return each_part<T>(
-      [](auto x) __attribute__((always_inline)) {
-        using F = lane::Format<T>;
-        const auto b = register_cast<UnsignedOf<T>>(x);
-        const auto t = (b & F::fraction) >> (F::fraction_bits - 16);
-        auto significand = t;
-        for (int i = 0; i < lanes_of_register<T>; ++i) {
-          const auto place = static_cast<uint32_t>(t[i]);
-          significand[i] = lane::on_line(lane::reciprocal_lines[place >> 10 & 63], 8, place);
-        }
-        // The exponent field of the reciprocal is one less where there is a fraction, and the leading bit carries into it.
-        const auto has_fraction = register_cast<UnsignedOf<T>>((b & F::fraction) != 0);
-        const auto field = 2 * F::bias - 1 - ((b & (F::sign - 1)) >> F::fraction_bits) + has_fraction;
-        const auto scaled = (has_fraction & (significand << (F::fraction_bits - 16))) | (~has_fraction & F::hidden);
-        return (b & F::sign) | ((field << F::fraction_bits) + scaled);
-      },
-      a);
-}
+template <Floating T> LUM_INLINE Vec<T> rcp14_normal(const Vec<T>& a) { return each_part<T>(reg::rcp14_of_normal<T>, a); }
 // Of positive normal numbers; in other lanes any value.
-template <Floating T> LUM_INLINE Vec<T> rsqrt14_normal(const Vec<T>& a) {
-  return each_part<T>(
-      [](auto x) __attribute__((always_inline)) {
-        using F = lane::Format<T>;
-        const auto b = register_cast<UnsignedOf<T>>(x);
-        const auto above_bias = (b >> F::fraction_bits) - F::bias;  // the exponent
-        const auto odd = above_bias & 1;
-        const auto half = register_cast<UnsignedOf<T>>(register_cast<SignedOf<T>>(above_bias) >> 1);
-        const auto t = (b & F::fraction) >> (F::fraction_bits - 15) | odd << 15;
-        auto significand = t;
-        for (int i = 0; i < lanes_of_register<T>; ++i) {
-          const auto place = static_cast<uint32_t>(t[i]);
-          significand[i] = lane::on_line(lane::reciprocal_root_lines[place >> 10 & 63], 7, place);
-        }
-        const auto is_square = register_cast<UnsignedOf<T>>(((b & F::fraction) | odd) == 0);  // of a power of two
-        const auto scaled = (~is_square & (significand << (F::fraction_bits - 16))) | (is_square & (2 * F::hidden));
-        return ((F::bias - 2 - half) << F::fraction_bits) + scaled;
-      },
-      a);
-}
+template <Floating T> LUM_INLINE Vec<T> rsqrt14_normal(const Vec<T>& a) { return each_part<T>(reg::rsqrt14_of_normal<T>, a); }
 
 // ---- Exponent, significand, rounding to a grid
 
 // floor(log2 |a|), also of denormals; -infinity for a zero, +infinity for an infinity.
-template <Floating T> [[gnu::noinline]] Vec<T> getexp(const Vec<T>& a) {
-  return each_lane<T>([&](int i) { return lane::getexp(a.lane[i]); });
+template <Floating T> LUM_INLINE Vec<T> getexp(const Vec<T>& a) {
+  return each_part_with_care<lane::getexp<T>, T>(reg::getexp_of_normal<T>, reg::is_not_normal<T>, a);
 }
 // The significand of a in the interval of imm bits 0-1: 0 [1,2), 1 [1/2,2), 2 [1/2,1), 3 [3/4,3/2); bits 2-3: 0 keeps the sign,
 // 1 clears it, 2 gives the default NaN for a negative number.
-template <int imm, Floating T> [[gnu::noinline]] Vec<T> getmant(const Vec<T>& a) {
-  return each_lane<T>([&](int i) { return lane::getmant<imm>(a.lane[i]); });
+template <int imm, Floating T> LUM_INLINE Vec<T> getmant(const Vec<T>& a) {
+  constexpr auto doubt = (imm & 8) != 0 ? reg::is_not_positive_normal<T> : reg::is_not_normal<T>;
+  return each_part_with_care<lane::getmant<imm, T>, T>(reg::getmant_of_normal<imm, T>, doubt, a);
 }
 // getexp and getmant of normal numbers; of others any value.
-template <Floating T> LUM_INLINE Vec<T> getexp_normal(const Vec<T>& a) {
-  return each_part<T>(
-      [](auto x) __attribute__((always_inline)) {
-        using F = lane::Format<T>;
-        const auto field = (register_cast<UnsignedOf<T>>(x) & (F::sign - 1)) >> F::fraction_bits;
-        // The field as the last bits of a number whose last bit is worth one.
-        constexpr T shifter = static_cast<T>(F::hidden);
-        return register_cast<T>(field | lane::to_bits(shifter)) - (shifter + T(F::bias));
-      },
-      a);
-}
+template <Floating T> LUM_INLINE Vec<T> getexp_normal(const Vec<T>& a) { return each_part<T>(reg::getexp_of_normal<T>, a); }
 template <int imm, Floating T> LUM_INLINE Vec<T> getmant_normal(const Vec<T>& a) {
-  constexpr int interval = imm & 3;
-  if constexpr ((imm & 8) != 0 || interval == 1) return getmant<imm>(a);
-  else
-    return each_part<T>(
-        [](auto x) __attribute__((always_inline)) {
-          using F = lane::Format<T>;
-          const auto b = register_cast<UnsignedOf<T>>(x);
-          auto m = (b & F::fraction) | F::one;
-          if constexpr (interval == 2) m = m - F::hidden;
-          if constexpr (interval == 3) m = m - ((b & (F::hidden >> 1)) << 1);
-          if constexpr ((imm & 4) == 0) m = m | (b & F::sign);
-          return m;
-        },
-        a);
+  return each_part<T>(reg::getmant_of_normal<imm, T>, a);
 }
 // Both of a number.
 template <Floating T> struct Parts { Vec<T> significand, exponent; };
 template <int imm, Floating T> LUM_INLINE Parts<T> parts(const Vec<T>& a) { return {getmant<imm>(a), getexp(a)}; }
 // a 2^floor(b) with one rounding, gradual underflow included.
-template <int R = rn, Floating T> [[gnu::noinline]] Vec<T> scalef(const Vec<T>& a, const Vec<T>& b) {
-  return each_lane_with_care<lane::exact_scalef<R, T>, T>([&](int i) { return lane::quick_scalef<R>(a.lane[i], b.lane[i]); },
-                                                          [&](int i, T) { return lane::scalef_doubt(a.lane[i], b.lane[i]); }, a,
-                                                          b);
+template <int R = rn, Floating T> LUM_INLINE Vec<T> scalef(const Vec<T>& a, const Vec<T>& b) {
+  if constexpr (R != rn) return each_lane<T>([&](int i) { return lane::exact_scalef<R>(a.lane[i], b.lane[i]); });
+  else
+    return each_part_with_care<lane::exact_scalef<R, T>, T>(
+        reg::scalef_by_normal<T>, [](auto, auto y) __attribute__((always_inline)) { return reg::scalef_doubt<T>(y); }, a, b);
 }
 // The same where the result is a normal number and floor(b) that of one, or a NaN; in other lanes any value.
 template <Floating T> LUM_INLINE Vec<T> scalef_normal(const Vec<T>& a, const Vec<T>& b) {
-  if constexpr (!lane::processor_has_fma) return scalef(a, b);
-  return each_part<T>(
-      [](auto x, auto y) __attribute__((always_inline)) {
-        using F = lane::Format<T>;
-        constexpr T shifter = T(1.5) * static_cast<T>(F::hidden) + T(F::bias);
-        const auto nearest = y + shifter;
-        const auto down = register_cast<UnsignedOf<T>>(nearest - shifter > y);  // minus one where y was rounded up
-        return x * register_cast<T>((register_cast<UnsignedOf<T>>(nearest) + down) << F::fraction_bits);
-      },
-      a, b);
+  return each_part<T>(reg::scalef_by_normal<T>, a, b);
 }
 // a rounded to a multiple of 2^-M, M in imm bits 4-7; bits 0-1: 0 nearest even, 1 down, 2 up, 3 toward zero; bit 2: the
 // environment's rounding, which kernels have set to nearest.
-template <int imm, Floating T> [[gnu::noinline]] Vec<T> rndscale(const Vec<T>& a) {
-  return each_lane<T>([&](int i) { return lane::rndscale<imm>(a.lane[i]); });
-}
+template <int imm, Floating T> LUM_INLINE Vec<T> rndscale(const Vec<T>& a) { return each_part<T>(reg::rndscale<imm, T>, a); }
 // rcp14(m) rounded to a multiple of 2^-grid, for m of the interval that getmant's immediate names: 0 [1,2) or 2 [1/2,1), of
 // either sign. Of a NaN any value.
 template <int grid, int interval, Floating T> LUM_INLINE Vec<T> rounded_rcp14(const Vec<T>& m) {
   static_assert(interval == 0 || interval == 2);
-  return rndscale<grid << 4 | 8>(rcp14(m));
+  return rndscale<grid << 4 | 8>(rcp14_normal(m));
 }
 // The same of a positive m plus the number whose last bit is worth 2^-grid, 3 * 2^(fraction bits - 1) times as large.
 template <int grid, int interval, Floating T> LUM_INLINE Vec<T> shifted_rcp14(const Vec<T>& m) {
   static_assert(interval == 0 || interval == 2);
-  return rcp14(m) + all((is32<T> ? T(0x1.8p23) : T(0x1.8p52)) / (1 << grid));
+  return rcp14_normal(m) + all((is32<T> ? T(0x1.8p23) : T(0x1.8p52)) / (1 << grid));
 }
 // rcp14(a) with its significand rounded to the given fraction bits, halves up; a carry goes into the exponent.
-template <int kept, Floating T> LUM_INLINE Vec<T> rcp14_halves_up(const Vec<T>& a) {
+template <int kept, Floating T> LUM_INLINE Vec<T> rounded_halves_up(const Vec<T>& estimate) {
   using Bits = UnsignedOf<T>;
-  constexpr Bits half_step = Bits{1} << ((is32<T> ? 23 : 52) - kept - 1);
-  return as_float((bits(rcp14(a)) + all(half_step)) & all(static_cast<Bits>(~(2 * half_step - 1))));
+  constexpr Bits half_step = Bits{1} << (lane::Format<T>::fraction_bits - kept - 1);
+  return as_float((bits(estimate) + all(half_step)) & all(static_cast<Bits>(~(2 * half_step - 1))));
 }
+template <int kept, Floating T> LUM_INLINE Vec<T> rcp14_halves_up(const Vec<T>& a) { return rounded_halves_up<kept>(rcp14(a)); }
 // The same of normal numbers with a normal reciprocal; in other lanes any value.
-template <int kept, Floating T> LUM_INLINE Vec<T> rcp14_halves_up_normal(const Vec<T>& a) { return rcp14_halves_up<kept>(a); }
-// a - rndscale<imm>(a), the exact remainder.
-template <int imm, Floating T> [[gnu::noinline]] Vec<T> reduce(const Vec<T>& a) {
-  return each_lane<T>([&](int i) { return lane::reduce<imm>(a.lane[i]); });
+template <int kept, Floating T> LUM_INLINE Vec<T> rcp14_halves_up_normal(const Vec<T>& a) {
+  return rounded_halves_up<kept>(rcp14_normal(a));
 }
+// a - rndscale<imm>(a), the exact remainder.
+template <int imm, Floating T> LUM_INLINE Vec<T> reduce(const Vec<T>& a) { return each_part<T>(reg::reduce<imm, T>, a); }
 // a + c rounded down, for c = 1.5 * 2^k and a bit more and |a| up to 2^(k-2), so that it is the floor of a on the grid whose
 // step is the sum's last bit, 2^-grid; and the rest of a above that floor, rounded down, a zero of either sign.
 template <Floating T> struct FloorAndRest { Vec<T> sum, rest; };
 template <int grid, Floating T> LUM_INLINE FloorAndRest<T> split_floor(const Vec<T>& a, const Vec<T>& c) {
-  return {add<rd>(a, c), reduce<grid << 4 | 1>(a)};
+  const auto r = each_part_in_two<T>(
+      [](auto x, auto y) __attribute__((always_inline)) { return reg::split_floor<T>(x, y); }, a, c);
+  return {r.head, r.tail};
 }
 
 // ---- Comparison and classification
 
 // Predicates from 16 on are those below with the other behaviour at a quiet NaN, which raises no flag here.
 template <int predicate, Floating T> LUM_INLINE Mask<T> compare(const Vec<T>& a, const Vec<T>& b) {
-  return each_mask_part<T>(
-      [](auto x, auto y) __attribute__((always_inline)) {
-        constexpr int p = predicate & 15;
-        if constexpr (p == 0) return x == y;
-        else if constexpr (p == 1) return x < y;
-        else if constexpr (p == 2) return x <= y;
-        else if constexpr (p == 3) return (x != x) | (y != y);
-        else if constexpr (p == 4) return x != y;
-        else if constexpr (p == 5) return ~(x < y);
-        else if constexpr (p == 6) return ~(x <= y);
-        else if constexpr (p == 7) return (x == x) & (y == y);
-        else if constexpr (p == 8) return (x != x) | (y != y) | (x == y);
-        else if constexpr (p == 9) return ~(x >= y);
-        else if constexpr (p == 10) return ~(x > y);
-        else if constexpr (p == 11) return (x == x) & (x != x);
-        else if constexpr (p == 12) return (x < y) | (x > y);
-        else if constexpr (p == 13) return x >= y;
-        else if constexpr (p == 14) return x > y;
-        else return (x == x) | (x != x);
-      },
-      a, b);
+  return each_mask_part<T>(reg::compare_numbers<predicate, T>, a, b);
 }
 template <int predicate, Integer T> LUM_INLINE Mask<T> compare(const Vec<T>& a, const Vec<T>& b) {
-  return each_mask_part<T>(
-      [](auto x, auto y) __attribute__((always_inline)) {
-        if constexpr (predicate == 0) return x == y;
-        else if constexpr (predicate == 1) return x < y;
-        else if constexpr (predicate == 2) return x <= y;
-        else if constexpr (predicate == 3) return x != x;
-        else if constexpr (predicate == 4) return x != y;
-        else if constexpr (predicate == 5) return x >= y;
-        else if constexpr (predicate == 6) return x > y;
-        else return x == x;
-      },
-      a, b);
+  return each_mask_part<T>(reg::compare_integers<predicate, T>, a, b);
 }
 
 // Lanes whose class is in the set imm: bit 0 quiet NaN, 1 +0, 2 -0, 3 +infinity, 4 -infinity, 5 denormal, 6 negative finite
 // other than -0, 7 signalling NaN.
 template <int imm, Floating T> LUM_INLINE Mask<T> fpclass(const Vec<T>& a) {
-  return each_mask_part<T>(
-      [](auto x) __attribute__((always_inline)) {
-        using F = lane::Format<T>;
-        const auto b = register_cast<UnsignedOf<T>>(x);
-        const auto m = b & (F::sign - 1);
-        auto in_set = b != b;
-        if constexpr ((imm & 0x81) == 0x81) in_set |= m > F::infinity;
-        else if constexpr ((imm & 0x01) != 0) in_set |= m >= (F::infinity | F::quiet);
-        else if constexpr ((imm & 0x80) != 0) in_set |= (m - F::infinity - 1) < F::quiet - 1;
-        if constexpr ((imm & 0x06) == 0x06) in_set |= m == 0;
-        else if constexpr ((imm & 0x02) != 0) in_set |= b == 0;
-        else if constexpr ((imm & 0x04) != 0) in_set |= b == F::sign;
-        if constexpr ((imm & 0x18) == 0x18) in_set |= m == F::infinity;
-        else if constexpr ((imm & 0x08) != 0) in_set |= b == F::infinity;
-        else if constexpr ((imm & 0x10) != 0) in_set |= b == (F::sign | F::infinity);
-        if constexpr ((imm & 0x20) != 0) in_set |= (m - 1) < F::fraction;
-        if constexpr ((imm & 0x40) != 0) in_set |= (b > F::sign) & (m < F::infinity);
-        return in_set;
-      },
-      a);
+  return each_mask_part<T>(reg::fpclass<imm, T>, a);
 }
 // Lanes in which a & b has a bit set.
 template <Integer T> LUM_INLINE Mask<T> test_any(const Vec<T>& a, const Vec<T>& b) {

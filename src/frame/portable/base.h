@@ -14,7 +14,7 @@ inline namespace portable {
 template <class T> inline constexpr bool is32 = sizeof(T) == 4;
 inline constexpr bool vectors_fit_registers = false;
 inline constexpr bool packs_lanes = false;
-inline constexpr bool has_second_paths = false;
+inline constexpr bool has_second_paths = lane::processor_has_fma;
 // Whether rcp14 and rsqrt14 take any number at no cost. Otherwise paths that need normal ones refuse the others.
 inline constexpr bool estimates_take_all = true;
 // Whether permute2 of doubles takes less than the loads and the transposition of rows.
@@ -69,10 +69,7 @@ template <Integer64 T> LUM_INLINE Vec<double> as_float(const Vec<T>& a) { return
 template <Integer T> LUM_INLINE Vec<SignedOf<T>> as_signed(const Vec<T>& a) { return recast<Vec<SignedOf<T>>>(a); }
 template <Integer T> LUM_INLINE Vec<UnsignedOf<T>> as_unsigned(const Vec<T>& a) { return recast<Vec<UnsignedOf<T>>>(a); }
 // The lanes of one width seen as lanes of the other, the low half first.
-template <Integer64 T> LUM_INLINE Vec<uint32_t> as_lanes32(const Vec<T>& a) {
-  return each_lane<uint32_t>(
-      [&](int i) { return static_cast<uint32_t>(static_cast<uint64_t>(a.lane[i / 2]) >> (i % 2 ? 32 : 0)); });
-}
+template <Integer64 T> LUM_INLINE Vec<uint32_t> as_lanes32(const Vec<T>& a) { return recast<Vec<uint32_t>>(a); }
 
 // ---- Masks
 
@@ -140,13 +137,13 @@ template <Lane T> LUM_INLINE Mask<T> of_unknown_origin(Mask<T> m) {
 }
 // The masks of two vectors of doubles as that of one vector of floats, and its halves.
 LUM_INLINE Mask<float> join(const Mask<double>& low, const Mask<double>& high) {
-  return each_mask_lane<float>([&](int i) { return (i < 8 ? low.bits_of(i) : high.bits_of(i - 8)) != 0; });
+  return recast<Mask<float>>(joined_halves<int32_t>(recast<Vec<int64_t>>(low), recast<Vec<int64_t>>(high)));
 }
 LUM_INLINE Mask<double> low_half(const Mask<float>& m) {
-  return each_mask_lane<double>([&](int i) { return m.bits_of(i) != 0; });
+  return recast<Mask<double>>(widened_half<int64_t, 0>(recast<Vec<int32_t>>(m)));
 }
 LUM_INLINE Mask<double> high_half(const Mask<float>& m) {
-  return each_mask_lane<double>([&](int i) { return m.bits_of(i + 8) != 0; });
+  return recast<Mask<double>>(widened_half<int64_t, 1>(recast<Vec<int32_t>>(m)));
 }
 
 }  // namespace portable

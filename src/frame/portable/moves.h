@@ -95,15 +95,24 @@ requires(sizeof(T) == sizeof(I)) LUM_INLINE TwoColumns<T> gather_pairs(const T* 
 template <Lane T> struct Pair { Vec<T> even, odd; };
 // The even and the odd lanes of the sequence a, b.
 template <Floating T> LUM_INLINE Pair<T> deinterleave(const Vec<T>& a, const Vec<T>& b) {
-  constexpr int half = lanes_of<T> / 2;
-  Pair<T> r;
-  for (int i = 0; i < half; ++i) {
-    r.even.lane[i] = a.lane[2 * i];
-    r.odd.lane[i] = a.lane[2 * i + 1];
-    r.even.lane[half + i] = b.lane[2 * i];
-    r.odd.lane[half + i] = b.lane[2 * i + 1];
-  }
-  return r;
+  const auto sequence = [&](int part) __attribute__((always_inline)) {
+    return part < parts_of_vector ? part_of(a, part) : part_of(b, part - parts_of_vector);
+  };
+  return {from_parts<Vec<T>>([&](int part) __attribute__((always_inline)) {
+            return shuffled<[](int i) { return 2 * i; }, T>(sequence(2 * part), sequence(2 * part + 1));
+          }),
+          from_parts<Vec<T>>([&](int part) __attribute__((always_inline)) {
+            return shuffled<[](int i) { return 2 * i + 1; }, T>(sequence(2 * part), sequence(2 * part + 1));
+          })};
+}
+// The lanes of a and of b in turn, from part first on.
+template <int first, Floating T> LUM_INLINE Vec<T> interleaved(const Vec<T>& a, const Vec<T>& b) {
+  constexpr int lanes = lanes_of_register<T>;
+  return from_parts<Vec<T>>([&](int part) __attribute__((always_inline)) {
+    const auto x = part_of(a, first + part / 2), y = part_of(b, first + part / 2);
+    if (part % 2 == 0) return shuffled<[](int i) { return i % 2 * lanes + i / 2; }, T>(x, y);
+    return shuffled<[](int i) { return i % 2 * lanes + lanes / 2 + i / 2; }, T>(x, y);
+  });
 }
 // The sequence (first, second) whose even and odd lanes are those given: the inverse of deinterleave.
 template <Floating T> LUM_INLINE Pair<T> interleave(const Vec<T>& given, const Vec<T>& odd) {
@@ -113,26 +122,21 @@ template <Floating T> LUM_INLINE Pair<T> interleave(const Vec<T>& given, const V
 #else
   const Vec<T>& even = given;
 #endif
-  constexpr int half = lanes_of<T> / 2;
-  Pair<T> r;
-  for (int i = 0; i < half; ++i) {
-    r.even.lane[2 * i] = even.lane[i];
-    r.even.lane[2 * i + 1] = odd.lane[i];
-    r.odd.lane[2 * i] = even.lane[half + i];
-    r.odd.lane[2 * i + 1] = odd.lane[half + i];
-  }
-  return r;
+  return {interleaved<0>(even, odd), interleaved<parts_of_vector / 2>(even, odd)};
 }
 // Lanes 2i and 2i+1 exchanged.
 template <Floating T> LUM_INLINE Vec<T> swap_pairs(const Vec<T>& a) {
-  return each_lane<T>([&](int i) { return a.lane[i ^ 1]; });
+  return each_part<T>(
+      [](auto x) __attribute__((always_inline)) { return shuffled<[](int i) { return i ^ 1; }, T>(x, x); }, a);
 }
 // Lane 2i, or 2i+1, in both of its pair.
 template <Floating T> LUM_INLINE Vec<T> duplicate_even(const Vec<T>& a) {
-  return each_lane<T>([&](int i) { return a.lane[i & ~1]; });
+  return each_part<T>(
+      [](auto x) __attribute__((always_inline)) { return shuffled<[](int i) { return i & ~1; }, T>(x, x); }, a);
 }
 template <Floating T> LUM_INLINE Vec<T> duplicate_odd(const Vec<T>& a) {
-  return each_lane<T>([&](int i) { return a.lane[i | 1]; });
+  return each_part<T>(
+      [](auto x) __attribute__((always_inline)) { return shuffled<[](int i) { return i | 1; }, T>(x, x); }, a);
 }
 
 }  // namespace portable

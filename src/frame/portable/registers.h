@@ -91,11 +91,12 @@ template <class R> LUM_INLINE bool any_bit(R r) {
   return united != 0;
 }
 
-// a b + c with one rounding, where the processor has an instruction for it.
-template <Floating T> LUM_INLINE Register<T> register_fma(Register<T> a, Register<T> b, Register<T> c) {
-  Register<T> r;
-  for (int i = 0; i < lanes_of_register<T>; ++i) r[i] = lane::quick_fma<rn>(a[i], b[i], c[i]);
-  return r;
+// Lane i is lane index(i) of the sequence a, b.
+template <auto index, Lane T> LUM_INLINE Register<T> shuffled(Register<T> a, Register<T> b) {
+  return [&]<size_t... i>(std::index_sequence<i...>) __attribute__((always_inline)) {
+    return __builtin_shufflevector(a, b, index(static_cast<int>(i))...);
+  }
+  (std::make_index_sequence<lanes_of_register<T>>());
 }
 
 // ---- Halves of a vector
@@ -182,13 +183,22 @@ LUM_INLINE Vec<T> each_lane_with_care(Quick quick, Doubt doubt, const Operands&.
   return with_lanes_redone<careful>(r, doubts, operands...);
 }
 // The result of quick(part of a, ...) in every lane, with careful(a, b, ...) where that is a NaN: for operations that are one
-// instruction of the processor, but for the choice among NaNs.
+// instruction of the processor, but for the choice among NaNs. A NaN in any part makes the sum of all parts one.
 template <auto careful, Floating T, class Quick, class... Operands>
 LUM_INLINE Vec<T> each_part_but_nans(Quick quick, const Operands&... operands) {
   const Vec<T> r = each_part<T>(quick, operands...);
+  auto sum = part_of(r, 0);
+  for (int part = 1; part < parts_of_vector; ++part) sum += part_of(r, part);
+  if (!any_bit(sum != sum)) [[likely]]
+    return r;
   const Mask<T> nans = each_mask_part<T>(
       [](auto x) __attribute__((always_inline)) { return x != x; }, r);
   return with_lanes_redone<careful>(r, nans, operands...);
+}
+// The result of quick(part of a, ...) in every lane, with careful(a, b, ...) where doubt(part of a, ...) has bits set.
+template <auto careful, Floating T, class Quick, class Doubt, class... Operands>
+LUM_INLINE Vec<T> each_part_with_care(Quick quick, Doubt doubt, const Operands&... operands) {
+  return with_lanes_redone<careful>(each_part<T>(quick, operands...), each_mask_part<T>(doubt, operands...), operands...);
 }
 // Where the processor gives other NaNs than these, lanes with one are done again.
 template <auto careful, Floating T, class Quick>
