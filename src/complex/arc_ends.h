@@ -6,7 +6,7 @@
 #include "complex/far_parts.h"
 #include "frame/numbers.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 
 // The parts without the powers of 2 of their exponents.
 struct ScaledArcParts {
@@ -26,4 +26,4 @@ template <Arc arc> LUM_INLINE ScaledArcParts InversePartsOfAny(Vec<Lum64f> u, Ve
   return {parts, angle_exponent, zero_unless(lt(z.u.value, one), z.v.exponent), ~IsNextToBranch(z)};
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

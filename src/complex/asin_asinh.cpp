@@ -6,6 +6,8 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
+using namespace complex;
+
 // The parts of arcsin z and, the sides exchanged, of arcsinh z.
 LUM_INLINE AngleAndLogarithm ArcsineParts(Vec<Lum64f> angle_side, Vec<Lum64f> other) {
   const auto parts = InverseParts<Arc::sine>(abs(angle_side), abs(other));

@@ -10,6 +10,8 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
+using namespace complex;
+
 struct AtanhValue {
   HeadTail logarithm, angle;
   Vec<Lum64f> logarithm_error, angle_error;

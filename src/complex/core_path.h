@@ -11,7 +11,7 @@
 #include "complex/core_on_lane.h"
 #include "complex/pairs/pair.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 
 // A path is a struct with
 //   IsOutside(z...)   the arguments outside its domain
@@ -128,4 +128,4 @@ template <class Path, class E, class... Inputs> LUM_INLINE Lanes<E> PathOfTail(i
   else return NarrowedTail<Path>(count, std::index_sequence_for<Inputs...>(), packed...);
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

@@ -5,7 +5,7 @@
 #include "complex/core_second_path.h"
 #include "complex/exact_product.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 
 struct QuotientEnds {
   using Number = ComplexVec<Lum64f>;
@@ -67,4 +67,4 @@ struct QuotientEnds {
   return result;
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

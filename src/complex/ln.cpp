@@ -14,6 +14,8 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
+using namespace complex;
+
 template <class E> struct LnKernel : Kernel<E> {
   static constexpr int vectors = 1;
   static constexpr bool second_is_shared = true;

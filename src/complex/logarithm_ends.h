@@ -5,7 +5,7 @@
 #include "complex/logarithm_parts.h"
 #include "frame/numbers.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 
 // |z|^2 - 1 next to the unit circle as the sum of two pairs. The leading difference is exact. Where there is one number alone,
 // it is so for the core, too.
@@ -89,4 +89,4 @@ struct LnEnds {
   }
 };
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

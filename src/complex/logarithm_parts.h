@@ -5,7 +5,7 @@
 #include "complex/pairs/angle.h"
 #include "complex/pairs/logarithm.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 
 // With units of error of the core's parts.
 struct LogarithmValue {
@@ -34,4 +34,4 @@ LUM_INLINE LogarithmValue LogarithmParts(ComplexVec<Lum64f> z) {
   return {modulus, XorSign(z.im, angle), error, angle.head * all(function_error), refused};
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

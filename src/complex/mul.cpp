@@ -9,6 +9,9 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
+using namespace complex;
+using complex::ProductAsCore;  // besides the one of binary32 below
+
 // The factors of the two products of each part.
 template <class T> struct Factors { Vec<T> z, w_re, z_swapped, w_im; };
 template <class T> LUM_INLINE Factors<T> FactorsOf(Vec<T> z, Vec<T> w) {

@@ -3,7 +3,7 @@
 
 #include "complex/exact_product.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 
 // Which of two NaNs the core's products give depends on how they were compiled.
 template <class T> LUM_INLINE Mask<T> HaveTwoNans(ComplexVec<T> z, ComplexVec<T> w) {
@@ -37,4 +37,4 @@ LUM_INLINE CorePair ProductAsCore(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w, Ma
   return product;
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

@@ -9,6 +9,8 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
+using namespace complex;
+
 // The root as the core has it, in pairs. The smaller part is proportional to y where that is the smaller one by far.
 struct SqrtParts {
   HeadTail large, small;

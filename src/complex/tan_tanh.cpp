@@ -6,6 +6,8 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
+using namespace complex;
+
 // From here on a circular part may come near the lower end of the range.
 constexpr double vanishing = 200;
 

@@ -3,7 +3,7 @@
 // need.
 #include "complex/core/ext_reduce.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 namespace {
 
 constexpr auto sine_terms = coefficients({
@@ -99,4 +99,4 @@ void ExtSinCos(const Extended& x, Extended& sine, Extended& cosine) {
   }
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

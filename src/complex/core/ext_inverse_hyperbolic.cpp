@@ -3,7 +3,7 @@
 #include "complex/core/ext_log_table.h"
 #include "complex/core/ext_root_pair.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 namespace {
 
 // (asinh x - x + x^3/6) / x^5, (atanh x - x - x^3/3) / x^5, (acosh(1 + t) / sqrt(2 t) - 1 + t/12) / t^2.
@@ -92,4 +92,4 @@ void ExtAsinh(Extended& result, const Extended& x) { result = AsinhOf(x); }
 void ExtAcosh(Extended& result, const Extended& x) { result = AcoshOf(x); }
 void ExtAtanh(Extended& result, const Extended& x) { result = AtanhOf(x); }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

@@ -8,7 +8,7 @@
 #include "frame/numbers.h"
 #include "tables/table.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 
 // Up to here k times the leading parts of pi/128 is exact.
 inline constexpr Lum64f largest_angle = 10000;
@@ -41,8 +41,8 @@ LUM_INLINE CircularPair SineCosineOfReduced(Vec<Lum64f> y, const ReducedAngle& a
   });
   const auto r = angle.r.head, r_tail = angle.r.tail;
   const auto q = r * r;
-  const auto sine_rest = fma(r * q, horner(q, complex::pairs_sine), r_tail);
-  const auto cosine_rest = fnma(r, r_tail, q * horner(q, complex::pairs_cosine));
+  const auto sine_rest = fma(r * q, horner(q, pairs_sine), r_tail);
+  const auto cosine_rest = fnma(r, r_tail, q * horner(q, pairs_cosine));
   const auto row = gather_rows<Lum64f>(table, shift_left<2>(angle.row & all(uint64_t{255})));
   const HeadTail s{row.column0, row.column1}, c{row.column2, row.column3};
   const auto for_sine = two_product(c.head, r), for_cosine = two_product(s.head, r);
@@ -83,4 +83,4 @@ LUM_INLINE CircularPair SineCosineOfAny(Vec<Lum64f> y) {
   return SineCosineOfReduced(y, angle);
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex
