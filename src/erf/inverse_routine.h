@@ -122,6 +122,24 @@ template <class T> LumStatus OutsideDomain(T& result) {
   return lumStsDomain;
 }
 
+// The function of any argument of a domain from 0 to `upper` whose middle is mapped to 0; the pole at 0 is positive or
+// negative. of_tail is the function of the lower half.
+template <class T, class OfTail> LumStatus FinishEnds(T x, T upper, bool positive_at_zero, OfTail of_tail, T& result) {
+  if (x != x) {
+    result = x * x;
+  } else if (x == 0 || x == upper) {
+    return Pole((x == 0) == positive_at_zero, result);
+  } else if (x < 0 || x > upper) {
+    return OutsideDomain(result);
+  } else if (x == upper / 2) {
+    result = 0;
+  } else {
+    const double a = x;
+    result = static_cast<T>(x < upper / 2 ? of_tail(a) : -of_tail(upper - a));
+  }
+  return lumStsOk;
+}
+
 // The ends 0 and `upper` of the domain, the middle, whose value is 0, NaN and what is outside of the domain, in the lanes that
 // a first path refuses; the pole at 0 is positive or negative. of_tail is the function of the numbers between, in binary64; to
 // binary32 it is rounded where 2^-38 of it make no difference, and the other lanes remain.
