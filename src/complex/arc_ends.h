@@ -8,14 +8,14 @@
 
 namespace lum::inline LUM_LAYER::complex {
 
-// The parts without the powers of 2 of their exponents.
+// An angle and a logarithm, each without the power of 2 of its exponent.
 struct ScaledArcParts {
   AngleAndLogarithm parts;
   Vec<Lum64f> angle_exponent, logarithm_exponent;
   Mask<Lum64f> is_known;
 };
 
-// Of any finite u, v >= 0.
+// The angle and the logarithm of any finite u, v >= 0.
 template <Arc arc> LUM_INLINE ScaledArcParts InversePartsOfAny(Vec<Lum64f> u, Vec<Lum64f> v) {
   const auto z = BringNearer(u, v);
   auto parts = InverseParts<arc>(z.u.value, z.v.value);

@@ -33,7 +33,7 @@ LUM_INLINE AtanhValue AtanhParts(Vec<Lum64f> x, Vec<Lum64f> y) {
   const auto ratio_error = select(lt(all(0x1p-10), ax), all(1.3125), all(2.5));
   const auto logarithm_error =
       select(lt(all(0.0299), ratio.head), fma(logarithm.head, all(1.25), ratio_error), logarithm.head * all(6.0));
-  // It rounds t where that is no small difference, by up to three times the sum of its terms. Else it has the sum of two
+  // The core rounds t where that is no small difference, by up to three times the sum of its terms. Else it has the sum of two
   // angles, each right to two units.
   const auto cancelled = fma(ax, ax, one) + y2.head;
   const auto growth = cancelled * rcp14(max(abs(t.head), ay + ay));

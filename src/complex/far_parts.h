@@ -7,7 +7,7 @@
 
 namespace lum::inline LUM_LAYER::complex {
 
-// Both parts, but for 2^common.
+// The magnitudes u and v of a number's parts, divided by 2^common.
 struct NearerParts {
   RaisedNumber u, v;
   Vec<Lum64f> common;

@@ -37,7 +37,7 @@ LUM_INLINE Mask<Lum64f> IsNextToCircle(ComplexVec<Lum64f> z) {
   return lt(abs(fma(z.re, z.re, fma(z.im, z.im, all(-1.0)))), all(0x1p-34));
 }
 
-// With the power of 2 that the angle lacks.
+// A logarithm, and the exponent of the power of 2 that its angle lacks.
 struct ScaledLogarithm {
   LogarithmValue value;
   Vec<Lum64f> angle_exponent;

@@ -7,7 +7,7 @@
 
 namespace lum::inline LUM_LAYER::complex {
 
-// With units of error of the core's parts.
+// ln |z| and arg z, and how far the core's parts may be from them in units of 2^-64.
 struct LogarithmValue {
   HeadTail modulus, angle;
   Vec<Lum64f> modulus_error, angle_error;

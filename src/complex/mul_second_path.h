@@ -10,7 +10,7 @@ template <class T> LUM_INLINE Mask<T> HaveTwoNans(ComplexVec<T> z, ComplexVec<T>
   return unord(z.re, z.im) & unord(w.re, w.im);
 }
 
-// Of finite numbers.
+// The product of finite numbers.
 LUM_INLINE CorePair ProductOfFinite(ComplexVec<Lum64f> given_z, ComplexVec<Lum64f> given_w, Mask<Lum64f> wanted) {
   const auto z = PartsOf(given_z), w = PartsOf(given_w);
   const auto re = SumOfTwoProducts(z.re, w.re, -z.im, w.im), im = SumOfTwoProducts(z.re, w.im, z.im, w.re);

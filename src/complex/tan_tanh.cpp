@@ -12,7 +12,7 @@ using namespace complex;
 // From here on a circular part may come near the lower end of the range.
 constexpr double vanishing = 200;
 
-// With the squares in the denominator.
+// The hyperbolic and the circular part of a tangent.
 struct Tangent {
   HeadTail hyperbolic, circular;
   Mask<Lum64f> refused;

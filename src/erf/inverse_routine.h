@@ -96,8 +96,8 @@ template <class V> LUM_INLINE TwoParts<V> ErfcInvOfTail(V q) {
   return fast_two_sum(root, rest - correction);
 }
 
-// The same for numbers of binary32 but for 2^-39 of it, which rarely matters to the rounding. The last two coefficients are too
-// small to matter, and no t is beyond the fourth row.
+// erfcinv q of numbers q < 2^-22 of binary32, but for 2^-39 of it, which rarely matters to the rounding. The last two
+// coefficients are too small to matter, and no t is beyond the fourth row.
 LUM_INLINE Vec<Lum64f> NearErfcInvOfTail(Vec<Lum64f> q) {
   const auto [base, rest] = ReduceLn(q);
   const auto t = rest.head + rest.tail;

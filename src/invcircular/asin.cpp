@@ -20,7 +20,8 @@ template <class T> LUM_INLINE Arguments<T> Reduce(Vec<T> x) {
 
 // 1 - |x| is negative; a NaN has no sign here.
 template <class T> LUM_INLINE Mask<T> Refused(const Arguments<T>& r) { return mask_cast<T>(sign_mask(bits(r.y))); }
-// Not of a NaN, which the small branch leads through unchanged: the root's would be cut short.
+// Where the branch of the root is taken. A NaN takes the other one, which leads it through unchanged: the root's would be cut
+// short.
 template <class T> LUM_INLINE Mask<T> IsBig(Vec<T> a) { return le(all(T(0.5)), a); }
 
 template <class T> LUM_INLINE Lanes<T> Join(Vec<T> x, const Arguments<T>& r, Vec<T> minus_s, Vec<T> w) {

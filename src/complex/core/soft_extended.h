@@ -115,7 +115,7 @@ class SoftExtended {
   constexpr bool is_nan() const { return exponent() == special && significand_ != leading; }
   constexpr bool is_infinite() const { return exponent() == special && significand_ == leading; }
   constexpr bool is_quiet() const { return (significand_ & quiet) != 0; }
-  // Of a finite number other than zero.
+  // The fields of a finite number other than zero.
   constexpr Unpacked unpacked() const {
     const int shift = std::countl_zero(significand_);
     return {(exponent() == 0 ? 1 : exponent()) - shift, significand_ << shift};
