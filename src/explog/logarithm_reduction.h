@@ -51,7 +51,7 @@ template <int degree> LUM_INLINE Vec<Lum32f> SegmentLogarithm(Vec<Lum32f> x, con
 }
 
 // The tiers without a reciprocal.
-template <LumStatus (*routine)(Lum32f, Lum32f&), const auto& columns, Lum32f log_of_2>
+template <LumStatus (*routine)(Lum32f, Lum32f&), const auto& columns, const Lum32f& log_of_2>
 struct SegmentKernel : LogarithmKernel<Lum32f, routine> {
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
     return {SegmentLogarithm<columns.size / 16>(x, columns, log_of_2), Refused(x)};
