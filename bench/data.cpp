@@ -2,7 +2,6 @@
 
 #include <benchmark/benchmark.h>
 
-#include <cstring>
 #include <random>
 
 #include "support/declarations.h"
@@ -25,40 +24,32 @@ uint64_t Ticks() {
 }  // namespace
 
 Data::Data(const support::Export& entry, size_t count)
-    : is_32bit_(support::Is32Bit(entry.input)),
-      is_complex_(support::IsComplex(entry.input)),
-      src1_(count * support::SizeOf(entry.input)),
-      src2_(src1_.size()),
-      dst1_(count * support::SizeOf(entry.output)),
-      dst2_(dst1_.size()) {
+    : src1_(entry.input, count),
+      src2_(entry.input, count),
+      value_(entry.input, 1),
+      dst1_(entry.output, count),
+      dst2_(entry.output, count) {
   std::mt19937_64 engine(1);
   const support::Interval range = support::DeclarationOf(entry).everyday;
-  const size_t components = src1_.size() / (is_32bit_ ? 4 : 8);
+  const size_t parts = support::IsComplex(entry.input) ? 2 : 1;
   std::uniform_real_distribution<double> first(range.low, range.high), second(0.1, 5);
-  for (size_t i = 0; i < components; ++i) {
-    Set(src1_, i, first(engine));
-    Set(src2_, i, second(engine));
+  for (size_t i = 0; i < count; ++i) {
+    for (size_t part = 0; part < parts; ++part) {
+      src1_.Set(i, first(engine), part);
+      src2_.Set(i, second(engine), part);
+    }
   }
-  Set(value_, 0, 2.7);
-  Set(value_, 1, 0.3);
+  value_.Set(0, 2.7);
+  if (parts == 2) value_.Set(0, 0.3, 1);
 }
 
 void Data::SetPart(size_t i, size_t argument, size_t part, double x) {
-  if (part != 0 && !is_complex_) return;
-  Set(argument == 0 ? src1_ : src2_, is_complex_ ? 2 * i + part : i, x);
+  if (part != 0 && !support::IsComplex(src1_.element())) return;
+  (argument == 0 ? src1_ : src2_).Set(i, x, part);
 }
 
 support::Arguments Data::arguments(int32_t len) {
   return {src1_.data(), src2_.data(), value_.data(), dst1_.data(), dst2_.data(), len};
-}
-
-void Data::Set(std::vector<std::byte>& array, size_t i, double x) const {
-  if (is_32bit_) {
-    const auto narrow = static_cast<float>(x);
-    std::memcpy(array.data() + i * 4, &narrow, 4);
-  } else {
-    std::memcpy(array.data() + i * 8, &x, 8);
-  }
 }
 
 void Register(const std::string& name, const std::shared_ptr<Data>& data, int32_t len,

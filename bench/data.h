@@ -5,8 +5,8 @@
 #include <functional>
 #include <memory>
 #include <string>
-#include <vector>
 
+#include "support/element_array.h"
 #include "support/library.h"
 
 namespace lum::bench {
@@ -20,11 +20,7 @@ class Data {
   support::Arguments arguments(int32_t len);
 
  private:
-  void Set(std::vector<std::byte>& array, size_t i, double x) const;
-
-  bool is_32bit_, is_complex_;
-  std::vector<std::byte> src1_, src2_, dst1_, dst2_;
-  std::vector<std::byte> value_ = std::vector<std::byte>(16);
+  support::ElementArray src1_, src2_, value_, dst1_, dst2_;
 };
 
 // A benchmark of calls over the first len elements, with a counter of ticks of the time stamp counter an element.

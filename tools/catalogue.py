@@ -72,7 +72,7 @@ class Row:
 
     @property
     def kernels(self):
-        """Of the low, middle and high level."""
+        """The kernels of the low, middle and high level."""
         low, mid, high = tags_of(self.type)
         by_default = {"Tagged": (low, mid, high), "High": (high,) * 3, "Untagged": ("",) * 3}[self.exported]
         if self.declaration.get("scalar_core") is True:

@@ -12,7 +12,7 @@ class Instruction:
     operands: str  # with the symbol that objdump names behind '#' or in '<>'
 
     def target(self):
-        """Of a jump or call to a fixed address: that address, or None."""
+        """The fixed address that a jump or call goes to, or None."""
         match = re.match(r"([0-9a-f]+) ?(<|$)", self.operands)
         return int(match[1], 16) if match else None
 

@@ -111,7 +111,7 @@ def declarations():
 
 
 def scalar_expression(entry):
-    """Of x and y, or two assignments to first and second; None where the C++ library has no such function."""
+    """An expression of x and y, or two assignments to first and second; None where the C++ library has no such function."""
     if "scalar" in entry:
         return entry["scalar"]
     if "c" not in entry:

@@ -40,7 +40,7 @@ SHAPES = {
                    "requires": "detail::gives<detail::{f}, X, Y1> && detail::gives<detail::{f}, X, Y2>",
                    "run": "run_two<detail::{f}, a>(way, detail::read(x), detail::view(y1), detail::view(y2))"},
 }
-# The same that return their results as vectors: parameters, arguments, constraint.
+# Functions that return their results as vectors: parameters, arguments, constraint.
 RETURNING = {
     "OneInput": ("const X& x", "input X", "x", "detail::takes<detail::{f}, X>"),
     "TwoInputs": ("const X1& x1, const X2& x2", "class X1, class X2", "x1, x2",

@@ -1,11 +1,12 @@
-// Sine and cosine of one number by scalar arithmetic, which finishes the lanes of the low binary64 tiers beyond the threshold
-// of their vector paths. The argument is reduced to (-pi/4, pi/4) and a count of quarter turns: from 2^30 on by products with
-// pieces of 25 bits of 4/pi, each exact, leaving out the pieces that only give whole turns; from 2^17 on by subtraction of
-// multiples of pi/4 in parts. A table of angles of pi/32 and short series finish. No step is fused.
+// Sine and cosine beyond the threshold of the low binary64 tiers' vector paths: the steps, which stand here for scalars and for
+// vectors, and the lane routine that has all arguments. The argument is reduced to (-pi/4, pi/4) and a count of quarter turns:
+// from 2^30 on by products with pieces of 25 bits of 4/pi, each exact, leaving out the pieces that only give whole turns; from
+// 2^17 on by subtraction of multiples of pi/4 in parts. A table of angles of pi/32 and short series finish. No step is fused.
 #pragma once
 
 #include <bit>
 #include <cstdint>
+#include <utility>
 
 #include "circular/large_reduction.h"
 #include "circular/nonfinite.h"
@@ -13,6 +14,7 @@
 #include "frame/constant.h"
 #include "frame/lane_format.h"
 #include "frame/numbers.h"
+#include "frame/two_parts.h"
 
 namespace lum::inline LUM_LAYER::circular {
 
@@ -21,99 +23,139 @@ inline constexpr auto four_over_pi_chunks = table64({
 #include "tables/generated/four_over_pi_chunks_64f_56.inc"
 });
 
-// A sum of numbers with their rounding errors.
-struct CompensatedSum {
-  double hi = 0, lo = 0;
-  void Add(double x) {
-    const double s = hi + x;
-    const double part = s - hi;
-    lo += (hi - (s - part)) + (x - part);
-    hi = s;
-  }
-  void Normalise() {
-    const double s = hi + lo;
-    lo = lo - (s - hi);
-    hi = s;
-  }
+// ---- Lookups and roundings, which scalars and vectors make in different ways
+
+// A row of angles_64f.
+template <class V> struct AngleColumns { V column0, column1, column2, column3; };
+inline AngleColumns<double> AngleAt(uint64_t row) {
+  const double* entry = &angles_64f.entries[4 * row];
+  return {entry[0], entry[1], entry[2], entry[3]};
+}
+LUM_INLINE auto AngleAt(Vec<uint64_t> row) { return gather_rows<Lum64f>(angles_64f, shift_left<2>(row)); }
+
+// The upper 26 bits of a significand.
+inline constexpr uint64_t upper_half = 0xFFFFFFFFF8000000;
+
+// Toward zero, of numbers below 2^63.
+inline double Truncated(double x) { return static_cast<double>(static_cast<int64_t>(x)); }
+LUM_INLINE Vec<Lum64f> Truncated(Vec<Lum64f> x) { return rndscale<binary_places(0) | rz | quiet>(x); }
+
+// 1 where the integer is odd, 0 where it is even.
+inline double OddPart(double n) { return static_cast<double>(static_cast<int64_t>(n) & 1); }
+LUM_INLINE Vec<Lum64f> OddPart(Vec<Lum64f> n) { return n - all(2.0) * Truncated(n * all(0.5)); }
+
+// ---- The steps of both; counts are integers in binary64
+
+// To a sum of numbers and the sum of its rounding errors.
+template <class V> LUM_INLINE void Accumulate(TwoParts<V>& sum, V x) {
+  const auto next = two_sum(sum.head, x);
+  sum = {next.head, sum.tail + next.tail};
+}
+template <class V> LUM_INLINE void Normalise(TwoParts<V>& sum) { sum = fast_two_sum(sum.head, sum.tail); }
+
+// x = quarters pi/2 + rest, the quarters modulo 4.
+template <class V> struct ReducedArgument {
+  TwoParts<V> rest;
+  V quarters;
 };
 
-// x = quarters pi/2 + hi + lo, the quarters modulo 4.
-struct ReducedArgument {
-  double hi, lo;
-  int64_t quarters;
+// Takes quarter turns from a number of octants; their count modulo 4.
+template <class V> LUM_INLINE V TakeQuarters(TwoParts<V>& octants) {
+  Normalise(octants);
+  const V whole = Truncated(octants.head);
+  const V turns = Constant<V>(8.0) * Truncated(whole * Constant<V>(0.125));
+  const V even = (whole - turns) + OddPart(whole);  // the nearest even octant
+  octants.head = (octants.head - turns) - even;     // the first difference is exact
+  Normalise(octants);
+  // The last bit of a large head is worth up to four octants, of which the tail holds the rest: what lies next to another even
+  // octant has to lose it before more pieces are added, since the sum cannot hold both to the bits that a cancellation leaves.
+  const auto is_far = le(Constant<V>(1.5), abs(octants.head));
+  if (!any(is_far)) return even * Constant<V>(0.5);
+  const V shifter = Constant<V>(0x1.8p53);
+  const V other = zero_unless(is_far, (octants.head + shifter) - shifter);
+  TwoParts<V> nearer{octants.head - other, octants.tail};
+  Normalise(nearer);
+  octants = {select(is_far, nearer.head, octants.head), select(is_far, nearer.tail, octants.tail)};
+  return (even + other) * Constant<V>(0.5);
+}
+template <class V> LUM_INLINE TwoParts<V> TimesQuarterPi(TwoParts<V> octants) {
+  Normalise(octants);
+  const V scaled = octants.head * Constant<V>(100663296.0);  // 1.5 * 2^26
+  const V head = (scaled + octants.head) - scaled;
+  const V tail = (octants.head - head) + octants.tail;
+  constexpr auto& parts = numbers::quarter_pi_parts<Lum64f>;
+  const V part1 = Constant<V>(parts[0]), part2 = Constant<V>(parts[1]);
+  return fast_two_sum(head * part1, tail * part1 + (tail + head) * part2);
+}
+
+// Magnitudes below 2^30 or 2^23, as the parts of pi/4 have it.
+template <class V, size_t n> LUM_INLINE ReducedArgument<V> ReduceByParts(V magnitude, const Lum64f (&quarter_pi_parts)[n]) {
+  const V whole = Truncated(magnitude * Constant<V>(4 * numbers::inverse_pi<Lum64f>));
+  const V even = whole + OddPart(whole);
+  TwoParts<V> rest{magnitude, Constant<V>(0.0)};
+  for (const Lum64f part : quarter_pi_parts) Accumulate(rest, negate(even * Constant<V>(part)));
+  Normalise(rest);
+  return {rest, even * Constant<V>(0.5)};
+}
+
+template <class V> using Words = decltype(bits(std::declval<V>()));
+// x = k pi/32 + rest.
+template <class V> struct AngleOfRow {
+  Words<V> k;
+  TwoParts<V> rest;
 };
+template <class V> LUM_INLINE AngleOfRow<V> ReduceToRow(const ReducedArgument<V>& a) {
+  const V shifter = Constant<V>(rounding_shifter<Lum64f>());
+  constexpr auto& parts = numbers::thirty_second_pi_parts<Lum64f>;
+  const V shifted = a.rest.head * Constant<V>(32 * numbers::inverse_pi<Lum64f>) + shifter;
+  const V n = shifted - shifter;
+  const V r = a.rest.head - n * Constant<V>(parts[0]);  // exact
+  const V second = n * Constant<V>(parts[1]);
+  const V head = r - second;
+  const V tail = ((r - head) - second) + (n * Constant<V>(-parts[2]) + a.rest.tail);
+  return {bits(shifted) + shift_left<4>(bits(a.quarters + shifter)), {head, tail}};
+}
+
+// The sine of the angle of a row of angles_64f, plus head + tail.
+template <class V> LUM_INLINE V SineAtRow(Words<V> row, V head, V tail) {
+  const auto [cos_tail, cos_head, sin_head, sin_tail] = AngleAt(row);
+  const V by_head = cos_head * head, by_tail = cos_tail * head;
+  const V p = sin_head + by_head;
+  const V result = p + by_tail;
+  const V error = ((p - result) + by_tail) + ((sin_head - p) + by_head);
+  const V q = head * head;
+  const V cosine = cos_tail + cos_head;
+  const V sine_part = unfused_horner(q, routine_sine) * q * head;
+  const V cosine_part = unfused_horner(q, routine_cosine) * q;
+  const V sum = sine_part * cosine + error + cosine_part * sin_head;
+  return result + (sum + ((cosine - head * sin_head) * tail + sin_tail));
+}
+// A turn is 64 steps of pi/32, each of eight rows.
+template <class V> LUM_INLINE V SineOf(const AngleOfRow<V>& a) {
+  return SineAtRow<V>(shift_left<3>(a.k & Constant<Words<V>>(uint64_t{63})), a.rest.head, a.rest.tail);
+}
+template <class V> LUM_INLINE V CosineOf(const AngleOfRow<V>& a) {
+  return SineOf(AngleOfRow<V>{a.k + Constant<Words<V>>(uint64_t{16}), a.rest});
+}
+
+// ---- One number
 
 // magnitude in [2^30, infinity).
-inline ReducedArgument ReduceByChunks(double magnitude) {
-  const auto x =
-      std::bit_cast<double>(std::bit_cast<uint64_t>(magnitude) - (uint64_t{200} << lane::Format<double>::fraction_bits));
-  const auto xh = std::bit_cast<double>(std::bit_cast<uint64_t>(x) & 0xFFFFFFFFF8000000);
-  const double xl = x - xh;
+inline ReducedArgument<double> ReduceByChunks(double magnitude) {
+  const double x = magnitude * 0x1p-200;
+  const double xh = std::bit_cast<double>(std::bit_cast<uint64_t>(x) & upper_half), xl = x - xh;
   const double* p = &four_over_pi_chunks.entries[(lane::exponent_field(magnitude) - (lane::Format<double>::bias + 29)) / 25];
-
-  CompensatedSum octants;
+  TwoParts<double> octants{0, 0};
   const auto add_pairs = [&](int first, int last) {
     for (int j = first; j <= last; ++j) {
-      octants.Add(xh * p[j + 1]);
-      octants.Add(xl * p[j]);
+      Accumulate(octants, xh * p[j + 1]);
+      Accumulate(octants, xl * p[j]);
     }
   };
   add_pairs(0, 2);
-  octants.Normalise();
-  const auto whole = static_cast<int64_t>(octants.hi);
-  octants.hi -= static_cast<double>(whole & ~int64_t{7});        // whole turns; exact
-  octants.hi -= static_cast<double>((whole & 7) + (whole & 1));  // to the nearest even octant
-  octants.Normalise();
-  int64_t quarters = ((whole & 7) + 1) >> 1;
-  // The last bit of a large head is worth up to four octants, of which the tail holds the rest: what lies next to another even
-  // octant has to lose it before more pieces are added, since the sum cannot hold both to the bits that a cancellation leaves.
-  if (octants.hi >= 1.5 || octants.hi <= -1.5) {
-    const double even = (octants.hi + 0x1.8p53) - 0x1.8p53;
-    octants.hi -= even;
-    octants.Normalise();
-    quarters += static_cast<int64_t>(even) / 2;
-  }
+  const double quarters = TakeQuarters(octants);
   add_pairs(3, 7);
-  octants.Normalise();
-
-  const double w = octants.hi * 100663296.0;  // 1.5 * 2^26
-  const double head = (w + octants.hi) - w;
-  const double rest = (octants.hi - head) + octants.lo;
-  const double part1 = numbers::quarter_pi_parts<Lum64f>[0], part2 = numbers::quarter_pi_parts<Lum64f>[1];
-  CompensatedSum r{head * part1, rest * part1 + (rest + head) * part2};
-  r.Normalise();
-  return {r.hi, r.lo, quarters};
-}
-
-// magnitude in [2^17, 2^30).
-inline ReducedArgument ReduceByParts(double magnitude) {
-  const auto whole = static_cast<int64_t>(magnitude * 4 * numbers::inverse_pi<Lum64f>);
-  const auto n = static_cast<double>(whole + (whole & 1));
-  CompensatedSum r{magnitude};
-  if (magnitude >= 0x1p23) {
-    for (const double part : numbers::quarter_pi_parts_to_2p30<Lum64f>) r.Add(-(n * part));
-  } else {
-    for (const double part : numbers::quarter_pi_parts_to_2p23<Lum64f>) r.Add(-(n * part));
-  }
-
-  r.Normalise();
-  return {r.hi, r.lo, (whole + 1) >> 1};
-}
-
-// The sine of the angle of a row of angles_64f, plus hi + lo.
-inline double SineAtRow(int64_t row, double hi, double lo) {
-  const double* entry = &angles_64f.entries[4 * row];
-  const double cos_tail = entry[0], cos_head = entry[1], sin_head = entry[2], sin_tail = entry[3];
-  const double by_head = cos_head * hi, by_tail = cos_tail * hi;
-  const double p = sin_head + by_head;
-  const double result = p + by_tail;
-  const double error = ((p - result) + by_tail) + ((sin_head - p) + by_head);
-  const double q = hi * hi;
-  const double cosine = cos_tail + cos_head;
-  const double sine_part = unfused_horner(q, circular::routine_sine) * q * hi;
-  const double cosine_part = unfused_horner(q, circular::routine_cosine) * q;
-  const double sum = sine_part * cosine + error + cosine_part * sin_head;
-  return result + (sum + ((cosine - hi * sin_head) * lo + sin_tail));
+  return {TimesQuarterPi(octants), quarters};
 }
 
 inline LumStatus SineAndCosine(double x, double& sine, double& cosine) {
@@ -129,23 +171,17 @@ inline LumStatus SineAndCosine(double x, double& sine, double& cosine) {
     cosine = 1;
     return lumStsOk;
   }
-  ReducedArgument a{x, 0, 0};
+  ReducedArgument<double> a{{x, 0}, 0};
   if (exponent >= 17) {
     const double magnitude = lane::magnitude(x);
-    a = exponent >= 30 ? ReduceByChunks(magnitude) : ReduceByParts(magnitude);
-    if (x < 0) a = {-a.hi, -a.lo, -a.quarters};
+    if (exponent >= 30) a = ReduceByChunks(magnitude);
+    else if (exponent >= 23) a = ReduceByParts(magnitude, numbers::quarter_pi_parts_to_2p30<Lum64f>);
+    else a = ReduceByParts(magnitude, numbers::quarter_pi_parts_to_2p23<Lum64f>);
+    if (x < 0) a = {{-a.rest.head, -a.rest.tail}, -a.quarters};
   }
-  constexpr auto shifter = rounding_shifter<Lum64f>();
-  constexpr auto& parts = numbers::thirty_second_pi_parts<Lum64f>;
-  const double w = a.hi * (32 * numbers::inverse_pi<Lum64f>)+shifter;
-  const double n = w - shifter;
-  const double r = a.hi - n * parts[0];  // exact
-  const double second = n * parts[1];
-  const double hi = r - second;
-  const double lo = ((r - hi) - second) + (n * -parts[2] + a.lo);
-  const int64_t row = static_cast<int64_t>(std::bit_cast<uint64_t>(w)) + 16 * a.quarters;
-  sine = SineAtRow((row & 63) * 8, hi, lo);
-  cosine = SineAtRow(((row + 16) & 63) * 8, hi, lo);
+  const auto angle = ReduceToRow(a);
+  sine = SineOf(angle);
+  cosine = CosineOf(angle);
   return lumStsOk;
 }
 

@@ -7,6 +7,8 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
+using namespace complex;
+
 // |z| of finite numbers other than zero, as the core has it: the square is right to two units of 2^-64, and the root is
 // rounded.
 LUM_INLINE RoundedPart ModulusAsCore(ComplexVec<Lum64f> z) {

@@ -7,6 +7,8 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
+using namespace complex;
+
 LUM_INLINE HeadTail Reflected(Vec<Lum64f> x, HeadTail angle) {
   const HeadTail pi{all(numbers::pi<Lum64f>), all(numbers::pi_tail<Lum64f>)};
   return Select(lt(x, all(0.0)), Add(pi, -angle), angle);

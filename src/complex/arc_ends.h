@@ -6,16 +6,16 @@
 #include "complex/far_parts.h"
 #include "frame/numbers.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 
-// The parts without the powers of 2 of their exponents.
+// An angle and a logarithm, each without the power of 2 of its exponent.
 struct ScaledArcParts {
   AngleAndLogarithm parts;
   Vec<Lum64f> angle_exponent, logarithm_exponent;
   Mask<Lum64f> is_known;
 };
 
-// Of any finite u, v >= 0.
+// The angle and the logarithm of any finite u, v >= 0.
 template <Arc arc> LUM_INLINE ScaledArcParts InversePartsOfAny(Vec<Lum64f> u, Vec<Lum64f> v) {
   const auto z = BringNearer(u, v);
   auto parts = InverseParts<arc>(z.u.value, z.v.value);
@@ -26,4 +26,4 @@ template <Arc arc> LUM_INLINE ScaledArcParts InversePartsOfAny(Vec<Lum64f> u, Ve
   return {parts, angle_exponent, zero_unless(lt(z.u.value, one), z.v.exponent), ~IsNextToBranch(z)};
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

@@ -7,7 +7,7 @@
 #include "complex/pairs/angle.h"
 #include "complex/pairs/logarithm.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 
 // The angle arccos(u/A) or arcsin(u/A), and arcosh A, for u, v >= 0.
 struct AngleAndLogarithm {
@@ -49,4 +49,4 @@ LUM_INLINE Vec<Lum64f> ArcLogarithmError(HeadTail logarithm) {
   return select(lt(magnitude, all(0.97)), magnitude * all(9.25), fma(magnitude, all(1.1875), all(7.75)));
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

@@ -1,10 +1,13 @@
 // arcsin z, and arsinh z = -i arcsin iz.
 #include "complex/arc_ends.h"
+#include "complex/circular_of_hyperbolic.h"
 #include "complex/core_kernel.h"
 #include "frame/kernels.h"
 
 namespace lum::inline LUM_LAYER {
 namespace {
+
+using namespace complex;
 
 // The parts of arcsin z and, the sides exchanged, of arcsinh z.
 LUM_INLINE AngleAndLogarithm ArcsineParts(Vec<Lum64f> angle_side, Vec<Lum64f> other) {
@@ -14,20 +17,6 @@ LUM_INLINE AngleAndLogarithm ArcsineParts(Vec<Lum64f> angle_side, Vec<Lum64f> ot
 LUM_INLINE Vec<Lum64f> AngleError(const AngleAndLogarithm& parts) {
   return abs(parts.angle.head) * all(angle_error<Arc::sine>);
 }
-LUM_INLINE ScaledArcParts ArcsinePartsOfAny(Vec<Lum64f> angle_side, Vec<Lum64f> other) {
-  auto scaled = InversePartsOfAny<Arc::sine>(abs(angle_side), abs(other));
-  scaled.parts = {XorSign(angle_side, scaled.parts.angle), XorSign(other, scaled.parts.logarithm)};
-  return scaled;
-}
-
-struct AsinPath {
-  static constexpr bool is_long = true;
-  static LUM_INLINE Mask<Lum64f> IsOutside(ComplexVec<Lum64f> z) { return HasFarPart(z); }
-  static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z) {
-    const auto parts = ArcsineParts(z.re, z.im);
-    return {parts.angle, parts.logarithm, AngleError(parts), ArcLogarithmError(parts.logarithm), IsOutside(z)};
-  }
-};
 
 struct AsinhPath {
   static constexpr bool is_long = true;
@@ -38,11 +27,20 @@ struct AsinhPath {
   }
 };
 
+struct AsinPath {
+  static constexpr bool is_long = true;
+  static LUM_INLINE Mask<Lum64f> IsOutside(ComplexVec<Lum64f> z) { return HasFarPart(z); }
+  static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z) {
+    const auto parts = ArcsineParts(z.re, z.im);
+    return {parts.angle, parts.logarithm, AngleError(parts), ArcLogarithmError(parts.logarithm), IsOutside(z)};
+  }
+};
+
 struct AsinhEnds {
   static constexpr bool no_float_is_far = true;
   static LUM_INLINE CoreValue OfFar(ComplexVec<Lum64f> z) {
-    const auto scaled = ArcsinePartsOfAny(z.im, z.re);
-    const auto& parts = scaled.parts;
+    const auto scaled = InversePartsOfAny<Arc::sine>(abs(z.im), abs(z.re));
+    const AngleAndLogarithm parts{XorSign(z.im, scaled.parts.angle), XorSign(z.re, scaled.parts.logarithm)};
     return CoreValueOf(RoundedAtEnds(parts.logarithm, ArcLogarithmError(parts.logarithm), scaled.logarithm_exponent),
                        RoundedAtEnds(parts.angle, AngleError(parts), scaled.angle_exponent), scaled.is_known);
   }
@@ -57,20 +55,7 @@ struct AsinhEnds {
   }
 };
 
-struct AsinEnds {
-  static constexpr bool no_float_is_far = true;
-  static LUM_INLINE CoreValue OfFar(ComplexVec<Lum64f> z) {
-    const auto scaled = ArcsinePartsOfAny(z.re, z.im);
-    const auto& parts = scaled.parts;
-    return CoreValueOf(RoundedAtEnds(parts.angle, AngleError(parts), scaled.angle_exponent),
-                       RoundedAtEnds(parts.logarithm, ArcLogarithmError(parts.logarithm), scaled.logarithm_exponent),
-                       scaled.is_known);
-  }
-  static LUM_INLINE Mask<Lum64f> IsSpecial(ComplexVec<Lum64f> z) { return HasNonFinitePart(z); }
-  static LUM_INLINE ComplexVec<Lum64f> OfSpecial(ComplexVec<Lum64f> z) {
-    return OverI<KeptNans::all>(AsinhEnds::OfSpecial(TimesI<KeptNans::all>(z)));
-  }
-};
+using AsinEnds = CircularEnds<AsinhEnds, KeptNans::all>;
 
 }  // namespace
 

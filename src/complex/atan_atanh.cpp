@@ -1,5 +1,6 @@
 // artanh(x + iy): a quarter of ln(1 + 4x/q) with q = (1 - x)^2 + y^2 for positive x, and half the angle of (t, 2y) with
 // t = 1 - x^2 - y^2. arctan z = -i artanh iz.
+#include "complex/circular_of_hyperbolic.h"
 #include "complex/core_kernel.h"
 #include "complex/far_parts.h"
 #include "complex/pairs/angle.h"
@@ -9,6 +10,8 @@
 
 namespace lum::inline LUM_LAYER {
 namespace {
+
+using namespace complex;
 
 struct AtanhValue {
   HeadTail logarithm, angle;
@@ -30,7 +33,7 @@ LUM_INLINE AtanhValue AtanhParts(Vec<Lum64f> x, Vec<Lum64f> y) {
   const auto ratio_error = select(lt(all(0x1p-10), ax), all(1.3125), all(2.5));
   const auto logarithm_error =
       select(lt(all(0.0299), ratio.head), fma(logarithm.head, all(1.25), ratio_error), logarithm.head * all(6.0));
-  // It rounds t where that is no small difference, by up to three times the sum of its terms. Else it has the sum of two
+  // The core rounds t where that is no small difference, by up to three times the sum of its terms. Else it has the sum of two
   // angles, each right to two units.
   const auto cancelled = fma(ax, ax, one) + y2.head;
   const auto growth = cancelled * rcp14(max(abs(t.head), ay + ay));
@@ -56,24 +59,15 @@ struct AtanPath {
   }
 };
 
-// Far from 1 arctanh z is 1/z and half a turn; a small part's consequence is proportional to it.
-struct AtanhOfAny {
-  RoundedPart logarithm, angle;
-  Mask<Lum64f> is_known;
-};
-LUM_INLINE AtanhOfAny AtanhPartsOfAny(Vec<Lum64f> x, Vec<Lum64f> y) {
-  const auto z = BringNearer(abs(x), abs(y));
-  const auto a = AtanhParts(or_sign(x, z.u.value), or_sign(y, z.v.value));
-  const auto angle_exponent = zero_unless(lt(z.u.value, all(1.0)), z.v.exponent);
-  return {RoundedAtEnds(a.logarithm, a.logarithm_error, z.u.exponent - z.common),
-          RoundedAtEnds(a.angle, a.angle_error, angle_exponent), ~IsNextToBranch(z)};
-}
-
 struct AtanhEnds {
   static constexpr bool no_float_is_far = true;
+  // Far from 1 artanh z is 1/z and half a turn; a small part's consequence is proportional to it.
   static LUM_INLINE CoreValue OfFar(ComplexVec<Lum64f> z) {
-    const auto a = AtanhPartsOfAny(z.re, z.im);
-    return CoreValueOf(a.logarithm, a.angle, a.is_known);
+    const auto near = BringNearer(abs(z.re), abs(z.im));
+    const auto a = AtanhParts(or_sign(z.re, near.u.value), or_sign(z.im, near.v.value));
+    const auto angle_exponent = zero_unless(lt(near.u.value, all(1.0)), near.v.exponent);
+    return CoreValueOf(RoundedAtEnds(a.logarithm, a.logarithm_error, near.u.exponent - near.common),
+                       RoundedAtEnds(a.angle, a.angle_error, angle_exponent), ~IsNextToBranch(near));
   }
   static LUM_INLINE Mask<Lum64f> IsPole(ComplexVec<Lum64f> z) { return eq(abs(z.re), all(1.0)) & IsZero(z.im); }
   static LUM_INLINE Mask<Lum64f> IsSpecial(ComplexVec<Lum64f> z) { return HasNonFinitePart(z) | IsPole(z); }
@@ -87,17 +81,7 @@ struct AtanhEnds {
   }
 };
 
-struct AtanEnds {
-  static constexpr bool no_float_is_far = true;
-  static LUM_INLINE CoreValue OfFar(ComplexVec<Lum64f> z) {
-    const auto a = AtanhPartsOfAny(z.im, z.re);
-    return CoreValueOf(a.angle, a.logarithm, a.is_known);
-  }
-  static LUM_INLINE Mask<Lum64f> IsSpecial(ComplexVec<Lum64f> z) { return AtanhEnds::IsSpecial(TimesI<KeptNans::all>(z)); }
-  static LUM_INLINE ComplexVec<Lum64f> OfSpecial(ComplexVec<Lum64f> z) {
-    return OverI<KeptNans::all>(AtanhEnds::OfSpecial(TimesI<KeptNans::all>(z)));
-  }
-};
+using AtanEnds = CircularEnds<AtanhEnds, KeptNans::all>;
 
 }  // namespace
 

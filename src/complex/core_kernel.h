@@ -4,7 +4,7 @@
 
 #include "complex/core_second_path.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 
 // Whether a call goes through the vector path: not where what a core does in the caller's rounding (to narrow, and the products
 // of a power) is not to nearest, nor where the caller has denormal numbers flushed, which tails may be and numbers of Extended
@@ -60,4 +60,4 @@ template <class Path, class Ends, OneInputCore core, class E> LumStatus RunRepor
   return ReportingLoop<core, E>::Run(src, dst, len);
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

@@ -4,7 +4,7 @@
 
 #include "complex/element_loop.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 
 // For functions that report nothing.
 template <OneInputCore core, class E> void SilentCoreOnLane(const E& z, E& result) {
@@ -29,4 +29,4 @@ template <TwoInputsCore core, class E> LumStatus ReportingCoreOnLane(const E& z,
   return CanOverflow(z) && CanOverflow(w) && HasInfinitePart(result) ? lumStsOverflow : lumStsOk;
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

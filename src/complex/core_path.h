@@ -11,7 +11,7 @@
 #include "complex/core_on_lane.h"
 #include "complex/pairs/pair.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 
 // A path is a struct with
 //   IsOutside(z...)   the arguments outside its domain
@@ -30,11 +30,11 @@ LUM_INLINE Mask<Lum64f> IsBelow(Vec<Lum64f> x, double smallest) { return nle(all
 template <class T> LUM_INLINE Mask<T> IsNonFinite(Vec<T> x) { return fpclass<classes::nonfinite>(x); }
 template <class T> LUM_INLINE Mask<T> HasNonFinitePart(ComplexVec<T> z) { return IsNonFinite(z.re) | IsNonFinite(z.im); }
 
-// Relative errors of both parts.
+// The parts with relative errors of that many units.
 LUM_INLINE PathValue ValueWithin(HeadTail re, HeadTail im, double units, Mask<Lum64f> refused) {
   return {re, im, abs(re.head) * all(units), abs(im.head) * all(units), refused};
 }
-// Relative errors of parts that come near the lower end of the range: below this size tails and distances lose bits to it.
+// Parts with relative errors that come near the lower end of the range: below this size tails and distances lose bits to it.
 inline constexpr double smallest_part = 0x1p-900;
 LUM_INLINE PathValue SmallValueWithin(HeadTail re, HeadTail im, double units, Mask<Lum64f> refused) {
   return ValueWithin(re, im, units, refused | IsBelow(re.head, smallest_part) | IsBelow(im.head, smallest_part));
@@ -107,8 +107,8 @@ template <class Path, class... Inputs> LUM_INLINE Lanes<Lum32fc> NarrowedPath(co
   }
   return NarrowedHalves(PathOfVector<Path>(WidenLow(split(packed))...), PathOfVector<Path>(WidenHigh(split(packed))...));
 }
-// Of a vector whose first count elements alone are in use: a short call is spared the half without any, and the path stands
-// there once. A function of its own, so that its stack is free again before a second path runs.
+// The path of a vector whose first count elements alone are in use: a short call is spared the half without any, and the path
+// stands there once. A function of its own, so that its stack is free again before a second path runs.
 template <class Path, size_t... j, class... Inputs>
 [[gnu::noinline]] Lanes<Lum32fc> NarrowedTail(int count, std::index_sequence<j...>, const Inputs&... packed) {
   const std::array<ComplexVec<Lum64f>, sizeof...(j)> halves[] = {{WidenLow(split(packed))...}, {WidenHigh(split(packed))...}};
@@ -128,4 +128,4 @@ template <class Path, class E, class... Inputs> LUM_INLINE Lanes<E> PathOfTail(i
   else return NarrowedTail<Path>(count, std::index_sequence_for<Inputs...>(), packed...);
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

@@ -12,7 +12,7 @@
 #include "frame/kernel_frame.h"
 #include "frame/numbers.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 
 // The core's parts in binary64 in the lanes where they are known. Where they are not sure, the core may have the number next
 // to them, which tells only in results of 64 bits.
@@ -174,4 +174,4 @@ LUM_INLINE Finished<E> ReportingSecondPath(Packed<E> packed, const Lanes<E>& lan
   return {r.value, r.refused, {.overflow = OverflowsOf(r, lanes.refused) & ~CannotOverflow(split(packed))}};
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

@@ -6,6 +6,8 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
+using namespace complex;
+
 struct CoshPath {
   static LUM_INLINE Mask<Lum64f> IsOutside(ComplexVec<Lum64f> z) { return IsFarPair(z.re, z.im, largest_exponent); }
   static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z) {

@@ -8,6 +8,8 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
+using namespace complex;
+
 // The refused lanes as the core has them.
 [[maybe_unused]] LUM_INLINE Lanes<Lum64fc> QuotientLanes(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w,
                                                          const Lanes<Lum64fc>& lanes) {

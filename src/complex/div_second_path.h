@@ -5,7 +5,7 @@
 #include "complex/core_second_path.h"
 #include "complex/exact_product.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 
 struct QuotientEnds {
   using Number = ComplexVec<Lum64f>;
@@ -17,7 +17,7 @@ struct QuotientEnds {
     return {zero_unless(~is_zero, q.head), zero_unless(~is_zero, q.tail), (s.exponent - square.exponent) - all(900.0), is_zero};
   }
   static LUM_INLINE Vec<Lum64f> DistanceFromCore(const ScaledSum& q) { return fma(abs(q.head), all(0x1.4p-64), all(0x1p803)); }
-  // Of finite numbers, the divisor other than zero. A zero is positive.
+  // The quotient of finite numbers, the divisor other than zero. A zero is positive.
   static LUM_INLINE CorePair OfFinite(Number given_z, Number given_w, Mask<Lum64f> wanted) {
     const auto z = PartsOf(given_z), w = PartsOf(given_w);
     const auto square = SumOfTwoProducts(w.re, w.re, w.im, w.im);
@@ -67,4 +67,4 @@ struct QuotientEnds {
   return result;
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

@@ -6,7 +6,7 @@
 #include "complex/core/parts.h"
 #include "frame/kernel_frame.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 
 using OneInputCore = void(ComplexDouble& result, const ComplexDouble& z);
 using TwoInputsCore = void(ComplexDouble& result, const ComplexDouble& z, const ComplexDouble& w);
@@ -103,4 +103,4 @@ template <TwoInputsCore core, class E> struct ReportingParameterLoop {
   }
 };
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

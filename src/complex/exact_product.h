@@ -6,7 +6,7 @@
 #include "complex/core_second_path.h"
 #include "frame/immediates.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 
 // By significands and exponents; a zero's exponent is -infinity. Where powers of 2 beyond the range are taken lane by lane, a
 // zero is its own significand, and smaller products stop at 2^-1000.
@@ -85,4 +85,4 @@ LUM_INLINE CorePair RoundedPair(const ScaledSum& re, Vec<Lum64f> re_distance, co
   return {{x.value, y.value}, x.is_sure & y.is_sure};
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

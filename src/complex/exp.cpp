@@ -15,6 +15,8 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
+using namespace complex;
+
 struct SineCosine {
   Vec<Lum64f> sine, cosine;
 };
@@ -45,7 +47,7 @@ struct DoubleExponential {
     const auto t = fma(x, all(1024 * numbers::log2_e<Lum64f>), all(shifter));
     const auto n = t - all(shifter);
     const auto r = fnma(n, all(numbers::ln2_1024th_parts<Lum64f>[1]), fnma(n, all(numbers::ln2_1024th_parts<Lum64f>[0]), x));
-    constexpr auto& c = complex::exp_A24.c;
+    constexpr auto& c = exp_A24.c;
     const auto p = fma(fma(r + all(c[2]), r, all(c[1])), r, all(c[0]));
     const auto j = bits(t) & all(uint64_t{1023});
     const auto exponent = shift_left<42>(bits(t) ^ j);
@@ -131,8 +133,7 @@ LUM_INLINE Vec<Lum64f> A26_64fc::ExponentialOf(Vec<Lum64f> x) {
   // Leaves any remainder below 2 as it is, and keeps those of refused lanes small.
   const auto r = unmasked & all(uint64_t{0xBFFFFFFFFFFFFFFF});
   const auto q = r * r;
-  const auto c12 = horner(r, part<0, 1>(complex::exp_A26)), c34 = horner(r, part<2, 3>(complex::exp_A26)),
-             c56 = horner(r, part<4, 5>(complex::exp_A26));
+  const auto c12 = horner(r, part<0, 1>(exp_A26)), c34 = horner(r, part<2, 3>(exp_A26)), c56 = horner(r, part<4, 5>(exp_A26));
   const auto p = fma(fma(fma(c56, q, c34), q, c12), r, circular::Entry16(tails, bits(t)));
   const auto head = circular::Entry16(heads, bits(t));
   return scalef(fma(p, head, head), n);

@@ -6,7 +6,7 @@
 #include "complex/pairs/circular.h"
 #include "complex/pairs/exponential.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 
 struct ExpEnds {
   static LUM_INLINE CoreValue OfFar(ComplexVec<Lum64f> z) {
@@ -33,4 +33,4 @@ struct ExpEnds {
   }
 };
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

@@ -5,9 +5,9 @@
 
 #include "complex/core_second_path.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 
-// Both parts, but for 2^common.
+// The magnitudes u and v of a number's parts, divided by 2^common.
 struct NearerParts {
   RaisedNumber u, v;
   Vec<Lum64f> common;
@@ -22,4 +22,4 @@ LUM_INLINE Mask<Lum64f> IsNextToBranch(const NearerParts& z) {
   return eq(z.u.value, all(1.0)) & lt(z.v.exponent, all(0.0)) & ~IsZero(z.v.value);
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

@@ -5,7 +5,7 @@
 #include "complex/core_second_path.h"
 #include "complex/hyperbolic_factors.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 
 struct ScaledFactors {
   HeadTail sine, cosine, sinh, cosh;
@@ -34,4 +34,4 @@ LUM_INLINE Mask<Lum64f> IsSpecialPair(Vec<Lum64f> exponent, Vec<Lum64f> angle) {
   return unord(exponent, exponent) | IsNonFinite(angle);
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

@@ -6,7 +6,7 @@
 #include "complex/pairs/circular.h"
 #include "complex/pairs/exponential.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 
 struct Factors {
   HeadTail sine, cosine, sinh, cosh;
@@ -26,4 +26,4 @@ LUM_INLINE Factors FactorsOf(Vec<Lum64f> exponent, Vec<Lum64f> angle, double lar
 // A product of two factors that are right to 0.56 units in the last place of Extended, rounded; and one of the pairs to 2^-64.
 constexpr double product_error = 4.3125;
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

@@ -14,6 +14,8 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
+using namespace complex;
+
 template <class E> struct LnKernel : Kernel<E> {
   static constexpr int vectors = 1;
   static constexpr bool second_is_shared = true;
@@ -56,8 +58,8 @@ template <class T> LUM_INLINE TwoParts<Vec<T>> LessOne(const Square<T>& s) {
   const auto twice = s.exponent + s.exponent;
   return two_sum(scalef(s.head, twice) - all(T(1)), scalef(s.tail, twice));
 }
-// With the rest, down to which head and tail may cancel. What is left of them is then 0 or a multiple of the rest's last place,
-// as the sum needs where it is not the larger operand.
+// s - 1 with the rest, down to which head and tail may cancel. What is left of them is then 0 or a multiple of the rest's last
+// place, as the sum needs where it is not the larger operand.
 template <class T> LUM_INLINE TwoParts<Vec<T>> LessOneExactly(const Square<T>& s) {
   const auto t = LessOne(s);
   return fast_two_sum(t.head, t.tail + scalef(s.rest, s.exponent + s.exponent));
@@ -132,7 +134,7 @@ using A11_32fc = Single<3, invcircular::arctan2::Low<Lum32f>>;
 using A21_32fc = Single<4, invcircular::arctan2::A21_32f>;
 using A26_64fc = Double<explog::LnTerms_A26, invcircular::arctan2::Low<Lum64f>>;
 using A50_64fc = Double<explog::LnTerms_A50, invcircular::arctan2::A50_64f>;
-using A53_64fc = Double<explog::LnTerms_A53, invcircular::arctan2::A53_64f, true>;
+using A53_64fc = Double<explog::LnTerms_A53, invcircular::arctan2::A53_64f, /*has_all_places=*/true>;
 
 }  // namespace
 

@@ -8,6 +8,8 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
+using namespace complex;
+
 // The core's constant is a quarter of a unit off, and the product is rounded too.
 LUM_INLINE PathValue DecimalOf(const LogarithmValue& value) {
   const HeadTail log10_e{all(numbers::log10_e<Lum64f>), all(numbers::log10_e_tail<Lum64f>)};

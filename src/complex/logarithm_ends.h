@@ -5,7 +5,7 @@
 #include "complex/logarithm_parts.h"
 #include "frame/numbers.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 
 // |z|^2 - 1 next to the unit circle as the sum of two pairs. The leading difference is exact. Where there is one number alone,
 // it is so for the core, too.
@@ -37,7 +37,7 @@ LUM_INLINE Mask<Lum64f> IsNextToCircle(ComplexVec<Lum64f> z) {
   return lt(abs(fma(z.re, z.re, fma(z.im, z.im, all(-1.0)))), all(0x1p-34));
 }
 
-// With the power of 2 that the angle lacks.
+// A logarithm, and the exponent of the power of 2 that its angle lacks.
 struct ScaledLogarithm {
   LogarithmValue value;
   Vec<Lum64f> angle_exponent;
@@ -89,4 +89,4 @@ struct LnEnds {
   }
 };
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

@@ -5,9 +5,9 @@
 #include "complex/pairs/angle.h"
 #include "complex/pairs/logarithm.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 
-// With units of error of the core's parts.
+// ln |z| and arg z, and how far the core's parts may be from them in units of 2^-64.
 struct LogarithmValue {
   HeadTail modulus, angle;
   Vec<Lum64f> modulus_error, angle_error;
@@ -34,4 +34,4 @@ LUM_INLINE LogarithmValue LogarithmParts(ComplexVec<Lum64f> z) {
   return {modulus, XorSign(z.im, angle), error, angle.head * all(function_error), refused};
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

@@ -9,6 +9,9 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
+using namespace complex;
+using complex::ProductAsCore;  // besides the one of binary32 below
+
 // The factors of the two products of each part.
 template <class T> struct Factors { Vec<T> z, w_re, z_swapped, w_im; };
 template <class T> LUM_INLINE Factors<T> FactorsOf(Vec<T> z, Vec<T> w) {
@@ -138,36 +141,36 @@ template <bool by_conjugate> struct A53_64fc : Product<Lum64fc, by_conjugate> {
 };
 
 // A kernel of its own, with the method of A24.
-struct MulByConj_A21 : A24_32fc<true> {};
+struct MulByConj_A21 : A24_32fc</*by_conjugate=*/true> {};
 
 }  // namespace
 
 LumStatus Mul_32fc_A11(const Lum32fc* src1, const Lum32fc* src2, Lum32fc* dst, int32_t len) {
-  return TwoInputs<Low<Lum32fc, false>>(src1, src2, dst, len);
+  return TwoInputs<Low<Lum32fc, /*by_conjugate=*/false>>(src1, src2, dst, len);
 }
 LumStatus Mul_32fc_A24(const Lum32fc* src1, const Lum32fc* src2, Lum32fc* dst, int32_t len) {
-  return TwoInputs<A24_32fc<false>>(src1, src2, dst, len);
+  return TwoInputs<A24_32fc</*by_conjugate=*/false>>(src1, src2, dst, len);
 }
 LumStatus Mul_64fc_A26(const Lum64fc* src1, const Lum64fc* src2, Lum64fc* dst, int32_t len) {
-  return TwoInputs<Low<Lum64fc, false>>(src1, src2, dst, len);
+  return TwoInputs<Low<Lum64fc, /*by_conjugate=*/false>>(src1, src2, dst, len);
 }
 LumStatus Mul_64fc_A53(const Lum64fc* src1, const Lum64fc* src2, Lum64fc* dst, int32_t len) {
-  return TwoInputs<A53_64fc<false>>(src1, src2, dst, len);
+  return TwoInputs<A53_64fc</*by_conjugate=*/false>>(src1, src2, dst, len);
 }
 LumStatus MulByConj_32fc_A11(const Lum32fc* src1, const Lum32fc* src2, Lum32fc* dst, int32_t len) {
-  return TwoInputs<Low<Lum32fc, true>>(src1, src2, dst, len);
+  return TwoInputs<Low<Lum32fc, /*by_conjugate=*/true>>(src1, src2, dst, len);
 }
 LumStatus MulByConj_32fc_A21(const Lum32fc* src1, const Lum32fc* src2, Lum32fc* dst, int32_t len) {
   return TwoInputs<MulByConj_A21>(src1, src2, dst, len);
 }
 LumStatus MulByConj_32fc_A24(const Lum32fc* src1, const Lum32fc* src2, Lum32fc* dst, int32_t len) {
-  return TwoInputs<A24_32fc<true>>(src1, src2, dst, len);
+  return TwoInputs<A24_32fc</*by_conjugate=*/true>>(src1, src2, dst, len);
 }
 LumStatus MulByConj_64fc_A26(const Lum64fc* src1, const Lum64fc* src2, Lum64fc* dst, int32_t len) {
-  return TwoInputs<Low<Lum64fc, true>>(src1, src2, dst, len);
+  return TwoInputs<Low<Lum64fc, /*by_conjugate=*/true>>(src1, src2, dst, len);
 }
 LumStatus MulByConj_64fc_A53(const Lum64fc* src1, const Lum64fc* src2, Lum64fc* dst, int32_t len) {
-  return TwoInputs<A53_64fc<true>>(src1, src2, dst, len);
+  return TwoInputs<A53_64fc</*by_conjugate=*/true>>(src1, src2, dst, len);
 }
 
 }  // namespace lum::inline LUM_LAYER

@@ -3,14 +3,14 @@
 
 #include "complex/exact_product.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 
 // Which of two NaNs the core's products give depends on how they were compiled.
 template <class T> LUM_INLINE Mask<T> HaveTwoNans(ComplexVec<T> z, ComplexVec<T> w) {
   return unord(z.re, z.im) & unord(w.re, w.im);
 }
 
-// Of finite numbers.
+// The product of finite numbers.
 LUM_INLINE CorePair ProductOfFinite(ComplexVec<Lum64f> given_z, ComplexVec<Lum64f> given_w, Mask<Lum64f> wanted) {
   const auto z = PartsOf(given_z), w = PartsOf(given_w);
   const auto re = SumOfTwoProducts(z.re, w.re, -z.im, w.im), im = SumOfTwoProducts(z.re, w.im, z.im, w.re);
@@ -37,4 +37,4 @@ LUM_INLINE CorePair ProductAsCore(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w, Ma
   return product;
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

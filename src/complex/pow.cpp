@@ -9,6 +9,8 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
+using namespace complex;
+
 // The core rounds the logarithm to binary64, and the product with the exponent in plain operations.
 struct PowPath {
   static constexpr bool is_long = true;

@@ -3,7 +3,7 @@
 
 #include "complex/element_loop.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 
 // For products and quotients, which report every infinite part that finite arguments give; dividing by zero is not an overflow.
 template <TwoInputsCore core, class E> LumStatus ProductCoreOnLane(const E& z, const E& w, E& result) {
@@ -16,4 +16,4 @@ template <TwoInputsCore core, class E> LumStatus ProductCoreOnLane(const E& z, c
   return are_finite && HasInfinitePart(result) ? lumStsOverflow : lumStsOk;
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

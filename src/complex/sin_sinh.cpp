@@ -1,10 +1,13 @@
 // sinh(x + iy) = sinh x cos y + i cosh x sin y, and sin z = -i sinh iz.
+#include "complex/circular_of_hyperbolic.h"
 #include "complex/core_kernel.h"
 #include "complex/hyperbolic_ends.h"
 #include "frame/kernels.h"
 
 namespace lum::inline LUM_LAYER {
 namespace {
+
+using namespace complex;
 
 struct SinhPath {
   static LUM_INLINE Mask<Lum64f> IsOutside(ComplexVec<Lum64f> z) { return IsFarPair(z.re, z.im, largest_exponent); }
@@ -36,17 +39,7 @@ struct SinhEnds {
   }
 };
 
-struct SinEnds {
-  static LUM_INLINE CoreValue OfFar(ComplexVec<Lum64f> z) {
-    const auto f = FactorsOfAny(z.im, z.re);
-    return CoreValueOf(RoundedProduct(f.cosh, f.sine, f.cosh_exponent + f.sine_exponent),
-                       RoundedProduct(f.sinh, f.cosine, f.sinh_exponent), f.is_known);
-  }
-  static LUM_INLINE Mask<Lum64f> IsSpecial(ComplexVec<Lum64f> z) { return IsSpecialPair(z.im, z.re); }
-  static LUM_INLINE ComplexVec<Lum64f> OfSpecial(ComplexVec<Lum64f> z) {
-    return OverI<KeptNans::positive>(SinhEnds::OfSpecial(TimesI<KeptNans::positive>(z)));
-  }
-};
+using SinEnds = CircularEnds<SinhEnds, KeptNans::positive>;
 
 }  // namespace
 

@@ -9,6 +9,8 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
+using namespace complex;
+
 // The root as the core has it, in pairs. The smaller part is proportional to y where that is the smaller one by far.
 struct SqrtParts {
   HeadTail large, small;
@@ -119,7 +121,7 @@ template <class T> LUM_INLINE ScaledParts<T> Scale(Vec<T> x, Vec<T> y) {
   return {zero_unless(mask_cast<T>(x_counts), x * power), zero_unless(mask_cast<T>(y_counts), y * power), h};
 }
 
-// With the instructions for root and quotient, in binary32.
+// By the instructions for root and quotient, in binary32.
 struct A21_32fc : SqrtKernel<Lum32fc> {
   static constexpr Variant variant = x87_up_front_variant;
   static LUM_INLINE Lanes<Lum32fc> VectorPath(Interleaved<Lum32f> packed) {
@@ -170,7 +172,7 @@ LUM_INLINE Vec<Lum64f> DoubleQuotient(Vec<Lum64f> a, Vec<Lum64f> b) {
   return scalef(getmant<significand::from_1_to_2>(a) * reciprocal, getexp(a) - getexp(b));
 }
 
-struct A24_32fc : SqrtKernel<Lum32fc, false> {
+struct A24_32fc : SqrtKernel<Lum32fc, /*refuses_numbers=*/false> {
   struct Parts {
     Vec<Lum64f> large, small;
   };

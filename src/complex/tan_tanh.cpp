@@ -1,4 +1,5 @@
 // tanh(x + iy) = (sinh x cosh x + i sin y cos y) / (cos^2 y + sinh^2 x), and tan z = -i tanh iz.
+#include "complex/circular_of_hyperbolic.h"
 #include "complex/core_kernel.h"
 #include "complex/hyperbolic_ends.h"
 #include "frame/kernels.h"
@@ -6,10 +7,12 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
+using namespace complex;
+
 // From here on a circular part may come near the lower end of the range.
 constexpr double vanishing = 200;
 
-// With the squares in the denominator.
+// The hyperbolic and the circular part of a tangent.
 struct Tangent {
   HeadTail hyperbolic, circular;
   Mask<Lum64f> refused;
@@ -38,32 +41,23 @@ struct TanPath {
   }
 };
 
-// Beyond the limit the hyperbolic part rounds to 1, and the circular one is 4 e^-2|x| sin y cos y.
-struct TangentOfAny {
-  RoundedPart hyperbolic, circular;
-  Mask<Lum64f> is_known;
-};
-LUM_INLINE TangentOfAny TangentAtEnds(Vec<Lum64f> exponent, Vec<Lum64f> angle) {
-  constexpr double limit = 100;
-  const auto magnitude = abs(exponent);
-  const auto beyond = lt(all(limit), magnitude);
-  const auto f = FactorsOfAny(or_sign(exponent, min(magnitude, all(limit))), angle);
-  const auto reciprocal = Quotient({all(1.0), all(0.0)}, Add(Square(f.cosine), Square(f.sinh)));
-  const auto twice = max(all(-1600.0), all(-2.0) * magnitude);
-  const auto e = TakePowersOfTwo(twice);
-  const auto factor = Select(beyond, Scaled(ExponentialOf(e.reduced), 4), reciprocal);
-  const auto hyperbolic = Product(Product(f.sinh, f.cosh), reciprocal), circular = Product(Product(f.sine, f.cosine), factor);
-  const auto rounded = [](HeadTail part, Vec<Lum64f> power) __attribute__((always_inline)) {
-    return RoundedAtEnds(part, abs(part.head) * all(tangent_error), power);
-  };
-  return {rounded(hyperbolic, f.sinh_exponent), rounded(circular, f.sine_exponent + zero_unless(beyond, e.exponent)),
-          f.is_known};
-}
-
 struct TanhEnds {
+  // Beyond the limit the hyperbolic part rounds to 1, and the circular one is 4 e^-2|x| sin y cos y.
   static LUM_INLINE CoreValue OfFar(ComplexVec<Lum64f> z) {
-    const auto t = TangentAtEnds(z.re, z.im);
-    return CoreValueOf(t.hyperbolic, t.circular, t.is_known);
+    constexpr double limit = 100;
+    const auto magnitude = abs(z.re);
+    const auto beyond = lt(all(limit), magnitude);
+    const auto f = FactorsOfAny(or_sign(z.re, min(magnitude, all(limit))), z.im);
+    const auto reciprocal = Quotient({all(1.0), all(0.0)}, Add(Square(f.cosine), Square(f.sinh)));
+    const auto twice = max(all(-1600.0), all(-2.0) * magnitude);
+    const auto e = TakePowersOfTwo(twice);
+    const auto factor = Select(beyond, Scaled(ExponentialOf(e.reduced), 4), reciprocal);
+    const auto rounded = [](HeadTail part, Vec<Lum64f> power) __attribute__((always_inline)) {
+      return RoundedAtEnds(part, abs(part.head) * all(tangent_error), power);
+    };
+    return CoreValueOf(rounded(Product(Product(f.sinh, f.cosh), reciprocal), f.sinh_exponent),
+                       rounded(Product(Product(f.sine, f.cosine), factor), f.sine_exponent + zero_unless(beyond, e.exponent)),
+                       f.is_known);
   }
   static LUM_INLINE Mask<Lum64f> IsSpecial(ComplexVec<Lum64f> z) { return IsSpecialPair(z.re, z.im); }
   static LUM_INLINE ComplexVec<Lum64f> OfSpecial(ComplexVec<Lum64f> z) {
@@ -74,16 +68,7 @@ struct TanhEnds {
   }
 };
 
-struct TanEnds {
-  static LUM_INLINE CoreValue OfFar(ComplexVec<Lum64f> z) {
-    const auto t = TangentAtEnds(z.im, z.re);
-    return CoreValueOf(t.circular, t.hyperbolic, t.is_known);
-  }
-  static LUM_INLINE Mask<Lum64f> IsSpecial(ComplexVec<Lum64f> z) { return IsSpecialPair(z.im, z.re); }
-  static LUM_INLINE ComplexVec<Lum64f> OfSpecial(ComplexVec<Lum64f> z) {
-    return OverI<KeptNans::all>(TanhEnds::OfSpecial(TimesI<KeptNans::all>(z)));
-  }
-};
+using TanEnds = CircularEnds<TanhEnds, KeptNans::all>;
 
 }  // namespace
 

@@ -27,25 +27,9 @@ template <class V> LUM_INLINE V QuantileOfTail(V p) {
   return head + rest;
 }
 
-// The function of any argument; the refused lanes hold 1/2, numbers next to 0 and 1, and those outside of the domain.
-template <class T> LumStatus FinishRefused(T x, T& result) {
-  if (x != x) {
-    result = x * x;
-  } else if (x == 0 || x == 1) {
-    return Pole(x == 1, result);
-  } else if (x < 0 || x > 1) {
-    return OutsideDomain(result);
-  } else if (x == T(0.5)) {
-    result = 0;
-  } else {
-    const double p = x;
-    result = static_cast<T>(p < 0.5 ? QuantileOfTail(p) : -QuantileOfTail(1 - p));
-  }
-  return lumStsOk;
-}
-
+// The refused lanes hold 1/2, numbers next to 0 and 1, and those outside of the domain.
 template <class T> struct NormalInverse : Kernel<T> {
-  static LumStatus LaneRoutine(T x, T& result) { return FinishRefused(x, result); }
+  static LumStatus LaneRoutine(T x, T& result) { return FinishEnds(x, T(1), false, QuantileOfTail<double>, result); }
   static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) {
     const auto of_tail = [](Vec<Lum64f> p) __attribute__((always_inline)) {
       const auto smaller = min(p, all(1.0) - p);

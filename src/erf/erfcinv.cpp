@@ -14,25 +14,12 @@ namespace {
 
 using namespace erf;
 
-// The function of any argument; the refused lanes hold 1, numbers next to 0 and 2, and those outside of the domain.
-template <class T> LumStatus FinishRefused(T x, T& result) {
-  if (x != x) {
-    result = x * x;
-  } else if (x == 0 || x == 2) {
-    return Pole(x == 0, result);
-  } else if (x < 0 || x > 2) {
-    return OutsideDomain(result);
-  } else if (x == 1) {
-    result = 0;
-  } else {
-    const double q = x;
-    result = static_cast<T>(q < 1 ? ErfcInvOfTail(q).head : -ErfcInvOfTail(2 - q).head);
-  }
-  return lumStsOk;
-}
-
+// The refused lanes hold 1, numbers next to 0 and 2, and those outside of the domain.
 template <class T> struct ComplementInverse : Kernel<T> {
-  static LumStatus LaneRoutine(T x, T& result) { return FinishRefused(x, result); }
+  static LumStatus LaneRoutine(T x, T& result) {
+    return FinishEnds(
+        x, T(2), true, [](double q) { return ErfcInvOfTail(q).head; }, result);
+  }
   static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) {
     const auto of_tail = [](Vec<Lum64f> q) __attribute__((always_inline)) {
       const auto smaller = min(q, all(2.0) - q);

@@ -24,16 +24,16 @@ inline constexpr auto ln_rows = [] {
   return padded;
 }();
 // The steps of the scalar form.
-LUM_INLINE explog::LnParts<Vec<Lum64f>> SplitLn(Vec<Lum64f> x) {
+LUM_INLINE explog::ReducedLn<Vec<Lum64f>> ReduceLn(Vec<Lum64f> x) {
   constexpr auto& table = explog::ln_routine_rows;
   const auto e = getexp(x), m = getmant<significand::from_1_to_2>(x);
   const auto i = bits(m + all(explog::shifter_to_index<Lum64f>)) & all(uint64_t{0x7F});
   const auto [c, hi, lo, next_row] = gather_rows<Lum64f>(ln_rows, i + shift_left<1>(i));
   const auto head = (m + all(2097152.0)) - all(2097152.0);
-  return {e * all(table.entries[3 * 64 + 1]) + hi, e * all(table.entries[3 * 64 + 2]) + lo, c * head - all(1.0),
-          c * (m - head)};
+  return {{e * all(table.entries[3 * 64 + 1]) + hi, e * all(table.entries[3 * 64 + 2]) + lo},
+          {c * head - all(1.0), c * (m - head)}};
 }
-inline explog::LnParts<double> SplitLn(double x) { return explog::SplitLn(x); }
+inline explog::ReducedLn<double> ReduceLn(double x) { return explog::ReduceLn(x); }
 
 // Rows of one piece of the t axis each: its upper end, its middle, the coefficients.
 inline constexpr auto tail_rows = table64({
@@ -75,11 +75,11 @@ inline constexpr Polynomial<Lum64f, 8> log_series = {
 
 // -ln q for 0 < q < 1/2.
 template <class V> LUM_INLINE TwoParts<V> MinusLog(V q) {
-  const auto [hi, lo, v, w] = SplitLn(q);
-  const V t = v + w;
+  const auto [base, rest] = ReduceLn(q);
+  const V t = rest.head + rest.tail;
   const V tail = t * t * unfused_horner(t, log_series);
-  const TwoParts<V> head = fast_two_sum(hi, v);  // the first term is exact, and the larger
-  const TwoParts<V> sum = fast_two_sum(head.head, head.tail + (lo + (w + tail)));
+  const TwoParts<V> head = fast_two_sum(base.head, rest.head);  // the first term is exact, and the larger
+  const TwoParts<V> sum = fast_two_sum(head.head, head.tail + (base.tail + (rest.tail + tail)));
   return {negate(sum.head), negate(sum.tail)};
 }
 
@@ -96,12 +96,12 @@ template <class V> LUM_INLINE TwoParts<V> ErfcInvOfTail(V q) {
   return fast_two_sum(root, rest - correction);
 }
 
-// The same for numbers of binary32 but for 2^-39 of it, which rarely matters to the rounding. The last two coefficients are too
-// small to matter, and no t is beyond the fourth row.
+// erfcinv q of numbers q < 2^-22 of binary32, but for 2^-39 of it, which rarely matters to the rounding. The last two
+// coefficients are too small to matter, and no t is beyond the fourth row.
 LUM_INLINE Vec<Lum64f> NearErfcInvOfTail(Vec<Lum64f> q) {
-  const auto [hi, lo, v, w] = SplitLn(q);
-  const auto t = v + w;
-  const auto root = sqrt(negate(hi + (t + fma(t * t, horner(t, part<0, 4>(log_series)), lo))));
+  const auto [base, rest] = ReduceLn(q);
+  const auto t = rest.head + rest.tail;
+  const auto root = sqrt(negate(base.head + (t + fma(t * t, horner(t, part<0, 4>(log_series)), base.tail))));
   const auto row = TailRow(root);
   const auto u = root - TailEntry(row, 1);
   auto correction = TailEntry(row, tail_row_size - 3);
@@ -120,6 +120,24 @@ template <class T> LumStatus Pole(bool positive, T& result) {
 template <class T> LumStatus OutsideDomain(T& result) {
   result = std::numeric_limits<T>::quiet_NaN();
   return lumStsDomain;
+}
+
+// The function of any argument of a domain from 0 to `upper` whose middle is mapped to 0; the pole at 0 is positive or
+// negative. of_tail is the function of the lower half.
+template <class T, class OfTail> LumStatus FinishEnds(T x, T upper, bool positive_at_zero, OfTail of_tail, T& result) {
+  if (x != x) {
+    result = x * x;
+  } else if (x == 0 || x == upper) {
+    return Pole((x == 0) == positive_at_zero, result);
+  } else if (x < 0 || x > upper) {
+    return OutsideDomain(result);
+  } else if (x == upper / 2) {
+    result = 0;
+  } else {
+    const double a = x;
+    result = static_cast<T>(x < upper / 2 ? of_tail(a) : -of_tail(upper - a));
+  }
+  return lumStsOk;
 }
 
 // The ends 0 and `upper` of the domain, the middle, whose value is 0, NaN and what is outside of the domain, in the lanes that

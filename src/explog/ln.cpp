@@ -18,23 +18,14 @@ using namespace explog;
 using Float = LogarithmKernel<Lum32f, LnRoutine<Lum32f>>;
 using Double = LogarithmKernel<Lum64f, LnRoutine<Lum64f>>;
 
-struct A11_32f : Float {
-  static constexpr auto columns = by_columns<3>(table32({
+constexpr auto segments_of_degree_3 = by_columns<3>(table32({
 #include "tables/generated/ln_segments_32f_16_degree_3.inc"
-  }));
-  static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
-    return {SegmentLogarithm<3>(x, columns, numbers::ln2<Lum32f>), Refused(x)};
-  }
-};
-
-struct A21_32f : Float {
-  static constexpr auto columns = by_columns<4>(table32({
+}));
+constexpr auto segments_of_degree_4 = by_columns<4>(table32({
 #include "tables/generated/ln_segments_32f_16_degree_4.inc"
-  }));
-  static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
-    return {SegmentLogarithm<4>(x, columns, numbers::ln2<Lum32f>), Refused(x)};
-  }
-};
+}));
+using A11_32f = SegmentKernel<LnRoutine<Lum32f>, segments_of_degree_3, numbers::ln2<Lum32f>>;
+using A21_32f = SegmentKernel<LnRoutine<Lum32f>, segments_of_degree_4, numbers::ln2<Lum32f>>;
 
 struct A24_32f : Float {
   // hi, then lo.

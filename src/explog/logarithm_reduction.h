@@ -50,6 +50,14 @@ template <int degree> LUM_INLINE Vec<Lum32f> SegmentLogarithm(Vec<Lum32f> x, con
   return fma(r, SegmentPolynomial<degree>(m, r, columns), k * all(log_of_2));
 }
 
+// The tiers without a reciprocal.
+template <LumStatus (*routine)(Lum32f, Lum32f&), const auto& columns, const Lum32f& log_of_2>
+struct SegmentKernel : LogarithmKernel<Lum32f, routine> {
+  static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
+    return {SegmentLogarithm<columns.size / 16>(x, columns, log_of_2), Refused(x)};
+  }
+};
+
 // x = 2^e (1 + r) / c with c in [3/4, 3/2] of few fraction bits, so that r is exact but for one rounding.
 struct ReciprocalReduction {
   Vec<Lum64f> r, e;

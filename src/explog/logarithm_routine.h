@@ -40,13 +40,13 @@ template <class T, class Positive> LumStatus LogarithmRoutine(T x, T& result, Po
 // that the low bits of the shifter take off.
 template <class T> inline constexpr T shifter_to_index = (sizeof(T) == 4 ? T(0x1p17) : T(0x1p46)) + 1;
 
-// ln x = hi + lo + ln(1 + v + w) of a positive finite x, w small against v and the first sum exact. With x = 2^e m and a short
-// reciprocal c of m to six bits:  hi + lo = e ln 2 - ln c,  v + w = c m - 1, below 2^-6.6.
-template <class V> struct LnParts { V hi, lo, v, w; };
+// ln x = base + ln(1 + rest) of a positive finite x. With x = 2^e m and a short reciprocal c of m to six bits: the base is
+// e ln 2 - ln c, and the rest c m - 1, exact and below 2^-6.6.
+template <class V> struct ReducedLn { TwoParts<V> base, rest; };
 inline constexpr auto ln_routine_rows = table64({
 #include "tables/generated/ln_routine_64f_65.inc"
 });
-inline LnParts<double> SplitLn(double x) {
+inline ReducedLn<double> ReduceLn(double x) {
   constexpr auto& table = ln_routine_rows;
   double e = 0;
   if (x < std::numeric_limits<double>::min()) {
@@ -61,16 +61,16 @@ inline LnParts<double> SplitLn(double x) {
   const double ln2_hi = table[3 * 64 + 1], ln2_lo = table[3 * 64 + 2];
 
   const double head = (m + 2097152.0) - 2097152.0;  // 31 fraction bits: c head is exact
-  return {e * ln2_hi + hi, e * ln2_lo + lo, c * head - 1, c * (m - head)};
+  return {{e * ln2_hi + hi, e * ln2_lo + lo}, {c * head - 1, c * (m - head)}};
 }
 
 inline double LnPositive(double x) {
   const double near_one = x - 1;
   if (-0.009765625 <= near_one && near_one <= 0.009765625)
     return near_one + near_one * near_one * unfused_horner(near_one, explog::ln_routine);
-  const auto [hi, lo, v, w] = SplitLn(x);
-  const double t = v + w;
-  return (hi + v) + ((lo + w) + t * t * unfused_horner(t, explog::ln_routine));
+  const auto [base, rest] = ReduceLn(x);
+  const double t = rest.head + rest.tail;
+  return (base.head + rest.head) + ((base.tail + rest.tail) + t * t * unfused_horner(t, explog::ln_routine));
 }
 
 // ln x in binary64 arithmetic, rounded to T at the end.
@@ -104,7 +104,7 @@ template <> struct Log10Constants<Lum64f> {
   static double Tail(double t) { return unfused_horner(t, explog::log10_routine_64f); }
 };
 
-// log10 x of a positive finite x, by the split of SplitLn, in the arithmetic of T.
+// log10 x of a positive finite x, reduced as in ReduceLn, in the arithmetic of T.
 template <class T> T Log10Positive(T x) {
   using C = Log10Constants<T>;
   using Word = typename lane::Format<T>::Bits;

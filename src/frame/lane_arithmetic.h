@@ -35,7 +35,7 @@ template <Floating T> LUM_INLINE T sum_error(T a, T b, T s) {
   const auto ordered = mask_where<T>(magnitude(a) >= magnitude(b));
   return blend(ordered, b, a) - (s - blend(ordered, a, b));
 }
-// The same without a comparison, for numbers that cannot overflow.
+// a + b - s exactly, s being a + b to nearest, without a comparison, for numbers that cannot overflow.
 LUM_INLINE double two_sum_error(double a, double b, double s) {
   const double b_part = s - a;
   return (a - (s - b_part)) + (b - b_part);

@@ -78,7 +78,7 @@ LUM_INLINE double scalef_doubt(double a, double b) {
   return from_bits<double>(doubtful);
 }
 
-// The same where the result is a normal number and floor(b) the exponent of one; a NaN a stays.
+// a 2^floor(b) where the result is a normal number and floor(b) the exponent of one; a NaN a stays.
 template <Floating T> LUM_INLINE T scalef_normal(T a, T b) {
   using F = Format<T>;
   constexpr T shifter = T(1.5) * static_cast<T>(F::hidden) + T(F::bias);

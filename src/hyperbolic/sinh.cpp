@@ -56,7 +56,7 @@ struct A21_32f : HyperbolicSine<Lum32f> {
   }
 };
 
-// Both powers in two parts each.
+// 2^(n-1) and 2^(-n-1), each in two parts.
 template <class T> struct SplitPowers {
   Vec<UnsignedOf<T>> plus, minus, plus_lo, minus_lo;  // as the table has them
 };

@@ -36,12 +36,12 @@ template <class T> LUM_INLINE Lanes<T> Join(Vec<T> x, const Arguments<T>& r, Vec
 }
 
 // All but the base is formed for the sign of a negative x, the tails first, and turned over at the end.
-template <class T> LUM_INLINE Lanes<T> JoinSplit(Vec<T> x, const Arguments<T>& r, SplitRoot<T> s, Vec<T> w) {
+template <class T> LUM_INLINE Lanes<T> JoinParts(Vec<T> x, const Arguments<T>& r, RootWithExcess<T> s, Vec<T> w) {
   const auto negative = lt(x, r.q);
   const auto h = select(r.big, s.head, r.a);
   const auto base_tail = xor_sign(x, Base(r, negative, numbers::pi_tail<T> / 2, numbers::pi_tail<T>));
-  const auto tail = sub(r.big, base_tail, s.c, base_tail);
-  const auto rest = xor_sign(x, fma(w, sub(r.big, h, s.c, h), tail) + h);
+  const auto tail = sub(r.big, base_tail, s.excess, base_tail);
+  const auto rest = xor_sign(x, fma(w, sub(r.big, h, s.excess, h), tail) + h);
   return {rest + Base(r, negative, numbers::pi<T> / 2, numbers::pi<T>), Refused(r.a)};
 }
 
@@ -50,25 +50,25 @@ template <int terms, class T> LUM_INLINE Vec<T> PlainRoot(Vec<T> y) {
   return fnma(s.h, s.p, s.g);
 }
 
-template <class T, Terms terms> struct PlainRootKernel : OnUnitInterval<T> {
+template <class T, Terms terms> struct OnePartRootKernel : OnUnitInterval<T> {
   static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) {
     const auto r = Reduce(x);
     return Join(x, r, PlainRoot<terms.root>(r.y), Correction<terms.is_long>(r.q));
   }
 };
-template <class T> struct SplitRootKernel : OnUnitInterval<T> {
+template <class T> struct TwoPartRootKernel : OnUnitInterval<T> {
   static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) {
     const auto r = Reduce(x);
-    return JoinSplit(x, r, SplitRootOf(r.y), LongCorrection(r.q));
+    return JoinParts(x, r, RootWithExcessOf(r.y), LongCorrection(r.q));
   }
 };
 
-using A11_32f = PlainRootKernel<Lum32f, Terms{.root = 1, .is_long = false}>;
-using A21_32f = PlainRootKernel<Lum32f, Terms{.root = 2, .is_long = true}>;
-using A24_32f = SplitRootKernel<Lum32f>;
-using A26_64f = PlainRootKernel<Lum64f, Terms{.root = 2, .is_long = false}>;
-using A50_64f = PlainRootKernel<Lum64f, Terms{.root = 4, .is_long = true}>;
-using A53_64f = SplitRootKernel<Lum64f>;
+using A11_32f = OnePartRootKernel<Lum32f, Terms{.root = 1, .is_long = false}>;
+using A21_32f = OnePartRootKernel<Lum32f, Terms{.root = 2, .is_long = true}>;
+using A24_32f = TwoPartRootKernel<Lum32f>;
+using A26_64f = OnePartRootKernel<Lum64f, Terms{.root = 2, .is_long = false}>;
+using A50_64f = OnePartRootKernel<Lum64f, Terms{.root = 4, .is_long = true}>;
+using A53_64f = TwoPartRootKernel<Lum64f>;
 
 }  // namespace
 

@@ -70,9 +70,10 @@ template <int terms, class T> LUM_INLINE Root<T> RootOf(Vec<T> y) {
   return {g, g * e, RootSeries<terms>(e)};
 }
 
-// s = head - c in two parts, the head a product without rounding error.
-template <class T> struct SplitRoot { Vec<T> head, c; };
-LUM_INLINE SplitRoot<Lum32f> SplitRootOf(Vec<Lum32f> y) {
+// s = head - excess, the head a product without rounding error. Not a tail, since both functions take the parts with the signs
+// that they have here.
+template <class T> struct RootWithExcess { Vec<T> head, excess; };
+LUM_INLINE RootWithExcess<Lum32f> RootWithExcessOf(Vec<Lum32f> y) {
   const auto seed = RootSeed(y) & all(0xFFFFF800u);
   const auto t = y + y;
   const auto t_head = t & all(0xFFFFE000u);
@@ -81,7 +82,7 @@ LUM_INLINE SplitRoot<Lum32f> SplitRootOf(Vec<Lum32f> y) {
   const auto e = fma(tail, seed, fms(head, seed, all(2.0f)));
   return {head, fms(RootSeries<2>(e), (head + tail) * e, tail)};
 }
-LUM_INLINE SplitRoot<Lum64f> SplitRootOf(Vec<Lum64f> y) {
+LUM_INLINE RootWithExcess<Lum64f> RootWithExcessOf(Vec<Lum64f> y) {
   const auto seed = RootSeed(y);
   const auto t = y + y;
   const auto head = t * seed;

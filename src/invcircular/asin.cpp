@@ -20,7 +20,8 @@ template <class T> LUM_INLINE Arguments<T> Reduce(Vec<T> x) {
 
 // 1 - |x| is negative; a NaN has no sign here.
 template <class T> LUM_INLINE Mask<T> Refused(const Arguments<T>& r) { return mask_cast<T>(sign_mask(bits(r.y))); }
-// Not of a NaN, which the small branch leads through unchanged: the root's would be cut short.
+// Where the branch of the root is taken. A NaN takes the other one, which leads it through unchanged: the root's would be cut
+// short.
 template <class T> LUM_INLINE Mask<T> IsBig(Vec<T> a) { return le(all(T(0.5)), a); }
 
 template <class T> LUM_INLINE Lanes<T> Join(Vec<T> x, const Arguments<T>& r, Vec<T> minus_s, Vec<T> w) {
@@ -31,12 +32,12 @@ template <class T> LUM_INLINE Lanes<T> Join(Vec<T> x, const Arguments<T>& r, Vec
 }
 
 // pi/2 - head = u - d exactly in the big branch, and what is below u is summed first.
-template <class T> LUM_INLINE Lanes<T> JoinSplit(Vec<T> x, const Arguments<T>& r, SplitRoot<T> s, Vec<T> w) {
+template <class T> LUM_INLINE Lanes<T> JoinParts(Vec<T> x, const Arguments<T>& r, RootWithExcess<T> s, Vec<T> w) {
   const auto big = IsBig(r.a);
   const auto u = sub(big, all(numbers::pi<T> / 2), s.head, r.a);
   const auto d = s.head - (all(numbers::pi<T> / 2) - u);
-  const auto z = sub_or_zero(big, all(numbers::pi_tail<T> / 2) + s.c, d);
-  const auto v = sub(big, s.c, s.head, r.a);
+  const auto z = sub_or_zero(big, all(numbers::pi_tail<T> / 2) + s.excess, d);
+  const auto v = sub(big, s.excess, s.head, r.a);
   return {xor_sign(x, u + fma(w, v, z)), Refused(r)};
 }
 
@@ -45,16 +46,16 @@ template <int terms, class T> LUM_INLINE Vec<T> MinusRoot(Vec<T> y) {
   return fms(s.h, s.p, s.g);
 }
 
-template <class T, Terms terms> struct PlainRootKernel : OnUnitInterval<T> {
+template <class T, Terms terms> struct OnePartRootKernel : OnUnitInterval<T> {
   static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) {
     const auto r = Reduce(x);
     return Join(x, r, MinusRoot<terms.root>(r.y), Correction<terms.is_long>(r.q));
   }
 };
-template <class T> struct SplitRootKernel : OnUnitInterval<T> {
+template <class T> struct TwoPartRootKernel : OnUnitInterval<T> {
   static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) {
     const auto r = Reduce(x);
-    return JoinSplit(x, r, SplitRootOf(r.y), LongCorrection(r.q));
+    return JoinParts(x, r, RootWithExcessOf(r.y), LongCorrection(r.q));
   }
 };
 
@@ -64,11 +65,11 @@ struct A21_32f : OnUnitInterval<Lum32f> {
     return Join(x, r, sqrt(r.y) * all(-2.0f), LongCorrection(r.q));
   }
 };
-using A11_32f = PlainRootKernel<Lum32f, Terms{.root = 1, .is_long = false}>;
-using A24_32f = SplitRootKernel<Lum32f>;
-using A26_64f = PlainRootKernel<Lum64f, Terms{.root = 2, .is_long = false}>;
-using A50_64f = PlainRootKernel<Lum64f, Terms{.root = 4, .is_long = true}>;
-using A53_64f = SplitRootKernel<Lum64f>;
+using A11_32f = OnePartRootKernel<Lum32f, Terms{.root = 1, .is_long = false}>;
+using A24_32f = TwoPartRootKernel<Lum32f>;
+using A26_64f = OnePartRootKernel<Lum64f, Terms{.root = 2, .is_long = false}>;
+using A50_64f = OnePartRootKernel<Lum64f, Terms{.root = 4, .is_long = true}>;
+using A53_64f = TwoPartRootKernel<Lum64f>;
 
 }  // namespace
 

@@ -142,7 +142,7 @@ LUM_INLINE Lanes<Lum64f> AngleOfFinite(Vec<Lum64f> ay, Vec<Lum64f> ax, Mask<Lum6
   return {angle, mask_of<Lum64f>(0)};
 }
 
-// The same of numbers of binary32 in binary64, where numerator and denominator have no rounding error. What is left, of less
+// The angle of numbers of binary32 in binary64, where numerator and denominator have no rounding error. What is left, of less
 // than 2^-51 of the angle, matters to the rounding to binary32 next to a tie alone. A quotient below 2^-60 is the angle itself.
 LUM_INLINE Lanes<Lum64f> NearAngle(Vec<Lum64f> ay, Vec<Lum64f> ax, Mask<Lum64f> x_negative) {
   using C = IntervalConstants<Lum64f>;

@@ -128,7 +128,7 @@ struct PowxA21_32f : PowxGeneral<Lum32f> {
     return (a + t) - t;
   }
 
-  // Their sum is ln x.
+  // ln x in two parts.
   static LUM_INLINE TwoParts<Vec<Lum32f>> Logarithm(Vec<Lum32f> x) {
     const auto u = bits(x);
     const auto row = shift_right<17>((u & all(0x7F0000u)) + all(0x10000u));

@@ -125,7 +125,7 @@ template <class T> struct Pow3o2Kernel : Kernel<T> {
     value = select(negative, all(std::numeric_limits<T>::quiet_NaN()), value);
     return {add(is_nan, select(is_nan, x, value), x), mask_of<T>(0), {.domain = negative}};
   }
-  // As in the lane routine.
+  // Powers that are neither too large nor too small for the type, by the steps of the lane routine.
   static LUM_INLINE Vec<Lum32f> BetweenEnds(Vec<Lum32f> x) {
     return narrow(OfNormal<Lum32f>(widen_low(x)), OfNormal<Lum32f>(widen_high(x)));
   }

@@ -13,6 +13,8 @@
 
 namespace lum::test {
 
+using namespace complex;
+
 using Numbers = std::vector<Extended>;
 
 // The number with that exponent field and those leading significand bits.

@@ -113,7 +113,7 @@ TEST(ComplexLn, SpecialValues) {
   }
 }
 
-// Also near the unit circle, where the real part is small, and at the ends of the range.
+// The points include some near the unit circle, where the real part is small, and at the ends of the range.
 TEST(ComplexLn, Accuracy) {
   for (const char* name : {"Ln_32fc", "Ln_64fc"}) {
     const auto& entry = *ExportsNamed(name).at(0);

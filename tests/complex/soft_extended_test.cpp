@@ -7,7 +7,7 @@
 #include <random>
 #include <vector>
 
-namespace lum::portable {
+namespace lum::portable::complex {
 namespace {
 
 #if __LDBL_MANT_DIG__ == 64
@@ -150,4 +150,4 @@ TEST(SoftExtendedNumbers, SameBitsAsTheUnit) { GTEST_SKIP() << "this processor h
 #endif
 
 }  // namespace
-}  // namespace lum::portable
+}  // namespace lum::portable::complex

@@ -1,15 +1,17 @@
 // The packed tables: what the fields of each row read as, against values in multiple-precision arithmetic.
 #include <gtest/gtest.h>
-#include <mpfr.h>
 
 #include <bit>
 #include <cmath>
 
+#include "accuracy/number.h"
 #include "erf/inverse_rows.h"
 #include "tables/table.h"
 
 namespace lum::test {
 namespace {
+
+using accuracy::Number;
 
 constexpr auto erf_rows = table64({
 #include "tables/generated/erf_64f_768_packed.inc"
@@ -21,21 +23,11 @@ constexpr auto normal_rows = table64({
 #include "tables/generated/cdfnorm_64f_4928_packed.inc"
 });
 
-class Number {
- public:
-  Number() { mpfr_init2(value_, 300); }
-  ~Number() { mpfr_clear(value_); }
-  Number(const Number&) = delete;
-  Number& operator=(const Number&) = delete;
-  operator mpfr_ptr() { return value_; }
-
- private:
-  mpfr_t value_;
-};
+constexpr mpfr_prec_t bits = 300;
 
 // log2 of the relative error of head (1 + tail), or of head + head tail.
 double LogError(double head, double tail, mpfr_srcptr exact) {
-  Number sum;
+  Number sum(bits);
   mpfr_set_d(sum, tail, MPFR_RNDN);
   mpfr_add_ui(sum, sum, 1, MPFR_RNDN);
   mpfr_mul_d(sum, sum, head, MPFR_RNDN);
@@ -54,7 +46,7 @@ TEST(ErrorFunctionTables, BothReadingsOfErf) {
     EXPECT_EQ(erf_rows[2 * i + 1], 0x1p32);
   }
   for (size_t i = 4; i < 768; ++i) {
-    Number c, exact, slope;
+    Number c(bits), exact(bits), slope(bits);
     mpfr_set_d(c, static_cast<double>(i) / 128, MPFR_RNDN);
     mpfr_erf(exact, c, MPFR_RNDN);
     const uint64_t word = Word(&erf_rows[2 * i]);
@@ -82,7 +74,7 @@ void ExpectRow(const double* row, mpfr_ptr value, mpfr_ptr slope, size_t i) {
 }
 // exp(-c^2 / divisor) times a constant, which is in `slope` at entry.
 void Density(mpfr_ptr slope, double c, double divisor) {
-  Number e;
+  Number e(bits);
   mpfr_set_d(e, -c * c / divisor, MPFR_RNDN);
   mpfr_exp(e, e, MPFR_RNDN);
   mpfr_mul(slope, slope, e, MPFR_RNDN);
@@ -92,7 +84,7 @@ TEST(ErrorFunctionTables, BothReadingsOfErfc) {
   ASSERT_EQ(erfc_rows.size, 2u * 3488);
   for (size_t i = 0; i < 3487; i += 5) {
     const double c = static_cast<double>(i) / 128;
-    Number value, slope;
+    Number value(bits), slope(bits);
     mpfr_set_d(value, c, MPFR_RNDN);
     mpfr_erfc(value, value, MPFR_RNDN);
     mpfr_const_pi(slope, MPFR_RNDN);
@@ -108,14 +100,14 @@ TEST(ErrorFunctionTables, BothReadingsOfTheNormalDistribution) {
   ASSERT_EQ(normal_rows.size, 2u * 4928);
   for (size_t i = 0; i < 4928; i += 7) {
     const double c = static_cast<double>(i) / 128;
-    Number value, slope;
+    Number value(bits), slope(bits);
     mpfr_sqrt_ui(value, 2, MPFR_RNDN);
     mpfr_d_div(value, c, value, MPFR_RNDN);
     mpfr_erfc(value, value, MPFR_RNDN);
     mpfr_div_2ui(value, value, 1, MPFR_RNDN);
     mpfr_const_pi(slope, MPFR_RNDN);  // twice 1 / sqrt(2 pi) is sqrt(2 / pi)
     mpfr_rec_sqrt(slope, slope, MPFR_RNDN);
-    Number root2;
+    Number root2(bits);
     mpfr_sqrt_ui(root2, 2, MPFR_RNDN);
     mpfr_mul(slope, slope, root2, MPFR_RNDN);
     Density(slope, c, 2);
@@ -132,7 +124,7 @@ TEST(ErrorFunctionTables, InverseRowsBelongToTheirNodes) {
     const uint64_t word = Word(erf::inverse_table + 2 * k);
     const double head = FromWord((word & 0x03FFFFFFFFFFFFFF) + 0x3C8C000000000000);
     const double tail = static_cast<double>(word >> 58) * 0x1p-58;
-    Number y, image, square;
+    Number y(bits), image(bits), square(bits);
     mpfr_set_d(y, tail, MPFR_RNDN);
     mpfr_add_ui(y, y, 1, MPFR_RNDN);
     mpfr_mul_d(y, y, head, MPFR_RNDN);

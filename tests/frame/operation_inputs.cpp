@@ -107,7 +107,7 @@ const std::vector<uint64_t>& SpecialValuesInBrief(Element element) {
   static const auto f64 = FloatingSpecialsInBrief<double>();
   return element == Element::f32 ? f32 : element == Element::f64 ? f64 : SpecialValues(element);
 }
-// Those that are combined in the operands of an operation.
+// The special values that are combined in the operands of an operation.
 const std::vector<uint64_t>& CombinedSpecials(const Operation& operation, Element element) {
   const bool three = operation.operands.size() >= 3 && operation.operands[2] != Element::none;
   return three ? SpecialValuesInBrief(element) : SpecialValues(element);

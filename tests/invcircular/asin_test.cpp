@@ -15,10 +15,10 @@ TEST(Asin, EndsOfTheDomainReportNothing) {
 
 TEST(Asin, OutsideTheDomain) { ExpectDomainIsUnitInterval("Asin_32f", "Asin_64f"); }
 
-// It runs through the vector path.
+// A NaN runs through the vector path.
 TEST(Asin, NanComesThroughQuieted) { ExpectNanComesThroughQuieted({"Asin_32f", "Asin_64f"}); }
 
-// 32f A11 scales them by 1 + 2^-15.
+// 32f A11 scales tiny arguments by 1 + 2^-15.
 TEST(Asin, TinyArgumentsStay) {
   ExpectTinyArgumentsStay({"Asin_32f_A21", "Asin_32f_A24", "Asin_64f"});
   ExpectAccuracy("Asin_32f_A11", mpfr_asin, BetweenMagnitudes(1.5e-45, 1e-30) + BetweenMagnitudes(-1.5e-45, -1e-30));

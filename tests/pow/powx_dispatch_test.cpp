@@ -43,7 +43,7 @@ TEST(PowxDispatch, ThirdsAtTheLowTags) {
   }
 }
 
-// Elsewhere a third is an exponent like any other, and a negative base is outside the domain.
+// At the tags above the lowest a third is an exponent like any other, and a negative base is outside the domain.
 TEST(PowxDispatch, ThirdsAtTheOtherTags) {
   for (const char* name : {"Powx_32f_A21", "Powx_32f_A24", "Powx_64f_A50", "Powx_64f_A53"}) {
     for (double value : {third, -third, 2 * third}) ExpectCases(name, {{-8, value, default_nan, lumStsDomain}});

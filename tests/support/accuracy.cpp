@@ -6,27 +6,15 @@
 #include <memory>
 
 #include "accuracy/measure.h"
+#include "accuracy/number.h"
 #include "support/cases.h"
 
 namespace lum::test {
 namespace {
 
+using accuracy::Number;
+
 constexpr mpfr_prec_t working_precision = 256;
-
-class Number {
- public:
-  explicit Number(double x = 0) {
-    mpfr_init2(value_, working_precision);
-    mpfr_set_d(value_, x, MPFR_RNDN);
-  }
-  ~Number() { mpfr_clear(value_); }
-  Number(const Number&) = delete;
-  Number& operator=(const Number&) = delete;
-  mpfr_ptr get() { return value_; }
-
- private:
-  mpfr_t value_;
-};
 
 struct Worst {
   double ulp = 0;
@@ -40,7 +28,7 @@ Worst LargestError(const Array& results, const Exact& exact) {
   Worst worst;
   for (size_t i = 0; i < results.size(); ++i) {
     const double result = FormatOf(results.element()).number(results[i].re);
-    const double error = accuracy::UlpError(result, exact[i]->get(), support::Is32Bit(results.element()));
+    const double error = accuracy::UlpError(result, *exact[i], support::Is32Bit(results.element()));
     if (error > worst.ulp) worst = {error, i};
   }
   return worst;
@@ -54,7 +42,7 @@ void ExpectBound(const Export& entry, const Array& results, const Batch& batch, 
   if (is_high ? worst.ulp < allowed : worst.ulp <= allowed) return;
   ADD_FAILURE() << entry.name << ": error of " << worst.ulp << " ulp, " << allowed << " allowed, at " << batch.Show(worst.index)
                 << ": got " << Show(entry.output, results[worst.index]) << ", exact "
-                << mpfr_get_d(exact[worst.index]->get(), MPFR_RNDN);
+                << mpfr_get_d(*exact[worst.index], MPFR_RNDN);
 }
 
 // Every export on every library.
@@ -70,8 +58,8 @@ void ExpectBounds(const std::vector<const Export*>& exports, const Batch& batch,
 }
 
 mpfr_ptr Append(Exact& exact) {
-  exact.push_back(std::make_unique<Number>());
-  return exact.back()->get();
+  exact.push_back(std::make_unique<Number>(working_precision));
+  return *exact.back();
 }
 
 uint64_t PatternOf(const Export& entry, double number) { return FormatOf(entry.input).pattern(number); }
@@ -124,7 +112,7 @@ void ExpectAccuracy(std::string_view name, const Reference& reference, const Arg
   for (double argument : x) {
     const uint64_t bits = PatternOf(*exports[0], argument);
     batch.src1.Append({bits, 0});
-    reference(Append(exact), Number(FormatOf(exports[0]->input).number(bits)).get());
+    reference(Append(exact), Number(working_precision, FormatOf(exports[0]->input).number(bits)));
   }
   ExpectBounds(exports, batch, exact, output);
 }
@@ -146,7 +134,7 @@ void ExpectAccuracy(std::string_view name, const Reference2& reference, const Ar
       batch.src1.Append({a, 0});
       if (!has_parameter) batch.src2.Append({b, 0});
       else if (i == 0) batch.value.Append({b, 0});
-      reference(Append(exact), Number(format.number(a)).get(), Number(format.number(b)).get());
+      reference(Append(exact), Number(working_precision, format.number(a)), Number(working_precision, format.number(b)));
     }
     ExpectBounds(exports, batch, exact, 0);
   }

@@ -80,10 +80,9 @@ struct ThreeValueCase {
 // The exports that a name stands for: "Exp_32f" for all tags, "Exp_32f_A24" for one.
 std::vector<const Export*> ExportsNamed(std::string_view name);
 
+// Expects result and status of each case from all exports of that name, given as a list or computed by a test.
 void ExpectCases(std::string_view name, std::initializer_list<OneInputCase> cases);
 void ExpectCases(std::string_view name, std::initializer_list<ThreeValueCase> cases);
-
-// As above, for cases that a test computes.
 void ExpectCases(std::string_view name, const std::vector<OneInputCase>& cases);
 void ExpectCases(std::string_view name, const std::vector<ThreeValueCase>& cases);
 

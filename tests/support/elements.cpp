@@ -66,6 +66,14 @@ void Array::Append(Bits bits) {
   Set(size() - 1, bits);
 }
 
+void Array::Append(const Array& other) {
+  const size_t old_bytes = bytes();
+  resize(size() + other.size());
+  std::copy_n(other.data(), other.bytes(), data() + old_bytes);
+}
+
+void Array::Fill(uint8_t byte) { std::fill_n(data(), bytes(), std::byte{byte}); }
+
 std::string FirstDifference(const Array& expected, const Array& actual) {
   if (expected.size() != actual.size()) return "different lengths";
   for (size_t i = 0; i < expected.size(); ++i) {

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "support/element_array.h"
 #include "support/library.h"
 
 namespace lum::test {
@@ -47,30 +48,17 @@ int CountNans(Element element, Bits bits);
 // "0x3F800000 (1)", of complex elements a pair of these.
 std::string Show(Element element, Bits bits);
 
-class Array {
+class Array : public support::ElementArray {
  public:
-  explicit Array(Element element, size_t size = 0) : element_(element), bytes_(size * support::SizeOf(element)) {}
+  using ElementArray::ElementArray;
   Array(Element element, const std::vector<Bits>& values);
 
-  Element element() const { return element_; }
-  size_t size() const { return bytes_.size() / support::SizeOf(element_); }
-  void resize(size_t size) { bytes_.resize(size * support::SizeOf(element_)); }
-  Bits operator[](size_t i) const { return LoadBits(element_, bytes_.data() + i * support::SizeOf(element_)); }
-  void Set(size_t i, Bits bits) { StoreBits(element_, bytes_.data() + i * support::SizeOf(element_), bits); }
+  Bits operator[](size_t i) const { return LoadBits(element(), at(i)); }
+  void Set(size_t i, Bits bits) { StoreBits(element(), at(i), bits); }
   void Append(Bits bits);
-  void Append(const Array& other) { bytes_.insert(bytes_.end(), other.bytes_.begin(), other.bytes_.end()); }
+  void Append(const Array& other);
   // Every byte the given one.
-  void Fill(uint8_t byte) { bytes_.assign(bytes_.size(), std::byte{byte}); }
-  std::byte* data() { return bytes_.data(); }
-  const std::byte* data() const { return bytes_.data(); }
-  const std::byte* at(size_t i) const { return bytes_.data() + i * support::SizeOf(element_); }
-  std::byte* at(size_t i) { return bytes_.data() + i * support::SizeOf(element_); }
-  size_t bytes() const { return bytes_.size(); }
-  bool operator==(const Array& other) const { return element_ == other.element_ && bytes_ == other.bytes_; }
-
- private:
-  Element element_;
-  std::vector<std::byte> bytes_;
+  void Fill(uint8_t byte);
 };
 
 // "equal", or the first element that differs.

@@ -46,7 +46,8 @@ struct Output {
 };
 // "equal", or the first element, or the status, that differs.
 std::string FirstDifference(const Output& expected, const Output& actual);
-// The same for two libraries, which may take different ones of several NaNs in the arguments of a complex function.
+// The first difference between the results of two libraries, which may take different ones of several NaNs in the arguments of
+// a complex function.
 std::string DifferenceOfLibraries(const Output& expected, const Output& actual, const Batch& arguments);
 
 // A function at an address, called with batches.

@@ -3,9 +3,9 @@
 
 #include <array>
 #include <functional>
-#include <vector>
 
 #include "accuracy/hunt_points.h"
+#include "support/element_array.h"
 #include "support/library.h"
 
 namespace lum::accuracy {
@@ -18,19 +18,17 @@ inline BlockCall CallOf(const support::Library& library, const support::Export& 
   return [address, &entry](const support::Arguments& arguments) { support::CallAddress(address, entry, arguments); };
 }
 
-// A block of elements of a type in memory.
-class Buffer {
+// A block of elements, whose columns are copied by loops that a compiler vectorises.
+class Block : public support::ElementArray {
  public:
-  explicit Buffer(support::Element element)
-      : is32_(support::Is32Bit(element)), parts_(support::IsComplex(element) ? 2 : 1), bytes_(hunt_block * 16) {}
-  void* data(size_t i = 0) { return bytes_.data() + i * parts_ * (is32_ ? 4 : 8); }
-  void Set(const HuntColumn& re, const HuntColumn& im) { is32_ ? Store<float>(re, im) : Store<double>(re, im); }
-  void Get(HuntColumn& re, HuntColumn& im) const { is32_ ? Load<float>(re, im) : Load<double>(re, im); }
+  explicit Block(support::Element element) : ElementArray(element, hunt_block) {}
+  void Set(const HuntColumn& re, const HuntColumn& im) { Is32Bit(element()) ? Store<float>(re, im) : Store<double>(re, im); }
+  void Get(HuntColumn& re, HuntColumn& im) const { Is32Bit(element()) ? Load<float>(re, im) : Load<double>(re, im); }
 
  private:
   template <class T> void Store(const HuntColumn& re, const HuntColumn& im) {
-    T* to = reinterpret_cast<T*>(bytes_.data());
-    if (parts_ == 1) {
+    T* to = reinterpret_cast<T*>(data());
+    if (!support::IsComplex(element())) {
       for (size_t i = 0; i < hunt_block; ++i) to[i] = static_cast<T>(re[i]);
       return;
     }
@@ -40,8 +38,8 @@ class Buffer {
     }
   }
   template <class T> void Load(HuntColumn& re, HuntColumn& im) const {
-    const T* from = reinterpret_cast<const T*>(bytes_.data());
-    if (parts_ == 1) {
+    const T* from = reinterpret_cast<const T*>(data());
+    if (!support::IsComplex(element())) {
       for (size_t i = 0; i < hunt_block; ++i) re[i] = static_cast<double>(from[i]);
       return;
     }
@@ -50,9 +48,6 @@ class Buffer {
       im[i] = static_cast<double>(from[2 * i + 1]);
     }
   }
-  bool is32_;
-  size_t parts_;
-  std::vector<std::byte> bytes_;
 };
 
 // Calls of functions of one shape and type over a block. Of one output of two parts, or of two outputs, both are given.
@@ -67,7 +62,7 @@ class Caller {
   void Call(const BlockCall& call, std::array<HuntColumn, 2>& results) {
     if (entry_.has_parameter()) {
       for (size_t i = 0; i < hunt_block; i += parameter_run) {
-        call({src1_.data(i), nullptr, src2_.data(i), dst1_.data(i), nullptr, parameter_run});
+        call({src1_.at(i), nullptr, src2_.at(i), dst1_.at(i), nullptr, parameter_run});
       }
     } else {
       call({src1_.data(), src2_.data(), nullptr, dst1_.data(), dst2_.data(), hunt_block});
@@ -78,7 +73,7 @@ class Caller {
 
  private:
   const support::Export& entry_;
-  Buffer src1_, src2_, dst1_, dst2_;
+  Block src1_, src2_, dst1_, dst2_;
 };
 
 }  // namespace lum::accuracy

@@ -31,7 +31,7 @@ inline double CdfNorm(double x) {
   if (!(a > 0 && a < 30)) return value;
   return LowerTail(x, a, std::fma(-x, root_half, -a) - x * root_half_low);
 }
-// Of a binary64 number: its product with a head of 11 bits is exact.
+// The normal distribution of a binary64 number, whose product with a head of 11 bits is exact.
 inline long double CdfNorm(long double x) {
   constexpr long double head = 0x1.6ap-1L, rest = std::numbers::sqrt2_v<long double> / 2 - head;
   const long double a = -x * head - x * rest;

@@ -3,70 +3,45 @@
 #include <algorithm>
 #include <bit>
 #include <cmath>
-#include <cstring>
 #include <limits>
 #include <map>
 
 #include "support/declarations.h"
+#include "support/element_array.h"
 
 namespace lum::accuracy {
 namespace {
 
 using support::Arguments;
-using support::Element;
+using support::ElementArray;
 using support::Export;
 
 constexpr double infinity = std::numeric_limits<double>::infinity();
-
-// Elements of a type in memory, read and written as doubles.
-class Elements {
- public:
-  Elements(Element element, size_t count) : element_(element), bytes_(count * support::SizeOf(element)) {}
-
-  void Set(size_t i, double re, double im) {
-    if (support::Is32Bit(element_)) Store<float>(i, re, im);
-    else Store<double>(i, re, im);
-  }
-  double Get(size_t i, int part) const {
-    return support::Is32Bit(element_) ? static_cast<double>(Load<float>(i, part)) : Load<double>(i, part);
-  }
-  std::byte* data(size_t i = 0) { return bytes_.data() + i * support::SizeOf(element_); }
-
- private:
-  template <class T> void Store(size_t i, double re, double im) {
-    const T parts[2] = {static_cast<T>(re), static_cast<T>(im)};
-    std::memcpy(data(i), parts, support::SizeOf(element_));
-  }
-  template <class T> T Load(size_t i, int part) const {
-    T value;
-    std::memcpy(&value, bytes_.data() + i * support::SizeOf(element_) + static_cast<size_t>(part) * sizeof(T), sizeof(T));
-    return value;
-  }
-  Element element_;
-  std::vector<std::byte> bytes_;
-};
 
 // The results of an export at all points.
 struct Results {
   Results(const support::Library& library, const Export& entry, const std::vector<Point>& points)
       : dst1(entry.output, points.size()), dst2(entry.output, points.size()) {
     const size_t n = points.size();
-    Elements src1(entry.input, n), src2(entry.input, n);
+    ElementArray src1(entry.input, n), src2(entry.input, n);
     for (size_t i = 0; i < n; ++i) {
-      src1.Set(i, points[i].re1, points[i].im1);
-      src2.Set(i, points[i].re2, points[i].im2);
+      src1.Set(i, points[i].re1);
+      src2.Set(i, points[i].re2);
+      if (!support::IsComplex(entry.input)) continue;
+      src1.Set(i, points[i].im1, 1);
+      src2.Set(i, points[i].im2, 1);
     }
     if (!entry.has_parameter()) {
       library.Call(entry, {src1.data(), src2.data(), nullptr, dst1.data(), dst2.data(), static_cast<int32_t>(n)});
       return;
     }
-    for (size_t i = 0; i < n; ++i) library.Call(entry, {src1.data(i), nullptr, src2.data(i), dst1.data(i), nullptr, 1});
+    for (size_t i = 0; i < n; ++i) library.Call(entry, {src1.at(i), nullptr, src2.at(i), dst1.at(i), nullptr, 1});
   }
   double Get(const Export& entry, size_t i, int part) const {
-    if (support::IsComplex(entry.output)) return dst1.Get(i, part);
-    return part == 0 ? dst1.Get(i, 0) : dst2.Get(i, 0);
+    if (support::IsComplex(entry.output)) return dst1.Get(i, static_cast<size_t>(part));
+    return part == 0 ? dst1.Get(i) : dst2.Get(i);
   }
-  Elements dst1, dst2;
+  ElementArray dst1, dst2;
 };
 
 struct Format {

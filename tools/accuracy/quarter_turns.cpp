@@ -1,30 +1,18 @@
 #include "accuracy/quarter_turns.h"
 
-#include <mpfr.h>
-
 #include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstdint>
 #include <utility>
 
+#include "accuracy/number.h"
+
 namespace lum::accuracy {
 namespace {
 
 // 2/pi times a number of any binade keeps more than a hundred bits of its fraction.
 constexpr mpfr_prec_t bits_of_turns = 1300;
-
-class Number {
- public:
-  Number() { mpfr_init2(value_, bits_of_turns); }
-  Number(const Number&) = delete;
-  Number& operator=(const Number&) = delete;
-  ~Number() { mpfr_clear(value_); }
-  operator mpfr_ptr() { return value_; }
-
- private:
-  mpfr_t value_;
-};
 
 // A significand, and how far it lies from a multiple of pi/2, in quarter turns.
 struct Candidate {
@@ -39,7 +27,7 @@ struct Candidate {
 std::vector<uint64_t> CloseSignificands(mpfr_ptr theta, int bits) {
   const uint64_t low = uint64_t{1} << (bits - 1), high = low * 2;
   std::vector<uint64_t> found;
-  Number x, term;
+  Number x(bits_of_turns), term(bits_of_turns);
   mpfr_frac(x, theta, MPFR_RNDN);
   for (uint64_t before = 0, q = 1; q < high;) {
     for (uint64_t multiple = 0; multiple < 16 && multiple * before < high; ++multiple) {
@@ -63,7 +51,7 @@ std::vector<uint64_t> CloseSignificands(mpfr_ptr theta, int bits) {
 }
 
 Candidate Judge(mpfr_ptr theta, uint64_t significand) {
-  Number turns, half;
+  Number turns(bits_of_turns), half(bits_of_turns);
   mpfr_mul_d(turns, theta, static_cast<double>(significand), MPFR_RNDN);
   mpfr_div_2ui(half, turns, 1, MPFR_RNDN);
   mpfr_frac(half, half, MPFR_RNDN);
@@ -75,7 +63,7 @@ Candidate Judge(mpfr_ptr theta, uint64_t significand) {
 
 std::vector<double> Compute(int bits, int highest) {
   std::vector<double> numbers;
-  Number theta;
+  Number theta(bits_of_turns);
   for (int exponent = 0; exponent < highest; ++exponent) {
     mpfr_const_pi(theta, MPFR_RNDN);
     mpfr_ui_div(theta, 2, theta, MPFR_RNDN);

@@ -8,26 +8,14 @@
 #include <string>
 #include <string_view>
 
+#include "accuracy/number.h"
+
 namespace lum::accuracy {
 namespace {
 
 constexpr mpfr_rnd_t nearest = MPFR_RNDN;
 
 // An MPFR number with a lifetime.
-class Number {
- public:
-  explicit Number(mpfr_prec_t bits = precision) { mpfr_init2(value_, bits); }
-  explicit Number(double x) : Number(precision) { mpfr_set_d(value_, x, nearest); }
-  Number(const Number&) = delete;
-  Number& operator=(const Number&) = delete;
-  ~Number() { mpfr_clear(value_); }
-  operator mpfr_ptr() { return value_; }
-  operator mpfr_srcptr() const { return value_; }
-
- private:
-  mpfr_t value_;
-};
-
 class ComplexNumber {
  public:
   ComplexNumber() { mpc_init2(value_, precision); }
@@ -42,8 +30,10 @@ class ComplexNumber {
 };
 
 // f(result, x) of a real argument.
-template <auto f> void Real(mpfr_ptr part1, mpfr_ptr, const Point& p) { f(part1, Number(p.re1)); }
-template <auto f> void Real2(mpfr_ptr part1, mpfr_ptr, const Point& p) { f(part1, Number(p.re1), Number(p.re2)); }
+template <auto f> void Real(mpfr_ptr part1, mpfr_ptr, const Point& p) { f(part1, Number(precision, p.re1)); }
+template <auto f> void Real2(mpfr_ptr part1, mpfr_ptr, const Point& p) {
+  f(part1, Number(precision, p.re1), Number(precision, p.re2));
+}
 // f(result, z) of complex arguments.
 template <auto f> void Complex(mpfr_ptr part1, mpfr_ptr part2, const Point& p) {
   ComplexNumber z(p.re1, p.im1), result;
@@ -161,7 +151,7 @@ void ErfInv(mpfr_ptr r, mpfr_srcptr x) {
 }
 // The quantile of the normal distribution: -sqrt 2 erfcinv(2 p).
 void CdfNormInv(mpfr_ptr r, mpfr_srcptr x) {
-  Number q(precision), root(2.0);
+  Number q(precision), root(precision, 2);
   mpfr_mul_2ui(q, x, 1, nearest);
   ErfcInv(r, q);
   mpfr_sqrt(root, root, nearest);
@@ -175,11 +165,11 @@ void CdfNormInv(mpfr_ptr r, mpfr_srcptr x) {
 struct HyperbolicParts {
   explicit HyperbolicParts(mpc_srcptr z) {
     // Beyond this everything but a zero has overflowed; it keeps MPFR's own exponents finite.
-    Number x(std::clamp(mpfr_get_d(mpc_realref(z), nearest), -1e8, 1e8));
+    Number x(precision, std::clamp(mpfr_get_d(mpc_realref(z), nearest), -1e8, 1e8));
     mpfr_sinh_cosh(sinh, cosh, x, nearest);
     mpfr_sin_cos(sine, cosine, mpc_imagref(z), nearest);
   }
-  Number sinh, cosh, sine, cosine;
+  Number sinh{precision}, cosh{precision}, sine{precision}, cosine{precision};
 };
 void Cosh(mpc_ptr r, mpc_srcptr z) {
   const HyperbolicParts p(z);
@@ -195,7 +185,7 @@ void Sinh(mpc_ptr r, mpc_srcptr z) {
 void Tanh(mpc_ptr r, mpc_srcptr z) {
   mpfr_ptr re = mpc_realref(r), im = mpc_imagref(r);
   if (mpfr_cmp_si(mpc_realref(z), 5000) > 0 || mpfr_cmp_si(mpc_realref(z), -5000) < 0) {
-    Number e, s;
+    Number e(precision), s(precision);
     mpfr_abs(e, mpc_realref(z), nearest);
     mpfr_mul_si(e, e, -2, nearest);
     mpfr_exp(e, e, nearest);
@@ -207,7 +197,7 @@ void Tanh(mpc_ptr r, mpc_srcptr z) {
     return;
   }
   const HyperbolicParts p(z);
-  Number denominator, square;
+  Number denominator(precision), square(precision);
   mpfr_sqr(denominator, p.cosine, nearest);
   mpfr_sqr(square, p.sinh, nearest);
   mpfr_add(denominator, denominator, square, nearest);
@@ -233,9 +223,9 @@ void MulConjugate(mpc_ptr r, mpc_srcptr z, mpc_srcptr w) {
   mpc_mul(r, z, conjugate, MPC_RNDNN);
 }
 
-void SinCos(mpfr_ptr sine, mpfr_ptr cosine, const Point& p) { mpfr_sin_cos(sine, cosine, Number(p.re1), nearest); }
-void Cis(mpfr_ptr re, mpfr_ptr im, const Point& p) { mpfr_sin_cos(im, re, Number(p.re1), nearest); }
-void Modf(mpfr_ptr whole, mpfr_ptr fraction, const Point& p) { mpfr_modf(whole, fraction, Number(p.re1), nearest); }
+void SinCos(mpfr_ptr sine, mpfr_ptr cosine, const Point& p) { mpfr_sin_cos(sine, cosine, Number(precision, p.re1), nearest); }
+void Cis(mpfr_ptr re, mpfr_ptr im, const Point& p) { mpfr_sin_cos(im, re, Number(precision, p.re1), nearest); }
+void Modf(mpfr_ptr whole, mpfr_ptr fraction, const Point& p) { mpfr_modf(whole, fraction, Number(precision, p.re1), nearest); }
 
 // By the function's name; that of a complex function has a c behind it.
 const std::map<std::string_view, Reference>& AllReferences() {

@@ -29,7 +29,7 @@ struct ApplyOptions {
   std::string delimiter;
   std::string layer;
   bool is_raw = false;
-  // Of apply alone.
+  // What apply alone takes.
   std::string output = "-";
   std::string format;  // empty: by the name of the output
   bool is_json = false;

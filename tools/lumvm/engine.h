@@ -11,7 +11,8 @@ namespace lum::tool {
 
 class Engine {
  public:
-  // With the layer of that name, or where it is empty the fastest one. Throws SystemError where there is no library.
+  // Loads the library of the layer of that name, or where it is empty of the fastest one. Throws SystemError where there is no
+  // library.
   explicit Engine(const std::string& layer);
 
   // The address of the export's function. Throws SystemError where the library lacks it.

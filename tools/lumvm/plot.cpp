@@ -8,19 +8,19 @@
 #include <array>
 #include <cerrno>
 #include <cmath>
-#include <cstring>
 
 #include "lumvm/commands.h"
 #include "lumvm/errors.h"
 #include "lumvm/names.h"
 #include "lumvm/output.h"
 #include "support/declarations.h"
+#include "support/element_array.h"
 #include "support/ulp.h"
 
 namespace lum::tool {
 namespace {
 
-using support::Element;
+using support::ElementArray;
 using support::Export;
 
 constexpr size_t intervals = 200, points_an_interval = 50, points = intervals * points_an_interval;
@@ -50,36 +50,9 @@ std::pair<double, double> Interval(const PlotOptions& options, const Export& ent
   return {from, to};
 }
 
-// An array of numbers of either width, as a function takes them.
-class Numbers {
- public:
-  explicit Numbers(Element element, size_t count) : element_(element), bytes_(count * support::SizeOf(element)) {}
-  double operator[](size_t i) const {
-    if (element_ == Element::f32) return At<float>(i);
-    return At<double>(i);
-  }
-  void Set(size_t i, double value) {
-    if (element_ == Element::f32) Put(i, static_cast<float>(value));
-    else Put(i, value);
-  }
-  std::byte* data() { return bytes_.data(); }
-  const std::byte* at(size_t i) const { return bytes_.data() + i * support::SizeOf(element_); }
-
- private:
-  template <class T> T At(size_t i) const {
-    T value;
-    std::memcpy(&value, at(i), sizeof value);
-    return value;
-  }
-  template <class T> void Put(size_t i, T value) { std::memcpy(bytes_.data() + i * sizeof value, &value, sizeof value); }
-
-  Element element_;
-  std::vector<std::byte> bytes_;
-};
-
 // The results of an export at all points; of two outputs both.
-std::array<Numbers, 2> Results(const Engine& engine, const Export& entry, Numbers& x, Numbers& value) {
-  std::array<Numbers, 2> y{Numbers(entry.output, points), Numbers(entry.output, points)};
+std::array<ElementArray, 2> Results(const Engine& engine, const Export& entry, ElementArray& x, ElementArray& value) {
+  std::array<ElementArray, 2> y{ElementArray(entry.output, points), ElementArray(entry.output, points)};
   support::CallAddress(engine.Address(entry), entry,
                        {x.data(), nullptr, value.data(), y[0].data(), y[1].data(), static_cast<int32_t>(points)});
   return y;
@@ -93,24 +66,25 @@ double ErrorInUlp(double result, double exact) {
   return std::ldexp(std::fabs(result - exact), digits - exponent);
 }
 
-std::vector<Curve> FunctionCurves(const Engine& engine, const Export& entry, Numbers& x, Numbers& value) {
+std::vector<Curve> FunctionCurves(const Engine& engine, const Export& entry, ElementArray& x, ElementArray& value) {
   const auto y = Results(engine, entry, x, value);
   std::vector<Curve> curves;
   for (int output = 0; output < entry.outputs(); ++output) {
     curves.push_back({fmt::format("{}{}", entry.function, output == 0 ? "" : ".2"), {}});
-    for (size_t i = 0; i < points; i += 10) curves.back().points.emplace_back(x[i], y[static_cast<size_t>(output)][i]);
+    for (size_t i = 0; i < points; i += 10) curves.back().points.emplace_back(x.Get(i), y[static_cast<size_t>(output)].Get(i));
   }
   return curves;
 }
 
 // The largest error in each interval, one line a tag: of binary32 against the function of binary64 at the same arguments, of
 // binary64 the distance from the highest tag.
-std::vector<Curve> ErrorCurves(const Engine& engine, const std::vector<const Export*>& tags, Numbers& x, Numbers& value) {
+std::vector<Curve> ErrorCurves(const Engine& engine, const std::vector<const Export*>& tags, ElementArray& x,
+                               ElementArray& value) {
   const bool is_32bit = tags[0]->is_32bit();
   const Export& reference = is_32bit ? FindExport(tags[0]->function, "64f", "") : *tags.back();
-  Numbers wide(reference.input, points), wide_value(reference.input, 1);
-  for (size_t i = 0; i < points; ++i) wide.Set(i, x[i]);
-  wide_value.Set(0, value[0]);
+  ElementArray wide(reference.input, points), wide_value(reference.input, 1);
+  for (size_t i = 0; i < points; ++i) wide.Set(i, x.Get(i));
+  wide_value.Set(0, value.Get(0));
   const auto exact = Results(engine, reference, wide, wide_value);
   std::vector<Curve> curves;
   for (const Export* entry : tags) {
@@ -121,12 +95,12 @@ std::vector<Curve> ErrorCurves(const Engine& engine, const std::vector<const Exp
       double largest = least_error;
       for (size_t i = interval * points_an_interval; i < (interval + 1) * points_an_interval; ++i) {
         for (size_t output = 0; output < static_cast<size_t>(entry->outputs()); ++output) {
-          largest = std::max(largest, is_32bit ? ErrorInUlp(y[output][i], exact[output][i])
+          largest = std::max(largest, is_32bit ? ErrorInUlp(y[output].Get(i), exact[output].Get(i))
                                                : static_cast<double>(support::UlpDistance(entry->output, y[output].at(i),
                                                                                           exact[output].at(i))));
         }
       }
-      curve.points.emplace_back(x[interval * points_an_interval + points_an_interval / 2], largest);
+      curve.points.emplace_back(x.Get(interval * points_an_interval + points_an_interval / 2), largest);
     }
     curves.push_back(std::move(curve));
   }
@@ -212,7 +186,7 @@ void Plot(const PlotOptions& options) {
   }
   const auto [from, to] = Interval(options, entry);
   const std::string terminal = Terminal(options.output);
-  Numbers x(entry.input, points), value(entry.input, 1);
+  ElementArray x(entry.input, points), value(entry.input, 1);
   for (size_t i = 0; i < points; ++i) x.Set(i, from + (to - from) * (static_cast<double>(i) / (points - 1)));
   if (entry.has_parameter()) value.Set(0, ParseReal(options.value, "--value"));
   const Engine engine(options.layer);

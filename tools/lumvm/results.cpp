@@ -120,7 +120,8 @@ class RawResults : public FileResults {
   std::unique_ptr<Spool> second_;
 };
 
-// The same behind a header. The shape is the input's where that is one .npy array; of two outputs, two such arrays.
+// Raw results behind the header of a .npy array. The shape is the input's where that is one .npy array; of two outputs, two
+// such arrays.
 class NpyResults : public RawResults {
  public:
   explicit NpyResults(const ResultsRequest& request) : RawResults(request, true) {

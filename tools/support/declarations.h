@@ -42,7 +42,7 @@ struct Declaration {
   std::vector<SpecialArgument> special_arguments = {};
 };
 
-// That of a function outside of the catalogue, as tests have them, says nothing.
+// The declaration of a function; that of one outside of the catalogue, as tests have them, says nothing.
 const Declaration& DeclarationOf(const Export& entry);
 bool HasScalarCore(const Export& entry);
 

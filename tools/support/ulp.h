@@ -32,7 +32,7 @@ template <class T> uint64_t UlpDistanceAt(const std::byte* a, const std::byte* b
   return UlpDistance(x, y);
 }
 
-// The same for elements in memory; of complex ones the greater of both parts.
+// The distance of elements in memory; of complex ones the greater of both parts.
 inline uint64_t UlpDistance(Element element, const std::byte* a, const std::byte* b) {
   switch (element) {
     case Element::f32:

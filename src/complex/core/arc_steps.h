@@ -5,7 +5,7 @@
 
 #include "complex/core/parts.h"
 
-namespace lum::inline LUM_LAYER::core {
+namespace lum::inline LUM_LAYER::complex::core {
 
 inline constexpr Lum64f quarter_pi = 0x1.921fb54442d18p-1;
 inline constexpr Lum64f half_pi = 0x1.921fb54442d18p+0;
@@ -69,4 +69,4 @@ inline bool IsBelowOne(Lum64f x) { return Magnitude(x) < 1; }
 inline ComplexDouble TimesI(const ComplexDouble& z) { return {IsNan(z.im) ? z.im : Negated(z.im), z.re}; }
 inline ComplexDouble OverI(const ComplexDouble& z) { return {z.im, IsNan(z.re) ? z.re : Negated(z.re)}; }
 
-}  // namespace lum::inline LUM_LAYER::core
+}  // namespace lum::inline LUM_LAYER::complex::core

@@ -1,7 +1,7 @@
 // |z|. The squares stay within the range of Extended.
 #include "complex/core/parts.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 
 void CoreAbs(Lum64f& result, const ComplexDouble& z) {
   if (IsInfinite(z.re) || IsInfinite(z.im)) {
@@ -14,4 +14,4 @@ void CoreAbs(Lum64f& result, const ComplexDouble& z) {
   result = static_cast<Lum64f>(root);
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

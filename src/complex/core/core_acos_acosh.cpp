@@ -1,7 +1,7 @@
 // arccos z and arcosh z.
 #include "complex/core/arc_steps.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 namespace {
 
 // arccos of a number in the right half plane from that of its mirror image, rounded.
@@ -52,4 +52,4 @@ void CoreAcosh(ComplexDouble& result, const ComplexDouble& z) {
   Finish(result, static_cast<Lum64f>(logarithm), WithSignOf(y, MirroredAngle(x, angle)));
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

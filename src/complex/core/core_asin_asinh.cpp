@@ -1,7 +1,7 @@
 // arsinh z, and arcsin z = -i arsinh iz.
 #include "complex/core/arc_steps.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 
 void CoreAsinh(ComplexDouble& result, const ComplexDouble& z) {
   const auto [x, y] = z;
@@ -27,4 +27,4 @@ void CoreAsin(ComplexDouble& result, const ComplexDouble& z) {
   result = core::OverI(rotated);
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

@@ -1,7 +1,7 @@
 // artanh z, and arctan z = -i artanh iz.
 #include "complex/core/arc_steps.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 namespace {
 
 // The real part of arctanh, of finite parts of which x is not zero: a logarithm of the ratio of the distances to -1 and 1, or
@@ -51,4 +51,4 @@ void CoreAtan(ComplexDouble& result, const ComplexDouble& z) {
   result = core::OverI(rotated);
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

@@ -1,7 +1,7 @@
 // cosh z = cosh x cos y + i sinh x sin y of z = x + iy, and cos z = cosh iz.
 #include "complex/core/hyperbolic_parts.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 namespace {
 
 // A real part of a cosine is never denormal, which the end of the core makes use of.
@@ -37,4 +37,4 @@ void CoreCosh(ComplexDouble& result, const ComplexDouble& z) {
 
 void CoreCos(ComplexDouble& result, const ComplexDouble& z) { CoreCosh(result, core::TimesI<core::IsPositiveNan>(z)); }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

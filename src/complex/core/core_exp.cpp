@@ -1,7 +1,7 @@
 // e^z = e^x (cos y + i sin y) of z = x + iy.
 #include "complex/core/parts.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 namespace {
 
 // |x| at which e^x has long left the range of binary64.
@@ -62,4 +62,4 @@ void CoreExp(ComplexDouble& result, const ComplexDouble& z) {
   Finish(result, e * static_cast<Lum64f>(cosine), e * direction);
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

@@ -5,7 +5,7 @@
 #include "complex/core/log10_angles.h"
 #include "complex/core/parts.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 namespace {
 
 Extended Angle(Lum64f y, Lum64f x) {
@@ -67,4 +67,4 @@ void CoreLog10(ComplexDouble& result, const ComplexDouble& z) {
   Finish(result, static_cast<Lum64f>(LogOfModulus(x, y) * log10_of_e), static_cast<Lum64f>(Angle(y, x) * log10_of_e));
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

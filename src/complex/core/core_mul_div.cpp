@@ -3,7 +3,7 @@
 #include "complex/core/extended_pair.h"
 #include "complex/core/parts.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 namespace {
 
 bool BothFinite(const ComplexDouble& z) { return IsFinite(z.re) && IsFinite(z.im); }
@@ -71,4 +71,4 @@ void CoreDiv(ComplexDouble& result, const ComplexDouble& z, const ComplexDouble&
   }
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

@@ -1,7 +1,7 @@
 // z^w = e^(w ln z), by the cores of logarithm and exponential.
 #include "complex/core/parts.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 
 // The product is rounded to binary64 in plain operations: for large results its error takes digits from the power.
 void CorePow(ComplexDouble& result, const ComplexDouble& z, const ComplexDouble& exponent) {
@@ -12,4 +12,4 @@ void CorePow(ComplexDouble& result, const ComplexDouble& z, const ComplexDouble&
   CoreExp(result, product);
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

@@ -1,7 +1,7 @@
 // sinh z = sinh x cos y + i cosh x sin y of z = x + iy, and sin z = -i sinh iz.
 #include "complex/core/hyperbolic_parts.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 
 void CoreSinh(ComplexDouble& result, const ComplexDouble& z) {
   const auto [x, y] = z;
@@ -29,4 +29,4 @@ void CoreSin(ComplexDouble& result, const ComplexDouble& z) {
   result = core::OverI<core::IsPositiveNan>(rotated);
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

@@ -1,7 +1,7 @@
 // The square root, from the modulus and the larger part of the root.
 #include "complex/core/parts.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 namespace {
 
 Extended RootOf(Extended x) {
@@ -39,4 +39,4 @@ void CoreSqrt(ComplexDouble& result, const ComplexDouble& z) {
   Finish(result, static_cast<Lum64f>(is_left ? small : large), WithSignOf(y, static_cast<Lum64f>(is_left ? large : small)));
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

@@ -1,7 +1,7 @@
 // tanh z = (sinh x cosh x + i sin y cos y) / (cos^2 y + sinh^2 x) of z = x + iy, and tan z = -i tanh iz.
 #include "complex/core/hyperbolic_parts.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 namespace {
 
 // |x| at which tanh x has long been 1.
@@ -55,4 +55,4 @@ void CoreTan(ComplexDouble& result, const ComplexDouble& z) {
   result = core::OverI<IsNan<Lum64f>>(rotated);
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

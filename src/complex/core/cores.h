@@ -4,7 +4,7 @@
 
 #include "frame/types.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 
 // Elements of both complex types pass through the cores in this form.
 using ComplexDouble = Lum64fc;
@@ -35,4 +35,4 @@ void CoreAsinh(ComplexDouble& result, const ComplexDouble& z);
 void CoreAcosh(ComplexDouble& result, const ComplexDouble& z);
 void CoreAtanh(ComplexDouble& result, const ComplexDouble& z);
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

@@ -3,7 +3,7 @@
 
 #include "complex/core/extended_pair.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 
 // Row k: atan(k/128), from 128 on pi/2 less that of 256 - k, from 256 on pi less row 512 - k.
 inline constexpr auto angle_table = table64({
@@ -40,4 +40,4 @@ inline Extended AddArctangent(ExtendedPair angle, ExtendedPair u) {
   return sum.head + (sum.tail + (angle.tail + rest));
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

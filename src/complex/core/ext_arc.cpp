@@ -3,7 +3,7 @@
 #include "complex/core/ext_angle_table.h"
 #include "complex/core/ext_root_pair.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 namespace {
 
 // (asin x - x - x^3/6) / x^5: |x| < 1/8; |x| <= 1/2.
@@ -58,4 +58,4 @@ Extended AcosOf(const Extended& x) {
 void ExtAsin(Extended& result, const Extended& x) { result = AsinOf(x); }
 void ExtAcos(Extended& result, const Extended& x) { result = AcosOf(x); }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

@@ -1,7 +1,7 @@
 // The arctangent: by the table of angles between 2^-7 and 2^11; below, its series; above, pi/2 less the series of 1/|x|.
 #include "complex/core/ext_angle_table.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 namespace {
 
 Extended SmallAtan(const Extended& x, int exponent) {
@@ -44,4 +44,4 @@ Extended AtanOf(const Extended& x) {
 
 void ExtAtan(Extended& result, const Extended& x) { result = AtanOf(x); }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

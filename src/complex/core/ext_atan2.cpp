@@ -3,7 +3,7 @@
 
 #include "complex/core/ext_angle_table.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 namespace {
 
 // The point in the upper half plane, by its parts in order of size.
@@ -72,4 +72,4 @@ Extended AngleOf(const Extended& y, const Extended& x) {
 
 void ExtAtan2(Extended& result, const Extended& y, const Extended& x) { result = AngleOf(y, x); }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

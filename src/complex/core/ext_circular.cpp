@@ -3,7 +3,7 @@
 // need.
 #include "complex/core/ext_reduce.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 namespace {
 
 constexpr auto sine_terms = coefficients({
@@ -92,11 +92,11 @@ void ExtSinCos(const Extended& x, Extended& sine, Extended& cosine) {
   } else {
     ExtendedPair remainder;
     const int64_t quadrant = ExtReducePi4(remainder, x) >> 1;
-    // Both of the remainder, to be exchanged: no branch on the quadrant could be foreseen.
+    // Sine and cosine of the remainder, to be exchanged: no branch on the quadrant could be foreseen.
     const Extended values[2] = {SineOfRemainder(remainder), CosineOfRemainder(remainder)};
     sine = values[quadrant & 1] * QuadrantSign(quadrant);
     cosine = values[(quadrant & 1) ^ 1] * QuadrantSign(quadrant + 1);
   }
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

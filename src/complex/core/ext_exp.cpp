@@ -2,7 +2,7 @@
 // number are put together in two parts, so that they are rounded once.
 #include "complex/core/ext_power_table.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 namespace {
 
 constexpr auto small_terms = coefficients({
@@ -56,4 +56,4 @@ Extended ExpOf(const Extended& x) {
 
 void ExtExp(Extended& result, const Extended& x) { result = ExpOf(x); }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

@@ -2,7 +2,7 @@
 // table rows lie opposite. Below 1/2 the series, where the difference would cancel.
 #include "complex/core/ext_power_table.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 namespace {
 
 constexpr auto sinh_terms = coefficients({
@@ -106,4 +106,4 @@ void ExtSinhCosh(const Extended& x, Extended& sinh, Extended& cosh) {
   }
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

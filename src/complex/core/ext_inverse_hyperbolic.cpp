@@ -3,7 +3,7 @@
 #include "complex/core/ext_log_table.h"
 #include "complex/core/ext_root_pair.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 namespace {
 
 // (asinh x - x + x^3/6) / x^5, (atanh x - x - x^3/3) / x^5, (acosh(1 + t) / sqrt(2 t) - 1 + t/12) / t^2.
@@ -16,7 +16,7 @@ constexpr auto atanh_terms = coefficients({
 constexpr auto acosh_terms = coefficients({
 #include "tables/generated/extended_acosh_64f_13_pairs.inc"
 });
-// (asinh x - x) / x^3, (atanh x - x) / x^3 and, as above, that of acosh.
+// (asinh x - x) / x^3, (atanh x - x) / x^3 and (acosh(1 + t) / sqrt(2 t) - 1 + t/12) / t^2, where few terms are enough.
 constexpr std::array<Extended, 4> asinh_series = {-1.0L / 6, 3.0L / 40, -5.0L / 112, 35.0L / 1152};
 constexpr std::array<Extended, 4> atanh_series = {1.0L / 3, 1.0L / 5, 1.0L / 7, 1.0L / 9};
 constexpr std::array<Extended, 5> acosh_series = {3.0L / 160, -5.0L / 896, 35.0L / 18432, -63.0L / 90112, 231.0L / 851968};
@@ -92,4 +92,4 @@ void ExtAsinh(Extended& result, const Extended& x) { result = AsinhOf(x); }
 void ExtAcosh(Extended& result, const Extended& x) { result = AcoshOf(x); }
 void ExtAtanh(Extended& result, const Extended& x) { result = AtanhOf(x); }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

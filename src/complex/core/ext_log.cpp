@@ -1,7 +1,7 @@
 // The logarithm, and that of 1 + x: by the table away from 1; next to 1 the series, with its first two terms exact.
 #include "complex/core/ext_log_table.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 namespace {
 
 // (log(1 + r) - r + r^2/2) / r^3, |r| <= 1/16 and a little.
@@ -59,4 +59,4 @@ Extended Log1pOf(const Extended& x) {
 void ExtLog(Extended& result, const Extended& x) { result = LogOf(x); }
 void ExtLog1p(Extended& result, const Extended& x) { result = Log1pOf(x); }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

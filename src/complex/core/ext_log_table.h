@@ -6,7 +6,7 @@
 #include "frame/literals.h"
 #include "frame/numbers.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 
 inline constexpr auto log_reciprocals = table32({
 #include "tables/generated/extended_log_reciprocals_32f_256.inc"
@@ -38,4 +38,4 @@ inline ExtendedPair LogByTable(ExtendedPair x) {
   return LogByTable(n, {significand_of(x.head), x.tail == 0 ? 0 : x.tail * power_of_two(-n)});
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

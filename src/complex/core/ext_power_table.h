@@ -6,7 +6,7 @@
 #include "frame/literals.h"
 #include "frame/numbers.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 
 // e^r - 1 = even + odd, e^-r - 1 = even - odd, |r| <= ln2/512 and a little.
 struct PowerArgument {
@@ -39,4 +39,4 @@ inline ExtendedPair TablePower(int j, Extended p) {
   return {power.head, power.tail + (power.head + power.tail) * p};
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

@@ -6,7 +6,7 @@
 #include "frame/literals.h"
 #include "frame/numbers.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 namespace {
 
 constexpr int direct_limit = field_of(29);      // exponent field of the last direct range, below 2^30
@@ -111,4 +111,4 @@ int64_t ExtReducePi4(ExtendedPair& remainder, const Extended& x) {
   return is_negative ? -r.count : r.count;
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

@@ -3,7 +3,7 @@
 
 #include "complex/core/extended_pair.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 
 // sqrt(x.head + x.tail), to twice the digits by one step of Newton's iteration. Given x.head > 0, normal and far from both ends
 // of the range.
@@ -14,4 +14,4 @@ inline ExtendedPair RootPair(ExtendedPair x) {
   return {root, (((x.head - square.head) - square.tail) + x.tail) / (2 * root)};
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

@@ -3,7 +3,7 @@
 #include "complex/core/extended_pair.h"
 #include "frame/literals.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 namespace {
 
 constexpr auto seeds = table64({
@@ -46,4 +46,4 @@ Extended SqrtOf(const Extended& x) {
 
 void ExtSqrt(Extended& result, const Extended& x) { result = SqrtOf(x); }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

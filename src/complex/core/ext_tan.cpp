@@ -5,7 +5,7 @@
 #include "frame/literals.h"
 #include "frame/numbers.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 namespace {
 
 // (tan x - x - x^3/3) / x^5, |x| <= pi/64 and a little.
@@ -61,4 +61,4 @@ Extended TanOf(const Extended& x) {
 
 void ExtTan(Extended& result, const Extended& x) { result = TanOf(x); }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

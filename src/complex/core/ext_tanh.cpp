@@ -2,7 +2,7 @@
 // else is left.
 #include "complex/core/ext_power_table.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 namespace {
 
 constexpr auto terms = coefficients({
@@ -42,4 +42,4 @@ Extended TanhOf(const Extended& x) {
 
 void ExtTanh(Extended& result, const Extended& x) { result = TanhOf(x); }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

@@ -15,7 +15,7 @@
 #include "complex/core/soft_extended.h"
 #endif
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 
 #ifdef LUM_EXTENDED_IS_SOFT
 using Extended = SoftExtended;
@@ -55,4 +55,4 @@ void ExtAsinh(Extended& result, const Extended& x);
 void ExtAcosh(Extended& result, const Extended& x);
 void ExtAtanh(Extended& result, const Extended& x);
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

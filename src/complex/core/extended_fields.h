@@ -7,7 +7,7 @@
 
 #include "complex/core/extended.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 
 inline constexpr int extended_digits = ExtendedLimits::digits;
 inline constexpr int extended_bias = 0x3fff;
@@ -93,4 +93,4 @@ inline Extended sign_factor(bool is_negative) { return unit_signs[is_negative ? 
 // magnitude, not NaN, with the sign bit of sign.
 inline Extended with_sign_of(Extended magnitude, const Extended& sign) { return magnitude * sign_factor(sign_bit(sign)); }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

@@ -8,7 +8,7 @@
 #include "frame/two_parts.h"
 #include "tables/table.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 
 using ExtendedPair = TwoParts<Extended>;
 
@@ -93,4 +93,4 @@ template <size_t terms, size_t n> inline Extended odd_series(const std::array<Ex
   return x + x * square * first_terms<terms>(c, square);
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

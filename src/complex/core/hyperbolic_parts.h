@@ -3,7 +3,7 @@
 
 #include "complex/core/parts.h"
 
-namespace lum::inline LUM_LAYER::core {
+namespace lum::inline LUM_LAYER::complex::core {
 
 // |x| at which e^x has long left the range of binary64.
 inline constexpr Lum64f far_exponent = 2048;
@@ -48,4 +48,4 @@ template <bool (*is_kept)(Lum64f)> ComplexDouble OverI(const ComplexDouble& z) {
   return {z.im, is_kept(z.re) ? z.re : Negated(z.re)};
 }
 
-}  // namespace lum::inline LUM_LAYER::core
+}  // namespace lum::inline LUM_LAYER::complex::core

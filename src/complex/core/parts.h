@@ -10,7 +10,7 @@
 #include "complex/core/extended.h"
 #include "frame/lane_format.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 
 inline constexpr Lum64f infinity = std::numeric_limits<Lum64f>::infinity();
 
@@ -65,4 +65,4 @@ inline void Finish(ComplexDouble& result, Lum64f re, Lum64f im) {
   result = {re, im};
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

@@ -11,7 +11,7 @@
 
 #include "frame/lane_exact.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 
 class SoftExtended {
  public:
@@ -115,7 +115,7 @@ class SoftExtended {
   constexpr bool is_nan() const { return exponent() == special && significand_ != leading; }
   constexpr bool is_infinite() const { return exponent() == special && significand_ == leading; }
   constexpr bool is_quiet() const { return (significand_ & quiet) != 0; }
-  // Of a finite number other than zero.
+  // The fields of a finite number other than zero.
   constexpr Unpacked unpacked() const {
     const int shift = std::countl_zero(significand_);
     return {(exponent() == 0 ? 1 : exponent()) - shift, significand_ << shift};
@@ -200,13 +200,13 @@ class SoftExtended {
   uint16_t upper_ = 0;  // sign and exponent
 };
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex
 
-template <> struct std::numeric_limits<lum::SoftExtended> {
+template <> struct std::numeric_limits<lum::complex::SoftExtended> {
   static constexpr bool is_specialized = true, is_integer = false;
   static constexpr int digits = 64, max_exponent = 16384, min_exponent = -16381;
-  static constexpr lum::SoftExtended max() { return {uint16_t{0x7ffe}, ~uint64_t{0}}; }
-  static constexpr lum::SoftExtended min() { return {uint16_t{1}, uint64_t{1} << 63}; }
-  static constexpr lum::SoftExtended infinity() { return lum::SoftExtended::Infinity(false); }
-  static constexpr lum::SoftExtended quiet_NaN() { return -lum::SoftExtended::DefaultNan(); }
+  static constexpr lum::complex::SoftExtended max() { return {uint16_t{0x7ffe}, ~uint64_t{0}}; }
+  static constexpr lum::complex::SoftExtended min() { return {uint16_t{1}, uint64_t{1} << 63}; }
+  static constexpr lum::complex::SoftExtended infinity() { return lum::complex::SoftExtended::Infinity(false); }
+  static constexpr lum::complex::SoftExtended quiet_NaN() { return -lum::complex::SoftExtended::DefaultNan(); }
 };

@@ -7,7 +7,7 @@
 #include "complex/polynomials.h"
 #include "tables/table.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 
 // The angle of (x, y) with positive y and any x other than 0: in (0, pi).
 LUM_INLINE HeadTail Angle(HeadTail y, HeadTail x) {
@@ -30,7 +30,7 @@ LUM_INLINE HeadTail Angle(HeadTail y, HeadTail x) {
   const auto rest = fma(c, s.tail, l.tail) + fma(c, s.head, l.head - denominator);
   auto u = Quotient(numerator, {denominator, rest});
   const auto q = u.head * u.head;
-  u.tail = fma(u.head * q, horner(q, complex::pairs_atan), u.tail);
+  u.tail = fma(u.head * q, horner(q, pairs_atan), u.tail);
 
   // Rows 0 + k, 256 - k, 256 + k, 512 - k counterclockwise from the positive x axis; the angle goes on with u as with k.
   const auto falls = ~(is_flat ^ is_left);
@@ -44,4 +44,4 @@ LUM_INLINE HeadTail Angle(HeadTail y, HeadTail x) {
   return fast_two_sum(sum.head, sum.tail + (tail + u.tail));
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

@@ -8,7 +8,7 @@
 #include "frame/numbers.h"
 #include "tables/table.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 
 // Up to here k times the leading parts of pi/128 is exact.
 inline constexpr Lum64f largest_angle = 10000;
@@ -41,8 +41,8 @@ LUM_INLINE CircularPair SineCosineOfReduced(Vec<Lum64f> y, const ReducedAngle& a
   });
   const auto r = angle.r.head, r_tail = angle.r.tail;
   const auto q = r * r;
-  const auto sine_rest = fma(r * q, horner(q, complex::pairs_sine), r_tail);
-  const auto cosine_rest = fnma(r, r_tail, q * horner(q, complex::pairs_cosine));
+  const auto sine_rest = fma(r * q, horner(q, pairs_sine), r_tail);
+  const auto cosine_rest = fnma(r, r_tail, q * horner(q, pairs_cosine));
   const auto row = gather_rows<Lum64f>(table, shift_left<2>(angle.row & all(uint64_t{255})));
   const HeadTail s{row.column0, row.column1}, c{row.column2, row.column3};
   const auto for_sine = two_product(c.head, r), for_cosine = two_product(s.head, r);
@@ -55,8 +55,8 @@ LUM_INLINE CircularPair SineCosineOfReduced(Vec<Lum64f> y, const ReducedAngle& a
 // The sine of a zero is that zero.
 LUM_INLINE CircularPair SineCosineOf(Vec<Lum64f> y) { return SineCosineOfReduced(y, ReduceAngle(abs(y))); }
 
-// Of angles beyond the largest, by the remainder of turns in fixed-point numbers: an index of steps of pi/256 and hi + lo, of
-// which the odd steps go half to either side.
+// The reduction of angles beyond the largest, by the remainder of turns in fixed-point numbers: an index of steps of pi/256 and
+// hi + lo, of which the odd steps go half to either side.
 [[gnu::noinline]] inline ReducedAngle ReduceFarAngle(const Vec<Lum64f>& magnitude) {
   const auto turned = circular::ReduceLarge<Lum64f>(magnitude, all(uint64_t{0}));
   const auto is_odd = mask_cast<Lum64f>(test_any(turned.index, all(uint64_t{1})));
@@ -68,7 +68,7 @@ LUM_INLINE CircularPair SineCosineOf(Vec<Lum64f> y) { return SineCosineOfReduced
   const auto row = shift_right<1>(select(rises, turned.index + all(uint64_t{1}), turned.index));
   return {row, r, lt(abs(r.head), all(0x1p-19))};
 }
-// Of any number, but for far ones where their reduction has no room on the stack.
+// Sine and cosine of any number, but for far ones where their reduction has no room on the stack.
 LUM_INLINE CircularPair SineCosineOfAny(Vec<Lum64f> y) {
   const auto magnitude = abs(y);
   const auto far = nle(magnitude, all(largest_angle));
@@ -83,4 +83,4 @@ LUM_INLINE CircularPair SineCosineOfAny(Vec<Lum64f> y) {
   return SineCosineOfReduced(y, angle);
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

@@ -7,7 +7,7 @@
 #include "frame/numbers.h"
 #include "tables/table.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 
 // Arguments up to this size have results, and terms of results, well within the exponent range.
 inline constexpr Lum64f largest_exponent = 600;
@@ -36,7 +36,7 @@ LUM_INLINE PowersOfTwo ReduceExponent(Vec<Lum64f> x) {
 
 LUM_INLINE HeadTail ExponentialOf(const PowersOfTwo& reduced) {
   const auto [power, unused, r] = reduced;
-  const auto series = horner(r.head, complex::pairs_exp);
+  const auto series = horner(r.head, pairs_exp);
   const auto rest = fma(r.head * r.head, series, r.tail);
   const auto product = two_product(power.head, r.head);
   const auto sum = fast_two_sum(power.head, product.head);
@@ -54,8 +54,8 @@ LUM_INLINE SinhCosh HyperbolicPairOf(Vec<Lum64f> x, const PowersOfTwo& reduced) 
   const auto half_rising = Scaled(rising, 0.5), half_falling = Scaled(falling, 0.5);
   const auto s = Add(half_rising, -half_falling), c = Add(half_rising, half_falling);
   const auto q = r.head * r.head;
-  const auto sinh_rest = fma(r.head * q, horner(q, complex::pairs_sinh), r.tail);
-  const auto cosh_rest = fma(r.head, r.tail, q * horner(q, complex::pairs_cosh));
+  const auto sinh_rest = fma(r.head * q, horner(q, pairs_sinh), r.tail);
+  const auto cosh_rest = fma(r.head, r.tail, q * horner(q, pairs_cosh));
   const auto for_sinh = two_product(c.head, r.head), for_cosh = two_product(s.head, r.head);
   const auto sinh = fast_two_sum(s.head, for_sinh.head), cosh = fast_two_sum(c.head, for_cosh.head);
   const auto sinh_tail = fma(c.tail, r.head, s.tail + (sinh.tail + for_sinh.tail));
@@ -84,4 +84,4 @@ LUM_INLINE RestOfExponent TakePowersOfTwo(Vec<Lum64f> x) {
   return TakePowersOfTwo(x, rndscale<binary_places(0) | quiet>(x * all(numbers::log2_e<Lum64f> / 512)));
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

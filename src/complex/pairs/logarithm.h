@@ -7,7 +7,7 @@
 #include "frame/numbers.h"
 #include "tables/table.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 
 struct LogarithmPairs {
   Vec<Lum64f> base, base_tail;  // k ln 2 - ln c
@@ -33,7 +33,7 @@ LUM_INLINE LogarithmPairs ReduceLogarithm(HeadTail q) {
 LUM_INLINE HeadTail SumLogarithm(const LogarithmPairs& terms) {
   const auto r = terms.r.head;
   const auto square = two_product(r, r);
-  const auto series = horner(r, complex::pairs_log);
+  const auto series = horner(r, pairs_log);
   const auto first = fast_two_sum(terms.base, r);
   const auto second = fast_two_sum(first.head, all(-0.5) * square.head);
   const auto tails = (first.tail + second.tail) + fnma(r, terms.r.tail, terms.r.tail);
@@ -51,4 +51,4 @@ LUM_INLINE HeadTail LogarithmOfOnePlus(HeadTail z) {
   return SumLogarithm(terms);
 }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

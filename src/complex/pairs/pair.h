@@ -5,7 +5,7 @@
 #include "frame/types.h"
 #include "frame/vec.h"
 
-namespace lum::inline LUM_LAYER {
+namespace lum::inline LUM_LAYER::complex {
 
 using HeadTail = TwoParts<Vec<Lum64f>>;
 
@@ -75,4 +75,4 @@ LUM_INLINE HeadTail SquareRoot(HeadTail a) {
 // x^2 exactly.
 LUM_INLINE HeadTail ExactSquare(Vec<Lum64f> x) { return two_product(x, x); }
 
-}  // namespace lum::inline LUM_LAYER
+}  // namespace lum::inline LUM_LAYER::complex

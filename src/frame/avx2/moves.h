@@ -42,7 +42,7 @@ template <Lane T, Integer I>
 requires(sizeof(T) == sizeof(I)) LUM_INLINE Vec<T> gather(Mask<T> mask, const T* base, Vec<I> index, Vec<T> old) {
   return {half::gather(mask.low, base, index.low.v, old.low), half::gather(mask.high, base, index.high.v, old.high)};
 }
-// The same in all lanes. The instruction merges into its target, and g++ leaves there whatever it was when it sees a full
+// base[index] in all lanes. The instruction merges into its target, and g++ leaves there whatever it was when it sees a full
 // mask: behind a mask that it does not see, zeros keep a gather from waiting for the one before.
 template <Lane T, Integer I>
 requires(sizeof(T) == sizeof(I)) LUM_INLINE Vec<T> gather(const T* base, Vec<I> index) {

@@ -44,7 +44,7 @@ requires(sizeof(T) == sizeof(I)) LUM_INLINE Vec<T> gather(Mask<T> mask, const T*
   else if constexpr (is32<T>) return {_mm512_mask_i32gather_epi32(old.v, mask.k, index.v, base, scale)};
   else return {_mm512_mask_i64gather_epi64(old.v, mask.k, index.v, base, scale)};
 }
-// The same in all lanes. The instruction merges into its target, and g++ leaves there whatever it was when it sees a full
+// base[index] in all lanes. The instruction merges into its target, and g++ leaves there whatever it was when it sees a full
 // mask: behind a mask that it does not see, zeros keep a gather from waiting for the one before.
 template <Lane T, Integer I>
 requires(sizeof(T) == sizeof(I)) LUM_INLINE Vec<T> gather(const T* base, Vec<I> index) {

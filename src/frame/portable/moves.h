@@ -70,7 +70,7 @@ requires(sizeof(T) == sizeof(I)) LUM_INLINE Vec<T> gather(const T* base, const V
       },
       index);
 }
-// The same in the lanes of the mask, which alone are read; the others from old.
+// base[index] in the lanes of the mask, which alone are read; the others from old.
 template <Lane T, Integer I>
 requires(sizeof(T) == sizeof(I)) LUM_INLINE Vec<T> gather(const Mask<T>& mask, const T* base, const Vec<I>& index, Vec<T> old) {
   for (int i = 0; i < lanes_of<T>; ++i)

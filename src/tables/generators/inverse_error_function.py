@@ -42,7 +42,7 @@ def inverse_erfc(q=None, log_q=None):
 
 
 def inverse_erf(x):
-    """The same of a small x, the y with erf y = x."""
+    """The y with erf y = x, of a small x."""
     with mpmath.workprec(PRECISION + 40):
         y = x * mpmath.sqrt(mpmath.pi) / 2
         for _ in range(100):

@@ -1,4 +1,4 @@
-// The same from C++, with the standard library's complex numbers.
+// A program outside of this project that calls the library from C++, with the standard library's complex numbers.
 #include <lumvm.h>
 
 #include <cmath>
