@@ -149,13 +149,6 @@ template <Lane T, class F> LUM_INLINE Mask<T> each_mask_lane(F condition) {
   for (int i = 0; i < lanes_of<T>; ++i) r.lane[i] = condition(i) ? set : T{0};
   return r;
 }
-// The mask whose lanes have the bits that value(i) gives.
-template <Lane T, class F> LUM_INLINE Mask<T> each_mask_bits(F value) {
-  Mask<T> r;
-  for (int i = 0; i < lanes_of<T>; ++i) r.lane[i] = std::bit_cast<T>(static_cast<UnsignedOf<T>>(value(i)));
-  return r;
-}
-
 // ---- Some lanes with care
 
 // r with careful(a, b, ...) in the lanes of which doubt has bits set.

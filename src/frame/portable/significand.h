@@ -132,6 +132,12 @@ template <int imm, Floating T> LUM_INLINE Register<T> rndscale(Register<T> x) {
   using F = lane::Format<T>;
   constexpr int M = (imm >> 4) & 15;
   constexpr int R = (imm & 4) ? rn : imm & 3;
+#if defined(__AVX__)
+  if constexpr (M == 0) {
+    if constexpr (sizeof(T) == 4) return Register<T>(_mm256_round_ps(x, R | _MM_FROUND_NO_EXC));
+    else return Register<T>(_mm256_round_pd(x, R | _MM_FROUND_NO_EXC));
+  }
+#endif
   constexpr T grid_is_coarser_below = lane::power_of_two<T>(F::fraction_bits - M);
   const auto sign = bits<T>(x) & F::sign;
   const auto m = magnitude<T>(x);
