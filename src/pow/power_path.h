@@ -36,6 +36,15 @@ template <int stage, class T> LUM_INLINE PowerRow<T> StageRow(Vec<T> z) {
     static constexpr auto table = InColumns<3, 32>(source);
     const auto column = [&](const T* p) __attribute__((always_inline)) { return permute2(load(p), load(p + 16), i); };
     return {column(table), column(table + 32), column(table + 64)};
+  } else if constexpr (permutes_doubles && stage < 2) {
+    // 33 rows, of which the last one has no place in the registers.
+    static constexpr auto table = InColumns<3, 33>(source);
+    const auto low = mask_cast<T>(test_none(i, all(Word{16}))), last = mask_cast<T>(test_any(i, all(Word{32})));
+    const auto column = [&](const T* p) __attribute__((always_inline)) {
+      const auto v = select(low, permute2(load(p), load(p + 8), i), permute2(load(p + 16), load(p + 24), i));
+      return select(last, all(p[32]), v);
+    };
+    return {column(table), column(table + 33), column(table + 66)};
   } else {
     static constexpr auto table = InRowsOfFour<3>(source);
     const auto row = gather_rows<T>(table, shift_left<2>(i));
@@ -69,9 +78,8 @@ template <class T> LUM_INLINE TwoParts<Vec<T>> Log2Pair(Vec<T> given) {
   e = e - zero_unless(denormal, all(T{C::denormal_exponent}));
 
   const auto u0 = z3 - all(T{C::scale});
-  const auto factor = SplitVector<T>(row1.c * row2.c * row3.c);
-  const auto [m_head, m_tail] = SplitVector(m);
-  const auto w = ((m_head * factor.head - z3) + (m_head * factor.tail + m_tail * factor.head)) + m_tail * factor.tail;
+  // What the rounded products have lost: exact by either way.
+  const auto w = fms(m, row1.c * row2.c * row3.c, z3);
   const auto a = e + row1.head + row2.head + row3.head;
   const auto s0 = a + u0;
   const auto s = s0 + w;
@@ -133,11 +141,20 @@ template <class T> LUM_INLINE Vec<T> PowerMagnitude(Vec<T> x, Vec<T> y) {
   const auto tail = (log.tail - (h - log.head)) + (h - head);
   const auto [y_head, y_tail] = SplitVector(factor);
   const auto a = head * y_head;
-  const auto b = tail * factor + head * y_tail;
+  const auto b = fma(head, y_tail, tail * factor);  // head y_tail is exact
   const auto p = a + b;
   const auto value = Exp2Positive<T>({p, b - (p - a)});
   const auto falls = mask_cast<T>(sign_mask(bits(log.head) ^ bits(y)));
   return select(far, zero_unless(~falls, all(std::numeric_limits<T>::infinity())), value);
+}
+
+// Lanes of positive finite x in which |y log2 x| is beyond what has a positive finite power, whatever the rounding. On both
+// sides of 1, |log2 x| is at least |x - 1| up to 2, and at least the distance of floor(log2 x) from -1 or 0.
+template <class T> LUM_INLINE Mask<T> IsFar(Vec<T> x, Vec<T> y) {
+  using F = lane::Format<T>;
+  const auto near = min(abs(x - all(T(1))), all(T(1)));
+  const auto far = abs(getexp(x) + all(T(0.5))) - all(T(0.5));
+  return le(all(T(F::bias + F::fraction_bits + 20)), max(near, far) * abs(y));
 }
 
 // The second path for any arguments. magnitude_of is the power of finite numbers, the first positive, neither power trivial; it
@@ -154,10 +171,11 @@ LUM_INLINE Finished<T> PowerSecondPath(Vec<T> x, Vec<T> y, const Lanes<T>& lanes
   const auto zero = fpclass<classes::zero>(x), infinite = fpclass<classes::infinity>(x) | fpclass<classes::infinity>(y);
   const auto is_unit = eq(magnitude, all(T(1))) & whole;
   const auto fractional = x_negative & ~whole & ~zero & ~infinite;
-  const auto settled = one | nan | zero | infinite | is_unit | fractional;
+  const auto settled = one | nan | zero | infinite | is_unit | fractional | IsFar(magnitude, y);
   const auto general = lanes.refused & ~settled;
 
-  // Zeros, infinities and units: 0, 1 or an infinity with the sign. Growing is x away from 1 to the side that y enlarges.
+  // Zeros, infinities, far powers and units: 0, 1 or an infinity with the sign. Growing is x away from 1 to the side that y
+  // enlarges.
   const auto grows = le(all(T(1)), magnitude) ^ y_negative;
   auto value = zero_unless(grows, all(std::numeric_limits<T>::infinity()));
   value = select(is_unit, all(T(1)), value);
