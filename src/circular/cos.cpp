@@ -19,7 +19,7 @@ using namespace circular;
 struct Float : Kernel<Lum32f> {
   static constexpr bool second_in_all_layers = true;
   static LUM_INLINE Finished<Lum32f> SecondPath(Vec<Lum32f> x, const Lanes<Lum32f>& lanes) {
-    return MergeLarge(x, lanes, LargeCosine(x));
+    return MergeLarge(x, lanes, LargeCosine<Lum32f>);
   }
   static LumStatus LaneRoutine(Lum32f x, Lum32f& result) { return CircularOfNonFinite(x, result); }
 };
@@ -70,7 +70,7 @@ struct A24_32f : Float {
 struct Double : Kernel<Lum64f> {
   static constexpr bool second_in_all_layers = true;
   static LUM_INLINE Finished<Lum64f> SecondPath(Vec<Lum64f> x, const Lanes<Lum64f>& lanes) {
-    return MergeLarge(x, lanes, LargeCosine(x));
+    return MergeLarge(x, lanes, LargeCosine<Lum64f>);
   }
   static LumStatus LaneRoutine(Lum64f x, Lum64f& result) { return CircularOfNonFinite(x, result); }
 };

@@ -21,9 +21,13 @@ template <class T> LUM_INLINE Vec<T> SelectNonFinite(Vec<T> x, Vec<T> other) {
   return select(fpclass<classes::nonfinite>(x), factor * select(is_nan, factor, all(T(0))), other);
 }
 
-// The results of the second path in the refused lanes.
-template <class T> LUM_INLINE Finished<T> MergeLarge(Vec<T> x, const Lanes<T>& lanes, Vec<T> large) {
-  const auto value = select(lanes.refused, large, lanes.value);
+// Whether any of these lanes needs the reduction of a large argument.
+template <class T> LUM_INLINE bool AnyFinite(Mask<T> lanes, Vec<T> x) { return any(lanes & ~fpclass<classes::nonfinite>(x)); }
+
+// The results of the second path in the refused lanes; large gives those of finite numbers.
+template <class T, class Large> LUM_INLINE Finished<T> MergeLarge(Vec<T> x, const Lanes<T>& lanes, Large large) {
+  auto value = lanes.value;
+  if (AnyFinite(lanes.refused, x)) value = select(lanes.refused, large(x), value);
   return {SelectNonFinite(x, value), mask_of<T>(0), {.domain = fpclass<classes::infinity>(x)}};
 }
 

@@ -19,7 +19,7 @@ using namespace circular;
 struct Float : Kernel<Lum32f> {
   static constexpr bool second_in_all_layers = true;
   static LUM_INLINE Finished<Lum32f> SecondPath(Vec<Lum32f> x, const Lanes<Lum32f>& lanes) {
-    return MergeLarge(x, lanes, LargeSine(x));
+    return MergeLarge(x, lanes, LargeSine<Lum32f>);
   }
   static LumStatus LaneRoutine(Lum32f x, Lum32f& result) { return CircularOfNonFinite(x, result); }
 };
@@ -70,15 +70,17 @@ struct A26_64f : Kernel<Lum64f> {
     return SineAndCosine(x, result, cosine);
   }
   static LUM_INLINE Finished<Lum64f> SecondPath(Vec<Lum64f> x, const Lanes<Lum64f>& lanes) {
-    const auto a = ReduceBeyondThreshold(x, lanes.refused & ~fpclass<classes::nonfinite>(x));
-    return MergeLarge(x, lanes, SineOf(a));
+    const auto beyond = lanes.refused & ~fpclass<classes::nonfinite>(x);
+    return MergeLarge(
+        x, lanes, [&](Vec<Lum64f> v) __attribute__((always_inline)) { return SineOf(ReduceBeyondThreshold(v, beyond)); });
   }
 };
 
 struct Double : Kernel<Lum64f> {
   static constexpr bool second_in_all_layers = true;
   static LUM_INLINE Finished<Lum64f> SecondPath(Vec<Lum64f> x, const Lanes<Lum64f>& lanes) {
-    return MergeLarge(x, lanes, LargeSine(x) ^ sign_of(x));
+    return MergeLarge(
+        x, lanes, [](Vec<Lum64f> v) __attribute__((always_inline)) { return LargeSine(v) ^ sign_of(v); });
   }
   static LumStatus LaneRoutine(Lum64f x, Lum64f& result) { return CircularOfNonFinite(x, result); }
 };
