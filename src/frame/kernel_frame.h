@@ -124,11 +124,10 @@ LUM_INLINE void TakeLastReport(ReportBits reports, Call& call) {
   if (reports.word != 0) call.status = reports.Of(std::bit_width(reports.Reporting()) - 1);
 }
 
-// A full block by both paths; true where the first one refused lanes of it.
-template <class K, int n, int m, size_t... v>
-LUM_INLINE bool BlockOfBothPaths(const K& kernel, const Arrays<K, n, m>& arrays, int64_t first, Call& call,
-                                 std::index_sequence<v...>) {
-  const std::array r{ComputeBoth<K, n, m>(kernel, LoadStep<K, n, m>(arrays, first + static_cast<int64_t>(v) * step_of<K>))...};
+// A full block of which both paths have made r; true where the first one refused lanes of it.
+template <class K, int n, int m, class Both, size_t... v>
+LUM_INLINE bool FinishBlock(const K& kernel, const Arrays<K, n, m>& arrays, int64_t first, Call& call, const Both& r,
+                            std::index_sequence<v...>) {
   constexpr uint32_t all_lanes = (1u << step_of<K>)-1u;
   if (AnyRemaining((r[v].remaining | ...)) || (!element_hook_is_empty && (r[v].reports.word | ...) != 0)) [[unlikely]] {
     SpilledBlock<K, n, m> block;
@@ -141,6 +140,22 @@ LUM_INLINE bool BlockOfBothPaths(const K& kernel, const Arrays<K, n, m>& arrays,
     (StoreElements(arrays.dst[j] + first + static_cast<int64_t>(v) * step_of<K>, r[v].values[j]), ...);
   }
   return (r[v].any_refused || ...);
+}
+// A full block by both paths; true where the first one refused lanes of it.
+template <class K, int n, int m, size_t... v>
+LUM_INLINE bool BlockOfBothPaths(const K& kernel, const Arrays<K, n, m>& arrays, int64_t first, Call& call,
+                                 std::index_sequence<v...>) {
+  const auto step = [&](size_t i) __attribute__((always_inline)) {
+    return LoadStep<K, n, m>(arrays, first + static_cast<int64_t>(i) * step_of<K>);
+  };
+  if constexpr (HasSecondPath<K> && vectors_fit_registers && K::second_is_short && K::hides_refused &&
+                std::is_floating_point_v<typename K::Input>) {
+    if (has_all_elements((Compute<K, n>(kernel, step(v)).refused & ...)))
+      return FinishBlock<K, n, m>(kernel, arrays, first, call, std::array{ComputeSecondAlone<K, n, m>(kernel, step(v))...},
+                                  std::index_sequence<v...>());
+  }
+  return FinishBlock<K, n, m>(kernel, arrays, first, call, std::array{ComputeBoth<K, n, m>(kernel, step(v))...},
+                              std::index_sequence<v...>());
 }
 
 // The refused elements of some vectors are packed side by side where the second path is long, which then runs over them alone.
@@ -175,17 +190,33 @@ LUM_INLINE bool FinishPackedVectors(const K& kernel, int elements, PackedElement
   constexpr int step = step_of<K>;
   bool is_cold = false;
   for (int j = 0; j < n; ++j) store(&packed.inputs[j][elements], all(T(K::fill)));
-  for (int v = 0; v * step < elements; ++v) {
-    const int count = std::min(step, elements - v * step);
+  const auto count_of = [&](int v) __attribute__((always_inline)) { return std::min(elements - v * step, step); };
+  const auto inputs_of = [&](int v) __attribute__((always_inline)) {
     Inputs<K, n> x;
     for (int j = 0; j < n; ++j) x[j] = load(&packed.inputs[j][v * step]);
-    decltype(Compute<K, n>(kernel, x)) refused_alone{};
-    refused_alone.refused = first_lanes<T>(count);
-    const auto r = ComputeSecond<K, n, m>(kernel, x, refused_alone);
-    Spill<K, n, m>(x, r, v, (1u << count) - 1u, packed);
+    return x;
+  };
+  const auto refused_alone = [&](int v) __attribute__((always_inline)) {
+    decltype(Compute<K, n>(kernel, inputs_of(v))) r{};
+    r.refused = first_lanes<T>(count_of(v));
+    return r;
+  };
+  using Both = decltype(ComputeSecond<K, n, m>(kernel, inputs_of(0), refused_alone(0)));
+  const auto take = [&](int v, const Both& r) __attribute__((always_inline)) {
+    Spill<K, n, m>(inputs_of(v), r, v, (1u << count_of(v)) - 1u, packed);
     TakeLastReport(packed.reports[v], call);
     is_cold = is_cold || packed.refused[v] != 0 || (!element_hook_is_empty && packed.reports[v].word != 0);
+  };
+  int v = 0;
+  if constexpr (FinishesTwo<K>) {
+    for (; (v + 1) * step < elements; v += 2) {
+      const auto r = CalledFinishTwo<K, n, m>(kernel, {inputs_of(v), inputs_of(v + 1)},
+                                              std::array{refused_alone(v), refused_alone(v + 1)});
+      take(v, r[0]);
+      take(v + 1, r[1]);
+    }
   }
+  for (; v * step < elements; ++v) take(v, ComputeSecond<K, n, m>(kernel, inputs_of(v), refused_alone(v)));
   return is_cold;
 }
 
