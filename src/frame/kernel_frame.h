@@ -333,10 +333,20 @@ LUM_INLINE void TailStep(const K& kernel, const Arrays<K, n, m>& arrays, int64_t
   StoreStep<K, n, m>(arrays, i, count, result);
 }
 
+// Elements of dst up to the first one at a whole vector's alignment: in a long array of a function that takes no longer than
+// the memory, stores that cross cache lines are what is slow.
+template <class K, class T> LUM_INLINE int CountToAlignment(const T* dst, int64_t len) {
+  constexpr size_t alignment = 64;
+  if (!K::aligns_stores || !vectors_fit_registers || len < 16 * block_of<K>) return 0;
+  const size_t behind = reinterpret_cast<uintptr_t>(dst) % alignment;
+  return behind % sizeof(T) != 0 ? 0 : static_cast<int>((alignment - behind) % alignment / sizeof(T));
+}
+
 // The environment, the blocks and the tail of a call whose arguments are good.
 template <class K, int n, int m> LUM_INLINE LumStatus RunChecked(const K& kernel, const Arrays<K, n, m>& arrays, int64_t len) {
   Call call{Enter<K::variant>()};
-  int64_t i = 0;
+  int64_t i = CountToAlignment<K>(arrays.dst[0], len);
+  if (i != 0) TailStep<K, n, m>(kernel, arrays, 0, static_cast<int>(i), call);
   while (i + block_of<K> <= len) i = Block<K, n, m>(kernel, arrays, i, len, call, std::make_index_sequence<vectors_of<K>>());
   for (; i < len; i += step_of<K>) {
     TailStep<K, n, m>(kernel, arrays, i, static_cast<int>(std::min<int64_t>(step_of<K>, len - i)), call);

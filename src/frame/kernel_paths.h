@@ -17,7 +17,8 @@
 //     Optional, beside SecondPath: the same of two vectors, for a long chain of operations, of which the processor overlaps
 //     two.
 // Constants that a kernel may override: variant, vectors (in a block), fill (of inactive lanes: never to be refused), is_short
-// (a vector path of a few operations, which is inlined in either layer), and those of the second path:
+// (a vector path of a few operations, which is inlined in either layer), aligns_stores (a function that takes no longer than
+// the memory, whose long arrays begin with the elements up to the first aligned one), and those of the second path:
 //   second_is_short: a few operations, so that it costs less to run it than to see whether a vector needs it, or to bring the
 //   refused elements of several vectors together.
 //   second_is_shared: its long part is a function that the kernels of several tags share, so that the rest may stand inline.
@@ -46,6 +47,7 @@ template <class InputElement, class OutputElement = InputElement> struct Kernel 
   static constexpr Variant variant = common_variant;
   static constexpr int vectors = 2;
   static constexpr bool is_short = false;
+  static constexpr bool aligns_stores = false;
   static constexpr Real<Input> fill = Real<Input>(0.75);
   static constexpr bool second_is_short = false;
   static constexpr bool second_is_shared = false;
