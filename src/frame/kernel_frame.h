@@ -231,11 +231,22 @@ LUM_INLINE int VectorsOfBothPaths(const K& kernel, const Arrays<K, n, m>& arrays
   int elements = 0;
   for (int v = 0; v < count; ++v) {
     const auto x = LoadStep<K, n, m>(arrays, first + v * step);
-    const auto r = ComputeFirst<K, n>(kernel, x);
-    refused[v] = to_bits(r.refused);
-    if (refused[v] == all_lanes) {  // has no need for the first path's values
+    // Has no need for the first path's values.
+    const auto pack_all = [&]() __attribute__((always_inline)) {
+      refused[v] = all_lanes;
       for (int j = 0; j < n; ++j) store(&packed.inputs[j][elements], x[j]);
       elements += step;
+    };
+    if constexpr (K::refuses_by_class) {
+      if (v > 0 && refused[v - 1] == all_lanes && has_all_elements(Compute<K, n>(kernel, x).refused)) {
+        pack_all();
+        continue;
+      }
+    }
+    const auto r = ComputeFirst<K, n>(kernel, x);
+    refused[v] = to_bits(r.refused);
+    if (refused[v] == all_lanes) {
+      pack_all();
       continue;
     }
     StoreStep<K, n, m>(arrays, first + v * step, r);
@@ -336,8 +347,8 @@ LUM_INLINE void TailStep(const K& kernel, const Arrays<K, n, m>& arrays, int64_t
 // Elements of dst up to the first one at a whole vector's alignment: in a long array of a function that takes no longer than
 // the memory, stores that cross cache lines are what is slow.
 template <class K, class T> LUM_INLINE int CountToAlignment(const T* dst, int64_t len) {
-  constexpr size_t alignment = 64;
-  if (!K::aligns_stores || !vectors_fit_registers || len < 16 * block_of<K>) return 0;
+  constexpr size_t alignment = 64, long_array = 4096;  // bytes
+  if (!K::aligns_stores || !vectors_fit_registers || len < static_cast<int64_t>(long_array / sizeof(T))) return 0;
   const size_t behind = reinterpret_cast<uintptr_t>(dst) % alignment;
   return behind % sizeof(T) != 0 ? 0 : static_cast<int>((alignment - behind) % alignment / sizeof(T));
 }

@@ -21,6 +21,8 @@
 // the memory, whose long arrays begin with the elements up to the first aligned one), and those of the second path:
 //   second_is_short: a few operations, so that it costs less to run it than to see whether a vector needs it, or to bring the
 //   refused elements of several vectors together.
+//   refuses_by_class: what the first path refuses is known from the arguments by a few operations, so that clusters of special
+//     arguments may be spared it.
 //   second_is_shared: its long part is a function that the kernels of several tags share, so that the rest may stand inline.
 //   hides_refused: the processor would stop at denormal numbers that the first path makes of refused arguments, so the loop
 //     over both paths has the fill in their place.
@@ -51,6 +53,7 @@ template <class InputElement, class OutputElement = InputElement> struct Kernel 
   static constexpr Real<Input> fill = Real<Input>(0.75);
   static constexpr bool second_is_short = false;
   static constexpr bool second_is_shared = false;
+  static constexpr bool refuses_by_class = false;
   static constexpr bool hides_refused = false;
   static constexpr bool second_in_all_layers = false;
   static constexpr bool hook_has_first_source_only = false;  // in the place of the second, too
