@@ -13,6 +13,7 @@ using namespace arith;
 template <class T> struct PlainKernel : Kernel<T> {
   static constexpr Variant variant = pure_vector_variant;
   static constexpr int vectors = 4;
+  static constexpr bool aligns_stores = true;
 };
 
 // Adding +0 changes no number, and quiets a signalling NaN.

@@ -15,6 +15,7 @@ constexpr int to_integer = binary_places(0);
 template <class T> struct PlainKernel : Kernel<T> {
   static constexpr Variant variant = pure_vector_variant;
   static constexpr int vectors = 4;
+  static constexpr bool aligns_stores = true;
 };
 
 template <class T, int how> struct ToInteger : PlainKernel<T> {
@@ -42,6 +43,7 @@ template <class T> LUM_INLINE Vec<T> FractionOfNonFinite(Vec<T> x, Mask<T> non_f
 
 // Infinities and NaN are refused, since x - x would be a NaN there.
 template <class T> struct FracKernel : Kernel<T> {
+  static constexpr bool aligns_stores = true;
   static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) {
     return {Fraction(x, rndscale<to_integer | rz | quiet>(x)), fpclass<classes::nonfinite>(x)};
   }
@@ -53,6 +55,7 @@ template <class T> struct FracKernel : Kernel<T> {
 };
 
 template <class T> struct ModfKernel : Kernel<T> {
+  static constexpr bool aligns_stores = true;
   static LUM_INLINE TwoLanes<T> VectorPath(Vec<T> x) {
     const auto whole = rndscale<to_integer | rz | quiet>(x);
     return {whole, Fraction(x, whole), fpclass<classes::nonfinite>(x)};

@@ -19,7 +19,14 @@ using namespace circular;
 struct Float : Kernel<Lum32f> {
   static constexpr bool second_in_all_layers = true;
   static LUM_INLINE Finished<Lum32f> SecondPath(Vec<Lum32f> x, const Lanes<Lum32f>& lanes) {
-    return MergeLarge(x, lanes, LargeCosine(x));
+    return MergeLarge(
+        x, lanes, [](Vec<Lum32f> v) __attribute__((always_inline)) { return LargeCosine<Lum32f>(v); });
+  }
+  using Vectors = TwoVectors<Lum32f>;
+  static LUM_INLINE std::array<Finished<Lum32f>, 2> SecondPathOfTwo(const Vectors& x,
+                                                                    const std::array<Lanes<Lum32f>, 2>& lanes) {
+    return MergeLarge(
+        x, lanes, [](const Vectors& v) __attribute__((always_inline)) { return LargeCosine<Lum32f>(v); });
   }
   static LumStatus LaneRoutine(Lum32f x, Lum32f& result) { return CircularOfNonFinite(x, result); }
 };
@@ -70,7 +77,14 @@ struct A24_32f : Float {
 struct Double : Kernel<Lum64f> {
   static constexpr bool second_in_all_layers = true;
   static LUM_INLINE Finished<Lum64f> SecondPath(Vec<Lum64f> x, const Lanes<Lum64f>& lanes) {
-    return MergeLarge(x, lanes, LargeCosine(x));
+    return MergeLarge(
+        x, lanes, [](Vec<Lum64f> v) __attribute__((always_inline)) { return LargeCosine<Lum64f>(v); });
+  }
+  using Vectors = TwoVectors<Lum64f>;
+  static LUM_INLINE std::array<Finished<Lum64f>, 2> SecondPathOfTwo(const Vectors& x,
+                                                                    const std::array<Lanes<Lum64f>, 2>& lanes) {
+    return MergeLarge(
+        x, lanes, [](const Vectors& v) __attribute__((always_inline)) { return LargeCosine<Lum64f>(v); });
   }
   static LumStatus LaneRoutine(Lum64f x, Lum64f& result) { return CircularOfNonFinite(x, result); }
 };

@@ -4,6 +4,7 @@
 // an angle from a table, the rest is a small remainder in radians.
 #pragma once
 
+#include <array>
 #include <cstdint>
 
 #include "circular/polynomials.h"
@@ -89,11 +90,10 @@ template <class T> struct LargeAngle {
   Vec<T> hi, lo;
 };
 
-template <class T> LUM_STAGE LargeAngle<T> ReduceLarge(VecIn<T> x, VecIn<UnsignedOf<T>> sign) {
+template <class T> LUM_INLINE LargeAngle<T> AngleOfTurns(const TurnBits<UnsignedOf<T>>& turns, Vec<UnsignedOf<T>> sign) {
   using C = LargeConstants<T>;
   using F = lane::Format<T>;
   constexpr int width = F::width, p = F::fraction_bits, rest = 2 * (width - p);
-  const auto turns = TurnsOf(x);
   // Numbers from bits: a unit with the bits as its fraction, less the unit. All differences are exact.
   const auto unit = [&](int exponent) { return all(lane::to_bits(lane::power_of_two<T>(exponent))) | sign; };
   const auto z = as_float(shift_right<width - p>(turns.high) | unit(0));
@@ -109,6 +109,9 @@ template <class T> LUM_STAGE LargeAngle<T> ReduceLarge(VecIn<T> x, VecIn<Unsigne
   const auto hi = g * all(C::turn);
   const auto lo = fma(all(C::turn), e, fma(all(C::turn_tail), g, fms(all(C::turn), g, hi)));
   return {bits(s) & all(C::index_mask), hi, lo};
+}
+template <class T> LUM_STAGE LargeAngle<T> ReduceLarge(VecIn<T> x, VecIn<UnsignedOf<T>> sign) {
+  return AngleOfTurns<T>(TurnsOf<T>(x), sign);
 }
 
 // sin(index + hi + lo), by the addition theorem with polynomials for the sine and cosine of hi.
@@ -154,6 +157,22 @@ template <class T> LUM_INLINE Vec<T> LargeSine(Vec<T> x) {
 template <class T> LUM_INLINE Vec<T> LargeCosine(Vec<T> x) {
   const auto a = ReduceLarge(x);
   return CosineOf(a.index, a.hi, a.lo);
+}
+
+// The same of two vectors stage by stage: one is a long chain of operations, and the processor overlaps two.
+template <class T> using TwoVectors = std::array<Vec<T>, 2>;
+template <class T> LUM_INLINE std::array<LargeAngle<T>, 2> ReduceLarge(const TwoVectors<T>& x) {
+  const auto sign = [](Vec<T> v) __attribute__((always_inline)) { return sizeof(T) == 8 ? all(UnsignedOf<T>{0}) : sign_of(v); };
+  const auto turns0 = TurnsOf<T>(x[0]), turns1 = TurnsOf<T>(x[1]);
+  return {AngleOfTurns<T>(turns0, sign(x[0])), AngleOfTurns<T>(turns1, sign(x[1]))};
+}
+template <class T> LUM_INLINE TwoVectors<T> LargeSine(const TwoVectors<T>& x) {
+  const auto [a, b] = ReduceLarge<T>(x);
+  return {SineOf(a.index, a.hi, a.lo), SineOf(b.index, b.hi, b.lo)};
+}
+template <class T> LUM_INLINE TwoVectors<T> LargeCosine(const TwoVectors<T>& x) {
+  const auto [a, b] = ReduceLarge<T>(x);
+  return {CosineOf<T>(a.index, a.hi, a.lo), CosineOf<T>(b.index, b.hi, b.lo)};
 }
 
 }  // namespace lum::inline LUM_LAYER::circular

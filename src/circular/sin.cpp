@@ -19,7 +19,14 @@ using namespace circular;
 struct Float : Kernel<Lum32f> {
   static constexpr bool second_in_all_layers = true;
   static LUM_INLINE Finished<Lum32f> SecondPath(Vec<Lum32f> x, const Lanes<Lum32f>& lanes) {
-    return MergeLarge(x, lanes, LargeSine(x));
+    return MergeLarge(
+        x, lanes, [](Vec<Lum32f> v) __attribute__((always_inline)) { return LargeSine<Lum32f>(v); });
+  }
+  using Vectors = TwoVectors<Lum32f>;
+  static LUM_INLINE std::array<Finished<Lum32f>, 2> SecondPathOfTwo(const Vectors& x,
+                                                                    const std::array<Lanes<Lum32f>, 2>& lanes) {
+    return MergeLarge(
+        x, lanes, [](const Vectors& v) __attribute__((always_inline)) { return LargeSine<Lum32f>(v); });
   }
   static LumStatus LaneRoutine(Lum32f x, Lum32f& result) { return CircularOfNonFinite(x, result); }
 };
@@ -70,15 +77,26 @@ struct A26_64f : Kernel<Lum64f> {
     return SineAndCosine(x, result, cosine);
   }
   static LUM_INLINE Finished<Lum64f> SecondPath(Vec<Lum64f> x, const Lanes<Lum64f>& lanes) {
-    const auto a = ReduceBeyondThreshold(x, lanes.refused & ~fpclass<classes::nonfinite>(x));
-    return MergeLarge(x, lanes, SineOf(a));
+    const auto beyond = lanes.refused & ~fpclass<classes::nonfinite>(x);
+    return MergeLarge(
+        x, lanes, [&](Vec<Lum64f> v) __attribute__((always_inline)) { return SineOf(ReduceBeyondThreshold(v, beyond)); });
   }
 };
 
 struct Double : Kernel<Lum64f> {
   static constexpr bool second_in_all_layers = true;
   static LUM_INLINE Finished<Lum64f> SecondPath(Vec<Lum64f> x, const Lanes<Lum64f>& lanes) {
-    return MergeLarge(x, lanes, LargeSine(x) ^ sign_of(x));
+    return MergeLarge(
+        x, lanes, [](Vec<Lum64f> v) __attribute__((always_inline)) { return LargeSine(v) ^ sign_of(v); });
+  }
+  using Vectors = TwoVectors<Lum64f>;
+  static LUM_INLINE std::array<Finished<Lum64f>, 2> SecondPathOfTwo(const Vectors& x,
+                                                                    const std::array<Lanes<Lum64f>, 2>& lanes) {
+    return MergeLarge(
+        x, lanes, [](const Vectors& v) __attribute__((always_inline)) {
+          const auto [sine0, sine1] = LargeSine<Lum64f>(v);
+          return Vectors{sine0 ^ sign_of(v[0]), sine1 ^ sign_of(v[1])};
+        });
   }
   static LumStatus LaneRoutine(Lum64f x, Lum64f& result) { return CircularOfNonFinite(x, result); }
 };

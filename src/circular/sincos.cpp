@@ -20,9 +20,14 @@ template <class Tier> struct Plain : Kernel<typename Tier::Element> {
 template <class Tier> struct WithLarge : Plain<Tier> {
   static constexpr bool second_in_all_layers = true;
   using T = typename Tier::Element;
-  static LUM_INLINE TwoFinished<T> SecondPath(Vec<T> x, const TwoLanes<T>&) {
-    const auto v = Tier::Large(x);
+  static LUM_INLINE TwoFinished<T> SecondPath(Vec<T> x, const TwoLanes<T>& lanes) {
+    SineAndCosineValues<T> v{lanes.value1, lanes.value2, lanes.refused};
+    if (AnyFinite(lanes.refused, x)) v = LargeValues(x, v);
     return {SelectNonFinite(x, v.sine), SelectNonFinite(x, v.cosine), mask_of<T>(0), {.domain = fpclass<classes::infinity>(x)}};
+  }
+  static LUM_INLINE SineAndCosineValues<T> LargeValues(Vec<T> x, const SineAndCosineValues<T>& ordinary) {
+    if constexpr (sizeof(T) == 8) return MergeLarge(x, ordinary);
+    else return Tier::Large(x);
   }
 };
 
@@ -32,11 +37,14 @@ struct A21_32f : WithLarge<QuarterTurns_A21> {};
 struct A24_32f : WithLarge<QuarterTurns_A24> {};
 struct A26_64f : Plain<SineAndCosine_A26> {
   static LUM_INLINE TwoFinished<T> SecondPath(Vec<T> x, const TwoLanes<T>& lanes) {
-    const auto a = ReduceBeyondThreshold(x, lanes.refused & ~fpclass<classes::nonfinite>(x));
-    return {SelectNonFinite(x, select(lanes.refused, SineOf(a), lanes.value1)),
-            SelectNonFinite(x, select(lanes.refused, CosineOf(a), lanes.value2)),
-            mask_of<T>(0),
-            {.domain = fpclass<classes::infinity>(x)}};
+    const auto beyond = lanes.refused & ~fpclass<classes::nonfinite>(x);
+    auto sine = lanes.value1, cosine = lanes.value2;
+    if (any(beyond)) {
+      const auto a = ReduceBeyondThreshold(x, beyond);
+      sine = select(lanes.refused, SineOf(a), sine);
+      cosine = select(lanes.refused, CosineOf(a), cosine);
+    }
+    return {SelectNonFinite(x, sine), SelectNonFinite(x, cosine), mask_of<T>(0), {.domain = fpclass<classes::infinity>(x)}};
   }
 };
 struct A50_64f : WithLarge<SineAndCosine_A50> {};

@@ -102,13 +102,18 @@ template <class Tier, class T> struct Tangent : Kernel<T> {
     return {Tier::Evaluate(Tier::Reduce(x)), nle(abs(x), all(T{Tier::threshold}))};
   }
   static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) {
+    auto value = lanes.value;
+    if (AnyFinite(lanes.refused, x)) value = LargeTangent(x, lanes.refused);
+    return {SelectNonFinite(x, value), mask_of<T>(0), {.domain = fpclass<classes::infinity>(x)}};
+  }
+  // Of all lanes, those of the mask being large.
+  static LUM_INLINE Vec<T> LargeTangent(Vec<T> x, Mask<T> at) {
     const auto ordinary = Tier::Reduce(x);
     auto large = ReduceLargeToTable(x);
     if constexpr (!Tier::has_tails) large = {large.hi + large.lo, large.lo, large.k};
-    const auto at = lanes.refused;
     const Reduced<T> merged{select(at, large.hi, ordinary.hi), select(at, large.lo, ordinary.lo),
                             select(mask_cast<UnsignedOf<T>>(at), large.k, ordinary.k)};
-    return {SelectNonFinite(x, Tier::Evaluate(merged)), mask_of<T>(0), {.domain = fpclass<classes::infinity>(x)}};
+    return Tier::Evaluate(merged);
   }
   static LumStatus LaneRoutine(T x, T& result) { return CircularOfNonFinite(x, result); }
 };

@@ -124,11 +124,10 @@ LUM_INLINE void TakeLastReport(ReportBits reports, Call& call) {
   if (reports.word != 0) call.status = reports.Of(std::bit_width(reports.Reporting()) - 1);
 }
 
-// A full block by both paths; true where the first one refused lanes of it.
-template <class K, int n, int m, size_t... v>
-LUM_INLINE bool BlockOfBothPaths(const K& kernel, const Arrays<K, n, m>& arrays, int64_t first, Call& call,
-                                 std::index_sequence<v...>) {
-  const std::array r{ComputeBoth<K, n, m>(kernel, LoadStep<K, n, m>(arrays, first + static_cast<int64_t>(v) * step_of<K>))...};
+// A full block of which both paths have made r; true where the first one refused lanes of it.
+template <class K, int n, int m, class Both, size_t... v>
+LUM_INLINE bool FinishBlock(const K& kernel, const Arrays<K, n, m>& arrays, int64_t first, Call& call, const Both& r,
+                            std::index_sequence<v...>) {
   constexpr uint32_t all_lanes = (1u << step_of<K>)-1u;
   if (AnyRemaining((r[v].remaining | ...)) || (!element_hook_is_empty && (r[v].reports.word | ...) != 0)) [[unlikely]] {
     SpilledBlock<K, n, m> block;
@@ -141,6 +140,22 @@ LUM_INLINE bool BlockOfBothPaths(const K& kernel, const Arrays<K, n, m>& arrays,
     (StoreElements(arrays.dst[j] + first + static_cast<int64_t>(v) * step_of<K>, r[v].values[j]), ...);
   }
   return (r[v].any_refused || ...);
+}
+// A full block by both paths; true where the first one refused lanes of it.
+template <class K, int n, int m, size_t... v>
+LUM_INLINE bool BlockOfBothPaths(const K& kernel, const Arrays<K, n, m>& arrays, int64_t first, Call& call,
+                                 std::index_sequence<v...>) {
+  const auto step = [&](size_t i) __attribute__((always_inline)) {
+    return LoadStep<K, n, m>(arrays, first + static_cast<int64_t>(i) * step_of<K>);
+  };
+  if constexpr (HasSecondPath<K> && vectors_fit_registers && K::second_is_short && K::hides_refused &&
+                std::is_floating_point_v<typename K::Input>) {
+    if (has_all_elements((Compute<K, n>(kernel, step(v)).refused & ...)))
+      return FinishBlock<K, n, m>(kernel, arrays, first, call, std::array{ComputeSecondAlone<K, n, m>(kernel, step(v))...},
+                                  std::index_sequence<v...>());
+  }
+  return FinishBlock<K, n, m>(kernel, arrays, first, call, std::array{ComputeBoth<K, n, m>(kernel, step(v))...},
+                              std::index_sequence<v...>());
 }
 
 // The refused elements of some vectors are packed side by side where the second path is long, which then runs over them alone.
@@ -175,17 +190,33 @@ LUM_INLINE bool FinishPackedVectors(const K& kernel, int elements, PackedElement
   constexpr int step = step_of<K>;
   bool is_cold = false;
   for (int j = 0; j < n; ++j) store(&packed.inputs[j][elements], all(T(K::fill)));
-  for (int v = 0; v * step < elements; ++v) {
-    const int count = std::min(step, elements - v * step);
+  const auto count_of = [&](int v) __attribute__((always_inline)) { return std::min(elements - v * step, step); };
+  const auto inputs_of = [&](int v) __attribute__((always_inline)) {
     Inputs<K, n> x;
     for (int j = 0; j < n; ++j) x[j] = load(&packed.inputs[j][v * step]);
-    decltype(Compute<K, n>(kernel, x)) refused_alone{};
-    refused_alone.refused = first_lanes<T>(count);
-    const auto r = ComputeSecond<K, n, m>(kernel, x, refused_alone);
-    Spill<K, n, m>(x, r, v, (1u << count) - 1u, packed);
+    return x;
+  };
+  const auto refused_alone = [&](int v) __attribute__((always_inline)) {
+    decltype(Compute<K, n>(kernel, inputs_of(v))) r{};
+    r.refused = first_lanes<T>(count_of(v));
+    return r;
+  };
+  using Both = decltype(ComputeSecond<K, n, m>(kernel, inputs_of(0), refused_alone(0)));
+  const auto take = [&](int v, const Both& r) __attribute__((always_inline)) {
+    Spill<K, n, m>(inputs_of(v), r, v, (1u << count_of(v)) - 1u, packed);
     TakeLastReport(packed.reports[v], call);
     is_cold = is_cold || packed.refused[v] != 0 || (!element_hook_is_empty && packed.reports[v].word != 0);
+  };
+  int v = 0;
+  if constexpr (FinishesTwo<K>) {
+    for (; (v + 1) * step < elements; v += 2) {
+      const auto r = CalledFinishTwo<K, n, m>(kernel, {inputs_of(v), inputs_of(v + 1)},
+                                              std::array{refused_alone(v), refused_alone(v + 1)});
+      take(v, r[0]);
+      take(v + 1, r[1]);
+    }
   }
+  for (; v * step < elements; ++v) take(v, ComputeSecond<K, n, m>(kernel, inputs_of(v), refused_alone(v)));
   return is_cold;
 }
 
@@ -200,11 +231,22 @@ LUM_INLINE int VectorsOfBothPaths(const K& kernel, const Arrays<K, n, m>& arrays
   int elements = 0;
   for (int v = 0; v < count; ++v) {
     const auto x = LoadStep<K, n, m>(arrays, first + v * step);
-    const auto r = ComputeFirst<K, n>(kernel, x);
-    refused[v] = to_bits(r.refused);
-    if (refused[v] == all_lanes) {  // has no need for the first path's values
+    // Has no need for the first path's values.
+    const auto pack_all = [&]() __attribute__((always_inline)) {
+      refused[v] = all_lanes;
       for (int j = 0; j < n; ++j) store(&packed.inputs[j][elements], x[j]);
       elements += step;
+    };
+    if constexpr (K::refuses_by_class) {
+      if (v > 0 && refused[v - 1] == all_lanes && has_all_elements(Compute<K, n>(kernel, x).refused)) {
+        pack_all();
+        continue;
+      }
+    }
+    const auto r = ComputeFirst<K, n>(kernel, x);
+    refused[v] = to_bits(r.refused);
+    if (refused[v] == all_lanes) {
+      pack_all();
       continue;
     }
     StoreStep<K, n, m>(arrays, first + v * step, r);
@@ -302,10 +344,20 @@ LUM_INLINE void TailStep(const K& kernel, const Arrays<K, n, m>& arrays, int64_t
   StoreStep<K, n, m>(arrays, i, count, result);
 }
 
+// Elements of dst up to the first one at a whole vector's alignment: in a long array of a function that takes no longer than
+// the memory, stores that cross cache lines are what is slow.
+template <class K, class T> LUM_INLINE int CountToAlignment(const T* dst, int64_t len) {
+  constexpr size_t alignment = 64, long_array = 4096;  // bytes
+  if (!K::aligns_stores || !vectors_fit_registers || len < static_cast<int64_t>(long_array / sizeof(T))) return 0;
+  const size_t behind = reinterpret_cast<uintptr_t>(dst) % alignment;
+  return behind % sizeof(T) != 0 ? 0 : static_cast<int>((alignment - behind) % alignment / sizeof(T));
+}
+
 // The environment, the blocks and the tail of a call whose arguments are good.
 template <class K, int n, int m> LUM_INLINE LumStatus RunChecked(const K& kernel, const Arrays<K, n, m>& arrays, int64_t len) {
   Call call{Enter<K::variant>()};
-  int64_t i = 0;
+  int64_t i = CountToAlignment<K>(arrays.dst[0], len);
+  if (i != 0) TailStep<K, n, m>(kernel, arrays, 0, static_cast<int>(i), call);
   while (i + block_of<K> <= len) i = Block<K, n, m>(kernel, arrays, i, len, call, std::make_index_sequence<vectors_of<K>>());
   for (; i < len; i += step_of<K>) {
     TailStep<K, n, m>(kernel, arrays, i, static_cast<int>(std::min<int64_t>(step_of<K>, len - i)), call);

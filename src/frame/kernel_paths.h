@@ -13,10 +13,16 @@
 //     Optional: a vector path for the lanes that the first one refuses. Given what VectorPath returned, it returns the same
 //     with values in the lanes that it finishes and the mask of those that remain for the lane routine; as Finished<Output>,
 //     also the lanes that report, by status. Values and statuses are those of the lane routine.
+//   SecondPathOfTwo({x...}, {lanes...})
+//     Optional, beside SecondPath: the same of two vectors, for a long chain of operations, of which the processor overlaps
+//     two.
 // Constants that a kernel may override: variant, vectors (in a block), fill (of inactive lanes: never to be refused), is_short
-// (a vector path of a few operations, which is inlined in either layer), and those of the second path:
+// (a vector path of a few operations, which is inlined in either layer), aligns_stores (a function that takes no longer than
+// the memory, whose long arrays begin with the elements up to the first aligned one), and those of the second path:
 //   second_is_short: a few operations, so that it costs less to run it than to see whether a vector needs it, or to bring the
 //   refused elements of several vectors together.
+//   refuses_by_class: what the first path refuses is known from the arguments by a few operations, so that clusters of special
+//     arguments may be spared it.
 //   second_is_shared: its long part is a function that the kernels of several tags share, so that the rest may stand inline.
 //   hides_refused: the processor would stop at denormal numbers that the first path makes of refused arguments, so the loop
 //     over both paths has the fill in their place.
@@ -43,9 +49,11 @@ template <class InputElement, class OutputElement = InputElement> struct Kernel 
   static constexpr Variant variant = common_variant;
   static constexpr int vectors = 2;
   static constexpr bool is_short = false;
+  static constexpr bool aligns_stores = false;
   static constexpr Real<Input> fill = Real<Input>(0.75);
   static constexpr bool second_is_short = false;
   static constexpr bool second_is_shared = false;
+  static constexpr bool refuses_by_class = false;
   static constexpr bool hides_refused = false;
   static constexpr bool second_in_all_layers = false;
   static constexpr bool hook_has_first_source_only = false;  // in the place of the second, too
@@ -205,6 +213,19 @@ template <class K, int n, int m, class Result>
 [[gnu::noinline]] auto CalledFinishVector(const K& kernel, const Inputs<K, n>& x, const Result& r) {
   return FinishVector<K, n, m>(kernel, x, r);
 }
+// The same of two vectors.
+template <class K>
+concept FinishesTwo = packs_lanes && requires {
+  &K::SecondPathOfTwo;
+};
+template <class K, int n, int m, class Result>
+[[gnu::noinline]] auto CalledFinishTwo(const K& kernel, const std::array<Inputs<K, n>, 2>& x, const std::array<Result, 2>& r) {
+  const auto second = [&] {
+    if constexpr (n == 1) return kernel.SecondPathOfTwo({x[0][0], x[1][0]}, r);
+    else return kernel.SecondPathOfTwo({x[0][0], x[1][0]}, {x[0][1], x[1][1]}, r);
+  }();
+  return std::array{AsBothPaths<K, m>(second[0], true), AsBothPaths<K, m>(second[1], true)};
+}
 // The second path once: a long one as a function that all blocks and the tail share.
 template <class K, int n, int m, class Result>
 LUM_INLINE auto ComputeSecond(const K& kernel, const Inputs<K, n>& x, const Result& r) {
@@ -245,6 +266,13 @@ template <class K, int n, int m> LUM_INLINE auto ComputeBoth(const K& kernel, co
     if (any(first.refused)) return ComputeSecond<K, n, m>(kernel, x, first);
     return Result{Values<K, m>(first), {}, {}, false};
   }
+}
+
+// The second path of a vector whose elements the first one all refuses, without that one's values.
+template <class K, int n, int m> LUM_INLINE auto ComputeSecondAlone(const K& kernel, const Inputs<K, n>& x) {
+  std::remove_const_t<decltype(Compute<K, n>(kernel, x))> no_values{};
+  no_values.refused = ~no_values.refused;
+  return ComputeSecond<K, n, m>(kernel, x, no_values);
 }
 
 // The inputs of a vector; as one expression, since a loop would keep them in memory.

@@ -102,19 +102,20 @@ struct A24_32f : HyperbolicSine<Lum32f> {
 // 2^m; that the share of the second power, of at most 2^-55 before, grows too instead of vanishing is within the tag.
 struct A50_64f : HyperbolicSine<Lum64f> {
   static constexpr int row_bits = 7;
-  static constexpr size_t row_count = 128;
-  static constexpr auto columns = by_columns<3>(table64({
+  static constexpr uint64_t row_count = 128;
+  static constexpr auto rows = rows_of_3(table64({
 #include "tables/generated/half_exp2_64f_128.inc"
   }));
   static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
     const auto a = as_float(WithoutSign<Lum64f>(bits(x)));
     const auto [count, r] = ReduceGuarded<row_bits>(a);
-    const auto row = count & all(uint64_t{row_count - 1});
+    const auto i = count & all(row_count - 1);
+    const auto row = gather_rows<Lum64f>(rows, i + shift_left<1>(i));
     const auto exponent = ExponentPart<row_bits, Lum64f>(count);
-    const auto plus = as_float(bits(gather<Lum64f>(columns, row)) + exponent);
-    const auto minus = as_float(bits(gather(columns + row_count, row)) - exponent);
+    const auto plus = as_float(bits(row.column0) + exponent);
+    const auto minus = as_float(bits(row.column1) - exponent);
     const auto sum = plus + minus, difference = plus - minus;
-    const auto low = ((plus - difference) - minus) + as_float(bits(gather(columns + 2 * row_count, row)) + exponent);
+    const auto low = ((plus - difference) - minus) + as_float(bits(row.column2) + exponent);
     const auto r2 = r * r;
     const auto s = fma(r * r2, horner(r2, hyperbolic::sinh_A50), r);
     const auto c = r2 * horner(r2, hyperbolic::sinh_cosh_A50);

@@ -132,10 +132,11 @@ LUM_INLINE Lanes<Lum64f> AngleOfFinite(Vec<Lum64f> ay, Vec<Lum64f> ax, Mask<Lum6
   const auto difference = y.exponent - x.exponent;
   const auto steep = lt(all(60.0), difference), flat = lt(difference, all(-60.0));
   const auto near = ~(steep | flat);
-  const auto of_near = AngleOfScaled(scalef(y.significand, zero_unless(near, difference)), x.significand);
-  TwoParts<Vec<Lum64f>> r = {select(steep, all(C::angles.heads[4]), of_near.head),
-                             select(steep, all(C::angles.tails[4]), of_near.tail)};
-  r = {zero_unless(~flat, r.head), zero_unless(~flat, r.tail)};
+  TwoParts<Vec<Lum64f>> r = {zero_unless(steep, all(C::angles.heads[4])), zero_unless(steep, all(C::angles.tails[4]))};
+  if (any(near)) {
+    const auto of_near = AngleOfScaled(scalef(y.significand, zero_unless(near, difference)), x.significand);
+    r = {select(near, of_near.head, r.head), select(near, of_near.tail, r.tail)};
+  }
   auto angle = select(x_negative, PiLess(r), r.head + r.tail);
   const auto quotient = flat & ~x_negative;
   if (any(quotient)) angle = select(quotient, div(select(quotient, ay, all(0.0)), ax), angle);  // also where it is denormal

@@ -137,7 +137,13 @@ LUM_INLINE Vec<Lum64f> ExpHead(Vec<uint64_t> n) {
 LUM_INLINE Vec<Lum64f> LongExpPolynomial(Vec<Lum64f> f) { return horner_of_pairs(f, f * f, pow::exp2_A50); }
 
 template <class T> struct PowKernel : Kernel<T> {
-  static LUM_INLINE Finished<T> SecondPath(Vec<T> x, Vec<T> y, const Lanes<T>& lanes) { return PowerSecondPath(x, y, lanes); }
+  template <class V> using Two = std::array<V, 2>;
+  static LUM_INLINE Finished<T> SecondPath(Vec<T> x, Vec<T> y, const Lanes<T>& lanes) {
+    return PowerSecondPaths<T>({x}, {y}, {lanes}, std::index_sequence<0>())[0];
+  }
+  static LUM_INLINE Two<Finished<T>> SecondPathOfTwo(const Two<Vec<T>>& x, const Two<Vec<T>>& y, const Two<Lanes<T>>& lanes) {
+    return PowerSecondPaths<T>(x, y, lanes, std::index_sequence<0, 1>());
+  }
   static LumStatus LaneRoutine(T x, T y, T& result) { return PowerRoutine(x, y, result); }
 };
 

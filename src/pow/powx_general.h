@@ -63,17 +63,28 @@ template <class T> struct PowxGeneral : Kernel<T> {
     return status;
   }
   LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) const {
-    auto r = SecondPathOf(x, lanes);
+    auto r = SecondPathsOf<0>({x}, {lanes})[0];
     // Of two NaNs the element's is the result, which only a layer that orders them gives.
     if constexpr (!orders_nans) r.refused = r.refused | (unord(x, x) & unord(all(value), all(value)) & lanes.refused);
     return r;
   }
-  LUM_INLINE Finished<T> SecondPathOf(Vec<T> x, const Lanes<T>& lanes) const {
-    if constexpr (std::is_same_v<T, Lum64f>) return PowerSecondPath(x, all(value), lanes);
+  template <class V> using Two = std::array<V, 2>;
+  LUM_INLINE Two<Finished<T>> SecondPathOfTwo(const Two<Vec<T>>& x, const Two<Lanes<T>>& lanes) const requires(sizeof(T) == 8) {
+    return SecondPathsOf<0, 1>(x, lanes);
+  }
+  template <size_t... k>
+  LUM_INLINE std::array<Finished<T>, sizeof...(k)> SecondPathsOf(const std::array<Vec<T>, sizeof...(k)>& x,
+                                                                 const std::array<Lanes<T>, sizeof...(k)>& lanes) const {
+    constexpr std::index_sequence<k...> places;
+    const std::array y{(static_cast<void>(k), all(value))...};
+    using Vectors = const Vec<T>(&)[sizeof...(k)];
+    if constexpr (std::is_same_v<T, Lum64f>) return PowerSecondPaths<T>(x, y, lanes, places);
     else
-      return PowerSecondPath(
-          x, all(value), lanes,
-          [](Vec<T> base, Vec<T> exponent) __attribute__((always_inline)) { return PowerByBinary64(base, exponent); });
+      return PowerSecondPaths<T>(
+          x, y, lanes, [](Vectors base, Vectors exponent) __attribute__((always_inline)) {
+            return std::array{PowerByBinary64(base[k], exponent[k])...};
+          },
+          places);
   }
   // All lanes or none.
   LUM_INLINE Mask<T> ValueIsNotFinite() const { return fpclass<classes::nonfinite>(all(value)); }
@@ -216,17 +227,24 @@ LUM_INLINE Vec<Lum64f> HighHalf(Vec<Lum64f> a) { return a & all(uint64_t{0xFFFFF
 // log2 x, the head short. With a short c, scale over m nearly, so that u = c m - scale is nearly log2 of what is left: scale is
 // next to 1/ln 2.
 LUM_INLINE TwoParts<Vec<Lum64f>> GatheredLog2(Vec<Lum64f> x) {
-  static constexpr auto reciprocals = table64({
+  static constexpr auto rows = [] {
+    constexpr auto reciprocals = table64({
 #include "tables/generated/powx_reciprocal_64f_1025.inc"
-  });
-  static constexpr auto logarithms = by_columns<2>(table64({
+    });
+    constexpr auto logarithms = table64({
 #include "tables/generated/powx_log2_64f_1025_pairs.inc"
-  }));
+    });
+    Table<Lum64f, 3 * 1025 + 1> result{};  // and one more, since rows are read four entries at a time
+    for (size_t i = 0; i < 1025; ++i) {
+      result.entries[3 * i] = reciprocals.entries[i];
+      result.entries[3 * i + 1] = logarithms.entries[2 * i];
+      result.entries[3 * i + 2] = logarithms.entries[2 * i + 1];
+    }
+    return result;
+  }();
   const auto word = bits(x);
   const auto row = shift_right<42>((word & all(uint64_t{0x000FFE0000000000})) + all(uint64_t{0x0000020000000000}));
-  const auto c = gather<Lum64f>(reciprocals, row);
-  const auto log_hi = gather<Lum64f>(logarithms, row);
-  const auto log_lo = gather<Lum64f>(logarithms + 1025, row);
+  const auto [c, log_hi, log_lo, next_row] = gather_rows<Lum64f>(rows, row + shift_left<1>(row));
   const auto e = add(mask_cast<Lum64f>(le(all(uint64_t{512}), row)), getexp(x), all(1.0));
 
   const auto m = getmant<significand::from_1_to_2>(x);
@@ -271,8 +289,7 @@ struct PowxA50_64f : PowxGeneral<Lum64f> {
 struct PowxA53_64f : PowxGeneral<Lum64f> {
   LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) const {
     const auto a = MultiplyShort(GatheredLog2(x), all(value));
-    const auto head = gather<Lum64f>(powx_exp2, a.i);
-    const auto tail = gather<Lum64f>(powx_exp2 + powx_exp2_rows, a.i);
+    const auto [head, tail] = gather_pairs<Lum64f>(PowerConstants<Lum64f>::exp2, shift_left<1>(a.i));
     const auto g2 = a.g * a.g;
     const auto even = horner(g2, part<1, 3, 2>(pow::powx_exp2_A50));
     const auto odd = horner(g2, part<2, 4, 2>(pow::powx_exp2_A50));

@@ -34,6 +34,13 @@ template <size_t columns, class T, size_t n> consteval Table<T, n> by_columns(co
   return result;
 }
 
+// Rows of three entries, and one more, since rows are read four entries at a time.
+template <class T, size_t n> consteval Table<T, n + 1> rows_of_3(const Table<T, n>& table) {
+  Table<T, n + 1> result{};
+  for (size_t i = 0; i < n; ++i) result.entries[i] = table.entries[i];
+  return result;
+}
+
 // The one of two tables that holds T.
 template <class T, size_t n, size_t m>
 consteval const auto& of_type(const Table<float, n>& single, const Table<double, m>& twice) {
