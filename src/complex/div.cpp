@@ -86,8 +86,17 @@ struct A53_64fc : QuotientKernel<Lum64fc> {
   // numerator / denominator, r being near the reciprocal of the denominator.
   static LUM_STAGE Vec<Lum64f> Ratio(const HeadTail& numerator, const HeadTail& denominator, VecIn<Lum64f> r) {
     const auto q = numerator.head * r;
-    const auto remainder = fnma(q, denominator.head, numerator.head) + fnma(q, denominator.tail, numerator.tail);
-    return fma(remainder, r, q);
+    return fma(Remainder(numerator, denominator, q), r, q);
+  }
+  static LUM_INLINE Vec<Lum64f> Remainder(const HeadTail& numerator, const HeadTail& denominator, Vec<Lum64f> q) {
+    return fnma(q, denominator.head, numerator.head) + fnma(q, denominator.tail, numerator.tail);
+  }
+  // The same with its rest.
+  static LUM_INLINE RoundedWithRest RatioWithRest(const HeadTail& numerator, const HeadTail& denominator, Vec<Lum64f> r) {
+    const auto q = numerator.head * r;
+    const auto remainder = Remainder(numerator, denominator, q);
+    const auto value = fma(remainder, r, q), rest = fma(remainder, r, q - value);
+    return {value, rest, IsFarFromMiddle(value, rest, 0x1.4p-10)};
   }
   // Both parts times a power of 2 that takes the larger to [1, 2).
   struct Scaled {
@@ -107,15 +116,20 @@ struct A53_64fc : QuotientKernel<Lum64fc> {
     return far(z.re) | far(z.im);
   }
 
-  // z / w where no product and no error of one leaves the range. The square of the divisor's modulus is a normal number.
-  static LUM_INLINE ComplexVec<Lum64f> OrdinaryQuotient(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w) {
+  // z / w where no product and no error of one leaves the range, by the quotients of both parts. The square of the divisor's
+  // modulus is a normal number.
+  template <auto ratio> static LUM_INLINE auto QuotientBy(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w) {
     const auto square = SumOfProducts(w.re, w.re, w.im, w.im);
     const auto re = SumOfProducts(z.re, w.re, z.im, w.im);
     const auto im = SumOfProducts(z.im, w.re, negate(z.re), w.im);
     auto r = rcp14_normal(square.head);
     r = fma(fnma(square.head, r, all(1.0)), r, r);
     r = fma(fnma(square.head, r, all(1.0)), r, r);
-    return {Ratio(re, square, r), Ratio(im, square, r)};
+    return std::array{ratio(re, square, r), ratio(im, square, r)};
+  }
+  static LUM_INLINE ComplexVec<Lum64f> OrdinaryQuotient(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w) {
+    const auto [re, im] = QuotientBy<Ratio>(z, w);
+    return {re, im};
   }
   static LUM_INLINE Lanes<Lum64fc> ScaledQuotient(const Interleaved<Lum64f>& packed_z, const Interleaved<Lum64f>& packed_w) {
     const auto unscaled_z = split(packed_z), unscaled_w = split(packed_w);
@@ -124,9 +138,7 @@ struct A53_64fc : QuotientKernel<Lum64fc> {
     const auto back = z_exponent - w_exponent;
     const auto ordinary = OrdinaryQuotient(z, w);
     const ComplexVec<Lum64f> q{scalef(ordinary.re, back), scalef(ordinary.im, back)};
-    // Where an argument is zero as a whole, its exponent is infinite and the quotient is NaN.
-    return {join(q),
-            IsFar(unscaled_z) | IsFar(unscaled_w) | fpclass<classes::nonfinite>(q.re) | fpclass<classes::nonfinite>(q.im)};
+    return {join(q), IsFar(unscaled_z) | IsFar(unscaled_w) | IsNonFinite(w_exponent)};  // of a zero
   }
 
   // Where scaling takes many instructions the first path goes without, which is the same but for a power of 2, and refuses
@@ -151,9 +163,42 @@ struct A53_64fc : QuotientKernel<Lum64fc> {
     if constexpr (scales_all) return ScaledQuotient(z, w);
     else return CalledOrdinaryQuotient(z, w);
   }
+  // The first path's steps for any exponents, whose roundings are the core's where they are sure.
+  static LUM_INLINE ScaledResult QuotientOfScaled(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w) {
+    const auto z_exponent = max(getexp(z.re), getexp(z.im)), w_exponent = max(getexp(w.re), getexp(w.im));
+    const auto special = IsNonFinite(w_exponent) | nle(z_exponent, all(1100.0)) | unord(z.re, w.re);
+    auto re = z.re, im = z.im;
+    auto is_sure = special, overflow = mask_of<Lum64f>(0);
+    if (any(~special)) {
+      const auto [x, y] = QuotientBy<RatioWithRest>(NextToOne(z, negate(z_exponent)), NextToOne(w, negate(w_exponent)));
+      const auto scaled = ScaledBack(x, y, z_exponent - w_exponent, special);
+      re = scaled.value.re, im = scaled.value.im;
+      is_sure = scaled.is_sure, overflow = scaled.overflow;
+    }
+    if (any(special)) {
+      const auto given_z = z, given_w = w;  // of which the call takes the address
+      const auto core = QuotientAsCore(given_z, given_w, special);
+      is_sure = is_sure & (~special | (core.is_known & core.is_sure));
+      re = select(special, core.value.re, re), im = select(special, core.value.im, im);
+    }
+    return {{re, im}, is_sure, overflow};
+  }
+  static constexpr bool second_is_shared = scales_all;
   static LUM_INLINE Finished<Lum64fc> SecondPath(Interleaved<Lum64f> z, Interleaved<Lum64f> w, const Lanes<Lum64fc>& lanes) {
-    if constexpr (scales_all) return QuotientKernel<Lum64fc>::SecondPath(z, w, lanes);
-    else return QuotientKernel<Lum64fc>::SecondPath(z, w, CalledScaledQuotient(z, w));
+    if constexpr (streams_fit_registers) {
+      const auto quotient = QuotientOfScaled(split(z), split(w));
+      if (none(~quotient.is_sure)) [[likely]]
+        return {join(quotient.value), ~quotient.is_sure, {.overflow = quotient.overflow}};
+      const auto given_z = z, given_w = w;
+      return OfBothPaths(given_z, given_w);
+    } else if constexpr (scales_all) {
+      return QuotientKernel<Lum64fc>::SecondPath(z, w, lanes);
+    } else {
+      return QuotientKernel<Lum64fc>::SecondPath(z, w, CalledScaledQuotient(z, w));
+    }
+  }
+  [[gnu::noinline]] static Finished<Lum64fc> OfBothPaths(const Interleaved<Lum64f>& z, const Interleaved<Lum64f>& w) {
+    return QuotientKernel<Lum64fc>::SecondPath(z, w, ScaledQuotient(z, w));
   }
 };
 
