@@ -8,33 +8,54 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
-// The refused lanes as the core has them.
-[[maybe_unused]] LUM_INLINE Lanes<Lum64fc> QuotientLanes(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w,
-                                                         const Lanes<Lum64fc>& lanes) {
-  return Finish(QuotientAsCore(z, w, lanes.refused), lanes, lanes.refused);
-}
-[[maybe_unused]] LUM_INLINE Lanes<Lum32fc> QuotientLanes(ComplexVec<Lum32f> z, ComplexVec<Lum32f> w,
-                                                         const Lanes<Lum32fc>& lanes) {
-  return Finish(QuotientAsCore(WidenLow(z), WidenLow(w), low_half(lanes.refused)),
-                QuotientAsCore(WidenHigh(z), WidenHigh(w), high_half(lanes.refused)), lanes, lanes.refused);
-}
-
-template <class E> struct QuotientKernel : Kernel<E> {
-  static constexpr int vectors = 1;
-  static LUM_INLINE Finished<E> SecondPath(Packed<E> packed_z, Packed<E> packed_w, const Lanes<E>& lanes) {
-    const auto z = split(packed_z), w = split(packed_w);
-    const auto r = QuotientLanes(z, w, lanes);
-    const auto cannot = HasNonFinitePart(z) | HasNonFinitePart(w) | (IsZero(w.re) & IsZero(w.im));
-    return {r.value, r.refused, {.overflow = OverflowsOf(r, lanes.refused) & ~cannot}};
-  }
-  static LumStatus LaneRoutine(const E& z, const E& w, E& result) { return ProductCoreOnLane<CoreDiv>(z, w, result); }
-};
-
 // z conj(w) and |w|^2, plainly.
 template <class T> struct Terms { Vec<T> re, im, square; };
 template <class T> LUM_INLINE Terms<T> TermsOf(ComplexVec<T> z, ComplexVec<T> w) {
   return {fma(z.re, w.re, z.im * w.im), fms(z.im, w.re, z.re * w.im), fma(w.re, w.re, w.im * w.im)};
 }
+
+// The refused lanes as the core has them.
+[[maybe_unused]] LUM_INLINE Lanes<Lum64fc> QuotientLanes(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w,
+                                                         const Lanes<Lum64fc>& lanes) {
+  return Finish(QuotientAsCore(z, w, lanes.refused), lanes, lanes.refused);
+}
+// In binary64, whose products of binary32 numbers are exact: right to four units of 2^-53. The core has one more.
+LUM_INLINE ComplexVec<Lum64f> DoubleQuotient(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w) {
+  const auto t = TermsOf(z, w);
+  const auto r = div(all(1.0), t.square);
+  return {t.re * r, t.im * r};
+}
+[[maybe_unused]] LUM_INLINE Lanes<Lum32fc> QuotientLanes(ComplexVec<Lum32f> z, ComplexVec<Lum32f> w,
+                                                         const Lanes<Lum32fc>& lanes) {
+  const auto special = QuotientEnds::IsSpecial(z, w);
+  auto value = split(lanes.value);
+  auto refused = lanes.refused;
+  if (const auto finite = lanes.refused & ~special; any(finite)) {
+    const auto low = DoubleQuotient(WidenLow(z), WidenLow(w)), high = DoubleQuotient(WidenHigh(z), WidenHigh(w));
+    constexpr double distance = 0x1p-50;
+    const auto zero = all(0.0);  // a zero is positive
+    const auto re = NarrowedOfNeighbours(low.re + zero, high.re + zero, distance),
+               im = NarrowedOfNeighbours(low.im + zero, high.im + zero, distance);
+    value = Select(finite, {re.value, im.value}, value);
+    refused = refused & ~(finite & re.is_sure & im.is_sure);
+  }
+  if (const auto wanted = lanes.refused & special; any(wanted)) {
+    value = Select(wanted, QuotientEnds::OfSpecial(z, w), value);
+    refused = refused & ~(wanted & ~QuotientEnds::HaveTwoNans(z, w));
+  }
+  return {join(value), refused};
+}
+
+template <class E> struct QuotientKernel : Kernel<E> {
+  static constexpr int vectors = 1;
+  static constexpr bool second_is_shared = sizeof(Real<E>) == 4;
+  static LUM_INLINE Finished<E> SecondPath(Packed<E> packed_z, Packed<E> packed_w, const Lanes<E>& lanes) {
+    const auto z = split(packed_z), w = split(packed_w);
+    const auto r = QuotientLanes(z, w, lanes);
+    return {r.value, r.refused, {.overflow = OverflowsOf(r, lanes.refused) & ~QuotientEnds::IsSpecial(z, w)}};
+  }
+  static LumStatus LaneRoutine(const E& z, const E& w, E& result) { return ProductCoreOnLane<CoreDiv>(z, w, result); }
+};
 
 // Products between these bounds have lost no bits to the ends of the range.
 template <class T> LUM_INLINE Mask<T> IsFar(const Terms<T>& t) {
@@ -62,15 +83,9 @@ template <class E> struct Low : QuotientKernel<E> {
 
 struct A24_32fc : QuotientKernel<Lum32fc> {
   static constexpr Variant variant = x87_up_front_variant;
-  static LUM_INLINE ComplexVec<Lum64f> DoubleQuotient(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w) {
-    const auto t = TermsOf(z, w);
-    const auto r = div(all(1.0), t.square);
-    return {t.re * r, t.im * r};
-  }
   static LUM_INLINE Lanes<Lum32fc> VectorPath(Interleaved<Lum32f> packed_z, Interleaved<Lum32f> packed_w) {
     const auto z = split(packed_z), w = split(packed_w);
-    const auto low = DoubleQuotient({widen_low(z.re), widen_low(z.im)}, {widen_low(w.re), widen_low(w.im)});
-    const auto high = DoubleQuotient({widen_high(z.re), widen_high(z.im)}, {widen_high(w.re), widen_high(w.im)});
+    const auto low = DoubleQuotient(WidenLow(z), WidenLow(w)), high = DoubleQuotient(WidenHigh(z), WidenHigh(w));
     const ComplexVec<Lum32f> q{narrow(low.re, high.re), narrow(low.im, high.im)};
     return {join(q), fpclass<classes::nonfinite>(q.re) | fpclass<classes::nonfinite>(q.im)};
   }
