@@ -128,4 +128,10 @@ template <class Path, class E, class... Inputs> LUM_INLINE Lanes<E> PathOfTail(i
   else return NarrowedTail<Path>(count, std::index_sequence_for<Inputs...>(), packed...);
 }
 
+// Whether the path refuses all elements because of their parts. A path of 32fc spares their steps by itself.
+template <class Path, class E, class... Inputs> LUM_INLINE bool PathRefusesAll(const Inputs&... packed) {
+  if constexpr (std::is_same_v<E, Lum64fc>) return none(~Path::IsOutside(split(packed)...));
+  else return false;
+}
+
 }  // namespace lum::inline LUM_LAYER
