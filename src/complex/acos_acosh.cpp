@@ -31,6 +31,7 @@ LUM_INLINE ScaledArcParts ArccosinePartsOfAny(ComplexVec<Lum64f> z) {
 struct AcosPath {
   static constexpr bool is_long = true;
   static LUM_INLINE Mask<Lum64f> IsOutside(ComplexVec<Lum64f> z) { return HasFarPart(z); }
+  static LUM_INLINE ComplexVec<Lum64f> OfZero(ComplexVec<Lum64f> z) { return {all(numbers::pi<Lum64f> / 2), negate(z.im)}; }
   static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z) {
     const auto parts = ArccosineParts(z);
     return {parts.angle, -XorSign(z.im, parts.logarithm), AngleError(z.re, parts.angle), ArcLogarithmError(parts.logarithm),
@@ -60,6 +61,9 @@ struct AcosEnds {
 struct AcoshPath {
   static constexpr bool is_long = true;
   static LUM_INLINE Mask<Lum64f> IsOutside(ComplexVec<Lum64f> z) { return HasFarPart(z); }
+  static LUM_INLINE ComplexVec<Lum64f> OfZero(ComplexVec<Lum64f> z) {
+    return {all(0.0), or_sign(z.im, all(numbers::pi<Lum64f> / 2))};
+  }
   static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z) {
     const auto parts = ArccosineParts(z);
     return {parts.logarithm, XorSign(z.im, parts.angle), ArcLogarithmError(parts.logarithm), AngleError(z.re, parts.angle),

@@ -18,21 +18,23 @@ LUM_INLINE Vec<Lum64f> AngleError(const AngleAndLogarithm& parts) {
   return abs(parts.angle.head) * all(angle_error<Arc::sine>);
 }
 
-struct AsinhPath {
-  static constexpr bool is_long = true;
-  static LUM_INLINE Mask<Lum64f> IsOutside(ComplexVec<Lum64f> z) { return HasFarPart(z); }
-  static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z) {
-    const auto parts = ArcsineParts(z.im, z.re);
-    return {parts.logarithm, parts.angle, ArcLogarithmError(parts.logarithm), AngleError(parts), IsOutside(z)};
-  }
-};
-
 struct AsinPath {
   static constexpr bool is_long = true;
   static LUM_INLINE Mask<Lum64f> IsOutside(ComplexVec<Lum64f> z) { return HasFarPart(z); }
+  static LUM_INLINE ComplexVec<Lum64f> OfZero(ComplexVec<Lum64f> z) { return z; }
   static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z) {
     const auto parts = ArcsineParts(z.re, z.im);
     return {parts.angle, parts.logarithm, AngleError(parts), ArcLogarithmError(parts.logarithm), IsOutside(z)};
+  }
+};
+
+struct AsinhPath {
+  static constexpr bool is_long = true;
+  static LUM_INLINE Mask<Lum64f> IsOutside(ComplexVec<Lum64f> z) { return HasFarPart(z); }
+  static LUM_INLINE ComplexVec<Lum64f> OfZero(ComplexVec<Lum64f> z) { return z; }
+  static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z) {
+    const auto parts = ArcsineParts(z.im, z.re);
+    return {parts.logarithm, parts.angle, ArcLogarithmError(parts.logarithm), AngleError(parts), IsOutside(z)};
   }
 };
 

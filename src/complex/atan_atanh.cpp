@@ -44,6 +44,7 @@ LUM_INLINE AtanhValue AtanhParts(Vec<Lum64f> x, Vec<Lum64f> y) {
 struct AtanhPath {
   static constexpr bool is_long = true;
   static LUM_INLINE Mask<Lum64f> IsOutside(ComplexVec<Lum64f> z) { return HasFarPart(z); }
+  static LUM_INLINE ComplexVec<Lum64f> OfZero(ComplexVec<Lum64f> z) { return z; }
   static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z) {
     const auto a = AtanhParts(z.re, z.im);
     return {a.logarithm, a.angle, a.logarithm_error, a.angle_error, IsOutside(z)};
@@ -53,6 +54,7 @@ struct AtanhPath {
 struct AtanPath {
   static constexpr bool is_long = true;
   static LUM_INLINE Mask<Lum64f> IsOutside(ComplexVec<Lum64f> z) { return HasFarPart(z); }
+  static LUM_INLINE ComplexVec<Lum64f> OfZero(ComplexVec<Lum64f> z) { return z; }
   static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z) {
     const auto a = AtanhParts(z.im, z.re);
     return {a.angle, a.logarithm, a.angle_error, a.logarithm_error, IsOutside(z)};

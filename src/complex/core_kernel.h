@@ -22,6 +22,7 @@ template <class Path, class Ends, OneInputCore core, class E> struct SilentKerne
   static constexpr bool second_is_shared = true;
   static LUM_INLINE Lanes<E> VectorPath(Interleaved<Real<E>> z) { return PathOfElements<Path, E>(z); }
   static LUM_INLINE Lanes<E> TailPath(Interleaved<Real<E>> z, int count) { return PathOfTail<Path, E>(count, z); }
+  static LUM_INLINE bool RefusesAll(Interleaved<Real<E>> z) { return PathRefusesAll<Path, E>(z); }
   static LUM_INLINE Lanes<E> SecondPath(Interleaved<Real<E>> z, const Lanes<E>& lanes) {
     return SecondPathAsCore<Ends>(z, lanes, IsForSecondPath(z, lanes.refused));
   }

@@ -15,6 +15,7 @@ namespace lum::inline LUM_LAYER::complex {
 
 // A path is a struct with
 //   IsOutside(z...)   the arguments outside its domain
+//   OfZero(z)         the result of a zero, given together with
 //   is_long           given where a branch that spares vectors of special arguments all steps costs the others little
 //   Of(z...)          the parts of the result, their distances from the core's values in units of 2^-64, and the lanes outside
 struct PathValue {
@@ -24,6 +25,7 @@ struct PathValue {
 };
 
 template <class T> LUM_INLINE Mask<T> IsZero(Vec<T> x) { return eq(x, all(T(0))); }
+template <class T> LUM_INLINE Mask<T> IsZero(ComplexVec<T> z) { return IsZero(z.re) & IsZero(z.im); }
 // Zeros are not among them, NaN is.
 LUM_INLINE Mask<Lum64f> IsBelow(Vec<Lum64f> x, double smallest) { return nle(all(smallest), abs(x)) & ~IsZero(x); }
 
@@ -71,8 +73,13 @@ template <class Path, class... Z> LUM_INLINE PathValue PathOfVector(const Z&... 
 template <class Path, class... Inputs> LUM_INLINE Lanes<Lum64fc> RoundedPath(const Inputs&... packed) {
   if constexpr (streams_fit_registers && requires { Path::is_long; }) {
     const auto outside = Path::IsOutside(split(packed)...);
-    if (none(~outside)) [[unlikely]]
-      return {{all(0.0), all(0.0)}, outside};
+    if constexpr (requires { Path::OfZero(split(packed)...); }) {
+      if (none(~(outside | IsZero(split(packed)...)))) [[unlikely]]
+        return {join(Path::OfZero(split(packed)...)), outside};
+    } else {
+      if (none(~outside)) [[unlikely]]
+        return {{all(0.0), all(0.0)}, outside};
+    }
   }
   const auto value = PathOfVector<Path>(split(packed)...);
   const auto re = RoundedAsCore(value.re, value.re_error), im = RoundedAsCore(value.im, value.im_error);
@@ -126,6 +133,12 @@ template <class Path, class E, class... Inputs> LUM_INLINE Lanes<E> PathOfElemen
 template <class Path, class E, class... Inputs> LUM_INLINE Lanes<E> PathOfTail(int count, const Inputs&... packed) {
   if constexpr (std::is_same_v<E, Lum64fc>) return RoundedPath<Path>(packed...);
   else return NarrowedTail<Path>(count, std::index_sequence_for<Inputs...>(), packed...);
+}
+
+// Whether the path refuses all elements because of their parts. A path of 32fc spares their steps by itself.
+template <class Path, class E, class... Inputs> LUM_INLINE bool PathRefusesAll(const Inputs&... packed) {
+  if constexpr (std::is_same_v<E, Lum64fc>) return none(~Path::IsOutside(split(packed)...));
+  else return false;
 }
 
 }  // namespace lum::inline LUM_LAYER::complex

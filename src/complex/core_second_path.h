@@ -24,6 +24,9 @@ struct CoreValue {
 LUM_INLINE ComplexVec<Lum64f> Select(Mask<Lum64f> m, ComplexVec<Lum64f> a, ComplexVec<Lum64f> b) {
   return {select(m, a.re, b.re), select(m, a.im, b.im)};
 }
+LUM_INLINE ComplexVec<Lum32f> Select(Mask<Lum32f> m, ComplexVec<Lum32f> a, ComplexVec<Lum32f> b) {
+  return {select(m, a.re, b.re), select(m, a.im, b.im)};
+}
 template <class T> LUM_INLINE Mask<T> IsInfinite(Vec<T> x) { return fpclass<classes::infinity>(x); }
 template <class T> LUM_INLINE Mask<T> IsNegative(Vec<T> x) { return mask_cast<T>(sign_mask(bits(x))); }
 
@@ -98,8 +101,8 @@ struct NarrowedTwice {
   Vec<Lum32f> value;
   Mask<Lum32f> is_sure;
 };
-LUM_INLINE NarrowedTwice NarrowedOfNeighbours(Vec<Lum64f> low, Vec<Lum64f> high) {
-  const auto distance = all(0x1p-51);
+LUM_INLINE NarrowedTwice NarrowedOfNeighbours(Vec<Lum64f> low, Vec<Lum64f> high, double given_distance = 0x1p-51) {
+  const auto distance = all(given_distance);
   const auto inner = narrow(fnma(low, distance, low), fnma(high, distance, high));
   const auto outer = narrow(fma(low, distance, low), fma(high, distance, high));
   return {narrow(low, high), eq(inner, outer) | unord(inner, outer)};  // infinities and NaN are what they are

@@ -10,33 +10,54 @@ namespace {
 
 using namespace complex;
 
-// The refused lanes as the core has them.
-[[maybe_unused]] LUM_INLINE Lanes<Lum64fc> QuotientLanes(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w,
-                                                         const Lanes<Lum64fc>& lanes) {
-  return Finish(QuotientAsCore(z, w, lanes.refused), lanes, lanes.refused);
-}
-[[maybe_unused]] LUM_INLINE Lanes<Lum32fc> QuotientLanes(ComplexVec<Lum32f> z, ComplexVec<Lum32f> w,
-                                                         const Lanes<Lum32fc>& lanes) {
-  return Finish(QuotientAsCore(WidenLow(z), WidenLow(w), low_half(lanes.refused)),
-                QuotientAsCore(WidenHigh(z), WidenHigh(w), high_half(lanes.refused)), lanes, lanes.refused);
-}
-
-template <class E> struct QuotientKernel : Kernel<E> {
-  static constexpr int vectors = 1;
-  static LUM_INLINE Finished<E> SecondPath(Packed<E> packed_z, Packed<E> packed_w, const Lanes<E>& lanes) {
-    const auto z = split(packed_z), w = split(packed_w);
-    const auto r = QuotientLanes(z, w, lanes);
-    const auto cannot = HasNonFinitePart(z) | HasNonFinitePart(w) | (IsZero(w.re) & IsZero(w.im));
-    return {r.value, r.refused, {.overflow = OverflowsOf(r, lanes.refused) & ~cannot}};
-  }
-  static LumStatus LaneRoutine(const E& z, const E& w, E& result) { return ProductCoreOnLane<CoreDiv>(z, w, result); }
-};
-
 // z conj(w) and |w|^2, plainly.
 template <class T> struct Terms { Vec<T> re, im, square; };
 template <class T> LUM_INLINE Terms<T> TermsOf(ComplexVec<T> z, ComplexVec<T> w) {
   return {fma(z.re, w.re, z.im * w.im), fms(z.im, w.re, z.re * w.im), fma(w.re, w.re, w.im * w.im)};
 }
+
+// The refused lanes as the core has them.
+[[maybe_unused]] LUM_INLINE Lanes<Lum64fc> QuotientLanes(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w,
+                                                         const Lanes<Lum64fc>& lanes) {
+  return Finish(QuotientAsCore(z, w, lanes.refused), lanes, lanes.refused);
+}
+// In binary64, whose products of binary32 numbers are exact: right to four units of 2^-53. The core has one more.
+LUM_INLINE ComplexVec<Lum64f> DoubleQuotient(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w) {
+  const auto t = TermsOf(z, w);
+  const auto r = div(all(1.0), t.square);
+  return {t.re * r, t.im * r};
+}
+[[maybe_unused]] LUM_INLINE Lanes<Lum32fc> QuotientLanes(ComplexVec<Lum32f> z, ComplexVec<Lum32f> w,
+                                                         const Lanes<Lum32fc>& lanes) {
+  const auto special = QuotientEnds::IsSpecial(z, w);
+  auto value = split(lanes.value);
+  auto refused = lanes.refused;
+  if (const auto finite = lanes.refused & ~special; any(finite)) {
+    const auto low = DoubleQuotient(WidenLow(z), WidenLow(w)), high = DoubleQuotient(WidenHigh(z), WidenHigh(w));
+    constexpr double distance = 0x1p-50;
+    const auto zero = all(0.0);  // a zero is positive
+    const auto re = NarrowedOfNeighbours(low.re + zero, high.re + zero, distance),
+               im = NarrowedOfNeighbours(low.im + zero, high.im + zero, distance);
+    value = Select(finite, {re.value, im.value}, value);
+    refused = refused & ~(finite & re.is_sure & im.is_sure);
+  }
+  if (const auto wanted = lanes.refused & special; any(wanted)) {
+    value = Select(wanted, QuotientEnds::OfSpecial(z, w), value);
+    refused = refused & ~(wanted & ~QuotientEnds::HaveTwoNans(z, w));
+  }
+  return {join(value), refused};
+}
+
+template <class E> struct QuotientKernel : Kernel<E> {
+  static constexpr int vectors = 1;
+  static constexpr bool second_is_shared = sizeof(Real<E>) == 4;
+  static LUM_INLINE Finished<E> SecondPath(Packed<E> packed_z, Packed<E> packed_w, const Lanes<E>& lanes) {
+    const auto z = split(packed_z), w = split(packed_w);
+    const auto r = QuotientLanes(z, w, lanes);
+    return {r.value, r.refused, {.overflow = OverflowsOf(r, lanes.refused) & ~QuotientEnds::IsSpecial(z, w)}};
+  }
+  static LumStatus LaneRoutine(const E& z, const E& w, E& result) { return ProductCoreOnLane<CoreDiv>(z, w, result); }
+};
 
 // Products between these bounds have lost no bits to the ends of the range.
 template <class T> LUM_INLINE Mask<T> IsFar(const Terms<T>& t) {
@@ -64,15 +85,9 @@ template <class E> struct Low : QuotientKernel<E> {
 
 struct A24_32fc : QuotientKernel<Lum32fc> {
   static constexpr Variant variant = x87_up_front_variant;
-  static LUM_INLINE ComplexVec<Lum64f> DoubleQuotient(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w) {
-    const auto t = TermsOf(z, w);
-    const auto r = div(all(1.0), t.square);
-    return {t.re * r, t.im * r};
-  }
   static LUM_INLINE Lanes<Lum32fc> VectorPath(Interleaved<Lum32f> packed_z, Interleaved<Lum32f> packed_w) {
     const auto z = split(packed_z), w = split(packed_w);
-    const auto low = DoubleQuotient({widen_low(z.re), widen_low(z.im)}, {widen_low(w.re), widen_low(w.im)});
-    const auto high = DoubleQuotient({widen_high(z.re), widen_high(z.im)}, {widen_high(w.re), widen_high(w.im)});
+    const auto low = DoubleQuotient(WidenLow(z), WidenLow(w)), high = DoubleQuotient(WidenHigh(z), WidenHigh(w));
     const ComplexVec<Lum32f> q{narrow(low.re, high.re), narrow(low.im, high.im)};
     return {join(q), fpclass<classes::nonfinite>(q.re) | fpclass<classes::nonfinite>(q.im)};
   }
@@ -88,8 +103,17 @@ struct A53_64fc : QuotientKernel<Lum64fc> {
   // numerator / denominator, r being near the reciprocal of the denominator.
   static LUM_STAGE Vec<Lum64f> Ratio(const HeadTail& numerator, const HeadTail& denominator, VecIn<Lum64f> r) {
     const auto q = numerator.head * r;
-    const auto remainder = fnma(q, denominator.head, numerator.head) + fnma(q, denominator.tail, numerator.tail);
-    return fma(remainder, r, q);
+    return fma(Remainder(numerator, denominator, q), r, q);
+  }
+  static LUM_INLINE Vec<Lum64f> Remainder(const HeadTail& numerator, const HeadTail& denominator, Vec<Lum64f> q) {
+    return fnma(q, denominator.head, numerator.head) + fnma(q, denominator.tail, numerator.tail);
+  }
+  // The same with its rest.
+  static LUM_INLINE RoundedWithRest RatioWithRest(const HeadTail& numerator, const HeadTail& denominator, Vec<Lum64f> r) {
+    const auto q = numerator.head * r;
+    const auto remainder = Remainder(numerator, denominator, q);
+    const auto value = fma(remainder, r, q), rest = fma(remainder, r, q - value);
+    return {value, rest, IsFarFromMiddle(value, rest, 0x1.4p-10)};
   }
   // Both parts times a power of 2 that takes the larger to [1, 2).
   struct Scaled {
@@ -109,15 +133,20 @@ struct A53_64fc : QuotientKernel<Lum64fc> {
     return far(z.re) | far(z.im);
   }
 
-  // z / w where no product and no error of one leaves the range. The square of the divisor's modulus is a normal number.
-  static LUM_INLINE ComplexVec<Lum64f> OrdinaryQuotient(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w) {
+  // z / w where no product and no error of one leaves the range, by the quotients of both parts. The square of the divisor's
+  // modulus is a normal number.
+  template <auto ratio> static LUM_INLINE auto QuotientBy(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w) {
     const auto square = SumOfProducts(w.re, w.re, w.im, w.im);
     const auto re = SumOfProducts(z.re, w.re, z.im, w.im);
     const auto im = SumOfProducts(z.im, w.re, negate(z.re), w.im);
     auto r = rcp14_normal(square.head);
     r = fma(fnma(square.head, r, all(1.0)), r, r);
     r = fma(fnma(square.head, r, all(1.0)), r, r);
-    return {Ratio(re, square, r), Ratio(im, square, r)};
+    return std::array{ratio(re, square, r), ratio(im, square, r)};
+  }
+  static LUM_INLINE ComplexVec<Lum64f> OrdinaryQuotient(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w) {
+    const auto [re, im] = QuotientBy<Ratio>(z, w);
+    return {re, im};
   }
   static LUM_INLINE Lanes<Lum64fc> ScaledQuotient(const Interleaved<Lum64f>& packed_z, const Interleaved<Lum64f>& packed_w) {
     const auto unscaled_z = split(packed_z), unscaled_w = split(packed_w);
@@ -126,9 +155,7 @@ struct A53_64fc : QuotientKernel<Lum64fc> {
     const auto back = z_exponent - w_exponent;
     const auto ordinary = OrdinaryQuotient(z, w);
     const ComplexVec<Lum64f> q{scalef(ordinary.re, back), scalef(ordinary.im, back)};
-    // Where an argument is zero as a whole, its exponent is infinite and the quotient is NaN.
-    return {join(q),
-            IsFar(unscaled_z) | IsFar(unscaled_w) | fpclass<classes::nonfinite>(q.re) | fpclass<classes::nonfinite>(q.im)};
+    return {join(q), IsFar(unscaled_z) | IsFar(unscaled_w) | IsNonFinite(w_exponent)};  // of a zero
   }
 
   // Where scaling takes many instructions the first path goes without, which is the same but for a power of 2, and refuses
@@ -153,9 +180,42 @@ struct A53_64fc : QuotientKernel<Lum64fc> {
     if constexpr (scales_all) return ScaledQuotient(z, w);
     else return CalledOrdinaryQuotient(z, w);
   }
+  // The first path's steps for any exponents, whose roundings are the core's where they are sure.
+  static LUM_INLINE ScaledResult QuotientOfScaled(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w) {
+    const auto z_exponent = max(getexp(z.re), getexp(z.im)), w_exponent = max(getexp(w.re), getexp(w.im));
+    const auto special = IsNonFinite(w_exponent) | nle(z_exponent, all(1100.0)) | unord(z.re, w.re);
+    auto re = z.re, im = z.im;
+    auto is_sure = special, overflow = mask_of<Lum64f>(0);
+    if (any(~special)) {
+      const auto [x, y] = QuotientBy<RatioWithRest>(NextToOne(z, negate(z_exponent)), NextToOne(w, negate(w_exponent)));
+      const auto scaled = ScaledBack(x, y, z_exponent - w_exponent, special);
+      re = scaled.value.re, im = scaled.value.im;
+      is_sure = scaled.is_sure, overflow = scaled.overflow;
+    }
+    if (any(special)) {
+      const auto given_z = z, given_w = w;  // of which the call takes the address
+      const auto core = QuotientAsCore(given_z, given_w, special);
+      is_sure = is_sure & (~special | (core.is_known & core.is_sure));
+      re = select(special, core.value.re, re), im = select(special, core.value.im, im);
+    }
+    return {{re, im}, is_sure, overflow};
+  }
+  static constexpr bool second_is_shared = scales_all;
   static LUM_INLINE Finished<Lum64fc> SecondPath(Interleaved<Lum64f> z, Interleaved<Lum64f> w, const Lanes<Lum64fc>& lanes) {
-    if constexpr (scales_all) return QuotientKernel<Lum64fc>::SecondPath(z, w, lanes);
-    else return QuotientKernel<Lum64fc>::SecondPath(z, w, CalledScaledQuotient(z, w));
+    if constexpr (streams_fit_registers) {
+      const auto quotient = QuotientOfScaled(split(z), split(w));
+      if (none(~quotient.is_sure)) [[likely]]
+        return {join(quotient.value), ~quotient.is_sure, {.overflow = quotient.overflow}};
+      const auto given_z = z, given_w = w;
+      return OfBothPaths(given_z, given_w);
+    } else if constexpr (scales_all) {
+      return QuotientKernel<Lum64fc>::SecondPath(z, w, lanes);
+    } else {
+      return QuotientKernel<Lum64fc>::SecondPath(z, w, CalledScaledQuotient(z, w));
+    }
+  }
+  [[gnu::noinline]] static Finished<Lum64fc> OfBothPaths(const Interleaved<Lum64f>& z, const Interleaved<Lum64f>& w) {
+    return QuotientKernel<Lum64fc>::SecondPath(z, w, ScaledQuotient(z, w));
   }
 };
 

@@ -26,20 +26,35 @@ struct QuotientEnds {
     return RoundedPair(re, DistanceFromCore(re), im, DistanceFromCore(im), wanted);
   }
 
-  // An infinity or a zero in the direction of z conj(w).
-  static LUM_INLINE Number Directed(Vec<Lum64f> size, Number z, Number w) {
-    return {size * (z.re * w.re + z.im * w.im), size * (z.im * w.re - z.re * w.im)};
+  // An infinity or a zero in the direction of z conj(w). The core's sums are of binary64, beyond which those of binary32
+  // numbers do not come.
+  template <class T> static LUM_INLINE ComplexVec<T> Directed(Vec<T> size, ComplexVec<T> z, ComplexVec<T> w) {
+    const auto directed = [size](Vec<T> x) __attribute__((always_inline)) {
+      constexpr T largest = std::numeric_limits<T>::max();
+      if constexpr (sizeof(T) == 4) return size * max(min(x, all(largest)), all(-largest));
+      else return size * x;
+    };
+    return {directed(z.re * w.re + z.im * w.im), directed(z.im * w.re - z.re * w.im)};
+  }
+  template <class T> static LUM_INLINE Mask<T> IsSpecial(ComplexVec<T> z, ComplexVec<T> w) {
+    return HasNonFinitePart(z) | HasNonFinitePart(w) | (IsZero(w.re) & IsZero(w.im));
+  }
+  // In one product.
+  template <class T> static LUM_INLINE Mask<T> HaveTwoNans(ComplexVec<T> z, ComplexVec<T> w) {
+    return (unord(z.re, z.re) & unord(w.re, w.re)) | (unord(z.im, z.im) & unord(w.im, w.im));
   }
   // 1 or 0 for an infinity or another number, with its sign.
-  static LUM_INLINE Vec<Lum64f> Boxed(Vec<Lum64f> x) { return or_sign(x, zero_unless(IsInfinite(x), in_register(1.0))); }
-  static LUM_INLINE Number OfSpecial(Number z, Number w) {
+  template <class T> static LUM_INLINE Vec<T> Boxed(Vec<T> x) {
+    return or_sign(x, zero_unless(IsInfinite(x), in_register(T(1))));
+  }
+  template <class T> static LUM_INLINE ComplexVec<T> OfSpecial(ComplexVec<T> z, ComplexVec<T> w) {
     const auto z_finite = ~HasNonFinitePart(z), w_finite = ~HasNonFinitePart(w);
     const auto z_infinite = IsInfinite(z.re) | IsInfinite(z.im), w_infinite = IsInfinite(w.re) | IsInfinite(w.im);
-    const auto unbounded = in_register(infinity), zero = all(0.0);
+    const auto unbounded = in_register(std::numeric_limits<T>::infinity()), zero = all(T(0));
     const auto boxes_z = z_infinite & w_finite, boxes_w = z_finite & w_infinite;
-    const auto chosen = [](Mask<Lum64f> m, Vec<Lum64f> x) __attribute__((always_inline)) { return select(m, Boxed(x), x); };
-    const auto directed = Directed(select(boxes_z, unbounded, zero), {chosen(boxes_z, z.re), chosen(boxes_z, z.im)},
-                                   {chosen(boxes_w, w.re), chosen(boxes_w, w.im)});
+    const auto chosen = [](Mask<T> m, Vec<T> x) __attribute__((always_inline)) { return select(m, Boxed(x), x); };
+    const auto directed = Directed<T>(select(boxes_z, unbounded, zero), {chosen(boxes_z, z.re), chosen(boxes_z, z.im)},
+                                      {chosen(boxes_w, w.re), chosen(boxes_w, w.im)});
     const auto first = z.re * w.re, second = z.im * w.im;
     const auto sum = select(unord(first, first), first, select(unord(second, second), second, first + second));
     const auto nan = sum * zero;
@@ -52,9 +67,7 @@ struct QuotientEnds {
 // In the wanted lanes. All kernels share it.
 [[gnu::noinline]] inline CoreValue QuotientAsCore(const ComplexVec<Lum64f>& z, const ComplexVec<Lum64f>& w,
                                                   const Mask<Lum64f>& wanted) {
-  const auto special = HasNonFinitePart(z) | HasNonFinitePart(w) | (IsZero(w.re) & IsZero(w.im));
-  const auto both_nan = [](Vec<Lum64f> x, Vec<Lum64f> y) __attribute__((always_inline)) { return unord(x, x) & unord(y, y); };
-  const auto by_rule = special & ~(both_nan(z.re, w.re) | both_nan(z.im, w.im));
+  const auto special = QuotientEnds::IsSpecial(z, w), by_rule = special & ~QuotientEnds::HaveTwoNans(z, w);
   CoreValue result{z, by_rule, by_rule};
   // Where they do not fit registers the numbers take too much of the stack.
   if constexpr (streams_fit_registers) {

@@ -85,4 +85,48 @@ LUM_INLINE CorePair RoundedPair(const ScaledSum& re, Vec<Lum64f> re_distance, co
   return {{x.value, y.value}, x.is_sure & y.is_sure};
 }
 
+// Both parts divided by a power of 2, of which the larger one is next to 1 then. Beside it, the square of a smaller part is as
+// little as that of 2^-400, and there are no denormal numbers, which take long.
+LUM_INLINE ComplexVec<Lum64f> NextToOne(ComplexVec<Lum64f> z, Vec<Lum64f> down) {
+  const auto part = [down](Vec<Lum64f> x) __attribute__((always_inline)) {
+    return or_sign(x, max(abs(scalef(x, down)), all(0x1p-400)));
+  };
+  return {part(z.re), part(z.im)};
+}
+// A part of a product or quotient of such numbers, and what is left of it behind the rounding.
+struct RoundedWithRest {
+  Vec<Lum64f> value, rest;
+  Mask<Lum64f> is_sure;  // rounded to 64 bits before, it is the same number
+};
+// The middle between two numbers is farther from value + rest than the distance, a part of half the last place. What is much
+// less than 1 has lost bits.
+LUM_INLINE Mask<Lum64f> IsFarFromMiddle(Vec<Lum64f> value, Vec<Lum64f> rest, double distance) {
+  return eq(fma(rest, all(1 + distance), value), value) & le(all(0x1p-30), abs(value));
+}
+// Times 2^exponent: below the normal numbers the sum with the shifter has the least denormal number in its last place.
+LUM_INLINE Vec<Lum64f> ScaledBack(const RoundedWithRest& s, Vec<Lum64f> exponent, Mask<Lum64f>& is_sure) {
+  const auto is_below = lt(getexp(s.value) + exponent, all(-1022.0));
+  const auto shifter = or_sign(s.value, scalef(all(1.0), all(-1022.0) - max(exponent, all(-1900.0))));
+  const auto sum = shifter + s.value;
+  const auto rest = s.value - (sum - shifter);
+  const auto distance = fma(abs(rest), all(0x1p-52), all(0x1p-60));
+  const auto above = sum + (rest + (s.rest + distance)), below = sum + (rest + (s.rest - distance));
+  is_sure = is_sure & (eq(above, below) | ~is_below);
+  return scalef(select(is_below, or_sign(s.value, above - shifter), s.value), exponent);
+}
+// Both parts times 2^exponent.
+struct ScaledResult {
+  ComplexVec<Lum64f> value;
+  Mask<Lum64f> is_sure, overflow;
+};
+// The lanes of the mask, which have values of their own, are sure.
+LUM_INLINE ScaledResult ScaledBack(const RoundedWithRest& re, const RoundedWithRest& im, Vec<Lum64f> exponent,
+                                   Mask<Lum64f> is_special) {
+  ComplexVec<Lum64f> value{scalef(re.value, exponent), scalef(im.value, exponent)};
+  auto is_sure = re.is_sure & im.is_sure;
+  if (any(lt(exponent, all(-990.0)) & ~is_special)) [[unlikely]]
+    value = {ScaledBack(re, exponent, is_sure), ScaledBack(im, exponent, is_sure)};
+  return {value, is_sure | is_special, (IsInfinite(value.re) | IsInfinite(value.im)) & ~is_special};
+}
+
 }  // namespace lum::inline LUM_LAYER::complex

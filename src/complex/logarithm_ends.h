@@ -67,7 +67,6 @@ LUM_INLINE ScaledLogarithm LogarithmOfAny(ComplexVec<Lum64f> z) {
   return {value, zero_unless(~IsNegative(z.re), y.exponent)};
 }
 
-LUM_INLINE Mask<Lum64f> IsZero(ComplexVec<Lum64f> z) { return IsZero(z.re) & IsZero(z.im); }
 // The logarithm of zero and of numbers with an infinite or a NaN part.
 LUM_INLINE ComplexVec<Lum64f> LogarithmOfSpecial(ComplexVec<Lum64f> z, const EighthTurns& turns, Lum64f half_turn) {
   const auto nan = z.re * z.im, unbounded = in_register(infinity);

@@ -138,6 +138,24 @@ template <bool by_conjugate> struct A53_64fc : Product<Lum64fc, by_conjugate> {
   static LUM_INLINE Lanes<Lum64fc, ComponentMask<Lum64f>> VectorPath(Interleaved<Lum64f> z, Interleaved<Lum64f> w) {
     return {{HalfOf(z.low, w.low), HalfOf(z.high, w.high)}, {IsFar(z.low) | IsFar(w.low), IsFar(z.high) | IsFar(w.high)}};
   }
+  static LUM_INLINE Finished<Lum64fc> SecondPath(Interleaved<Lum64f> packed_z, Interleaved<Lum64f> packed_w,
+                                                 const Lanes<Lum64fc, ComponentMask<Lum64f>>& lanes) {
+    if constexpr (streams_fit_registers) {
+      const auto z = split(packed_z);
+      auto w = split(packed_w);
+      if constexpr (by_conjugate) w.im = negate(w.im);
+      const auto product = ProductOfScaled(z, w);
+      if (none(~product.is_sure)) [[likely]]
+        return {join(product.value), ~product.is_sure, {.overflow = product.overflow}};
+      const auto given_z = packed_z, given_w = packed_w;  // of which the call takes the address
+      return OfBothPaths(given_z, given_w);
+    } else {
+      return Product<Lum64fc, by_conjugate>::SecondPath(packed_z, packed_w, lanes);
+    }
+  }
+  [[gnu::noinline]] static Finished<Lum64fc> OfBothPaths(const Interleaved<Lum64f>& z, const Interleaved<Lum64f>& w) {
+    return Product<Lum64fc, by_conjugate>::SecondPath(z, w, VectorPath(z, w));
+  }
 };
 
 // A kernel of its own, with the method of A24.

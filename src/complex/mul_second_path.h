@@ -37,4 +37,35 @@ LUM_INLINE CorePair ProductAsCore(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w, Ma
   return product;
 }
 
+LUM_INLINE RoundedWithRest RoundedSumOfProducts(Vec<Lum64f> a, Vec<Lum64f> c, Vec<Lum64f> b, Vec<Lum64f> d) {
+  const auto first = two_product(a, c), second = two_product(b, d);
+  const auto sum = two_sum(first.head, second.head);
+  const auto tail = sum.tail + (first.tail + second.tail);
+  const auto value = sum.head + tail, rest = tail - (value - sum.head);
+  return {value, rest, IsFarFromMiddle(value, rest, 0x1.1p-11)};
+}
+// Products of numbers of any exponents by both factors divided by the power of 2 in their larger part: sums with their tails
+// rounded once, which are the first path's, too; plain ones where one of the arguments is not finite, or zero as a whole.
+LUM_INLINE ScaledResult ProductOfScaled(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w) {
+  const auto z_exponent = max(getexp(z.re), getexp(z.im)), w_exponent = max(getexp(w.re), getexp(w.im));
+  const auto exponent = z_exponent + w_exponent;
+  const auto is_special = IsNonFinite(exponent) | unord(z.re, w.re);
+  auto re = z.re, im = z.im;
+  auto is_sure = is_special, overflow = mask_of<Lum64f>(0);
+  if (any(~is_special)) {
+    const auto [a, b] = NextToOne(z, negate(z_exponent));
+    const auto [c, d] = NextToOne(w, negate(w_exponent));
+    const auto scaled =
+        ScaledBack(RoundedSumOfProducts(a, c, negate(b), d), RoundedSumOfProducts(a, d, b, c), exponent, is_special);
+    re = scaled.value.re, im = scaled.value.im;
+    is_sure = scaled.is_sure, overflow = scaled.overflow;
+  }
+  if (any(is_special)) {
+    is_sure = is_sure & ~(is_special & HaveTwoNans(z, w));
+    re = select(is_special, z.re * w.re + negate(z.im * w.im), re);
+    im = select(is_special, z.re * w.im + z.im * w.re, im);
+  }
+  return {{re, im}, is_sure, overflow};
+}
+
 }  // namespace lum::inline LUM_LAYER::complex

@@ -16,6 +16,9 @@
 //   SecondPathOfTwo({x...}, {lanes...})
 //     Optional, beside SecondPath: the same of two vectors, for a long chain of operations, of which the processor overlaps
 //     two.
+//   RefusesAll(x...)
+//     Optional: whether the first path is known to refuse all lanes, so that the loop over both paths runs the second one
+//     alone.
 // Constants that a kernel may override: variant, vectors (in a block), fill (of inactive lanes: never to be refused), is_short
 // (a vector path of a few operations, which is inlined in either layer), aligns_stores (a function that takes no longer than
 // the memory, whose long arrays begin with the elements up to the first aligned one), and those of the second path:
@@ -159,6 +162,10 @@ template <class K, int n, class Result> LUM_INLINE auto SecondPathOf(const K& ke
   if constexpr (n == 1) return kernel.SecondPath(x[0], r);
   else return kernel.SecondPath(x[0], x[1], r);
 }
+template <class K, int n> LUM_INLINE bool RefusesAllOf(const K& kernel, const Inputs<K, n>& x) {
+  if constexpr (n == 1) return kernel.RefusesAll(x[0]);
+  else return kernel.RefusesAll(x[0], x[1]);
+}
 // Lanes with NaNs in several places, of which the result is that of the first: where operations do not order them, the lane
 // routine does.
 template <class K, int n> LUM_INLINE auto SeveralNans(const Inputs<K, n>& x) {
@@ -248,6 +255,13 @@ template <class K, int n> LUM_INLINE auto ComputeFirst(const K& kernel, const In
 }
 
 template <class K, int n, int m> LUM_INLINE auto ComputeBoth(const K& kernel, const Inputs<K, n>& x) {
+  if constexpr (HasSecondPath<K> && requires { &K::RefusesAll; }) {
+    if (RefusesAllOf<K, n>(kernel, x)) {
+      decltype(VectorPathOf<K, n>(kernel, x)) no_values{};
+      no_values.refused = ~no_values.refused;
+      return ComputeSecond<K, n, m>(kernel, x, no_values);
+    }
+  }
   const auto first = ComputeFirst<K, n>(kernel, x);
   if constexpr (!HasSecondPath<K>) {
     return AsBothPaths<K, m>(first, any(first.refused));

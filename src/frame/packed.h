@@ -48,6 +48,10 @@ template <Floating T> LUM_INLINE ComponentMask<T> operator|(ComponentMask<T> a, 
 
 // x with the fill in the places of the mask.
 template <Floating T> LUM_INLINE Vec<T> FilledWhere(Mask<T> m, Vec<T> x, T fill) { return select(m, all(fill), x); }
+template <Floating T> LUM_INLINE Interleaved<T> FilledWhere(Mask<T> m, Interleaved<T> x, T fill) {
+  const auto z = split(x);
+  return join(ComplexVec<T>{FilledWhere(m, z.re, fill), FilledWhere(m, z.im, fill)});
+}
 template <Floating T> LUM_INLINE Interleaved<T> FilledWhere(ComponentMask<T> m, Interleaved<T> x, T fill) {
   return {FilledWhere(m.low, x.low, fill), FilledWhere(m.high, x.high, fill)};
 }
