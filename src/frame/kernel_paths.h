@@ -30,7 +30,7 @@
 //   hides_refused: the processor would stop at denormal numbers that the first path makes of refused arguments, so the loop
 //     over both paths has the fill in their place.
 //   second_in_all_layers: the lane routine knows only what the second path leaves. Otherwise the portable layer has the
-//     routine alone, which is faster there.
+//     routine alone where the processor has no fused multiply-add, for which it is faster.
 // A kernel with a parameter has it as a data member; all others are empty.
 #pragma once
 
@@ -43,6 +43,7 @@
 #include "frame/element_hook.h"
 #include "frame/environment.h"
 #include "frame/packed.h"
+#include "frame/reports.h"
 
 namespace lum::inline LUM_LAYER {
 
@@ -72,29 +73,6 @@ template <class E> struct TwoLanes {
   Mask<Real<E>> refused;
 };
 
-// Lanes that report, by status; at most one for each lane.
-template <class T> struct Reports { Mask<T> domain{}, singularity{}, overflow{}, underflow{}; };
-// The same as bits, 16 lanes for each status, in one word.
-struct ReportBits {
-  uint64_t word = 0;
-
-  LUM_INLINE ReportBits Among(uint32_t lanes) const { return {word & lanes * uint64_t{0x0001000100010001}}; }
-  LUM_INLINE uint32_t Reporting() const {
-    const uint64_t pairs = word | word >> 32;
-    return (pairs | pairs >> 16) & 0xFFFF;
-  }
-  LumStatus Of(int lane) const {
-    constexpr LumStatus statuses[] = {lumStsDomain, lumStsSingularity, lumStsOverflow, lumStsUnderflow};
-    for (int i = 0; i < 4; ++i) {
-      if ((word >> (16 * i + lane) & 1) != 0) return statuses[i];
-    }
-    return lumStsOk;
-  }
-};
-template <class T> LUM_INLINE ReportBits BitsOf(const Reports<T>& r) {
-  const auto word = [](Mask<T> m) __attribute__((always_inline)) { return uint64_t{to_bits(m)}; };
-  return {word(r.domain) | word(r.singularity) << 16 | word(r.overflow) << 32 | word(r.underflow) << 48};
-}
 // What a second path gives where elements may report.
 template <class E> struct Finished {
   Packed<E> value;

@@ -1,0 +1,318 @@
+// The lanes that a vector path refuses, and elements that report: by the second path where a kernel has one, else and behind it
+// by the lane routine and the hook, in array order. A part of frame/kernel_frame.h.
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <bit>
+#include <cstdint>
+#include <type_traits>
+#include <utility>
+
+#include "frame/element_hook.h"
+#include "frame/environment.h"
+#include "frame/kernel_paths.h"
+#include "frame/packed.h"
+
+namespace lum::inline LUM_LAYER {
+
+// A block with refused lanes, or refused elements side by side: inputs and the vector paths' results in lane order.
+template <class K, int n, int m, int vectors = vectors_of<K>> struct SpilledBlock {
+  alignas(64) typename K::Input inputs[n][vectors * step_of<K>];
+  alignas(64) typename K::Output results[m][vectors * step_of<K>];
+  uint32_t refused[vectors] = {};  // the lanes of each vector
+  ReportBits reports[vectors];
+
+  bool IsRefused(int lane) const { return (refused[lane / step_of<K>] >> (lane % step_of<K>)&1) != 0; }
+  LumStatus Reported(int lane) const { return reports[lane / step_of<K>].Of(lane % step_of<K>); }
+};
+
+namespace frame {
+
+LUM_INLINE uint32_t RemainingBits(uint32_t lanes) { return lanes; }
+template <Floating T> LUM_INLINE uint32_t RemainingBits(ComponentMask<T> m) { return element_bits(m); }
+LUM_INLINE bool AnyRemaining(uint32_t lanes) { return lanes != 0; }
+template <Floating T> LUM_INLINE bool AnyRemaining(ComponentMask<T> m) { return any(m); }
+
+// What both paths made of vector v of a block.
+template <class K, int n, int m, class Both, int vectors>
+LUM_INLINE void Spill(const Inputs<K, n>& x, const Both& r, int v, uint32_t in_use, SpilledBlock<K, n, m, vectors>& block) {
+  for (int j = 0; j < n; ++j) StoreElements(&block.inputs[j][v * step_of<K>], x[j]);
+  for (int j = 0; j < m; ++j) StoreElements(&block.results[j][v * step_of<K>], r.values[j]);
+  // A fill lane is refused only where a parameter makes it so; its result would be dropped by the masked store.
+  block.refused[v] = RemainingBits(r.remaining) & in_use;
+  block.reports[v] = r.reports.Among(in_use);
+}
+
+// An element that reports passes through the caller's array and the hook.
+template <class K, int n, int m, int vectors>
+LUM_INLINE void ReportLane(LumStatus reported, const Arrays<K, n, m>& arrays, int64_t index, int lane,
+                           SpilledBlock<K, n, m, vectors>& block, Call& call) {
+  auto& r = block.results;
+  call.status = reported;
+  for (int j = 0; j < m; ++j) arrays.dst[j][index] = r[j][lane];
+  const void* const last_source = K::hook_has_first_source_only ? arrays.src[0] : arrays.src[n - 1];
+  ElementHook(reported, static_cast<int32_t>(index), arrays.src[0], last_source, arrays.dst[0], arrays.dst[m - 1],
+              &hook_cell<K>);
+  for (int j = 0; j < m; ++j) r[j][lane] = arrays.dst[j][index];
+}
+
+// The lane routine on one spilled lane, or the report of a lane that the second path has finished.
+template <class K, int n, int m, int vectors>
+LUM_INLINE void FinishLane(const K& kernel, const Arrays<K, n, m>& arrays, int64_t index, int lane,
+                           SpilledBlock<K, n, m, vectors>& block, Call& call) {
+  auto& x = block.inputs;
+  auto& r = block.results;
+  const auto routine = [&] {
+    if constexpr (n == 2) return kernel.LaneRoutine(std::as_const(x[0][lane]), std::as_const(x[1][lane]), r[0][lane]);
+    else if constexpr (m == 2) return kernel.LaneRoutine(std::as_const(x[0][lane]), r[0][lane], r[1][lane]);
+    else return kernel.LaneRoutine(std::as_const(x[0][lane]), r[0][lane]);
+  };
+  if constexpr (std::is_void_v<decltype(routine())>) {
+    if (block.IsRefused(lane)) routine();
+  } else {
+    const LumStatus reported = block.IsRefused(lane) ? routine() : block.Reported(lane);
+    if (reported != lumStsOk) ReportLane(reported, arrays, index, lane, block, call);
+  }
+}
+
+}  // namespace frame
+
+// Finishes a spilled block, or a tail of count elements, from index first on.
+template <class K, int n, int m>
+__attribute__((noinline, cold)) void FinishSpilled(const K& kernel, const Arrays<K, n, m>& arrays, int64_t first, int count,
+                                                   SpilledBlock<K, n, m>& block, Call& call) {
+  constexpr int step = step_of<K>;
+  for (int v = 0; v * step < count; ++v) {
+    uint32_t lanes = block.refused[v] | block.reports[v].Reporting();
+    if constexpr (K::variant.x87 == X87Form::lazy) {
+      if (lanes != 0 && !call.environment.x87_prepared) X87Prepare(call.environment);
+    }
+    for (; lanes != 0; lanes &= lanes - 1) {
+      const int lane = v * step + std::countr_zero(lanes);
+      frame::FinishLane(kernel, arrays, first + lane, lane, block, call);
+    }
+  }
+  for (int v = 0; v * step < count; ++v) {
+    const int active = std::min(step, count - v * step);
+    for (int j = 0; j < m; ++j) {
+      StoreElements(active, arrays.dst[j] + first + v * step, LoadElements(&block.results[j][v * step]));
+    }
+  }
+}
+
+// Finishes a block with refused lanes by the lane routine: count elements from index first on, fewer than a block in the tail.
+// It computes the block anew, so that the hot loop has no need to keep its vectors across a call.
+template <class K, int n, int m>
+__attribute__((noinline, cold)) void FinishLanes(const K& kernel, const Arrays<K, n, m>& arrays, int64_t first, int count,
+                                                 Call& call) {
+  SpilledBlock<K, n, m> block;
+  constexpr int step = step_of<K>;
+  for (int v = 0; v * step < count; ++v) {
+    const int active = std::min(step, count - v * step);
+    const auto x = frame::LoadStep<K, n, m>(arrays, first + v * step, active);
+    frame::Spill<K, n, m>(x, frame::ComputeBoth<K, n, m>(kernel, x), v, (1u << active) - 1u, block);
+  }
+  FinishSpilled(kernel, arrays, first, count, block, call);
+}
+
+namespace frame {
+
+// The status of the last lane that reports.
+LUM_INLINE void TakeLastReport(ReportBits reports, Call& call) {
+  if (reports.word != 0) call.status = reports.Of(std::bit_width(reports.Reporting()) - 1);
+}
+
+// A full block of which both paths have made r; true where the first one refused lanes of it.
+template <class K, int n, int m, class Both, size_t... v>
+LUM_INLINE bool FinishBlock(const K& kernel, const Arrays<K, n, m>& arrays, int64_t first, Call& call, const Both& r,
+                            std::index_sequence<v...>) {
+  constexpr uint32_t all_lanes = (1u << step_of<K>)-1u;
+  if (AnyRemaining((r[v].remaining | ...)) || (!element_hook_is_empty && (r[v].reports.word | ...) != 0)) [[unlikely]] {
+    SpilledBlock<K, n, m> block;
+    (Spill<K, n, m>(LoadStep<K, n, m>(arrays, first + static_cast<int64_t>(v) * step_of<K>), r[v], v, all_lanes, block), ...);
+    FinishSpilled(kernel, arrays, first, block_of<K>, block, call);
+    return true;
+  }
+  (TakeLastReport(r[v].reports, call), ...);
+  for (int j = 0; j < m; ++j) {
+    (StoreElements(arrays.dst[j] + first + static_cast<int64_t>(v) * step_of<K>, r[v].values[j]), ...);
+  }
+  return (r[v].any_refused || ...);
+}
+// A full block by both paths; true where the first one refused lanes of it.
+template <class K, int n, int m, size_t... v>
+LUM_INLINE bool BlockOfBothPaths(const K& kernel, const Arrays<K, n, m>& arrays, int64_t first, Call& call,
+                                 std::index_sequence<v...>) {
+  const auto step = [&](size_t i) __attribute__((always_inline)) {
+    return LoadStep<K, n, m>(arrays, first + static_cast<int64_t>(i) * step_of<K>);
+  };
+  if constexpr (HasSecondPath<K> && vectors_fit_registers && K::second_is_short && K::hides_refused &&
+                std::is_floating_point_v<typename K::Input>) {
+    if (has_all_elements((Compute<K, n>(kernel, step(v)).refused & ...)))
+      return FinishBlock<K, n, m>(kernel, arrays, first, call, std::array{ComputeSecondAlone<K, n, m>(kernel, step(v))...},
+                                  std::index_sequence<v...>());
+  }
+  return FinishBlock<K, n, m>(kernel, arrays, first, call, std::array{ComputeBoth<K, n, m>(kernel, step(v))...},
+                              std::index_sequence<v...>());
+}
+
+// The refused elements of some vectors are packed side by side where the second path is long, which then runs over them alone.
+template <class K>
+concept PacksRefused = packs_lanes && !K::second_is_short && std::is_floating_point_v<typename K::Input> &&
+                       std::is_same_v<typename K::Input, typename K::Output>;
+inline constexpr int most_packed = 16;  // vectors
+
+// With one more vector, of fill.
+template <class K, int n, int m> using PackedElements = SpilledBlock<K, n, m, most_packed + 1>;
+
+// The lane routine and the reports of packed elements: those of the vectors from index first on whose lanes are the bits.
+template <class K, int n, int m>
+__attribute__((noinline, cold)) void FinishPacked(const K& kernel, const Arrays<K, n, m>& arrays, int64_t first,
+                                                  const uint32_t (&lanes)[most_packed], int count,
+                                                  PackedElements<K, n, m>& packed, Call& call) {
+  if constexpr (K::variant.x87 == X87Form::lazy) {
+    if (!call.environment.x87_prepared) X87Prepare(call.environment);
+  }
+  int element = 0;
+  for (int v = 0; v < count; ++v) {
+    for (uint32_t rest = lanes[v]; rest != 0; rest &= rest - 1, ++element) {
+      FinishLane(kernel, arrays, first + v * step_of<K> + std::countr_zero(rest), element, packed, call);
+    }
+  }
+}
+
+// The second path over packed elements. True where an element has to pass through FinishPacked.
+template <class K, int n, int m>
+LUM_INLINE bool FinishPackedVectors(const K& kernel, int elements, PackedElements<K, n, m>& packed, Call& call) {
+  using T = typename K::Input;
+  constexpr int step = step_of<K>;
+  bool is_cold = false;
+  for (int j = 0; j < n; ++j) store(&packed.inputs[j][elements], all(T(K::fill)));
+  const auto count_of = [&](int v) __attribute__((always_inline)) { return std::min(elements - v * step, step); };
+  const auto inputs_of = [&](int v) __attribute__((always_inline)) {
+    Inputs<K, n> x;
+    for (int j = 0; j < n; ++j) x[j] = load(&packed.inputs[j][v * step]);
+    return x;
+  };
+  const auto refused_alone = [&](int v) __attribute__((always_inline)) {
+    decltype(Compute<K, n>(kernel, inputs_of(v))) r{};
+    r.refused = first_lanes<T>(count_of(v));
+    return r;
+  };
+  using Both = decltype(ComputeSecond<K, n, m>(kernel, inputs_of(0), refused_alone(0)));
+  const auto take = [&](int v, const Both& r) __attribute__((always_inline)) {
+    Spill<K, n, m>(inputs_of(v), r, v, (1u << count_of(v)) - 1u, packed);
+    TakeLastReport(packed.reports[v], call);
+    is_cold = is_cold || packed.refused[v] != 0 || (!element_hook_is_empty && packed.reports[v].word != 0);
+  };
+  int v = 0;
+  if constexpr (FinishesTwo<K>) {
+    for (; (v + 1) * step < elements; v += 2) {
+      const auto r = CalledFinishTwo<K, n, m>(kernel, {inputs_of(v), inputs_of(v + 1)},
+                                              std::array{refused_alone(v), refused_alone(v + 1)});
+      take(v, r[0]);
+      take(v + 1, r[1]);
+    }
+  }
+  for (; v * step < elements; ++v) take(v, ComputeSecond<K, n, m>(kernel, inputs_of(v), refused_alone(v)));
+  return is_cold;
+}
+
+// Some vectors from index first on, the refused elements packed. Returns their number.
+template <class K, int n, int m>
+LUM_INLINE int VectorsOfBothPaths(const K& kernel, const Arrays<K, n, m>& arrays, int64_t first, int count, Call& call) {
+  using T = typename K::Input;
+  constexpr int step = step_of<K>;
+  constexpr uint32_t all_lanes = (1u << step) - 1u;
+  PackedElements<K, n, m> packed;
+  uint32_t refused[most_packed];
+  int elements = 0;
+  for (int v = 0; v < count; ++v) {
+    const auto x = LoadStep<K, n, m>(arrays, first + v * step);
+    // Has no need for the first path's values.
+    const auto pack_all = [&]() __attribute__((always_inline)) {
+      refused[v] = all_lanes;
+      for (int j = 0; j < n; ++j) store(&packed.inputs[j][elements], x[j]);
+      elements += step;
+    };
+    if constexpr (K::refuses_by_class) {
+      if (v > 0 && refused[v - 1] == all_lanes && has_all_elements(Compute<K, n>(kernel, x).refused)) {
+        pack_all();
+        continue;
+      }
+    }
+    const auto r = ComputeFirst<K, n>(kernel, x);
+    refused[v] = to_bits(r.refused);
+    if (refused[v] == all_lanes) {
+      pack_all();
+      continue;
+    }
+    StoreStep<K, n, m>(arrays, first + v * step, r);
+    for (int j = 0; j < n; ++j) store(&packed.inputs[j][elements], compress(r.refused, x[j]));
+    elements += std::popcount(refused[v]);
+  }
+  if (elements == 0) return 0;
+  if (FinishPackedVectors<K, n, m>(kernel, elements, packed, call)) [[unlikely]] {
+    FinishPacked(kernel, arrays, first, refused, count, packed, call);
+  }
+  int element = 0;
+  for (int v = 0; v < count; ++v) {
+    const auto lanes = mask_of<T>(refused[v]);
+    for (int j = 0; j < m; ++j) {
+      auto* const dst = arrays.dst[j] + first + v * step;
+      const auto results = load(&packed.results[j][element]);
+      if (refused[v] == all_lanes) store(dst, results);
+      else store(dst, select(lanes, expand(lanes, results), load(dst)));
+    }
+    element += std::popcount(refused[v]);
+  }
+  return elements;
+}
+
+// A block with refused lanes, and those behind it: special arguments come in clusters, so this loop goes on until some blocks
+// have had none. Returns the index behind its last vector.
+template <class K, int n, int m>
+__attribute__((noinline)) int64_t BlocksOfBothPaths(const K& kernel, const Arrays<K, n, m>& arrays, int64_t first, int64_t len,
+                                                    Call& call) {
+  if constexpr (PacksRefused<K>) {
+    // Of more vectors at a time the longer the cluster is.
+    for (int most = vectors_of<K>; first + step_of<K> <= len; most = std::min(2 * most, most_packed)) {
+      const auto vectors = static_cast<int>(std::min<int64_t>(most, (len - first) / step_of<K>));
+      const bool refuses = VectorsOfBothPaths<K, n, m>(kernel, arrays, first, vectors, call) != 0;
+      first += vectors * step_of<K>;
+      if (!refuses) break;
+    }
+  } else {
+    constexpr int most_ordinary = 2;
+    int ordinary = 0;
+    do {
+      const bool refuses = BlockOfBothPaths<K, n, m>(kernel, arrays, first, call, std::make_index_sequence<vectors_of<K>>());
+      ordinary = refuses ? 0 : ordinary + 1;
+      first += block_of<K>;
+    } while (ordinary < most_ordinary && first + block_of<K> <= len);
+  }
+  return first;
+}
+
+// A vector of fewer elements by both paths.
+template <class K, int n, int m>
+__attribute__((noinline)) void TailOfBothPaths(const K& kernel, const Arrays<K, n, m>& arrays, int64_t i, int count,
+                                               Call& call) {
+  const auto x = LoadStep<K, n, m>(arrays, i, count);
+  const auto r = ComputeBoth<K, n, m>(kernel, x);
+  const uint32_t in_use = (1u << count) - 1u;
+  const auto reports = r.reports.Among(in_use);
+  if (AnyRemaining(r.remaining) || (!element_hook_is_empty && reports.word != 0)) {
+    SpilledBlock<K, n, m> block;
+    Spill<K, n, m>(x, r, 0, in_use, block);
+    FinishSpilled(kernel, arrays, i, count, block, call);
+    return;
+  }
+  TakeLastReport(reports, call);
+  for (int j = 0; j < m; ++j) StoreElements(count, arrays.dst[j] + i, r.values[j]);
+}
+
+}  // namespace frame
+
+}  // namespace lum::inline LUM_LAYER
