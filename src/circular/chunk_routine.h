@@ -33,7 +33,7 @@ inline AngleColumns<double> AngleAt(uint64_t row) {
 }
 LUM_INLINE auto AngleAt(Vec<uint64_t> row) { return gather_rows<Lum64f>(angles_64f, shift_left<2>(row)); }
 
-// The upper 26 bits of a significand.
+// All bits of a number but for the lower 27 of its significand.
 inline constexpr uint64_t upper_half = 0xFFFFFFFFF8000000;
 
 // Toward zero, of numbers below 2^63.
@@ -46,7 +46,7 @@ LUM_INLINE Vec<Lum64f> OddPart(Vec<Lum64f> n) { return n - all(2.0) * Truncated(
 
 // ---- The steps of both; counts are integers in binary64
 
-// To a sum of numbers and the sum of its rounding errors.
+// Adds x to the head, a sum of numbers, and the rounding error to the tail.
 template <class V> LUM_INLINE void Accumulate(TwoParts<V>& sum, V x) {
   const auto next = two_sum(sum.head, x);
   sum = {next.head, sum.tail + next.tail};
