@@ -214,7 +214,7 @@ template <class K, int n, int m, class Result>
 // The second path once: a long one as a function that all blocks and the tail share.
 template <class K, int n, int m, class Result>
 LUM_INLINE auto ComputeSecond(const K& kernel, const Inputs<K, n>& x, const Result& r) {
-  if constexpr (vectors_fit_registers && (K::second_is_short || K::second_is_shared))
+  if constexpr ((vectors_fit_registers && K::second_is_short) || (streams_fit_registers && K::second_is_shared))
     return FinishVector<K, n, m>(kernel, x, r);
   else return CalledFinishVector<K, n, m>(kernel, x, r);
 }

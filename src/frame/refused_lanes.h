@@ -161,15 +161,16 @@ LUM_INLINE bool BlockOfBothPaths(const K& kernel, const Arrays<K, n, m>& arrays,
 template <class K>
 concept PacksRefused = packs_lanes && !K::second_is_short && std::is_floating_point_v<typename K::Input> &&
                        std::is_same_v<typename K::Input, typename K::Output>;
-inline constexpr int most_packed = 16;  // vectors
+// Vectors; fewer where two at a time need the stack.
+template <class K, int n> inline constexpr int most_packed = FinishesTwo<K>&& n == 2 ? 12 : 16;
 
 // With one more vector, of fill.
-template <class K, int n, int m> using PackedElements = SpilledBlock<K, n, m, most_packed + 1>;
+template <class K, int n, int m> using PackedElements = SpilledBlock<K, n, m, most_packed<K, n> + 1>;
 
 // The lane routine and the reports of packed elements: those of the vectors from index first on whose lanes are the bits.
 template <class K, int n, int m>
 __attribute__((noinline, cold)) void FinishPacked(const K& kernel, const Arrays<K, n, m>& arrays, int64_t first,
-                                                  const uint32_t (&lanes)[most_packed], int count,
+                                                  const uint32_t (&lanes)[most_packed<K, n>], int count,
                                                   PackedElements<K, n, m>& packed, Call& call) {
   if constexpr (K::variant.x87 == X87Form::lazy) {
     if (!call.environment.x87_prepared) X87Prepare(call.environment);
@@ -226,7 +227,7 @@ LUM_INLINE int VectorsOfBothPaths(const K& kernel, const Arrays<K, n, m>& arrays
   constexpr int step = step_of<K>;
   constexpr uint32_t all_lanes = (1u << step) - 1u;
   PackedElements<K, n, m> packed;
-  uint32_t refused[most_packed];
+  uint32_t refused[most_packed<K, n>];
   int elements = 0;
   for (int v = 0; v < count; ++v) {
     const auto x = LoadStep<K, n, m>(arrays, first + v * step);
@@ -277,7 +278,7 @@ __attribute__((noinline)) int64_t BlocksOfBothPaths(const K& kernel, const Array
                                                     Call& call) {
   if constexpr (PacksRefused<K>) {
     // Of more vectors at a time the longer the cluster is.
-    for (int most = vectors_of<K>; first + step_of<K> <= len; most = std::min(2 * most, most_packed)) {
+    for (int most = vectors_of<K>; first + step_of<K> <= len; most = std::min(2 * most, most_packed<K, n>)) {
       const auto vectors = static_cast<int>(std::min<int64_t>(most, (len - first) / step_of<K>));
       const bool refuses = VectorsOfBothPaths<K, n, m>(kernel, arrays, first, vectors, call) != 0;
       first += vectors * step_of<K>;

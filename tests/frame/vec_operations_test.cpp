@@ -162,7 +162,7 @@ TEST(VecOperations, TablesHaveTheSameEntries) {
 // The names of the operations that headers define, in their order.
 std::vector<std::string> DefinedOperations(std::initializer_list<std::string> headers) {
   std::vector<std::string> names;
-  const std::regex definition(R"((?:LUM_INLINE|\[\[gnu::noinline\]\]) [^(]*?\b(operator[^ (]+|\w+)\()");
+  const std::regex definition(R"((?:LUM_INLINE\w*|\[\[gnu::noinline\]\]) [^(]*?\b(operator[^ (]+|\w+)\()");
   for (const std::string& header : headers) {
     std::ifstream file(std::string(LUM_SOURCE_DIR) + "/src/frame/" + header);
     EXPECT_TRUE(file) << header;

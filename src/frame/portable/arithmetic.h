@@ -165,27 +165,31 @@ template <Floating T> LUM_INLINE Vec<T> max(const Vec<T>& a, const Vec<T>& b) {
       [](auto x, auto y) __attribute__((always_inline)) { return x > y ? x : y; }, a, b);
 }
 // 1 / a with a relative error below 2^-14; a zero gives an infinity and an infinity a zero, of its sign.
-template <Floating T> LUM_INLINE Vec<T> rcp14(const Vec<T>& a) {
+template <Floating T> LUM_INLINE_WITH_FMA Vec<T> rcp14(const Vec<T>& a) {
   return each_part_with_care<lane::rcp14<T>, T>(reg::rcp14_of_normal<T>, reg::has_no_normal_reciprocal<T>, a);
 }
 // 1 / sqrt a with a relative error below 2^-14; a zero gives an infinity of its sign, a negative number the default NaN.
-template <Floating T> LUM_INLINE Vec<T> rsqrt14(const Vec<T>& a) {
+template <Floating T> LUM_INLINE_WITH_FMA Vec<T> rsqrt14(const Vec<T>& a) {
   return each_part_with_care<lane::rsqrt14<T>, T>(reg::rsqrt14_of_normal<T>, reg::is_not_positive_normal<T>, a);
 }
 // Of numbers that are normal and have a normal reciprocal; in other lanes any value.
-template <Floating T> LUM_INLINE Vec<T> rcp14_normal(const Vec<T>& a) { return each_part<T>(reg::rcp14_of_normal<T>, a); }
+template <Floating T> LUM_INLINE_WITH_FMA Vec<T> rcp14_normal(const Vec<T>& a) {
+  return each_part<T>(reg::rcp14_of_normal<T>, a);
+}
 // Of positive normal numbers; in other lanes any value.
-template <Floating T> LUM_INLINE Vec<T> rsqrt14_normal(const Vec<T>& a) { return each_part<T>(reg::rsqrt14_of_normal<T>, a); }
+template <Floating T> LUM_INLINE_WITH_FMA Vec<T> rsqrt14_normal(const Vec<T>& a) {
+  return each_part<T>(reg::rsqrt14_of_normal<T>, a);
+}
 
 // ---- Exponent, significand, rounding to a grid
 
 // floor(log2 |a|), also of denormals; -infinity for a zero, +infinity for an infinity.
-template <Floating T> LUM_INLINE Vec<T> getexp(const Vec<T>& a) {
+template <Floating T> LUM_INLINE_WITH_FMA Vec<T> getexp(const Vec<T>& a) {
   return each_part_with_care<lane::getexp<T>, T>(reg::getexp_of_normal<T>, reg::is_not_normal<T>, a);
 }
 // The significand of a in the interval of imm bits 0-1: 0 [1,2), 1 [1/2,2), 2 [1/2,1), 3 [3/4,3/2); bits 2-3: 0 keeps the sign,
 // 1 clears it, 2 gives the default NaN for a negative number.
-template <int imm, Floating T> LUM_INLINE Vec<T> getmant(const Vec<T>& a) {
+template <int imm, Floating T> LUM_INLINE_WITH_FMA Vec<T> getmant(const Vec<T>& a) {
   constexpr auto doubt = (imm & 8) != 0 ? reg::is_not_positive_normal<T> : reg::is_not_normal<T>;
   return each_part_with_care<lane::getmant<imm, T>, T>(reg::getmant_of_normal<imm, T>, doubt, a);
 }
@@ -198,7 +202,7 @@ template <int imm, Floating T> LUM_INLINE Vec<T> getmant_normal(const Vec<T>& a)
 template <Floating T> struct Parts { Vec<T> significand, exponent; };
 template <int imm, Floating T> LUM_INLINE Parts<T> parts(const Vec<T>& a) { return {getmant<imm>(a), getexp(a)}; }
 // a 2^floor(b) with one rounding, gradual underflow included.
-template <int R = rn, Floating T> LUM_INLINE Vec<T> scalef(const Vec<T>& a, const Vec<T>& b) {
+template <int R = rn, Floating T> LUM_INLINE_WITH_FMA Vec<T> scalef(const Vec<T>& a, const Vec<T>& b) {
   if constexpr (R != rn) return each_lane<T>([&](int i) { return lane::exact_scalef<R>(a.lane[i], b.lane[i]); });
   else
     return each_part_with_care<lane::exact_scalef<R, T>, T>(
@@ -210,7 +214,9 @@ template <Floating T> LUM_INLINE Vec<T> scalef_normal(const Vec<T>& a, const Vec
 }
 // a rounded to a multiple of 2^-M, M in imm bits 4-7; bits 0-1: 0 nearest even, 1 down, 2 up, 3 toward zero; bit 2: the
 // environment's rounding, which kernels have set to nearest.
-template <int imm, Floating T> LUM_INLINE Vec<T> rndscale(const Vec<T>& a) { return each_part<T>(reg::rndscale<imm, T>, a); }
+template <int imm, Floating T> LUM_INLINE_WITH_FMA Vec<T> rndscale(const Vec<T>& a) {
+  return each_part<T>(reg::rndscale<imm, T>, a);
+}
 // rcp14(m) rounded to a multiple of 2^-grid, for m of the interval that getmant's immediate names: 0 [1,2) or 2 [1/2,1), of
 // either sign. Of a NaN any value.
 template <int grid, int interval, Floating T> LUM_INLINE Vec<T> rounded_rcp14(const Vec<T>& m) {
@@ -234,7 +240,9 @@ template <int kept, Floating T> LUM_INLINE Vec<T> rcp14_halves_up_normal(const V
   return rounded_halves_up<kept>(rcp14_normal(a));
 }
 // a - rndscale<imm>(a), the exact remainder.
-template <int imm, Floating T> LUM_INLINE Vec<T> reduce(const Vec<T>& a) { return each_part<T>(reg::reduce<imm, T>, a); }
+template <int imm, Floating T> LUM_INLINE_WITH_FMA Vec<T> reduce(const Vec<T>& a) {
+  return each_part<T>(reg::reduce<imm, T>, a);
+}
 // a + c rounded down, for c = 1.5 * 2^k and a bit more and |a| up to 2^(k-2), so that it is the floor of a on the grid whose
 // step is the sum's last bit, 2^-grid; and the rest of a above that floor, rounded down, a zero of either sign.
 template <Floating T> struct FloorAndRest { Vec<T> sum, rest; };

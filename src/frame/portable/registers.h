@@ -16,6 +16,14 @@
 namespace lum {
 inline namespace portable {
 
+// Of operations of many instructions. Without a fused multiply-add vectors are in memory most of the time, and a call costs
+// little beside that.
+#if defined(__FMA__) || defined(__ARM_FEATURE_FMA)
+#define LUM_INLINE_WITH_FMA LUM_INLINE
+#else
+#define LUM_INLINE_WITH_FMA [[gnu::noinline]]
+#endif
+
 #if defined(__AVX__)
 inline constexpr int register_bytes = 32;
 #else
