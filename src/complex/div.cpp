@@ -50,7 +50,7 @@ LUM_INLINE ComplexVec<Lum64f> DoubleQuotient(ComplexVec<Lum64f> z, ComplexVec<Lu
 
 template <class E> struct QuotientKernel : Kernel<E> {
   static constexpr int vectors = 1;
-  static constexpr bool second_is_shared = sizeof(Real<E>) == 4;
+  static constexpr bool second_is_shared = streams_fit_registers && sizeof(Real<E>) == 4;
   static LUM_INLINE Finished<E> SecondPath(Packed<E> packed_z, Packed<E> packed_w, const Lanes<E>& lanes) {
     const auto z = split(packed_z), w = split(packed_w);
     const auto r = QuotientLanes(z, w, lanes);
@@ -200,7 +200,7 @@ struct A53_64fc : QuotientKernel<Lum64fc> {
     }
     return {{re, im}, is_sure, overflow};
   }
-  static constexpr bool second_is_shared = scales_all;
+  static constexpr bool second_is_shared = streams_fit_registers && scales_all;
   static LUM_INLINE Finished<Lum64fc> SecondPath(Interleaved<Lum64f> z, Interleaved<Lum64f> w, const Lanes<Lum64fc>& lanes) {
     if constexpr (streams_fit_registers) {
       const auto quotient = QuotientOfScaled(split(z), split(w));

@@ -26,7 +26,7 @@
 //   refused elements of several vectors together.
 //   refuses_by_class: what the first path refuses is known from the arguments by a few operations, so that clusters of special
 //     arguments may be spared it.
-//   second_is_shared: its long part is a function that the kernels of several tags share, so that the rest may stand inline.
+//   second_is_shared: it is called by itself where it is long, or registers hold all of its vectors, so that it stands inline.
 //   hides_refused: the processor would stop at denormal numbers that the first path makes of refused arguments, so the loop
 //     over both paths has the fill in their place.
 //   second_in_all_layers: the lane routine knows only what the second path leaves. Otherwise the portable layer has the
@@ -214,7 +214,7 @@ template <class K, int n, int m, class Result>
 // The second path once: a long one as a function that all blocks and the tail share.
 template <class K, int n, int m, class Result>
 LUM_INLINE auto ComputeSecond(const K& kernel, const Inputs<K, n>& x, const Result& r) {
-  if constexpr ((vectors_fit_registers && K::second_is_short) || (streams_fit_registers && K::second_is_shared))
+  if constexpr (vectors_fit_registers && (K::second_is_short || K::second_is_shared))
     return FinishVector<K, n, m>(kernel, x, r);
   else return CalledFinishVector<K, n, m>(kernel, x, r);
 }

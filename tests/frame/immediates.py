@@ -12,7 +12,7 @@ import sys
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parents[2]
-COMPUTED = ("getmant", "reduce", "rndscale")
+COMPUTED = ("getmant", "rndscale")
 
 
 def computed():
