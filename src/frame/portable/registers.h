@@ -157,23 +157,23 @@ template <Lane T, class F> LUM_INLINE Mask<T> each_mask_lane(F condition) {
   for (int i = 0; i < lanes_of<T>; ++i) r.lane[i] = condition(i) ? set : T{0};
   return r;
 }
+
 // ---- Some lanes with care
 
-// r with careful(a, b, ...) in the lanes of which doubt has bits set.
+// r, but careful(a, b, ...) in the lanes of which doubt has bits set. Of one register: what goes to the call and comes from it
+// is in registers.
 template <auto careful, Floating T, class... Operands>
-[[gnu::noinline, gnu::cold]] Vec<T> redo_lanes(Vec<T> r, const Mask<T>& doubt, const Operands&... operands) {
-  for (int i = 0; i < lanes_of<T>; ++i)
-    if (doubt.bits_of(i)) r.lane[i] = careful(operands.lane[i]...);
+[[gnu::noinline, gnu::cold]] Register<T> redone_lanes(Register<T> r, Register<UnsignedOf<T>> doubt, Operands... operands) {
+  for (int i = 0; i < lanes_of_register<T>; ++i)
+    if (doubt[i] != 0) r[i] = careful(operands[i]...);
   return r;
 }
-// r, but that in lanes of which doubt has bits set, if there are any. What goes to the call and comes from it are copies, so
-// that on the usual way nothing is in memory.
+// The same of a vector.
 template <auto careful, Floating T, class... Operands>
 LUM_INLINE Vec<T> with_lanes_redone(const Vec<T>& r, const Mask<T>& doubt, const Operands&... operands) {
   if (none(doubt)) [[likely]]
     return r;
-  const auto redone = redo_lanes<careful>(recast<Vec<T>>(r), recast<Mask<T>>(doubt), recast<Operands>(operands)...);
-  return recast<Vec<T>>(redone);
+  return each_part<T>(redone_lanes<careful, T, decltype(part_of(operands, 0))...>, r, doubt, operands...);
 }
 // The result that quick(i) gives in every lane, with careful(a, b, ...) instead where doubt(i, result) has bits set.
 template <auto careful, Floating T, class Quick, class Doubt, class... Operands>
@@ -192,9 +192,10 @@ LUM_INLINE Vec<T> each_part_but_nans(Quick quick, const Operands&... operands) {
   for (int part = 1; part < parts_of_vector; ++part) sum += part_of(r, part);
   if (!any_bit(sum != sum)) [[likely]]
     return r;
-  const Mask<T> nans = each_mask_part<T>(
-      [](auto x) __attribute__((always_inline)) { return x != x; }, r);
-  return with_lanes_redone<careful>(r, nans, operands...);
+  return each_part<T>(
+      [](auto x, auto... part)
+          __attribute__((always_inline)) { return redone_lanes<careful, T>(x, register_cast<UnsignedOf<T>>(x != x), part...); },
+      r, operands...);
 }
 // The result of quick(part of a, ...) in every lane, with careful(a, b, ...) where doubt(part of a, ...) has bits set.
 template <auto careful, Floating T, class Quick, class Doubt, class... Operands>
