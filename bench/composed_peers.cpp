@@ -8,7 +8,7 @@
 #include "peers.h"
 
 #if defined(__x86_64__)
-#include "avx512.h"
+#include "frame/intrinsics.h"
 
 namespace lum::bench {
 namespace {

@@ -1,7 +1,7 @@
 #include "peers.h"
 
 #if defined(__x86_64__)
-#include "avx512.h"
+#include "frame/intrinsics.h"
 #include "peer_loops.h"
 
 namespace lum::bench {

@@ -20,6 +20,7 @@ using namespace explog;
 // The scale factor of a vanishing result would be denormal.
 template <class T> struct ExpKernel : Kernel<T> {
   static constexpr bool second_is_short = true;
+  static constexpr bool refuses_by_class = true;
   static constexpr bool hides_refused = true;
 };
 

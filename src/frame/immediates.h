@@ -27,7 +27,7 @@ inline constexpr int not_positive_normal = not_positive_finite | denormal;
 // The operands of ternary as columns of its truth table, whose rows are 4 a + 2 b + c: A ^ (B & C) is the table of a ^ (b & c).
 inline constexpr int A = 0xF0, B = 0xCC, C = 0xAA;
 
-// What rndscale rounds to and reduce takes off: multiples of 2^-n, 0 <= n <= 15; joined with a rounding (rn, rd, ru, rz, or
+// What rndscale rounds to: multiples of 2^-n, 0 <= n <= 15; joined with a rounding (rn, rd, ru, rz, or
 // the environment's, which kernels have set to nearest) and with `quiet`, which has the instruction raise no flag of itself.
 consteval int binary_places(int n) { return n << 4; }
 inline constexpr int as_environment = 4;

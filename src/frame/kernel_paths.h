@@ -17,15 +17,14 @@
 //     Optional, beside SecondPath: the same of two vectors, for a long chain of operations, of which the processor overlaps
 //     two.
 //   RefusesAll(x...)
-//     Optional: whether the first path is known to refuse all lanes, so that the loop over both paths runs the second one
-//     alone.
+//     Optional: whether the first path refuses all lanes, from the arguments by a few operations, so that the loop over both
+//     paths runs the second one alone.
 // Constants that a kernel may override: variant, vectors (in a block), fill (of inactive lanes: never to be refused), is_short
 // (a vector path of a few operations, which is inlined in either layer), aligns_stores (a function that takes no longer than
 // the memory, whose long arrays begin with the elements up to the first aligned one), and those of the second path:
 //   second_is_short: a few operations, so that it costs less to run it than to see whether a vector needs it, or to bring the
 //   refused elements of several vectors together.
-//   refuses_by_class: what the first path refuses is known from the arguments by a few operations, so that clusters of special
-//     arguments may be spared it.
+//   refuses_by_class: a few operations of the first path say which lanes it refuses, and serve as RefusesAll.
 //   second_is_shared: it is called by itself where it is long, or registers hold all of its vectors, so that it stands inline.
 //   hides_refused: the processor would stop at denormal numbers that the first path makes of refused arguments, so the loop
 //     over both paths has the fill in their place.
@@ -129,7 +128,7 @@ template <class K, int n> LUM_INLINE auto Compute(const K& kernel, const Inputs<
   else return VectorPathOf<K, n>(kernel, x);
 }
 
-// The same of a vector of which the first count elements are in use.
+// The vector path where only the first count elements of a vector are in use.
 template <class K, int n> LUM_INLINE auto ComputeTail(const K& kernel, const Inputs<K, n>& x, int count) {
   if constexpr (n == 1 && requires { kernel.TailPath(x[0], count); }) return kernel.TailPath(x[0], count);
   else if constexpr (n == 2 && requires { kernel.TailPath(x[0], x[1], count); }) return kernel.TailPath(x[0], x[1], count);
@@ -140,8 +139,13 @@ template <class K, int n, class Result> LUM_INLINE auto SecondPathOf(const K& ke
   if constexpr (n == 1) return kernel.SecondPath(x[0], r);
   else return kernel.SecondPath(x[0], x[1], r);
 }
-template <class K, int n> LUM_INLINE bool RefusesAllOf(const K& kernel, const Inputs<K, n>& x) {
-  if constexpr (n == 1) return kernel.RefusesAll(x[0]);
+template <class K>
+concept KnowsRefused = K::refuses_by_class || requires {
+  &K::RefusesAll;
+};
+template <class K, int n> LUM_INLINE bool RefusesAll(const K& kernel, const Inputs<K, n>& x) {
+  if constexpr (K::refuses_by_class) return has_all_elements(Compute<K, n>(kernel, x).refused);
+  else if constexpr (n == 1) return kernel.RefusesAll(x[0]);
   else return kernel.RefusesAll(x[0], x[1]);
 }
 // Lanes with NaNs in several places, of which the result is that of the first: where operations do not order them, the lane
@@ -198,7 +202,7 @@ template <class K, int n, int m, class Result>
 [[gnu::noinline]] auto CalledFinishVector(const K& kernel, const Inputs<K, n>& x, const Result& r) {
   return FinishVector<K, n, m>(kernel, x, r);
 }
-// The same of two vectors.
+// The second path of two vectors.
 template <class K>
 concept FinishesTwo = packs_lanes && requires {
   &K::SecondPathOfTwo;
@@ -232,13 +236,16 @@ template <class K, int n> LUM_INLINE auto ComputeFirst(const K& kernel, const In
   return r;
 }
 
+// The second path of a vector whose elements the first one all refuses, without that one's values.
+template <class K, int n, int m> LUM_INLINE auto ComputeSecondAlone(const K& kernel, const Inputs<K, n>& x) {
+  decltype(Compute<K, n>(kernel, x)) no_values{};
+  no_values.refused = ~no_values.refused;
+  return ComputeSecond<K, n, m>(kernel, x, no_values);
+}
+
 template <class K, int n, int m> LUM_INLINE auto ComputeBoth(const K& kernel, const Inputs<K, n>& x) {
-  if constexpr (HasSecondPath<K> && requires { &K::RefusesAll; }) {
-    if (RefusesAllOf<K, n>(kernel, x)) {
-      decltype(VectorPathOf<K, n>(kernel, x)) no_values{};
-      no_values.refused = ~no_values.refused;
-      return ComputeSecond<K, n, m>(kernel, x, no_values);
-    }
+  if constexpr (HasSecondPath<K> && KnowsRefused<K> && !K::second_is_short) {
+    if (RefusesAll<K, n>(kernel, x)) return ComputeSecondAlone<K, n, m>(kernel, x);
   }
   const auto first = ComputeFirst<K, n>(kernel, x);
   if constexpr (!HasSecondPath<K>) {
@@ -258,13 +265,6 @@ template <class K, int n, int m> LUM_INLINE auto ComputeBoth(const K& kernel, co
     if (any(first.refused)) return ComputeSecond<K, n, m>(kernel, x, first);
     return Result{Values<K, m>(first), {}, {}, false};
   }
-}
-
-// The second path of a vector whose elements the first one all refuses, without that one's values.
-template <class K, int n, int m> LUM_INLINE auto ComputeSecondAlone(const K& kernel, const Inputs<K, n>& x) {
-  std::remove_const_t<decltype(Compute<K, n>(kernel, x))> no_values{};
-  no_values.refused = ~no_values.refused;
-  return ComputeSecond<K, n, m>(kernel, x, no_values);
 }
 
 // The inputs of a vector; as one expression, since a loop would keep them in memory.

@@ -18,7 +18,7 @@ inline constexpr Line reciprocal_root_lines[64] = {
 #include "tables/generated/rsqrt14.inc"
 };
 
-// The same with the constant and the slope of a line in one word: the significand at place j of a segment is
+// Those lines with the constant and the slope of each in one word: the significand at place j of a segment is
 // (constant * 2^scale - slope * j) >> 9. The segments' order is changed in the bits of `swapped`.
 struct alignas(64) LineWords {
   uint32_t word[64];

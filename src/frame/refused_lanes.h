@@ -147,9 +147,8 @@ LUM_INLINE bool BlockOfBothPaths(const K& kernel, const Arrays<K, n, m>& arrays,
   const auto step = [&](size_t i) __attribute__((always_inline)) {
     return LoadStep<K, n, m>(arrays, first + static_cast<int64_t>(i) * step_of<K>);
   };
-  if constexpr (HasSecondPath<K> && vectors_fit_registers && K::second_is_short && K::hides_refused &&
-                std::is_floating_point_v<typename K::Input>) {
-    if (has_all_elements((Compute<K, n>(kernel, step(v)).refused & ...)))
+  if constexpr (HasSecondPath<K> && KnowsRefused<K> && K::second_is_short && vectors_fit_registers) {
+    if ((RefusesAll<K, n>(kernel, step(v)) & ...))
       return FinishBlock<K, n, m>(kernel, arrays, first, call, std::array{ComputeSecondAlone<K, n, m>(kernel, step(v))...},
                                   std::index_sequence<v...>());
   }
@@ -237,8 +236,8 @@ LUM_INLINE int VectorsOfBothPaths(const K& kernel, const Arrays<K, n, m>& arrays
       for (int j = 0; j < n; ++j) store(&packed.inputs[j][elements], x[j]);
       elements += step;
     };
-    if constexpr (K::refuses_by_class) {
-      if (v > 0 && refused[v - 1] == all_lanes && has_all_elements(Compute<K, n>(kernel, x).refused)) {
+    if constexpr (KnowsRefused<K>) {
+      if (v > 0 && refused[v - 1] == all_lanes && RefusesAll<K, n>(kernel, x)) {
         pack_all();
         continue;
       }
@@ -277,7 +276,7 @@ template <class K, int n, int m>
 __attribute__((noinline)) int64_t BlocksOfBothPaths(const K& kernel, const Arrays<K, n, m>& arrays, int64_t first, int64_t len,
                                                     Call& call) {
   if constexpr (PacksRefused<K>) {
-    // Of more vectors at a time the longer the cluster is.
+    // The longer the cluster is, the more vectors at a time.
     for (int most = vectors_of<K>; first + step_of<K> <= len; most = std::min(2 * most, most_packed<K, n>)) {
       const auto vectors = static_cast<int>(std::min<int64_t>(most, (len - first) / step_of<K>));
       const bool refuses = VectorsOfBothPaths<K, n, m>(kernel, arrays, first, vectors, call) != 0;

@@ -10,7 +10,7 @@ namespace lum::inline LUM_LAYER {
 
 // Lanes that report, by status; at most one for each lane.
 template <class T> struct Reports { Mask<T> domain{}, singularity{}, overflow{}, underflow{}; };
-// The same as bits, 16 lanes for each status, in one word.
+// Reports as bits, 16 lanes for each status, in one word.
 struct ReportBits {
   uint64_t word = 0;
 

@@ -7,8 +7,8 @@
 //                first_lanes<T>(count)  store_first(count, p, v)  mask_of<T>(bits)
 //   arithmetic   + - *  add<R> sub<R> mul<R> div<R>(a, b)  sqrt<R>(a)  fma fms fnma fnms<R>(a, b, c)
 //                fmaddsub fmsubadd(a, b, c)  min(a, b)  max(a, b)  abs(a)  negate(a)  rcp14(a)  rsqrt14(a)
-//   significand  getexp(a)  getmant<imm>(a)  parts<imm>(a)  scalef<R>(a, b)  rndscale<imm>(a)
-//                reduce<imm>(a), by the names of immediates.h  exponent_field(a)  power_of_two<T>(field)
+//   significand  getexp(a)  getmant<imm>(a)  parts<imm>(a)  scalef<R>(a, b)  rndscale<imm>(a),
+//                by the names of immediates.h  exponent_field(a)  power_of_two<T>(field)
 //   rounded      rounded_rcp14<grid, interval>(m)  shifted_rcp14<grid, interval>(m)  rcp14_halves_up<bits>(a)
 //   conditional  fma_floor(a, b, c)  rcp14_normal(a)  rsqrt14_normal(a)  getexp_normal(a)  getmant_normal<imm>(a)
 //                rcp14_halves_up_normal<bits>(a)  scalef_normal(a, b)  mul_toward_zero(a, b)  mul_toward_zero(a, a_tail, b)

@@ -78,6 +78,7 @@ LUM_INLINE Vec<Lum32f> OfFinite(Vec<Lum32f> a, Vec<Lum32f> b) {
 
 template <class T> struct HypotKernel : Kernel<T> {
   static constexpr bool second_is_short = true;
+  static constexpr bool refuses_by_class = true;
   static constexpr bool hides_refused = true;
   static LUM_INLINE Lanes<T> SecondPath(Vec<T> a, Vec<T> b, const Lanes<T>& lanes) {
     const auto infinite = fpclass<classes::infinity>(a) | fpclass<classes::infinity>(b), nan = unord(a, b);

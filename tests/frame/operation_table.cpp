@@ -123,9 +123,6 @@ template <Floating T> void AddSignificand(Builder& table) {
       [&](auto imm, const std::string& text) {
         table.add<V>("rndscale" + text + t, [](V a) { return rndscale<decltype(imm)::value>(a); });
       });
-  ForEachImmediate<0x0, 0x9, 0xA, 0xB, 0xC, 0x28, 0x41, 0x51, 0x62, 0x73, 0xF8>([&](auto imm, const std::string& text) {
-    table.add<V>("reduce" + text + t, [](V a) { return reduce<decltype(imm)::value>(a); });
-  });
   ForEachImmediate<0x01, 0x02, 0x04, 0x08, 0x10, 0x20, 0x40, 0x80, 0x06, 0x0E, 0x18, 0x1E, 0x50, 0x56, 0x5E, 0x87, 0x89, 0x99,
                    0x9F, 0xBF, 0xDF, 0xFF>([&](auto imm, const std::string& text) {
     table.add<V>("fpclass" + text + t, [](V a) { return fpclass<decltype(imm)::value>(a); });

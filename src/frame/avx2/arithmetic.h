@@ -3,6 +3,7 @@
 
 #include "frame/avx2/base.h"
 #include "frame/avx2/estimates.h"
+#include "frame/directed.h"
 
 namespace lum {
 inline namespace avx2 {
@@ -14,15 +15,23 @@ template <auto one, Floating T, class... Others> LUM_INLINE Vec<T> by_lane(Vec<T
   return {half::each_lane<one>(a.low, others.low...), half::each_lane<one>(a.high, others.high...)};
 }
 
-template <int R, bool negate_product, bool negate_addend, Floating T>
-LUM_INLINE Vec<T> directed_fma(Vec<T> a, Vec<T> b, Vec<T> c) {
-  return {half::directed_fma<R, negate_product, negate_addend>(a.low, b.low, c.low),
-          half::directed_fma<R, negate_product, negate_addend>(a.high, b.high, c.high)};
+// quick(a, b, ...) of one register, with careful(a, b, ...) of every lane instead where doubt(a, b, ...) has bits set; and of
+// both, one after the other, as not all that they need is in registers at one time.
+template <auto careful, Floating T, class Quick, class Doubt, class... Others>
+LUM_INLINE Half<T> half_with_care(Quick quick, Doubt doubt, Half<T> a, Others... others) {
+  if (any_bit(doubt(a.v, others.v...))) [[unlikely]]
+    return half::each_lane<careful>(a, others...);
+  return {quick(a.v, others.v...)};
+}
+template <auto careful, Floating T, class Quick, class Doubt, class... Others>
+LUM_INLINE Vec<T> with_care(Quick quick, Doubt doubt, Vec<T> a, Others... others) {
+  return {half_with_care<careful>(quick, doubt, a.low, others.low...),
+          half_with_care<careful>(quick, doubt, a.high, others.high...)};
 }
 
 template <int R = rn, Floating T> LUM_INLINE Vec<T> add(Vec<T> a, Vec<T> b) {
   if constexpr (R == rn) return {a.low + b.low, a.high + b.high};
-  else return {half::directed_add<R>(a.low, b.low), half::directed_add<R>(a.high, b.high)};
+  else return with_care<lane::add<R, T>>(reg::directed_add<R, T>, reg::directed_add_doubt<R, T>, a, b);
 }
 template <int R = rn, Floating T> LUM_INLINE Vec<T> sub(Vec<T> a, Vec<T> b) {
   if constexpr (R == rn) return {a.low - b.low, a.high - b.high};
@@ -30,7 +39,7 @@ template <int R = rn, Floating T> LUM_INLINE Vec<T> sub(Vec<T> a, Vec<T> b) {
 }
 template <int R = rn, Floating T> LUM_INLINE Vec<T> mul(Vec<T> a, Vec<T> b) {
   if constexpr (R == rn) return {a.low * b.low, a.high * b.high};
-  else return {half::directed_mul<R>(a.low, b.low), half::directed_mul<R>(a.high, b.high)};
+  else return with_care<lane::careful_mul<R, T>>(reg::directed_mul<R, T>, reg::directed_mul_doubt<T>, a, b);
 }
 template <int R = rn, Floating T> LUM_INLINE Vec<T> div(Vec<T> a, Vec<T> b) {
   if constexpr (R != rn) return by_lane<[](T x, T y) { return lane::div<R>(x, y); }>(a, b);
@@ -41,6 +50,12 @@ template <int R = rn, Floating T> LUM_INLINE Vec<T> sqrt(Vec<T> a) {
   if constexpr (R != rn) return by_lane<[](T x) { return lane::sqrt<R>(x); }>(a);
   else if constexpr (is32<T>) return {{_mm256_sqrt_ps(a.low.v)}, {_mm256_sqrt_ps(a.high.v)}};
   else return {{_mm256_sqrt_pd(a.low.v)}, {_mm256_sqrt_pd(a.high.v)}};
+}
+template <int R, bool negate_product, bool negate_addend, Floating T>
+LUM_INLINE Vec<T> directed_fma(Vec<T> a, Vec<T> b, Vec<T> c) {
+  return with_care<lane::careful_fma<R, negate_product, negate_addend, T>>(
+      reg::directed_fma<R, negate_product, negate_addend, T>, reg::directed_fma_doubt<R, negate_product, negate_addend, T>, a,
+      b, c);
 }
 // a b + c with one rounding.
 template <int R = rn, Floating T> LUM_INLINE Vec<T> fma(Vec<T> a, Vec<T> b, Vec<T> c) {
@@ -65,24 +80,30 @@ template <int R = rn, Floating T> LUM_INLINE Vec<T> fnms(Vec<T> a, Vec<T> b, Vec
 // fma<rz>(a, b, c) for c = 1.5 * 2^k and |a b| up to 2^(k-2), so that it is the floor of a b, and c behind it. A product that
 // is negative is no denormal number. Of other lanes any value, a NaN of a one.
 template <Floating T> LUM_INLINE Vec<T> fma_floor(Vec<T> a, Vec<T> b, Vec<T> c) {
-  return {half::fma_floor(a.low, b.low, c.low), half::fma_floor(a.high, b.high, c.high)};
+  return {{reg::fma_floor<T>(a.low.v, b.low.v, c.low.v)}, {reg::fma_floor<T>(a.high.v, b.high.v, c.high.v)}};
+}
+// The heads and tails of both registers.
+template <Floating T> LUM_INLINE TwoParts<Vec<T>> in_two(TwoParts<Register<T>> low, TwoParts<Register<T>> high) {
+  return {{{low.head}, {high.head}}, {{low.tail}, {high.tail}}};
+}
+template <Floating T> LUM_INLINE bool any_small_product(Vec<T> product, Vec<T> a, Vec<T> b) {
+  return any_bit(reg::is_small_product<T>(product.low.v, a.low.v, b.low.v) |
+                 reg::is_small_product<T>(product.high.v, a.high.v, b.high.v));
 }
 // a b rounded toward zero, and what is left of it, exactly: of products that are finite and whose lowest bit is in the range.
 template <Floating T> LUM_INLINE TwoParts<Vec<T>> mul_toward_zero(Vec<T> a, Vec<T> b) {
-  const auto low = half::mul_toward_zero(a.low, b.low), high = half::mul_toward_zero(a.high, b.high);
-  if (any(half::is_small_product(low.head, a.low, b.low) | half::is_small_product(high.head, a.high, b.high))) [[unlikely]] {
-    const auto head = mul<rz>(a, b);
-    return {head, fms<rz>(a, b, head)};
+  auto [head, tail] = in_two<T>(reg::mul_toward_zero<T>(a.low.v, b.low.v), reg::mul_toward_zero<T>(a.high.v, b.high.v));
+  if (any_small_product(head, a, b)) [[unlikely]] {
+    head = mul<rz>(a, b);
+    tail = fms<rz>(a, b, head);
   }
-  return {{low.head, high.head}, {low.tail, high.tail}};
+  return {head, tail};
 }
 // (a + a_tail) b, each step toward zero, for a tail that is zero or from 2^-212 (float: 2^-96) to 2^-8 of a.
 template <Floating T> LUM_INLINE TwoParts<Vec<T>> mul_toward_zero(Vec<T> a, Vec<T> a_tail, Vec<T> b) {
-  Vec<T> head, tail;
-  const auto low = half::mul_toward_zero(a.low, a_tail.low, b.low), high = half::mul_toward_zero(a.high, a_tail.high, b.high);
-  head = {low.head, high.head};
-  tail = {low.tail, high.tail};
-  if (any(half::is_small_product(low.head, a.low, b.low) | half::is_small_product(high.head, a.high, b.high))) [[unlikely]] {
+  auto [head, tail] = in_two<T>(reg::mul_toward_zero<T>(a.low.v, a_tail.low.v, b.low.v),
+                                reg::mul_toward_zero<T>(a.high.v, a_tail.high.v, b.high.v));
+  if (any_small_product(head, a, b)) [[unlikely]] {
     const auto first = mul<rz>(a, b);
     const auto second = fma<rz>(a_tail, b, fms<rz>(a, b, first));
     head = add<rz>(first, second);
@@ -114,9 +135,9 @@ template <Floating T> LUM_INLINE Vec<T> max(Vec<T> a, Vec<T> b) {
 template <Floating T> LUM_INLINE Vec<T> rcp14(Vec<T> a) { return half::rcp14(a); }
 // 1 / sqrt a with a relative error below 2^-14; a zero gives an infinity of its sign, a negative number the default NaN.
 template <Floating T> LUM_INLINE Vec<T> rsqrt14(Vec<T> a) { return half::rsqrt14(a); }
-// Of numbers that are normal and have a normal reciprocal; in other lanes any value.
+// rcp14 of numbers that are normal and have a normal reciprocal; in other lanes any value.
 template <Floating T> LUM_INLINE Vec<T> rcp14_normal(Vec<T> a) { return half::rcp14_normal(a); }
-// Of positive normal numbers; in other lanes any value.
+// rsqrt14 of positive normal numbers; in other lanes any value.
 template <Floating T> LUM_INLINE Vec<T> rsqrt14_normal(Vec<T> a) { return half::rsqrt14_normal(a); }
 
 // ---- Exponent, significand, rounding to a grid
@@ -165,7 +186,7 @@ template <int R = rn, Floating T> LUM_INLINE Vec<T> scalef(Vec<T> a, Vec<T> b) {
   if constexpr (R != rn) return by_lane<[](T x, T y) { return lane::exact_scalef<R>(x, y); }>(a, b);
   else return {half::scalef(a.low, b.low), half::scalef(a.high, b.high)};
 }
-// The same where the result is a normal number and floor(b) that of one, or a NaN; in other lanes any value.
+// scalef(a, b) where the result is a normal number and floor(b) that of one, or a NaN; in other lanes any value.
 template <Floating T> LUM_INLINE Vec<T> scalef_normal(Vec<T> a, Vec<T> b) {
   return {half::scalef_by_normal(a.low, half::round<1>(b.low)), half::scalef_by_normal(a.high, half::round<1>(b.high))};
 }
@@ -180,27 +201,23 @@ template <int grid, int interval, Floating T> LUM_INLINE Vec<T> rounded_rcp14(Ve
   static_assert(interval == 0 || interval == 2);
   return half::short_rcp14 < interval == 0 ? grid - 1 : grid, true > (m);
 }
-// The same of a positive m plus the number whose last bit is worth 2^-grid, 3 * 2^(fraction bits - 1) times as large.
+// rounded_rcp14 of a positive m plus the number whose last bit is worth 2^-grid, 3 * 2^(fraction bits - 1) times as large.
 template <int grid, int interval, Floating T> LUM_INLINE Vec<T> shifted_rcp14(Vec<T> m) {
   static_assert(interval == 0 || interval == 2);
   return half::shifted_rcp14<grid, interval>(m);
 }
 // rcp14(a) with its significand rounded to the given fraction bits, halves up; a carry goes into the exponent.
 template <int kept, Floating T> LUM_INLINE Vec<T> rcp14_halves_up(Vec<T> a) { return half::rcp14_halves_up<kept>(a); }
-// The same of normal numbers with a normal reciprocal; in other lanes any value.
+// rcp14_halves_up of normal numbers with a normal reciprocal; in other lanes any value.
 template <int kept, Floating T> LUM_INLINE Vec<T> rcp14_halves_up_normal(Vec<T> a) {
   return half::rcp14_halves_up_normal<kept>(a);
-}
-// a - rndscale<imm>(a), the exact remainder.
-template <int imm, Floating T> LUM_INLINE Vec<T> reduce(Vec<T> a) {
-  return {half::reduce<imm>(a.low), half::reduce<imm>(a.high)};
 }
 // a + c rounded down, for c = 1.5 * 2^k and a bit more and |a| up to 2^(k-2), so that it is the floor of a on the grid whose
 // step is the sum's last bit, 2^-grid; and the rest of a above that floor, rounded down, a zero of either sign.
 template <Floating T> struct FloorAndRest { Vec<T> sum, rest; };
 template <int grid, Floating T> LUM_INLINE FloorAndRest<T> split_floor(Vec<T> a, Vec<T> c) {
-  const auto low = half::split_floor(a.low, c.low), high = half::split_floor(a.high, c.high);
-  return {{low.sum, high.sum}, {low.rest, high.rest}};
+  const auto r = in_two<T>(reg::split_floor<T>(a.low.v, c.low.v), reg::split_floor<T>(a.high.v, c.high.v));
+  return {r.head, r.tail};
 }
 
 // ---- Comparison and classification

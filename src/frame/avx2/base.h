@@ -2,7 +2,7 @@
 // a part of frame/vec_avx2.h, which silences the compilers' complaints about their own intrinsics.
 #pragma once
 
-#include "frame/avx2/directed.h"
+#include "frame/avx2/significand.h"
 
 namespace lum {
 inline namespace avx2 {

@@ -97,7 +97,7 @@ template <Floating T> LUM_INLINE Vec<T> rsqrt14_normal(Vec<T> a) {
   return by_top_words(
       a, [](Word w, Word below) __attribute__((always_inline)) {
         const Word significand = shift_left<fb - 16>(on_line<7, fb - 5>(lane::reciprocal_root_line_words, w));
-        // Of the fraction and the exponent's last bit only the latter is set.
+        // Only the exponent's last bit is set, none of the fraction.
         const auto is_power = eq(((w ^ all(F::hidden)) & all(2 * F::hidden - 1)) | below, all(0u));
         const Word half_field = shift_right<1>(w + all(F::hidden)) & all(~F::fraction);
         return all((F::bias - 2 + (F::bias + 1) / 2) << fb) - half_field + select(is_power, all(2 * F::hidden), significand);

@@ -19,7 +19,7 @@ template <Integer T> LUM_INLINE Half<T> operator-(Half<T> a, Half<T> b) {
   if constexpr (is32<T>) return {_mm256_sub_epi32(a.v, b.v)};
   else return {_mm256_sub_epi64(a.v, b.v)};
 }
-// Of 64-bit lanes three products of 32 bits.
+// 64-bit lanes take three products of 32 bits.
 template <Integer T> LUM_INLINE Half<T> operator*(Half<T> a, Half<T> b) {
   if constexpr (is32<T>) {
     return {_mm256_mullo_epi32(a.v, b.v)};
@@ -37,7 +37,7 @@ template <int n, Integer T> LUM_INLINE Half<T> shift_right(Half<T> a) {
   if constexpr (is32<T>) return {_mm256_srli_epi32(a.v, n)};
   else return {_mm256_srli_epi64(a.v, n)};
 }
-// Of 64-bit lanes by shifts of their halves.
+// 64-bit lanes are shifted by shifts of their halves.
 template <int n, Integer T> LUM_INLINE Half<T> shift_right_arithmetic(Half<T> a) {
   if constexpr (is32<T>) {
     return {_mm256_srai_epi32(a.v, n)};
@@ -58,7 +58,7 @@ template <Integer T> LUM_INLINE Half<T> shift_right(Half<T> a, Half<T> n) {
   if constexpr (is32<T>) return {_mm256_srlv_epi32(a.v, n.v)};
   else return {_mm256_srlv_epi64(a.v, n.v)};
 }
-// Of 64-bit lanes a shift of ~a in negative ones.
+// In negative 64-bit lanes ~a is shifted.
 template <Integer T> LUM_INLINE Half<T> shift_right_arithmetic(Half<T> a, Half<T> n) {
   if constexpr (is32<T>) {
     return {_mm256_srav_epi32(a.v, n.v)};

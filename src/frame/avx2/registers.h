@@ -3,8 +3,7 @@
 // frame/vec_avx2.h, which silences the compilers' complaints about their own intrinsics.
 #pragma once
 
-#include <immintrin.h>
-
+#include "frame/intrinsics.h"
 #include "frame/vec_types.h"
 
 namespace lum {

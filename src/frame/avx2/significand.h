@@ -32,7 +32,7 @@ template <Floating T> LUM_INLINE Normal<T> normal(Half<T> a) {
   return {bits(select(small, m * all(lane::power_of_two<T>(F::fraction_bits + 1)), m)), small};
 }
 
-// Of normal numbers; in other lanes any value.
+// getexp and getmant of normal numbers; in other lanes any value.
 template <Floating T> LUM_INLINE Half<T> getexp_of_normal(Half<T> a) {
   using F = lane::Format<T>;
   const auto m = bits(magnitude(a));

@@ -98,9 +98,9 @@ template <Floating T> LUM_INLINE Vec<T> rsqrt14(Vec<T> a) {
   if constexpr (is32<T>) return {_mm512_rsqrt14_ps(a.v)};
   else return {_mm512_rsqrt14_pd(a.v)};
 }
-// Of numbers that are normal and have a normal reciprocal; in other lanes any value.
+// rcp14 of numbers that are normal and have a normal reciprocal; in other lanes any value.
 template <Floating T> LUM_INLINE Vec<T> rcp14_normal(Vec<T> a) { return rcp14(a); }
-// Of positive normal numbers; in other lanes any value.
+// rsqrt14 of positive normal numbers; in other lanes any value.
 template <Floating T> LUM_INLINE Vec<T> rsqrt14_normal(Vec<T> a) { return rsqrt14(a); }
 
 // ---- Exponent, significand, rounding to a grid
@@ -129,7 +129,7 @@ template <int R = rn, Floating T> LUM_INLINE Vec<T> scalef(Vec<T> a, Vec<T> b) {
   if constexpr (is32<T>) return {_mm512_scalef_round_ps(a.v, b.v, suppressed<R>)};
   else return {_mm512_scalef_round_pd(a.v, b.v, suppressed<R>)};
 }
-// The same where the result is a normal number and floor(b) that of one, or a NaN; in other lanes any value.
+// scalef(a, b) where the result is a normal number and floor(b) that of one, or a NaN; in other lanes any value.
 template <Floating T> LUM_INLINE Vec<T> scalef_normal(Vec<T> a, Vec<T> b) { return scalef(a, b); }
 // a rounded to a multiple of 2^-M, M in imm bits 4-7; bits 0-1: 0 nearest even, 1 down, 2 up, 3 toward zero; bit 2: the
 // environment's rounding, which kernels have set to nearest.
@@ -143,7 +143,7 @@ template <int grid, int interval, Floating T> LUM_INLINE Vec<T> rounded_rcp14(Ve
   static_assert(interval == 0 || interval == 2);
   return rndscale<grid << 4 | 8>(rcp14(m));
 }
-// The same of a positive m plus the number whose last bit is worth 2^-grid, 3 * 2^(fraction bits - 1) times as large.
+// rounded_rcp14 of a positive m plus the number whose last bit is worth 2^-grid, 3 * 2^(fraction bits - 1) times as large.
 template <int grid, int interval, Floating T> LUM_INLINE Vec<T> shifted_rcp14(Vec<T> m) {
   static_assert(interval == 0 || interval == 2);
   return rcp14(m) + all((is32<T> ? T(0x1.8p23) : T(0x1.8p52)) / (1 << grid));
@@ -154,18 +154,15 @@ template <int kept, Floating T> LUM_INLINE Vec<T> rcp14_halves_up(Vec<T> a) {
   constexpr Bits half_step = Bits{1} << ((is32<T> ? 23 : 52) - kept - 1);
   return as_float((bits(rcp14(a)) + all(half_step)) & all(static_cast<Bits>(~(2 * half_step - 1))));
 }
-// The same of normal numbers with a normal reciprocal; in other lanes any value.
+// rcp14_halves_up of normal numbers with a normal reciprocal; in other lanes any value.
 template <int kept, Floating T> LUM_INLINE Vec<T> rcp14_halves_up_normal(Vec<T> a) { return rcp14_halves_up<kept>(a); }
-// a - rndscale<imm>(a), the exact remainder.
-template <int imm, Floating T> LUM_INLINE Vec<T> reduce(Vec<T> a) {
-  if constexpr (is32<T>) return {_mm512_reduce_round_ps(a.v, imm, _MM_FROUND_NO_EXC)};
-  else return {_mm512_reduce_round_pd(a.v, imm, _MM_FROUND_NO_EXC)};
-}
 // a + c rounded down, for c = 1.5 * 2^k and a bit more and |a| up to 2^(k-2), so that it is the floor of a on the grid whose
 // step is the sum's last bit, 2^-grid; and the rest of a above that floor, rounded down, a zero of either sign.
 template <Floating T> struct FloorAndRest { Vec<T> sum, rest; };
 template <int grid, Floating T> LUM_INLINE FloorAndRest<T> split_floor(Vec<T> a, Vec<T> c) {
-  return {add<rd>(a, c), reduce<grid << 4 | 1>(a)};
+  constexpr int down = grid << 4 | rd;
+  if constexpr (is32<T>) return {add<rd>(a, c), {_mm512_reduce_round_ps(a.v, down, _MM_FROUND_NO_EXC)}};
+  else return {add<rd>(a, c), {_mm512_reduce_round_pd(a.v, down, _MM_FROUND_NO_EXC)}};
 }
 
 // ---- Comparison and classification

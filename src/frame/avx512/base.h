@@ -2,8 +2,7 @@
 // the compilers' complaints about their own intrinsics.
 #pragma once
 
-#include <immintrin.h>
-
+#include "frame/intrinsics.h"
 #include "frame/vec_types.h"
 
 namespace lum {

@@ -1,8 +1,9 @@
 // Floating-point arithmetic, comparison and selection lane by lane, a part of frame/vec_portable.h.
 #pragma once
 
+#include "frame/directed.h"
 #include "frame/portable/base.h"
-#include "frame/portable/directed.h"
+#include "frame/portable/significand.h"
 
 namespace lum {
 inline namespace portable {
@@ -172,11 +173,11 @@ template <Floating T> LUM_INLINE_WITH_FMA Vec<T> rcp14(const Vec<T>& a) {
 template <Floating T> LUM_INLINE_WITH_FMA Vec<T> rsqrt14(const Vec<T>& a) {
   return each_part_with_care<lane::rsqrt14<T>, T>(reg::rsqrt14_of_normal<T>, reg::is_not_positive_normal<T>, a);
 }
-// Of numbers that are normal and have a normal reciprocal; in other lanes any value.
+// rcp14 of numbers that are normal and have a normal reciprocal; in other lanes any value.
 template <Floating T> LUM_INLINE_WITH_FMA Vec<T> rcp14_normal(const Vec<T>& a) {
   return each_part<T>(reg::rcp14_of_normal<T>, a);
 }
-// Of positive normal numbers; in other lanes any value.
+// rsqrt14 of positive normal numbers; in other lanes any value.
 template <Floating T> LUM_INLINE_WITH_FMA Vec<T> rsqrt14_normal(const Vec<T>& a) {
   return each_part<T>(reg::rsqrt14_of_normal<T>, a);
 }
@@ -208,7 +209,7 @@ template <int R = rn, Floating T> LUM_INLINE_WITH_FMA Vec<T> scalef(const Vec<T>
     return each_part_with_care<lane::exact_scalef<R, T>, T>(
         reg::scalef_by_normal<T>, [](auto, auto y) __attribute__((always_inline)) { return reg::scalef_doubt<T>(y); }, a, b);
 }
-// The same where the result is a normal number and floor(b) that of one, or a NaN; in other lanes any value.
+// scalef(a, b) where the result is a normal number and floor(b) that of one, or a NaN; in other lanes any value.
 template <Floating T> LUM_INLINE Vec<T> scalef_normal(const Vec<T>& a, const Vec<T>& b) {
   return each_part<T>(reg::scalef_by_normal<T>, a, b);
 }
@@ -223,7 +224,7 @@ template <int grid, int interval, Floating T> LUM_INLINE Vec<T> rounded_rcp14(co
   static_assert(interval == 0 || interval == 2);
   return rndscale<grid << 4 | 8>(rcp14_normal(m));
 }
-// The same of a positive m plus the number whose last bit is worth 2^-grid, 3 * 2^(fraction bits - 1) times as large.
+// rounded_rcp14 of a positive m plus the number whose last bit is worth 2^-grid, 3 * 2^(fraction bits - 1) times as large.
 template <int grid, int interval, Floating T> LUM_INLINE Vec<T> shifted_rcp14(const Vec<T>& m) {
   static_assert(interval == 0 || interval == 2);
   return rcp14_normal(m) + all((is32<T> ? T(0x1.8p23) : T(0x1.8p52)) / (1 << grid));
@@ -235,13 +236,9 @@ template <int kept, Floating T> LUM_INLINE Vec<T> rounded_halves_up(const Vec<T>
   return as_float((bits(estimate) + all(half_step)) & all(static_cast<Bits>(~(2 * half_step - 1))));
 }
 template <int kept, Floating T> LUM_INLINE Vec<T> rcp14_halves_up(const Vec<T>& a) { return rounded_halves_up<kept>(rcp14(a)); }
-// The same of normal numbers with a normal reciprocal; in other lanes any value.
+// rcp14_halves_up of normal numbers with a normal reciprocal; in other lanes any value.
 template <int kept, Floating T> LUM_INLINE Vec<T> rcp14_halves_up_normal(const Vec<T>& a) {
   return rounded_halves_up<kept>(rcp14_normal(a));
-}
-// a - rndscale<imm>(a), the exact remainder.
-template <int imm, Floating T> LUM_INLINE_WITH_FMA Vec<T> reduce(const Vec<T>& a) {
-  return each_part<T>(reg::reduce<imm, T>, a);
 }
 // a + c rounded down, for c = 1.5 * 2^k and a bit more and |a| up to 2^(k-2), so that it is the floor of a on the grid whose
 // step is the sum's last bit, 2^-grid; and the rest of a above that floor, rounded down, a zero of either sign.

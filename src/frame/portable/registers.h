@@ -6,17 +6,12 @@
 #include <cstring>
 #include <utility>
 
-#if defined(__AVX__)
-#include <immintrin.h>
-#endif
-
-#include "frame/lane_arithmetic.h"
-#include "frame/vec_types.h"
+#include "frame/register_numbers.h"
 
 namespace lum {
 inline namespace portable {
 
-// Of operations of many instructions. Without a fused multiply-add vectors are in memory most of the time, and a call costs
+// For operations of many instructions. Without a fused multiply-add vectors are in memory most of the time, and a call costs
 // little beside that.
 #if defined(__FMA__) || defined(__ARM_FEATURE_FMA)
 #define LUM_INLINE_WITH_FMA LUM_INLINE
@@ -24,15 +19,6 @@ inline namespace portable {
 #define LUM_INLINE_WITH_FMA [[gnu::noinline]]
 #endif
 
-#if defined(__AVX__)
-inline constexpr int register_bytes = 32;
-#else
-inline constexpr int register_bytes = 16;
-#endif
-
-template <Lane T> struct RegisterOf { using type [[gnu::vector_size(register_bytes)]] = T; };
-template <Lane T> using Register = typename RegisterOf<T>::type;
-template <Lane T> inline constexpr int lanes_of_register = register_bytes / static_cast<int>(sizeof(T));
 inline constexpr int parts_of_vector = 64 / register_bytes;
 
 template <Lane T> struct alignas(register_bytes) Vec { T lane[lanes_of<T>]; };
@@ -82,21 +68,6 @@ template <Lane T, class F, class... Operands> LUM_INLINE Mask<T> each_mask_part(
 // The parts of a vector or a mask as those of another type.
 template <class To, class From> LUM_INLINE To recast(const From& a) {
   return from_parts<To>([&](int part) __attribute__((always_inline)) { return part_of(a, part); });
-}
-
-// The bits of a register as lanes of another type.
-template <Lane To, class From> LUM_INLINE Register<To> register_cast(From r) {
-  static_assert(sizeof(From) == register_bytes);
-  return std::bit_cast<Register<To>>(r);
-}
-template <class R> LUM_INLINE bool any_bit(R r) {
-#if defined(__AVX__)
-  return _mm256_testz_si256(std::bit_cast<__m256i>(r), std::bit_cast<__m256i>(r)) == 0;
-#endif
-  const auto words = register_cast<uint64_t>(r);
-  uint64_t united = 0;
-  for (int i = 0; i < lanes_of_register<uint64_t>; ++i) united |= words[i];
-  return united != 0;
 }
 
 // Lane i is lane index(i) of the sequence a, b.
@@ -168,7 +139,7 @@ template <auto careful, Floating T, class... Operands>
     if (doubt[i] != 0) r[i] = careful(operands[i]...);
   return r;
 }
-// The same of a vector.
+// r with the lanes done again that doubt names, of a vector.
 template <auto careful, Floating T, class... Operands>
 LUM_INLINE Vec<T> with_lanes_redone(const Vec<T>& r, const Mask<T>& doubt, const Operands&... operands) {
   if (none(doubt)) [[likely]]

@@ -12,14 +12,6 @@ namespace reg {
 
 // ---- Bits
 
-template <Floating T> LUM_INLINE Register<UnsignedOf<T>> bits(Register<T> x) { return register_cast<UnsignedOf<T>>(x); }
-template <Floating T> LUM_INLINE Register<T> number(Register<UnsignedOf<T>> b) { return register_cast<T>(b); }
-// All bits of the lanes in which a comparison holds.
-template <Floating T, class Comparison> LUM_INLINE Register<UnsignedOf<T>> lanes_where(Comparison condition) {
-  return register_cast<UnsignedOf<T>>(condition);
-}
-template <Floating T> inline constexpr UnsignedOf<T> sign_bit = lane::Format<T>::sign;
-template <Floating T> LUM_INLINE Register<T> magnitude(Register<T> x) { return number<T>(bits<T>(x) & (sign_bit<T> - 1)); }
 template <Floating T> LUM_INLINE Register<T> chosen(Register<UnsignedOf<T>> lanes, Register<T> a, Register<T> b) {
   return number<T>((lanes & bits<T>(a)) | (~lanes & bits<T>(b)));
 }
@@ -92,7 +84,7 @@ template <int imm, Floating T> LUM_INLINE Register<UnsignedOf<T>> fpclass(Regist
 
 // ---- Exponent and significand
 
-// Of normal numbers; of others any value.
+// getexp and getmant of normal numbers; in other lanes any value.
 template <Floating T> LUM_INLINE Register<T> getexp_of_normal(Register<T> x) {
   using F = lane::Format<T>;
   // The field as the last bits of a number whose last bit is worth one.
@@ -162,11 +154,11 @@ LUM_INLINE Register<UnsignedOf<T>> on_line(const lane::LineWords& lines, int sca
   const auto segment = (place >> 10) & 63;
   Register<U> line;
   for (int i = 0; i < lanes_of_register<T>; ++i) line[i] = lines.word[segment[i]];
-  // Of 64-bit lanes the low words alone are in use.
+  // 64-bit lanes have their low words alone in use.
   const auto down = register_cast<U>(register_cast<uint32_t>(line & 1023) * register_cast<uint32_t>(place & 1023));
   return (((line >> 10) << scale) - down) >> 9;
 }
-// Of numbers that are normal and have a normal reciprocal; in other lanes any value.
+// rcp14 of numbers that are normal and have a normal reciprocal; in other lanes any value.
 template <Floating T> LUM_INLINE Register<T> rcp14_of_normal(Register<T> x) {
   using F = lane::Format<T>;
   const auto b = bits<T>(x);
@@ -181,7 +173,7 @@ template <Floating T> LUM_INLINE Register<UnsignedOf<T>> has_no_normal_reciproca
   using F = lane::Format<T>;
   return lanes_where<T>(bits<T>(magnitude<T>(x)) - F::hidden >= F::infinity - 3 * F::hidden);
 }
-// Of positive normal numbers; in other lanes any value.
+// rsqrt14 of positive normal numbers; in other lanes any value.
 template <Floating T> LUM_INLINE Register<T> rsqrt14_of_normal(Register<T> x) {
   using F = lane::Format<T>;
   const auto b = bits<T>(x);
@@ -191,35 +183,6 @@ template <Floating T> LUM_INLINE Register<T> rsqrt14_of_normal(Register<T> x) {
   const auto scaled = (~is_square & (significand << (F::fraction_bits - 16))) | (is_square & (2 * F::hidden));
   return number<T>(((F::bias - 2 + (F::bias + 1) / 2 - half) << F::fraction_bits) + scaled);
 }
-
-// ---- Fused multiply-add
-
-// +-(x y) +- z with one rounding, where the processor has an instruction for it. Of several NaNs it gives any one, and of one
-// that one; but for the sign that negation gives it where the compiler has no instruction of its own.
-template <bool negate_product, bool negate_addend, Floating T>
-LUM_INLINE Register<T> fma(Register<T> x, Register<T> y, Register<T> z) {
-#if defined(__FMA__)
-  using V = Register<T>;
-  if constexpr (sizeof(T) == 4) {
-    if constexpr (negate_product) return V(negate_addend ? _mm256_fnmsub_ps(x, y, z) : _mm256_fnmadd_ps(x, y, z));
-    else return V(negate_addend ? _mm256_fmsub_ps(x, y, z) : _mm256_fmadd_ps(x, y, z));
-  } else {
-    if constexpr (negate_product) return V(negate_addend ? _mm256_fnmsub_pd(x, y, z) : _mm256_fnmadd_pd(x, y, z));
-    else return V(negate_addend ? _mm256_fmsub_pd(x, y, z) : _mm256_fmadd_pd(x, y, z));
-  }
-#else
-  const Register<T> a = negate_product ? -x : x, c = negate_addend ? -z : z;
-  Register<T> r;
-  for (int i = 0; i < lanes_of_register<T>; ++i) r[i] = lane::quick_fma<rn>(a[i], y[i], c[i]);
-  return r;
-#endif
-}
-// Whether the NaNs of it need no second look.
-#if defined(__FMA__)
-inline constexpr bool fma_gives_these_nans = true;
-#else
-inline constexpr bool fma_gives_these_nans = false;
-#endif
 
 }  // namespace reg
 }  // namespace portable

@@ -1,12 +1,11 @@
 // Directed rounding in one register on a processor with a fused multiply-add: the nearest result, moved by a unit in the last
-// place where the sign of its exact error says so. A part of frame/vec_portable.h.
+// place where the sign of its exact error says so. What the layers without AVX-512 share.
 #pragma once
 
-#include "frame/portable/significand.h"
+#include "frame/register_numbers.h"
 #include "frame/two_parts.h"
 
-namespace lum {
-inline namespace portable {
+namespace lum::inline LUM_LAYER {
 namespace reg {
 
 // The number nearest to a value, and a number with the sign of (value - nearest); gives the value rounded by R.
@@ -113,17 +112,5 @@ template <Floating T> LUM_INLINE TwoParts<Register<T>> split_floor(Register<T> a
   return {sum, directed<rd, T>(rest, a - (rest + floor))};
 }
 
-// Rounded to nearest the difference is exact but where a small a goes a whole step of the grid down or up; then the step is the
-// larger summand. A zero is that of the rounding; an infinity leaves +0.
-template <int imm, Floating T> LUM_INLINE Register<T> reduce(Register<T> a) {
-  constexpr int R = (imm & 4) ? rn : imm & 3;
-  const Register<T> grid = rndscale<imm, T>(a), difference = a - grid;
-  auto rest = bits<T>(difference);
-  if constexpr (R == rd || R == ru) rest = bits<T>(directed<R, T>(difference, a - (difference + grid)));
-  if constexpr (R == rd) rest |= lanes_where<T>(number<T>(rest) == 0) & sign_bit<T>;
-  return number<T>(rest & ~lanes_where<T>(bits<T>(magnitude<T>(a)) == lane::Format<T>::infinity));
-}
-
 }  // namespace reg
-}  // namespace portable
-}  // namespace lum
+}  // namespace lum::inline LUM_LAYER

@@ -1,4 +1,4 @@
-// The AVX-512 intrinsics, of which g++ 12 warns out of its own header.
+// The processor's intrinsics, of some of which g++ 12 warns that their own header uses a value before it has one.
 #pragma once
 
 #pragma GCC diagnostic push
