@@ -37,13 +37,15 @@ LUM_INLINE ReducedArgument<Vec<Lum64f>> ReduceByChunks(Vec<Lum64f> magnitude) {
 LUM_INLINE AngleOfRow<Vec<Lum64f>> ReduceBeyondThreshold(Vec<Lum64f> x, Mask<Lum64f> lanes) {
   const auto magnitude = select(lanes, abs(x), all(0x1p23));
   const auto is_huge = le(all(0x1p30), magnitude);
-  auto [rest, quarters] = ReduceByParts(select(is_huge, all(0x1p23), magnitude), numbers::quarter_pi_parts_to_2p30<Lum64f>);
+  ReducedArgument<Vec<Lum64f>> a{{magnitude, all(0.0)}, all(0.0)};
+  if (any(lanes & ~is_huge))
+    a = ReduceByParts(select(is_huge, all(0x1p23), magnitude), numbers::quarter_pi_parts_to_2p30<Lum64f>);
   if (any(is_huge)) {
     const auto huge = ReduceByChunks(select(is_huge, magnitude, all(0x1p30)));
-    rest = {select(is_huge, huge.rest.head, rest.head), select(is_huge, huge.rest.tail, rest.tail)};
-    quarters = select(is_huge, huge.quarters, quarters);
+    a = {{select(is_huge, huge.rest.head, a.rest.head), select(is_huge, huge.rest.tail, a.rest.tail)},
+         select(is_huge, huge.quarters, a.quarters)};
   }
-  return ReduceToRow<Vec<Lum64f>>({{xor_sign(x, rest.head), xor_sign(x, rest.tail)}, xor_sign(x, quarters)});
+  return ReduceToRow<Vec<Lum64f>>({{xor_sign(x, a.rest.head), xor_sign(x, a.rest.tail)}, xor_sign(x, a.quarters)});
 }
 
 }  // namespace lum::inline LUM_LAYER::circular

@@ -17,17 +17,34 @@ template <class Tier> struct Plain : Kernel<typename Tier::Element> {
   static LUM_INLINE TwoLanes<T> VectorPath(Vec<T> x) { return Both(Tier::Ordinary(x)); }
   static LumStatus LaneRoutine(T x, T& sine, T& cosine) { return SineAndCosineRoutine(x, sine, cosine); }
 };
+template <class T> LUM_INLINE TwoFinished<T> WithNonFinite(Vec<T> x, Vec<T> sine, Vec<T> cosine) {
+  return {SelectNonFinite(x, sine), SelectNonFinite(x, cosine), mask_of<T>(0), {.domain = fpclass<classes::infinity>(x)}};
+}
 template <class Tier> struct WithLarge : Plain<Tier> {
   static constexpr bool second_in_all_layers = true;
   using T = typename Tier::Element;
   static LUM_INLINE TwoFinished<T> SecondPath(Vec<T> x, const TwoLanes<T>& lanes) {
     SineAndCosineValues<T> v{lanes.value1, lanes.value2, lanes.refused};
     if (AnyFinite(lanes.refused, x)) v = LargeValues(x, v);
-    return {SelectNonFinite(x, v.sine), SelectNonFinite(x, v.cosine), mask_of<T>(0), {.domain = fpclass<classes::infinity>(x)}};
+    return WithNonFinite(x, v.sine, v.cosine);
   }
   static LUM_INLINE SineAndCosineValues<T> LargeValues(Vec<T> x, const SineAndCosineValues<T>& ordinary) {
     if constexpr (sizeof(T) == 8) return MergeLarge(x, ordinary);
     else return Tier::Large(x);
+  }
+};
+template <class Tier> struct WithLarge_64f : WithLarge<Tier> {
+  using Vectors = TwoVectors<Lum64f>;
+  static LUM_INLINE std::array<TwoFinished<Lum64f>, 2> SecondPathOfTwo(const Vectors& x,
+                                                                       const std::array<TwoLanes<Lum64f>, 2>& lanes) {
+    SineAndCosineValues<Lum64f> v{lanes[0].value1, lanes[0].value2, lanes[0].refused},
+        w{lanes[1].value1, lanes[1].value2, lanes[1].refused};
+    if (AnyFinite(v.refused, x[0]) || AnyFinite(w.refused, x[1])) {
+      const auto [a, b] = ReduceLarge<Lum64f>(x);
+      v = MergeLarge(x[0], a, v);
+      w = MergeLarge(x[1], b, w);
+    }
+    return {WithNonFinite(x[0], v.sine, v.cosine), WithNonFinite(x[1], w.sine, w.cosine)};
   }
 };
 
@@ -44,11 +61,11 @@ struct A26_64f : Plain<SineAndCosine_A26> {
       sine = select(lanes.refused, SineOf(a), sine);
       cosine = select(lanes.refused, CosineOf(a), cosine);
     }
-    return {SelectNonFinite(x, sine), SelectNonFinite(x, cosine), mask_of<T>(0), {.domain = fpclass<classes::infinity>(x)}};
+    return WithNonFinite(x, sine, cosine);
   }
 };
-struct A50_64f : WithLarge<SineAndCosine_A50> {};
-struct A53_64f : WithLarge<SineAndCosine_A53> {};
+struct A50_64f : WithLarge_64f<SineAndCosine_A50> {};
+struct A53_64f : WithLarge_64f<SineAndCosine_A53> {};
 
 }  // namespace
 

@@ -13,10 +13,13 @@
 namespace lum::inline LUM_LAYER::circular {
 
 // The results of the large reduction in the lanes beyond the threshold.
-LUM_INLINE SineAndCosineValues<Lum64f> MergeLarge(Vec<Lum64f> x, const SineAndCosineValues<Lum64f>& ordinary) {
-  const auto a = ReduceLarge(x);
+LUM_INLINE SineAndCosineValues<Lum64f> MergeLarge(Vec<Lum64f> x, const LargeAngle<Lum64f>& a,
+                                                  const SineAndCosineValues<Lum64f>& ordinary) {
   return {select(ordinary.refused, SineOf(a.index, a.hi, a.lo) ^ sign_of(x), ordinary.sine),
           select(ordinary.refused, CosineOf(a.index, a.hi, a.lo), ordinary.cosine), fpclass<classes::nonfinite>(x)};
+}
+LUM_INLINE SineAndCosineValues<Lum64f> MergeLarge(Vec<Lum64f> x, const SineAndCosineValues<Lum64f>& ordinary) {
+  return MergeLarge(x, ReduceLarge(x), ordinary);
 }
 
 // pi_parts is how many parts of pi take part, two or three, and the polynomial gives the sine of the remainders.

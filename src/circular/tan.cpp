@@ -106,14 +106,25 @@ template <class Tier, class T> struct Tangent : Kernel<T> {
     if (AnyFinite(lanes.refused, x)) value = LargeTangent(x, lanes.refused);
     return {SelectNonFinite(x, value), mask_of<T>(0), {.domain = fpclass<classes::infinity>(x)}};
   }
+  using Vectors = TwoVectors<T>;
+  static LUM_INLINE std::array<Finished<T>, 2> SecondPathOfTwo(const Vectors& x, const std::array<Lanes<T>, 2>& lanes) {
+    return MergeLarge(
+        x, lanes, [](const Vectors& v) __attribute__((always_inline)) {
+          const auto a = ReduceLarge(v[0]), b = ReduceLarge(v[1]);
+          return Vectors{Tier::Evaluate(a), Tier::Evaluate(b)};
+        });
+  }
   // Of all lanes, those of the mask being large.
   static LUM_INLINE Vec<T> LargeTangent(Vec<T> x, Mask<T> at) {
-    const auto ordinary = Tier::Reduce(x);
-    auto large = ReduceLargeToTable(x);
-    if constexpr (!Tier::has_tails) large = {large.hi + large.lo, large.lo, large.k};
+    const auto ordinary = Tier::Reduce(x), large = ReduceLarge(x);
     const Reduced<T> merged{select(at, large.hi, ordinary.hi), select(at, large.lo, ordinary.lo),
                             select(mask_cast<UnsignedOf<T>>(at), large.k, ordinary.k)};
     return Tier::Evaluate(merged);
+  }
+  static LUM_INLINE Reduced<T> ReduceLarge(Vec<T> x) {
+    const auto a = ReduceLargeToTable(x);
+    if constexpr (Tier::has_tails) return a;
+    else return {a.hi + a.lo, a.lo, a.k};
   }
   static LumStatus LaneRoutine(T x, T& result) { return CircularOfNonFinite(x, result); }
 };

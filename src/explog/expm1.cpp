@@ -116,9 +116,13 @@ template <class T, class Exp> LumStatus LaneRoutineBy(Exp exp, T x, T& result) {
   }
   return exp(x, result);
 }
-// The second path of the exponential; other lanes hold 0, as large negative numbers are no concern of it.
+// The second path of the exponential; other lanes hold 0, as large negative numbers are no concern of it. Nor is a NaN, so that
+// it does not take the steps of numbers next to the overflow.
 template <class T, class AtEnds> LUM_INLINE Finished<T> SecondPathBy(Vec<T> x, const Lanes<T>& lanes, AtEnds at_ends) {
-  return ExpSecondPath(select(lanes.refused, x, all(T(0))), lanes, at_ends);
+  const auto is_nan = lanes.refused & unord(x, x), refused = lanes.refused & ~is_nan;
+  auto result = ExpSecondPath(select(refused, x, all(T(0))), Lanes<T>{lanes.value, refused}, at_ends);
+  result.value = select(is_nan, x + x, result.value);
+  return result;
 }
 
 // The tiers whose lane routine computes in binary32.

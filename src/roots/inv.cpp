@@ -1,5 +1,6 @@
 // 1 / x without a divide instruction: an estimate of 14 bits, and Newton steps r' = r + r (1 - x r), each doubling the bits.
-// Zeros, infinities and numbers whose estimate is a zero or an infinity are left to the divide instruction.
+// Zeros, infinities and numbers whose estimate is a zero or an infinity take no step: there the estimate is the quotient, since
+// it overflows where |x| <= 2^-128, or 2^-1024, alone.
 #include <cstdint>
 #include <limits>
 
@@ -9,7 +10,7 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
-// A tier has 1 / x of all numbers from the estimate r0, and which it leaves to the divide instruction. Where the estimate takes
+// A tier has 1 / x of all numbers from the estimate r0, and for which it takes no step. Where the estimate takes
 // normal numbers alone, the first path refuses all others, and those without a normal reciprocal.
 template <class T, class Tier> struct InvKernel : Kernel<T> {
   static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) {
@@ -27,17 +28,16 @@ template <class T, class Tier> struct InvKernel : Kernel<T> {
   }
   static constexpr bool second_is_short = true;
   static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) {
-    const auto full = estimates_take_all ? lanes : Of(x, rcp14(x));
-    const auto quotient = div(all(T(1)), select(full.refused, x, all(T(1))));
-    return {select(full.refused, quotient, full.value), mask_of<T>(0), {.singularity = fpclass<classes::zero>(x)}};
+    const auto r0 = rcp14(x);
+    const auto full = estimates_take_all ? lanes : Of(x, r0);
+    return {select(full.refused, r0, full.value), mask_of<T>(0), {.singularity = fpclass<classes::zero>(x)}};
   }
 
  private:
   static LUM_INLINE Lanes<T> Of(Vec<T> x, Vec<T> r0) { return {Tier::Reciprocal(x, r0), Tier::Refused(x, r0)}; }
 };
 
-// Refuses by the input, not by the estimate: that of a tiny denormal is an infinity, which stands. This differs from the tiers
-// with a Newton step, whose refused denormals have the scalar quotient, and is deliberate.
+// Refuses by the input, not by the estimate: that of a tiny denormal is an infinity, which stands.
 template <class T> struct Estimate : InvKernel<T, Estimate<T>> {
   static LUM_INLINE Vec<T> Reciprocal(Vec<T>, Vec<T> r0) { return r0; }
   static LUM_INLINE Mask<T> Refused(Vec<T> x, Vec<T>) { return fpclass<classes::zero | classes::infinity>(x); }

@@ -60,14 +60,14 @@ template <class T> double OfNormal(double x) {
   const int half = (exponent - (cell < 32 ? 1 : 0)) / 2;  // exact: cells below 32 have odd exponents
   return (hi + (hi * p + midpoint_values[2 * cell + 1])) * lane::power_of_two<double>(3 * half);
 }
-template <class T> LUM_INLINE Vec<Lum64f> OfNormal(Vec<Lum64f> x) {
+LUM_INLINE Vec<Lum64f> OfNormal(Vec<Lum64f> x) {
   const auto pattern = bits(x);
   const auto cell = shift_right<47>(pattern) & all(uint64_t{63});
   const auto midpoint = as_float((pattern & all(uint64_t{0x000F800000000000})) | all(uint64_t{0x3FF0400000000000}));
   const auto significand = as_float((pattern & all(lane::Format<double>::fraction)) | all(std::bit_cast<uint64_t>(1.0)));
   const auto row = gather_rows<Lum64f>(midpoint_rows, shift_left<2>(cell));
   const auto t = (significand - midpoint) * row.column2;
-  const auto p = CellPolynomial<T>(t) * t;
+  const auto p = CellPolynomial<Lum64f>(t) * t;
   // Half the exponent, downward: of its field and 1, less half of the bias and 1.
   constexpr auto bias = uint64_t{lane::Format<double>::bias};
   const auto half = shift_right<1>(exponent_field(x) + all(uint64_t{1})) - all((bias + 1) / 2);
@@ -88,6 +88,7 @@ template <> struct Limits<Lum64f> {
 };
 
 template <class T> struct Pow3o2Kernel : Kernel<T> {
+  static constexpr bool second_is_short = sizeof(T) == sizeof(Lum32f);
   static constexpr bool hides_refused = true;
   static LUM_INLINE Mask<T> Refused(Vec<T> x) {
     using L = Limits<T>;
@@ -119,25 +120,41 @@ template <class T> struct Pow3o2Kernel : Kernel<T> {
     const auto overflows = mask_cast<T>(le(all(L::overflowing), bits(x)));  // or NaN or negative
     const auto between = lanes.refused & ~(overflows | vanishes);
     auto value = lanes.value;
-    if (any(between)) value = select(between, BetweenEnds(select(between, x, all(T(1)))), value);
+    auto remaining = mask_of<T>(0);
+    if (any(between)) {
+      const auto of_ends = BetweenEnds(select(between, x, all(T(1))));
+      value = select(between, of_ends.value, value);
+      remaining = between & of_ends.refused;
+    }
     value = select(overflows, all(std::numeric_limits<T>::infinity()), value);
     value = select(vanishes, all(T(0)), value);
     value = select(negative, all(std::numeric_limits<T>::quiet_NaN()), value);
-    return {add(is_nan, select(is_nan, x, value), x), mask_of<T>(0), {.domain = negative}};
+    return {add(is_nan, select(is_nan, x, value), x), remaining, {.domain = negative}};
   }
-  // Powers that are neither too large nor too small for the type, by the steps of the lane routine.
-  static LUM_INLINE Vec<Lum32f> BetweenEnds(Vec<Lum32f> x) {
-    return narrow(OfNormal<Lum32f>(widen_low(x)), OfNormal<Lum32f>(widen_high(x)));
+  // Powers that are neither too large nor too small for the type. In binary32 the lane routine's value, within 2^-38.3 of the
+  // power, is rounded as the power is, but next to a tie, where it remains.
+  static LUM_INLINE Lanes<Lum32f> BetweenEnds(Vec<Lum32f> x) {
+    const auto low = ByRootInDouble(widen_low(x)), high = ByRootInDouble(widen_high(x));
+    const auto rounded = [&](double factor) __attribute__((always_inline)) {
+      return narrow(low * all(factor), high * all(factor));
+    };
+    const auto value = rounded(1 - 0x1p-38);
+    return {value, ne(value, rounded(1 + 0x1p-38))};
   }
-  static LUM_INLINE Vec<Lum64f> BetweenEnds(Vec<Lum64f> x) {
+  static LUM_INLINE Vec<Lum64f> ByRootInDouble(Vec<Lum64f> x) {
+    if constexpr (estimates_take_all && vectors_fit_registers) return x * HeronStep(x, CoupledStep(Start(x, rsqrt14(x))));
+    else return x * sqrt(x);
+  }
+  // By the steps of the lane routine.
+  static LUM_INLINE Lanes<Lum64f> BetweenEnds(Vec<Lum64f> x) {
     const auto is_small = lt(x, all(0x1p-680));
-    const auto power = OfNormal<Lum64f>(select(is_small, x * all(0x1p60), x));
+    const auto power = OfNormal(select(is_small, x * all(0x1p60), x));
     // A denormal result counts the units of a sum whose last bit is worth the smallest positive number, 90 powers of 2 higher.
     constexpr double addend = 0x1p-932;
     const auto is_denormal = is_small & lt(power, all(addend));
     const auto denormal = as_float(bits(power + all(addend)) - bits(all(addend)));
     const auto normal = select(is_denormal, all(1.0), power) * select(is_small, all(0x1p-90), all(1.0));
-    return select(is_denormal, denormal, normal);
+    return {select(is_denormal, denormal, normal), mask_of<Lum64f>(0)};
   }
 };
 
