@@ -12,6 +12,8 @@ namespace lum::inline LUM_LAYER::complex {
 
 // Up to here k times the leading parts of pi/128 is exact.
 inline constexpr Lum64f largest_angle = 10000;
+// In one part the difference from k times the first part alone has to be exact: a multiple of 2^-39, up to 1 in magnitude.
+template <class Number> inline constexpr Lum64f largest_angle_of = std::is_same_v<Number, OnePart> ? 0x1p34 : largest_angle;
 
 template <class Number> struct SineAndCosine {
   Number sine, cosine;
@@ -35,13 +37,23 @@ LUM_INLINE ReducedAngle ReduceAngle(Vec<Lum64f> magnitude) {
   return {bits(t), {r, r_tail}, lt(abs(r), all(0x1p-19)) & ne(k, all(0.0))};
 }
 
+// Each step is rounded once, and r is far larger than the third part's product.
+LUM_INLINE ReducedAngle ReduceAngleInOnePart(Vec<Lum64f> magnitude) {
+  constexpr auto shifter = rounding_shifter<Lum64f>();
+  constexpr auto& parts = numbers::pi_128th_parts<Lum64f>;
+  const auto t = fma(magnitude, all(128 * numbers::inverse_pi<Lum64f>), all(shifter));
+  const auto k = t - all(shifter);
+  const auto r = fnma(k, all(parts[2]), fnma(k, all(parts[1]), fnma(k, all(parts[0]), magnitude)));
+  return {bits(t), {r, all(0.0)}, lt(abs(r), all(0x1p-30)) & ne(k, all(0.0))};
+}
+
 template <class Number = HeadTail>
 LUM_INLINE SineAndCosine<Number> SineCosineOfReduced(Vec<Lum64f> y, const ReducedAngle& angle) {
   static constexpr auto table = table64({
 #include "tables/generated/sine_cosine_64f_256_pairs.inc"
   });
   if constexpr (std::is_same_v<Number, OnePart>) {
-    const auto r = angle.r.head + angle.r.tail, q = r * r;
+    const auto r = angle.r.head, q = r * r;
     const auto sine_of_r = fma(r * q, horner(q, pairs_sine), r), cosine_rest = q * horner(q, pairs_cosine);
     const auto row = gather_rows<Lum64f>(table, shift_left<2>(angle.row & all(uint64_t{255})));
     const auto s = row.column0, c = row.column2;
@@ -65,7 +77,8 @@ LUM_INLINE SineAndCosine<Number> SineCosineOfReduced(Vec<Lum64f> y, const Reduce
 }
 // The sine of a zero is that zero.
 template <class Number> LUM_INLINE SineAndCosine<Number> SineCosineOf(Vec<Lum64f> y) {
-  return SineCosineOfReduced<Number>(y, ReduceAngle(abs(y)));
+  if constexpr (std::is_same_v<Number, OnePart>) return SineCosineOfReduced<Number>(y, ReduceAngleInOnePart(abs(y)));
+  else return SineCosineOfReduced<Number>(y, ReduceAngle(abs(y)));
 }
 
 // The reduction of angles beyond the largest, by the remainder of turns in fixed-point numbers: an index of steps of pi/256 and
