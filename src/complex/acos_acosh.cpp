@@ -9,16 +9,17 @@ namespace {
 
 using namespace complex;
 
-LUM_INLINE HeadTail Reflected(Vec<Lum64f> x, HeadTail angle) {
-  const HeadTail pi{all(numbers::pi<Lum64f>), all(numbers::pi_tail<Lum64f>)};
+template <class Number> LUM_INLINE Number Reflected(Vec<Lum64f> x, Number angle) {
+  auto pi = NumberOf<Number>(all(numbers::pi<Lum64f>));
+  if constexpr (requires { pi.tail; }) pi.tail = all(numbers::pi_tail<Lum64f>);
   return Select(lt(x, all(0.0)), Add(pi, -angle), angle);
 }
 // The parts of arccos z for |im z|.
-LUM_INLINE AngleAndLogarithm ArccosineParts(ComplexVec<Lum64f> z) {
-  const auto parts = InverseParts<Arc::cosine>(abs(z.re), abs(z.im));
+template <class Number> LUM_INLINE AngleAndLogarithm<Number> ArccosineParts(ComplexVec<Lum64f> z) {
+  const auto parts = InverseParts<Arc::cosine, Number>(abs(z.re), abs(z.im));
   return {Reflected(z.re, parts.angle), parts.logarithm};
 }
-LUM_INLINE Vec<Lum64f> AngleError(Vec<Lum64f> x, HeadTail angle) {
+template <class Number> LUM_INLINE Vec<Lum64f> AngleError(Vec<Lum64f> x, Number angle) {
   return angle.head * select(lt(x, all(0.0)), all(mirrored_angle_error), all(angle_error<Arc::cosine>));
 }
 LUM_INLINE ScaledArcParts ArccosinePartsOfAny(ComplexVec<Lum64f> z) {
@@ -28,12 +29,12 @@ LUM_INLINE ScaledArcParts ArccosinePartsOfAny(ComplexVec<Lum64f> z) {
   return scaled;
 }
 
-struct AcosPath {
+template <class Number> struct AcosPath {
   static constexpr bool is_long = true;
   static LUM_INLINE Mask<Lum64f> IsOutside(ComplexVec<Lum64f> z) { return HasFarPart(z); }
   static LUM_INLINE ComplexVec<Lum64f> OfZero(ComplexVec<Lum64f> z) { return {all(numbers::pi<Lum64f> / 2), negate(z.im)}; }
-  static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z) {
-    const auto parts = ArccosineParts(z);
+  static LUM_INLINE PathValue<Number> Of(ComplexVec<Lum64f> z) {
+    const auto parts = ArccosineParts<Number>(z);
     return {parts.angle, -XorSign(z.im, parts.logarithm), AngleError(z.re, parts.angle), ArcLogarithmError(parts.logarithm),
             IsOutside(z)};
   }
@@ -58,14 +59,14 @@ struct AcosEnds {
   }
 };
 
-struct AcoshPath {
+template <class Number> struct AcoshPath {
   static constexpr bool is_long = true;
   static LUM_INLINE Mask<Lum64f> IsOutside(ComplexVec<Lum64f> z) { return HasFarPart(z); }
   static LUM_INLINE ComplexVec<Lum64f> OfZero(ComplexVec<Lum64f> z) {
     return {all(0.0), or_sign(z.im, all(numbers::pi<Lum64f> / 2))};
   }
-  static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z) {
-    const auto parts = ArccosineParts(z);
+  static LUM_INLINE PathValue<Number> Of(ComplexVec<Lum64f> z) {
+    const auto parts = ArccosineParts<Number>(z);
     return {parts.logarithm, XorSign(z.im, parts.angle), ArcLogarithmError(parts.logarithm), AngleError(z.re, parts.angle),
             IsOutside(z)};
   }
@@ -89,16 +90,16 @@ struct AcoshEnds {
 }  // namespace
 
 LumStatus Acos_32fc(const Lum32fc* src, Lum32fc* dst, int32_t len) {
-  return RunSilent<AcosPath, AcosEnds, CoreAcos>(src, dst, len);
+  return RunSilent<AcosPath<OnePart>, AcosEnds, CoreAcos>(src, dst, len);
 }
 LumStatus Acos_64fc(const Lum64fc* src, Lum64fc* dst, int32_t len) {
-  return RunSilent<AcosPath, AcosEnds, CoreAcos>(src, dst, len);
+  return RunSilent<AcosPath<HeadTail>, AcosEnds, CoreAcos>(src, dst, len);
 }
 LumStatus Acosh_32fc(const Lum32fc* src, Lum32fc* dst, int32_t len) {
-  return RunSilent<AcoshPath, AcoshEnds, CoreAcosh>(src, dst, len);
+  return RunSilent<AcoshPath<OnePart>, AcoshEnds, CoreAcosh>(src, dst, len);
 }
 LumStatus Acosh_64fc(const Lum64fc* src, Lum64fc* dst, int32_t len) {
-  return RunSilent<AcoshPath, AcoshEnds, CoreAcosh>(src, dst, len);
+  return RunSilent<AcoshPath<HeadTail>, AcoshEnds, CoreAcosh>(src, dst, len);
 }
 
 }  // namespace lum::inline LUM_LAYER

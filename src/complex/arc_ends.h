@@ -10,7 +10,7 @@ namespace lum::inline LUM_LAYER::complex {
 
 // An angle and a logarithm, each without the power of 2 of its exponent.
 struct ScaledArcParts {
-  AngleAndLogarithm parts;
+  AngleAndLogarithm<HeadTail> parts;
   Vec<Lum64f> angle_exponent, logarithm_exponent;
   Mask<Lum64f> is_known;
 };
@@ -18,7 +18,7 @@ struct ScaledArcParts {
 // The angle and the logarithm of any finite u, v >= 0.
 template <Arc arc> LUM_INLINE ScaledArcParts InversePartsOfAny(Vec<Lum64f> u, Vec<Lum64f> v) {
   const auto z = BringNearer(u, v);
-  auto parts = InverseParts<arc>(z.u.value, z.v.value);
+  auto parts = InverseParts<arc, HeadTail>(z.u.value, z.v.value);
   constexpr auto& ln2 = numbers::ln2_by_2p40_parts<Lum64f>;
   parts.logarithm = Add(parts.logarithm, {z.common * all(ln2[0]), z.common * all(ln2[1])});
   const auto one = all(1.0);

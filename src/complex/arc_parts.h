@@ -10,17 +10,15 @@
 namespace lum::inline LUM_LAYER::complex {
 
 // The angle arccos(u/A) or arcsin(u/A), and arcosh A, for u, v >= 0.
-struct AngleAndLogarithm {
-  HeadTail angle, logarithm;
-};
+template <class Number> struct AngleAndLogarithm { Number angle, logarithm; };
 enum class Arc { cosine, sine };
 
-template <Arc arc> LUM_INLINE AngleAndLogarithm InverseParts(Vec<Lum64f> given_u, Vec<Lum64f> given_v) {
+template <Arc arc, class Number> LUM_INLINE AngleAndLogarithm<Number> InverseParts(Vec<Lum64f> given_u, Vec<Lum64f> given_v) {
   const auto one = all(1.0);
   // On an axis a number that does not count stands for the zero, and the part that would be zero is put so at the end.
   const auto u = max(given_u, all(0x1p-210)), v = max(given_v, all(0x1p-210));
-  const auto a = two_sum(u, negate(one)), b = two_sum(u, one);
-  const auto v2 = ExactSquare(v);
+  const auto a = SumOf<Number>(u, negate(one)), b = SumOf<Number>(u, one);
+  const auto v2 = SquareOf<Number>(v);
   const auto r = SquareRoot(Add(Square(b), v2)), s = SquareRoot(Add(Square(a), v2));
   const auto near = Quotient(v2, Add(r, b));                         // r - b
   const auto far = Add(s, Magnitude(a)), other = Quotient(v2, far);  // s + |a| and s - |a|
@@ -28,7 +26,7 @@ template <Arc arc> LUM_INLINE AngleAndLogarithm InverseParts(Vec<Lum64f> given_u
   const auto above_u = Scaled(Add(near, Select(is_inside, far, other)), 0.5);    // A - u
   const auto above_one = Scaled(Add(near, Select(is_inside, other, far)), 0.5);  // A - 1
   const auto side = SquareRoot(Product(above_u, Add(above_u, u + u)));
-  const HeadTail exact_u{u, all(0.0)};
+  const auto exact_u = NumberOf<Number>(u);
   const auto angle = arc == Arc::cosine ? Angle(side, exact_u) : Angle(exact_u, side);
   const auto root = SquareRoot(Product(above_one, Add(above_one, all(2.0))));
   const auto is_off_axis = ne(given_v, all(0.0));
@@ -44,7 +42,7 @@ template <Arc arc> LUM_INLINE AngleAndLogarithm InverseParts(Vec<Lum64f> given_u
 // relatively.
 template <Arc arc> constexpr double angle_error = arc == Arc::cosine ? 8 : 10.5;
 constexpr double mirrored_angle_error = 10;
-LUM_INLINE Vec<Lum64f> ArcLogarithmError(HeadTail logarithm) {
+template <class Number> LUM_INLINE Vec<Lum64f> ArcLogarithmError(Number logarithm) {
   const auto magnitude = abs(logarithm.head);
   return select(lt(magnitude, all(0.97)), magnitude * all(9.25), fma(magnitude, all(1.1875), all(7.75)));
 }

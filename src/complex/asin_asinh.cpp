@@ -10,30 +10,30 @@ namespace {
 using namespace complex;
 
 // The parts of arcsin z and, the sides exchanged, of arcsinh z.
-LUM_INLINE AngleAndLogarithm ArcsineParts(Vec<Lum64f> angle_side, Vec<Lum64f> other) {
-  const auto parts = InverseParts<Arc::sine>(abs(angle_side), abs(other));
+template <class Number> LUM_INLINE AngleAndLogarithm<Number> ArcsineParts(Vec<Lum64f> angle_side, Vec<Lum64f> other) {
+  const auto parts = InverseParts<Arc::sine, Number>(abs(angle_side), abs(other));
   return {XorSign(angle_side, parts.angle), XorSign(other, parts.logarithm)};
 }
-LUM_INLINE Vec<Lum64f> AngleError(const AngleAndLogarithm& parts) {
+template <class Number> LUM_INLINE Vec<Lum64f> AngleError(const AngleAndLogarithm<Number>& parts) {
   return abs(parts.angle.head) * all(angle_error<Arc::sine>);
 }
 
-struct AsinPath {
+template <class Number> struct AsinPath {
   static constexpr bool is_long = true;
   static LUM_INLINE Mask<Lum64f> IsOutside(ComplexVec<Lum64f> z) { return HasFarPart(z); }
   static LUM_INLINE ComplexVec<Lum64f> OfZero(ComplexVec<Lum64f> z) { return z; }
-  static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z) {
-    const auto parts = ArcsineParts(z.re, z.im);
+  static LUM_INLINE PathValue<Number> Of(ComplexVec<Lum64f> z) {
+    const auto parts = ArcsineParts<Number>(z.re, z.im);
     return {parts.angle, parts.logarithm, AngleError(parts), ArcLogarithmError(parts.logarithm), IsOutside(z)};
   }
 };
 
-struct AsinhPath {
+template <class Number> struct AsinhPath {
   static constexpr bool is_long = true;
   static LUM_INLINE Mask<Lum64f> IsOutside(ComplexVec<Lum64f> z) { return HasFarPart(z); }
   static LUM_INLINE ComplexVec<Lum64f> OfZero(ComplexVec<Lum64f> z) { return z; }
-  static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z) {
-    const auto parts = ArcsineParts(z.im, z.re);
+  static LUM_INLINE PathValue<Number> Of(ComplexVec<Lum64f> z) {
+    const auto parts = ArcsineParts<Number>(z.im, z.re);
     return {parts.logarithm, parts.angle, ArcLogarithmError(parts.logarithm), AngleError(parts), IsOutside(z)};
   }
 };
@@ -42,7 +42,7 @@ struct AsinhEnds {
   static constexpr bool no_float_is_far = true;
   static LUM_INLINE CoreValue OfFar(ComplexVec<Lum64f> z) {
     const auto scaled = InversePartsOfAny<Arc::sine>(abs(z.im), abs(z.re));
-    const AngleAndLogarithm parts{XorSign(z.im, scaled.parts.angle), XorSign(z.re, scaled.parts.logarithm)};
+    const AngleAndLogarithm<HeadTail> parts{XorSign(z.im, scaled.parts.angle), XorSign(z.re, scaled.parts.logarithm)};
     return CoreValueOf(RoundedAtEnds(parts.logarithm, ArcLogarithmError(parts.logarithm), scaled.logarithm_exponent),
                        RoundedAtEnds(parts.angle, AngleError(parts), scaled.angle_exponent), scaled.is_known);
   }
@@ -62,16 +62,16 @@ using AsinEnds = CircularEnds<AsinhEnds, KeptNans::all>;
 }  // namespace
 
 LumStatus Asin_32fc(const Lum32fc* src, Lum32fc* dst, int32_t len) {
-  return RunSilent<AsinPath, AsinEnds, CoreAsin>(src, dst, len);
+  return RunSilent<AsinPath<OnePart>, AsinEnds, CoreAsin>(src, dst, len);
 }
 LumStatus Asin_64fc(const Lum64fc* src, Lum64fc* dst, int32_t len) {
-  return RunSilent<AsinPath, AsinEnds, CoreAsin>(src, dst, len);
+  return RunSilent<AsinPath<HeadTail>, AsinEnds, CoreAsin>(src, dst, len);
 }
 LumStatus Asinh_32fc(const Lum32fc* src, Lum32fc* dst, int32_t len) {
-  return RunSilent<AsinhPath, AsinhEnds, CoreAsinh>(src, dst, len);
+  return RunSilent<AsinhPath<OnePart>, AsinhEnds, CoreAsinh>(src, dst, len);
 }
 LumStatus Asinh_64fc(const Lum64fc* src, Lum64fc* dst, int32_t len) {
-  return RunSilent<AsinhPath, AsinhEnds, CoreAsinh>(src, dst, len);
+  return RunSilent<AsinhPath<HeadTail>, AsinhEnds, CoreAsinh>(src, dst, len);
 }
 
 }  // namespace lum::inline LUM_LAYER

@@ -13,20 +13,20 @@ namespace {
 
 using namespace complex;
 
-struct AtanhValue {
-  HeadTail logarithm, angle;
+template <class Number> struct AtanhValue {
+  Number logarithm, angle;
   Vec<Lum64f> logarithm_error, angle_error;
 };
-LUM_INLINE AtanhValue AtanhParts(Vec<Lum64f> x, Vec<Lum64f> y) {
+template <class Number> LUM_INLINE AtanhValue<Number> AtanhParts(Vec<Lum64f> x, Vec<Lum64f> y) {
   const auto one = all(1.0);
   const auto ax = abs(x), ay = abs(y);
-  const auto below = two_sum(one, negate(ax)), above = two_sum(one, ax);
-  const auto y2 = ExactSquare(y);
+  const auto below = SumOf<Number>(one, negate(ax)), above = SumOf<Number>(one, ax);
+  const auto y2 = SquareOf<Number>(y);
   const auto q = Add(Square(below), y2);
-  const auto ratio = Quotient({all(4.0) * ax, all(0.0)}, q);
+  const auto ratio = Quotient(NumberOf<Number>(all(4.0) * ax), q);
   const auto logarithm = Scaled(LogarithmOfOnePlus(ratio), 0.25);
   const auto t = Add(Product(below, above), -y2);
-  const auto angle = Scaled(Angle({ay + ay, all(0.0)}, t), 0.5);
+  const auto angle = Scaled(Angle(NumberOf<Number>(ay + ay), t), 0.5);
 
   // Where the ratio is not next to 1, the core takes the logarithm of a ratio of squared distances. Those are right to two
   // units, or four where 1 + x is rounded, the ratio to one more.
@@ -41,22 +41,22 @@ LUM_INLINE AtanhValue AtanhParts(Vec<Lum64f> x, Vec<Lum64f> y) {
   return {XorSign(x, logarithm), XorSign(y, angle), logarithm_error, angle.head * angle_error};
 }
 
-struct AtanhPath {
+template <class Number> struct AtanhPath {
   static constexpr bool is_long = true;
   static LUM_INLINE Mask<Lum64f> IsOutside(ComplexVec<Lum64f> z) { return HasFarPart(z); }
   static LUM_INLINE ComplexVec<Lum64f> OfZero(ComplexVec<Lum64f> z) { return z; }
-  static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z) {
-    const auto a = AtanhParts(z.re, z.im);
+  static LUM_INLINE PathValue<Number> Of(ComplexVec<Lum64f> z) {
+    const auto a = AtanhParts<Number>(z.re, z.im);
     return {a.logarithm, a.angle, a.logarithm_error, a.angle_error, IsOutside(z)};
   }
 };
 
-struct AtanPath {
+template <class Number> struct AtanPath {
   static constexpr bool is_long = true;
   static LUM_INLINE Mask<Lum64f> IsOutside(ComplexVec<Lum64f> z) { return HasFarPart(z); }
   static LUM_INLINE ComplexVec<Lum64f> OfZero(ComplexVec<Lum64f> z) { return z; }
-  static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z) {
-    const auto a = AtanhParts(z.im, z.re);
+  static LUM_INLINE PathValue<Number> Of(ComplexVec<Lum64f> z) {
+    const auto a = AtanhParts<Number>(z.im, z.re);
     return {a.angle, a.logarithm, a.angle_error, a.logarithm_error, IsOutside(z)};
   }
 };
@@ -66,7 +66,7 @@ struct AtanhEnds {
   // Far from 1 artanh z is 1/z and half a turn; a small part's consequence is proportional to it.
   static LUM_INLINE CoreValue OfFar(ComplexVec<Lum64f> z) {
     const auto near = BringNearer(abs(z.re), abs(z.im));
-    const auto a = AtanhParts(or_sign(z.re, near.u.value), or_sign(z.im, near.v.value));
+    const auto a = AtanhParts<HeadTail>(or_sign(z.re, near.u.value), or_sign(z.im, near.v.value));
     const auto angle_exponent = zero_unless(lt(near.u.value, all(1.0)), near.v.exponent);
     return CoreValueOf(RoundedAtEnds(a.logarithm, a.logarithm_error, near.u.exponent - near.common),
                        RoundedAtEnds(a.angle, a.angle_error, angle_exponent), ~IsNextToBranch(near));
@@ -88,16 +88,16 @@ using AtanEnds = CircularEnds<AtanhEnds, KeptNans::all>;
 }  // namespace
 
 LumStatus Atan_32fc(const Lum32fc* src, Lum32fc* dst, int32_t len) {
-  return RunSilent<AtanPath, AtanEnds, CoreAtan>(src, dst, len);
+  return RunSilent<AtanPath<OnePart>, AtanEnds, CoreAtan>(src, dst, len);
 }
 LumStatus Atan_64fc(const Lum64fc* src, Lum64fc* dst, int32_t len) {
-  return RunSilent<AtanPath, AtanEnds, CoreAtan>(src, dst, len);
+  return RunSilent<AtanPath<HeadTail>, AtanEnds, CoreAtan>(src, dst, len);
 }
 LumStatus Atanh_32fc(const Lum32fc* src, Lum32fc* dst, int32_t len) {
-  return RunSilent<AtanhPath, AtanhEnds, CoreAtanh>(src, dst, len);
+  return RunSilent<AtanhPath<OnePart>, AtanhEnds, CoreAtanh>(src, dst, len);
 }
 LumStatus Atanh_64fc(const Lum64fc* src, Lum64fc* dst, int32_t len) {
-  return RunSilent<AtanhPath, AtanhEnds, CoreAtanh>(src, dst, len);
+  return RunSilent<AtanhPath<HeadTail>, AtanhEnds, CoreAtanh>(src, dst, len);
 }
 
 }  // namespace lum::inline LUM_LAYER

@@ -1,12 +1,10 @@
-// Vector paths that give the bits of a scalar core. A path computes both parts as pairs with some 70 bits, and how far the
-// core's value before its one rounding can be from the true one. Where everything within that distance rounds to the same
-// number, that number is the core's result; the other lanes, some in a hundred, and arguments outside the path's domain are
-// refused.
+// Vector paths that give the bits of a scalar core. A path computes both parts as pairs with some 70 bits (of one part each for
+// results of 32 bits), and how far the core's value before its one rounding can be from the true one. Where everything within
+// that distance rounds to the same number, that number is the core's result; the other lanes, some in a hundred, and arguments
+// outside the path's domain are refused.
 #pragma once
 
-#include <array>
-#include <cstddef>
-#include <utility>
+#include <type_traits>
 
 #include "complex/core_on_lane.h"
 #include "complex/pairs/pair.h"
@@ -18,8 +16,8 @@ namespace lum::inline LUM_LAYER::complex {
 //   OfZero(z)         the result of a zero, given together with
 //   is_long           given where a branch that spares vectors of special arguments all steps costs the others little
 //   Of(z...)          the parts of the result, their distances from the core's values in units of 2^-64, and the lanes outside
-struct PathValue {
-  HeadTail re, im;
+template <class Number> struct PathValue {
+  Number re, im;
   Vec<Lum64f> re_error, im_error;
   Mask<Lum64f> refused;
 };
@@ -33,12 +31,13 @@ template <class T> LUM_INLINE Mask<T> IsNonFinite(Vec<T> x) { return fpclass<cla
 template <class T> LUM_INLINE Mask<T> HasNonFinitePart(ComplexVec<T> z) { return IsNonFinite(z.re) | IsNonFinite(z.im); }
 
 // The parts with relative errors of that many units.
-LUM_INLINE PathValue ValueWithin(HeadTail re, HeadTail im, double units, Mask<Lum64f> refused) {
+template <class Number> LUM_INLINE PathValue<Number> ValueWithin(Number re, Number im, double units, Mask<Lum64f> refused) {
   return {re, im, abs(re.head) * all(units), abs(im.head) * all(units), refused};
 }
 // Parts with relative errors that come near the lower end of the range: below this size tails and distances lose bits to it.
 inline constexpr double smallest_part = 0x1p-900;
-LUM_INLINE PathValue SmallValueWithin(HeadTail re, HeadTail im, double units, Mask<Lum64f> refused) {
+template <class Number>
+LUM_INLINE PathValue<Number> SmallValueWithin(Number re, Number im, double units, Mask<Lum64f> refused) {
   return ValueWithin(re, im, units, refused | IsBelow(re.head, smallest_part) | IsBelow(im.head, smallest_part));
 }
 
@@ -64,8 +63,8 @@ LUM_INLINE RoundedPart RoundedAsCore(HeadTail part, Vec<Lum64f> error) {
 }
 
 // Where registers do not hold a path's intermediate vectors, all calls share one copy of it and of its stack.
-template <class Path, class... Z> [[gnu::noinline]] PathValue CalledPath(const Z&... z) { return Path::Of(z...); }
-template <class Path, class... Z> LUM_INLINE PathValue PathOfVector(const Z&... z) {
+template <class Path, class... Z> [[gnu::noinline]] auto CalledPath(const Z&... z) { return Path::Of(z...); }
+template <class Path, class... Z> LUM_INLINE auto PathOfVector(const Z&... z) {
   if constexpr (streams_fit_registers) return Path::Of(z...);
   else return CalledPath<Path>(z...);
 }
@@ -91,8 +90,11 @@ struct NarrowedPart {
   Vec<Lum32f> value;
   Mask<Lum32f> refused;
 };
-LUM_INLINE NarrowedPart NarrowedAsCore(Vec<Lum64f> low, Vec<Lum64f> high) {
-  const auto distance = all(0x1p-49);
+// A number in one part has the errors of some roundings, up to 2^-49.
+template <class Number> constexpr double narrowing_distance = std::is_same_v<Number, OnePart> ? 0x1p-46 : 0x1p-49;
+template <class Number> LUM_INLINE NarrowedPart NarrowedAsCore(Number low_part, Number high_part) {
+  const auto low = low_part.head, high = high_part.head;
+  const auto distance = all(narrowing_distance<Number>);
   const auto above = narrow(fma(low, distance, low), fma(high, distance, high));
   const auto below = narrow(fnma(low, distance, low), fnma(high, distance, high));
   const auto magnitude = abs(above);
@@ -102,8 +104,8 @@ LUM_INLINE NarrowedPart NarrowedAsCore(Vec<Lum64f> low, Vec<Lum64f> high) {
 LUM_INLINE ComplexVec<Lum64f> WidenLow(ComplexVec<Lum32f> z) { return {widen_low(z.re), widen_low(z.im)}; }
 LUM_INLINE ComplexVec<Lum64f> WidenHigh(ComplexVec<Lum32f> z) { return {widen_high(z.re), widen_high(z.im)}; }
 
-LUM_INLINE Lanes<Lum32fc> NarrowedHalves(const PathValue& low, const PathValue& high) {
-  const auto re = NarrowedAsCore(low.re.head, high.re.head), im = NarrowedAsCore(low.im.head, high.im.head);
+template <class Number> LUM_INLINE Lanes<Lum32fc> NarrowedHalves(const PathValue<Number>& low, const PathValue<Number>& high) {
+  const auto re = NarrowedAsCore(low.re, high.re), im = NarrowedAsCore(low.im, high.im);
   return {join(ComplexVec<Lum32f>{re.value, im.value}), join(low.refused, high.refused) | re.refused | im.refused};
 }
 template <class Path, class... Inputs> LUM_INLINE Lanes<Lum32fc> NarrowedPath(const Inputs&... packed) {
@@ -114,15 +116,12 @@ template <class Path, class... Inputs> LUM_INLINE Lanes<Lum32fc> NarrowedPath(co
   }
   return NarrowedHalves(PathOfVector<Path>(WidenLow(split(packed))...), PathOfVector<Path>(WidenHigh(split(packed))...));
 }
-// The path of a vector whose first count elements alone are in use: a short call is spared the half without any, and the path
-// stands there once. A function of its own, so that its stack is free again before a second path runs.
-template <class Path, size_t... j, class... Inputs>
-[[gnu::noinline]] Lanes<Lum32fc> NarrowedTail(int count, std::index_sequence<j...>, const Inputs&... packed) {
-  const std::array<ComplexVec<Lum64f>, sizeof...(j)> halves[] = {{WidenLow(split(packed))...}, {WidenHigh(split(packed))...}};
-  PathValue values[2];
-  for (int half = 0; half * lanes_of<Lum64f> < count; ++half) values[half] = PathOfVector<Path>(halves[half][j]...);
-  if (count <= lanes_of<Lum64f>) values[1] = values[0];
-  return NarrowedHalves(values[0], values[1]);
+// The path of a vector whose first count elements alone are in use: a short call is spared the half without any. A function of
+// its own, so that its stack is free again before a second path runs.
+template <class Path, class... Inputs> [[gnu::noinline]] Lanes<Lum32fc> NarrowedTail(int count, const Inputs&... packed) {
+  const auto low = PathOfVector<Path>(WidenLow(split(packed))...);
+  if (count <= lanes_of<Lum64f>) return NarrowedHalves(low, low);
+  return NarrowedHalves(low, PathOfVector<Path>(WidenHigh(split(packed))...));
 }
 
 // The path in either type, of one or two arguments.
@@ -132,7 +131,7 @@ template <class Path, class E, class... Inputs> LUM_INLINE Lanes<E> PathOfElemen
 }
 template <class Path, class E, class... Inputs> LUM_INLINE Lanes<E> PathOfTail(int count, const Inputs&... packed) {
   if constexpr (std::is_same_v<E, Lum64fc>) return RoundedPath<Path>(packed...);
-  else return NarrowedTail<Path>(count, std::index_sequence_for<Inputs...>(), packed...);
+  else return NarrowedTail<Path>(count, packed...);
 }
 
 // Whether the path refuses all elements because of their parts. A path of 32fc spares their steps by itself.

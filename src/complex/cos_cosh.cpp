@@ -8,18 +8,18 @@ namespace {
 
 using namespace complex;
 
-struct CoshPath {
+template <class Number> struct CoshPath {
   static LUM_INLINE Mask<Lum64f> IsOutside(ComplexVec<Lum64f> z) { return IsFarPair(z.re, z.im, largest_exponent); }
-  static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z) {
-    const auto f = FactorsOf(z.re, z.im, largest_exponent);
+  static LUM_INLINE PathValue<Number> Of(ComplexVec<Lum64f> z) {
+    const auto f = FactorsOf<Number>(z.re, z.im, largest_exponent);
     return ValueWithin(Product(f.cosh, f.cosine), Product(f.sinh, f.sine), product_error, f.refused);
   }
 };
 
-struct CosPath {
+template <class Number> struct CosPath {
   static LUM_INLINE Mask<Lum64f> IsOutside(ComplexVec<Lum64f> z) { return IsFarPair(z.im, z.re, largest_exponent); }
-  static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z) {
-    const auto f = FactorsOf(z.im, z.re, largest_exponent);
+  static LUM_INLINE PathValue<Number> Of(ComplexVec<Lum64f> z) {
+    const auto f = FactorsOf<Number>(z.im, z.re, largest_exponent);
     return ValueWithin(Product(f.cosh, f.cosine), -Product(f.sinh, f.sine), product_error, f.refused);
   }
 };
@@ -52,16 +52,16 @@ struct CosEnds {
 }  // namespace
 
 LumStatus Cos_32fc(const Lum32fc* src, Lum32fc* dst, int32_t len) {
-  return RunReporting<CosPath, CosEnds, CoreCos>(src, dst, len);
+  return RunReporting<CosPath<OnePart>, CosEnds, CoreCos>(src, dst, len);
 }
 LumStatus Cos_64fc(const Lum64fc* src, Lum64fc* dst, int32_t len) {
-  return RunReporting<CosPath, CosEnds, CoreCos>(src, dst, len);
+  return RunReporting<CosPath<HeadTail>, CosEnds, CoreCos>(src, dst, len);
 }
 LumStatus Cosh_32fc(const Lum32fc* src, Lum32fc* dst, int32_t len) {
-  return RunReporting<CoshPath, CoshEnds, CoreCosh>(src, dst, len);
+  return RunReporting<CoshPath<OnePart>, CoshEnds, CoreCosh>(src, dst, len);
 }
 LumStatus Cosh_64fc(const Lum64fc* src, Lum64fc* dst, int32_t len) {
-  return RunReporting<CoshPath, CoshEnds, CoreCosh>(src, dst, len);
+  return RunReporting<CoshPath<HeadTail>, CoshEnds, CoreCosh>(src, dst, len);
 }
 
 }  // namespace lum::inline LUM_LAYER

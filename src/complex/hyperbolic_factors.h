@@ -8,18 +8,18 @@
 
 namespace lum::inline LUM_LAYER::complex {
 
-struct Factors {
-  HeadTail sine, cosine, sinh, cosh;
+template <class Number> struct Factors {
+  Number sine, cosine, sinh, cosh;
   Mask<Lum64f> refused;
 };
 // Outside the domain of the functions whose exponent and angle these are.
-LUM_INLINE Mask<Lum64f> IsFarPair(Vec<Lum64f> exponent, Vec<Lum64f> angle, double largest) {
-  return IsFar(exponent, largest) | IsFar(angle, largest_angle);
+template <class Number = HeadTail> LUM_INLINE Mask<Lum64f> IsFarPair(Vec<Lum64f> exponent, Vec<Lum64f> angle, double largest) {
+  return IsFar(exponent, largest) | IsFar(angle, largest_angle_of<Number>);
 }
-LUM_INLINE Factors FactorsOf(Vec<Lum64f> exponent, Vec<Lum64f> angle, double largest) {
-  const auto circular = SineCosineOf(angle);
-  const auto hyperbolic = HyperbolicPair(exponent);
-  const auto refused = circular.refused | IsFarPair(exponent, angle, largest);
+template <class Number> LUM_INLINE Factors<Number> FactorsOf(Vec<Lum64f> exponent, Vec<Lum64f> angle, double largest) {
+  const auto circular = SineCosineOf<Number>(angle);
+  const auto hyperbolic = HyperbolicPair<Number>(exponent);
+  const auto refused = circular.refused | IsFarPair<Number>(exponent, angle, largest);
   return {circular.sine, circular.cosine, hyperbolic.sinh, hyperbolic.cosh, refused};
 }
 

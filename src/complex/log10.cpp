@@ -11,7 +11,7 @@ namespace {
 using namespace complex;
 
 // The core's constant is a quarter of a unit off, and the product is rounded too.
-LUM_INLINE PathValue DecimalOf(const LogarithmValue& value) {
+LUM_INLINE PathValue<HeadTail> DecimalOf(const LogarithmValue& value) {
   const HeadTail log10_e{all(numbers::log10_e<Lum64f>), all(numbers::log10_e_tail<Lum64f>)};
   const auto re = Product(value.modulus, log10_e), im = Product(value.angle, log10_e);
   const auto product_error = all(1.3125);
@@ -19,10 +19,23 @@ LUM_INLINE PathValue DecimalOf(const LogarithmValue& value) {
           fma(abs(im.head), product_error, value.angle_error * log10_e.head), value.refused};
 }
 
-struct Log10Path {
+template <class Number> struct Log10Path {
   static constexpr bool is_long = true;
   static LUM_INLINE Mask<Lum64f> IsOutside(ComplexVec<Lum64f> z) { return HasFarPart(z); }
-  static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z) { return DecimalOf(LogarithmParts(z)); }
+  static LUM_INLINE PathValue<Number> Of(ComplexVec<Lum64f> z) {
+    if constexpr (std::is_same_v<Number, OnePart>) return OfFloats(z);
+    else return DecimalOf(LogarithmParts(z));
+  }
+  // The squares are exact, and so is that of the larger part less 1 next to the unit circle.
+  static LUM_INLINE PathValue<OnePart> OfFloats(ComplexVec<Lum64f> z) {
+    const auto ax = abs(z.re), ay = abs(z.im);
+    const auto large = max(ax, ay), small = min(ax, ay), small2 = small * small;
+    const auto less_one = fma(large, large, all(-1.0)) + small2;
+    const auto twice_modulus = LogarithmInOnePart(fma(large, large, small2), all(0.0), less_one);
+    const auto angle = XorSign(z.im, Angle(OnePart{ay}, OnePart{z.re}));
+    const OnePart log10_e{all(numbers::log10_e<Lum64f>)};
+    return ValueWithin(Scaled(Product(twice_modulus, log10_e), 0.5), Product(angle, log10_e), 0, HasFarPart(z));
+  }
 };
 
 struct Log10Ends {
@@ -42,10 +55,10 @@ struct Log10Ends {
 }  // namespace
 
 LumStatus Log10_32fc(const Lum32fc* src, Lum32fc* dst, int32_t len) {
-  return RunSilent<Log10Path, Log10Ends, CoreLog10>(src, dst, len);
+  return RunSilent<Log10Path<OnePart>, Log10Ends, CoreLog10>(src, dst, len);
 }
 LumStatus Log10_64fc(const Lum64fc* src, Lum64fc* dst, int32_t len) {
-  return RunSilent<Log10Path, Log10Ends, CoreLog10>(src, dst, len);
+  return RunSilent<Log10Path<HeadTail>, Log10Ends, CoreLog10>(src, dst, len);
 }
 
 }  // namespace lum::inline LUM_LAYER

@@ -12,26 +12,26 @@ namespace {
 using namespace complex;
 
 // The core rounds the logarithm to binary64, and the product with the exponent in plain operations.
-struct PowPath {
+template <class Number> struct PowPath {
   static constexpr bool is_long = true;
   static LUM_INLINE Mask<Lum64f> IsOutside(ComplexVec<Lum64f> z, ComplexVec<Lum64f>) { return HasFarPart(z); }
-  static LUM_INLINE PathValue Value(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w) {
+  static LUM_INLINE PathValue<Number> Value(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w) {
     const auto logarithm = LogarithmParts(z);
     const auto re = RoundedAsCore(logarithm.modulus, logarithm.modulus_error);
     const auto im = RoundedAsCore(logarithm.angle, logarithm.angle_error);
     const auto exponent = w.re * re.value - w.im * im.value, angle = w.re * im.value + w.im * re.value;
-    const auto e = Exponential(exponent);
-    const auto circular = SineCosineOf(angle);
+    const auto e = Exponential<Number>(exponent);
+    const auto circular = SineCosineOf<Number>(angle);
     const auto refused = logarithm.refused | re.refused | im.refused | circular.refused | IsFar(exponent, largest_exponent) |
                          IsFar(angle, largest_angle);
     constexpr double product_error = 4.3125;
     return SmallValueWithin(Product(e, circular.cosine), Product(e, circular.sine), product_error, refused);
   }
-  [[gnu::noinline]] static PathValue CalledValue(const ComplexVec<Lum64f>& z, const ComplexVec<Lum64f>& w) {
+  [[gnu::noinline]] static PathValue<Number> CalledValue(const ComplexVec<Lum64f>& z, const ComplexVec<Lum64f>& w) {
     return Value(z, w);
   }
   // Where registers do not hold its intermediate vectors, all places of the path share one copy of it and of its stack.
-  static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w) {
+  static LUM_INLINE PathValue<Number> Of(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w) {
     if constexpr (streams_fit_registers) return Value(z, w);
     else return CalledValue(z, w);
   }
@@ -77,10 +77,10 @@ template <class E> struct PowKernel : Kernel<E> {
   }
 
   static LUM_INLINE Lanes<E> VectorPath(Interleaved<Real<E>> z, Interleaved<Real<E>> w) {
-    return PathOfElements<PowPath, E>(z, w);
+    return PathOfElements<PowPath<NumberFor<E>>, E>(z, w);
   }
   static LUM_INLINE Lanes<E> TailPath(Interleaved<Real<E>> z, Interleaved<Real<E>> w, int count) {
-    return PathOfTail<PowPath, E>(count, z, w);
+    return PathOfTail<PowPath<NumberFor<E>>, E>(count, z, w);
   }
   static LumStatus LaneRoutine(const E& z, const E& w, E& result) { return ReportingCoreOnLane<CorePow>(z, w, result); }
 };

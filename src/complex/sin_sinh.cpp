@@ -9,18 +9,18 @@ namespace {
 
 using namespace complex;
 
-struct SinhPath {
+template <class Number> struct SinhPath {
   static LUM_INLINE Mask<Lum64f> IsOutside(ComplexVec<Lum64f> z) { return IsFarPair(z.re, z.im, largest_exponent); }
-  static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z) {
-    const auto f = FactorsOf(z.re, z.im, largest_exponent);
+  static LUM_INLINE PathValue<Number> Of(ComplexVec<Lum64f> z) {
+    const auto f = FactorsOf<Number>(z.re, z.im, largest_exponent);
     return ValueWithin(Product(f.sinh, f.cosine), Product(f.cosh, f.sine), product_error, f.refused);
   }
 };
 
-struct SinPath {
+template <class Number> struct SinPath {
   static LUM_INLINE Mask<Lum64f> IsOutside(ComplexVec<Lum64f> z) { return IsFarPair(z.im, z.re, largest_exponent); }
-  static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z) {
-    const auto f = FactorsOf(z.im, z.re, largest_exponent);
+  static LUM_INLINE PathValue<Number> Of(ComplexVec<Lum64f> z) {
+    const auto f = FactorsOf<Number>(z.im, z.re, largest_exponent);
     return ValueWithin(Product(f.cosh, f.sine), Product(f.sinh, f.cosine), product_error, f.refused);
   }
 };
@@ -44,16 +44,16 @@ using SinEnds = CircularEnds<SinhEnds, KeptNans::positive>;
 }  // namespace
 
 LumStatus Sin_32fc(const Lum32fc* src, Lum32fc* dst, int32_t len) {
-  return RunReporting<SinPath, SinEnds, CoreSin>(src, dst, len);
+  return RunReporting<SinPath<OnePart>, SinEnds, CoreSin>(src, dst, len);
 }
 LumStatus Sin_64fc(const Lum64fc* src, Lum64fc* dst, int32_t len) {
-  return RunReporting<SinPath, SinEnds, CoreSin>(src, dst, len);
+  return RunReporting<SinPath<HeadTail>, SinEnds, CoreSin>(src, dst, len);
 }
 LumStatus Sinh_32fc(const Lum32fc* src, Lum32fc* dst, int32_t len) {
-  return RunReporting<SinhPath, SinhEnds, CoreSinh>(src, dst, len);
+  return RunReporting<SinhPath<OnePart>, SinhEnds, CoreSinh>(src, dst, len);
 }
 LumStatus Sinh_64fc(const Lum64fc* src, Lum64fc* dst, int32_t len) {
-  return RunReporting<SinhPath, SinhEnds, CoreSinh>(src, dst, len);
+  return RunReporting<SinhPath<HeadTail>, SinhEnds, CoreSinh>(src, dst, len);
 }
 
 }  // namespace lum::inline LUM_LAYER

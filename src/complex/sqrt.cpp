@@ -191,7 +191,7 @@ struct A24_32fc : SqrtKernel<Lum32fc, /*refuses_numbers=*/false> {
 
 struct SqrtPath {
   static LUM_INLINE Mask<Lum64f> IsOutside(ComplexVec<Lum64f> z) { return HasFarPart(z); }
-  static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z) {
+  static LUM_INLINE PathValue<HeadTail> Of(ComplexVec<Lum64f> z) {
     const auto parts = SqrtPartsOf(z.re, z.im);
     const auto is_left = lt(z.re, all(0.0));
     const auto large_error = parts.LargeError(), small_error = parts.SmallError();

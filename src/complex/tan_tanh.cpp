@@ -13,30 +13,30 @@ using namespace complex;
 constexpr double vanishing = 200;
 
 // The hyperbolic and the circular part of a tangent.
-struct Tangent {
-  HeadTail hyperbolic, circular;
+template <class Number> struct Tangent {
+  Number hyperbolic, circular;
   Mask<Lum64f> refused;
 };
-LUM_INLINE Tangent TangentOf(Vec<Lum64f> exponent, Vec<Lum64f> angle) {
-  const auto f = FactorsOf(exponent, angle, vanishing);
+template <class Number> LUM_INLINE Tangent<Number> TangentOf(Vec<Lum64f> exponent, Vec<Lum64f> angle) {
+  const auto f = FactorsOf<Number>(exponent, angle, vanishing);
   const auto c2 = Square(f.cosine), s2 = Square(f.sinh);
-  const auto reciprocal = Quotient({all(1.0), all(0.0)}, Add(c2, s2));
+  const auto reciprocal = Quotient(NumberOf<Number>(all(1.0)), Add(c2, s2));
   return {Product(Product(f.sinh, f.cosh), reciprocal), Product(Product(f.sine, f.cosine), reciprocal), f.refused};
 }
 constexpr double tangent_error = 12;
 
-struct TanhPath {
+template <class Number> struct TanhPath {
   static LUM_INLINE Mask<Lum64f> IsOutside(ComplexVec<Lum64f> z) { return IsFarPair(z.re, z.im, vanishing); }
-  static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z) {
-    const auto t = TangentOf(z.re, z.im);
+  static LUM_INLINE PathValue<Number> Of(ComplexVec<Lum64f> z) {
+    const auto t = TangentOf<Number>(z.re, z.im);
     return SmallValueWithin(t.hyperbolic, t.circular, tangent_error, t.refused);
   }
 };
 
-struct TanPath {
+template <class Number> struct TanPath {
   static LUM_INLINE Mask<Lum64f> IsOutside(ComplexVec<Lum64f> z) { return IsFarPair(z.im, z.re, vanishing); }
-  static LUM_INLINE PathValue Of(ComplexVec<Lum64f> z) {
-    const auto t = TangentOf(z.im, z.re);
+  static LUM_INLINE PathValue<Number> Of(ComplexVec<Lum64f> z) {
+    const auto t = TangentOf<Number>(z.im, z.re);
     return SmallValueWithin(t.circular, t.hyperbolic, tangent_error, t.refused);
   }
 };
@@ -73,16 +73,16 @@ using TanEnds = CircularEnds<TanhEnds, KeptNans::all>;
 }  // namespace
 
 LumStatus Tan_32fc(const Lum32fc* src, Lum32fc* dst, int32_t len) {
-  return RunSilent<TanPath, TanEnds, CoreTan>(src, dst, len);
+  return RunSilent<TanPath<OnePart>, TanEnds, CoreTan>(src, dst, len);
 }
 LumStatus Tan_64fc(const Lum64fc* src, Lum64fc* dst, int32_t len) {
-  return RunSilent<TanPath, TanEnds, CoreTan>(src, dst, len);
+  return RunSilent<TanPath<HeadTail>, TanEnds, CoreTan>(src, dst, len);
 }
 LumStatus Tanh_32fc(const Lum32fc* src, Lum32fc* dst, int32_t len) {
-  return RunSilent<TanhPath, TanhEnds, CoreTanh>(src, dst, len);
+  return RunSilent<TanhPath<OnePart>, TanhEnds, CoreTanh>(src, dst, len);
 }
 LumStatus Tanh_64fc(const Lum64fc* src, Lum64fc* dst, int32_t len) {
-  return RunSilent<TanhPath, TanhEnds, CoreTanh>(src, dst, len);
+  return RunSilent<TanhPath<HeadTail>, TanhEnds, CoreTanh>(src, dst, len);
 }
 
 }  // namespace lum::inline LUM_LAYER

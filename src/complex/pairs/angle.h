@@ -5,6 +5,8 @@
 
 #include "complex/pairs/pair.h"
 #include "complex/polynomials.h"
+#include "frame/numbers.h"
+#include "invcircular/atan2_path.h"
 #include "tables/table.h"
 
 namespace lum::inline LUM_LAYER::complex {
@@ -42,6 +44,15 @@ LUM_INLINE HeadTail Angle(HeadTail y, HeadTail x) {
   u = Select(falls, -u, u);
   const auto sum = fast_two_sum(head, u.head);
   return fast_two_sum(sum.head, sum.tail + (tail + u.tail));
+}
+
+// Of any y that is not negative, but for the origin.
+LUM_INLINE OnePart Angle(OnePart y, OnePart x) {
+  using Tier = invcircular::arctan2::A50_64f;
+  const auto a = invcircular::arctan2::Reduce(y.head, abs(x.head));
+  const auto t = Tier::Quotient(a.n, a.d);
+  const auto r = fma(t, Tier::Polynomial(t * t), a.base);
+  return {select(lt(x.head, all(0.0)), all(numbers::pi<Lum64f>) - r, r)};
 }
 
 }  // namespace lum::inline LUM_LAYER::complex

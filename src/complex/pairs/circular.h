@@ -12,9 +12,11 @@ namespace lum::inline LUM_LAYER::complex {
 
 // Up to here k times the leading parts of pi/128 is exact.
 inline constexpr Lum64f largest_angle = 10000;
+// In one part the difference from k times the first part alone has to be exact: a multiple of 2^-39, up to 1 in magnitude.
+template <class Number> inline constexpr Lum64f largest_angle_of = std::is_same_v<Number, OnePart> ? 0x1p34 : largest_angle;
 
-struct CircularPair {
-  HeadTail sine, cosine;
+template <class Number> struct SineAndCosine {
+  Number sine, cosine;
   Mask<Lum64f> refused;  // so near to a multiple of pi/128 that r has lost bits
 };
 
@@ -35,25 +37,49 @@ LUM_INLINE ReducedAngle ReduceAngle(Vec<Lum64f> magnitude) {
   return {bits(t), {r, r_tail}, lt(abs(r), all(0x1p-19)) & ne(k, all(0.0))};
 }
 
-LUM_INLINE CircularPair SineCosineOfReduced(Vec<Lum64f> y, const ReducedAngle& angle) {
+// Each step is rounded once, and r is far larger than the third part's product.
+LUM_INLINE ReducedAngle ReduceAngleInOnePart(Vec<Lum64f> magnitude) {
+  constexpr auto shifter = rounding_shifter<Lum64f>();
+  constexpr auto& parts = numbers::pi_128th_parts<Lum64f>;
+  const auto t = fma(magnitude, all(128 * numbers::inverse_pi<Lum64f>), all(shifter));
+  const auto k = t - all(shifter);
+  const auto r = fnma(k, all(parts[2]), fnma(k, all(parts[1]), fnma(k, all(parts[0]), magnitude)));
+  return {bits(t), {r, all(0.0)}, lt(abs(r), all(0x1p-30)) & ne(k, all(0.0))};
+}
+
+template <class Number = HeadTail>
+LUM_INLINE SineAndCosine<Number> SineCosineOfReduced(Vec<Lum64f> y, const ReducedAngle& angle) {
   static constexpr auto table = table64({
 #include "tables/generated/sine_cosine_64f_256_pairs.inc"
   });
-  const auto r = angle.r.head, r_tail = angle.r.tail;
-  const auto q = r * r;
-  const auto sine_rest = fma(r * q, horner(q, pairs_sine), r_tail);
-  const auto cosine_rest = fnma(r, r_tail, q * horner(q, pairs_cosine));
-  const auto row = gather_rows<Lum64f>(table, shift_left<2>(angle.row & all(uint64_t{255})));
-  const HeadTail s{row.column0, row.column1}, c{row.column2, row.column3};
-  const auto for_sine = two_product(c.head, r), for_cosine = two_product(s.head, r);
-  const auto sine = fast_two_sum(s.head, for_sine.head), cosine = fast_two_sum(c.head, negate(for_cosine.head));
-  const auto sine_tail = fma(c.tail, r, s.tail + (sine.tail + for_sine.tail));
-  const auto cosine_tail = fnma(s.tail, r, c.tail + (cosine.tail - for_cosine.tail));
-  return {XorSign(y, fast_two_sum(sine.head, fma(s.head, cosine_rest, fma(c.head, sine_rest, sine_tail)))),
-          fast_two_sum(cosine.head, fma(c.head, cosine_rest, fnma(s.head, sine_rest, cosine_tail))), angle.refused};
+  if constexpr (std::is_same_v<Number, OnePart>) {
+    const auto r = angle.r.head, q = r * r;
+    const auto sine_of_r = fma(r * q, horner(q, pairs_sine), r), cosine_rest = q * horner(q, pairs_cosine);
+    const auto row = gather_rows<Lum64f>(table, shift_left<2>(angle.row & all(uint64_t{255})));
+    const auto s = row.column0, c = row.column2;
+    return {XorSign(y, OnePart{fma(c, sine_of_r, fma(s, cosine_rest, s))}),
+            {fnma(s, sine_of_r, fma(c, cosine_rest, c))},
+            angle.refused};
+  } else {
+    const auto r = angle.r.head, r_tail = angle.r.tail;
+    const auto q = r * r;
+    const auto sine_rest = fma(r * q, horner(q, pairs_sine), r_tail);
+    const auto cosine_rest = fnma(r, r_tail, q * horner(q, pairs_cosine));
+    const auto row = gather_rows<Lum64f>(table, shift_left<2>(angle.row & all(uint64_t{255})));
+    const HeadTail s{row.column0, row.column1}, c{row.column2, row.column3};
+    const auto for_sine = two_product(c.head, r), for_cosine = two_product(s.head, r);
+    const auto sine = fast_two_sum(s.head, for_sine.head), cosine = fast_two_sum(c.head, negate(for_cosine.head));
+    const auto sine_tail = fma(c.tail, r, s.tail + (sine.tail + for_sine.tail));
+    const auto cosine_tail = fnma(s.tail, r, c.tail + (cosine.tail - for_cosine.tail));
+    return {XorSign(y, fast_two_sum(sine.head, fma(s.head, cosine_rest, fma(c.head, sine_rest, sine_tail)))),
+            fast_two_sum(cosine.head, fma(c.head, cosine_rest, fnma(s.head, sine_rest, cosine_tail))), angle.refused};
+  }
 }
 // The sine of a zero is that zero.
-LUM_INLINE CircularPair SineCosineOf(Vec<Lum64f> y) { return SineCosineOfReduced(y, ReduceAngle(abs(y))); }
+template <class Number> LUM_INLINE SineAndCosine<Number> SineCosineOf(Vec<Lum64f> y) {
+  if constexpr (std::is_same_v<Number, OnePart>) return SineCosineOfReduced<Number>(y, ReduceAngleInOnePart(abs(y)));
+  else return SineCosineOfReduced<Number>(y, ReduceAngle(abs(y)));
+}
 
 // The reduction of angles beyond the largest, by the remainder of turns in fixed-point numbers: an index of steps of pi/256 and
 // hi + lo, of which the odd steps go half to either side.
@@ -69,7 +95,7 @@ LUM_INLINE CircularPair SineCosineOf(Vec<Lum64f> y) { return SineCosineOfReduced
   return {row, r, lt(abs(r.head), all(0x1p-19))};
 }
 // Sine and cosine of any number, but for far ones where their reduction has no room on the stack.
-LUM_INLINE CircularPair SineCosineOfAny(Vec<Lum64f> y) {
+LUM_INLINE SineAndCosine<HeadTail> SineCosineOfAny(Vec<Lum64f> y) {
   const auto magnitude = abs(y);
   const auto far = nle(magnitude, all(largest_angle));
   auto angle = ReduceAngle(magnitude);

@@ -42,28 +42,44 @@ LUM_INLINE HeadTail ExponentialOf(const PowersOfTwo& reduced) {
   const auto sum = fast_two_sum(power.head, product.head);
   return fast_two_sum(sum.head, sum.tail + (product.tail + fma(power.head, rest, fma(power.tail, r.head, power.tail))));
 }
-LUM_INLINE HeadTail Exponential(Vec<Lum64f> x) { return ExponentialOf(ReduceExponent(x)); }
+template <class Number> LUM_INLINE Number Exponential(Vec<Lum64f> x) {
+  const auto reduced = ReduceExponent(x);
+  if constexpr (std::is_same_v<Number, OnePart>) {
+    const auto power = reduced.rising.head, r = reduced.r.head;
+    return {fma(power, fma(r * r, horner(r, pairs_exp), r), power)};
+  } else {
+    return ExponentialOf(reduced);
+  }
+}
 
-struct SinhCosh {
-  HeadTail sinh, cosh;
-};
+template <class Number> struct SinhCosh { Number sinh, cosh; };
 
 // By the addition theorems; the hyperbolic sine of the table's point is exact where it is small. That of a zero is that zero.
-LUM_INLINE SinhCosh HyperbolicPairOf(Vec<Lum64f> x, const PowersOfTwo& reduced) {
+template <class Number = HeadTail> LUM_INLINE SinhCosh<Number> HyperbolicPairOf(Vec<Lum64f> x, const PowersOfTwo& reduced) {
   const auto [rising, falling, r] = reduced;
-  const auto half_rising = Scaled(rising, 0.5), half_falling = Scaled(falling, 0.5);
-  const auto s = Add(half_rising, -half_falling), c = Add(half_rising, half_falling);
-  const auto q = r.head * r.head;
-  const auto sinh_rest = fma(r.head * q, horner(q, pairs_sinh), r.tail);
-  const auto cosh_rest = fma(r.head, r.tail, q * horner(q, pairs_cosh));
-  const auto for_sinh = two_product(c.head, r.head), for_cosh = two_product(s.head, r.head);
-  const auto sinh = fast_two_sum(s.head, for_sinh.head), cosh = fast_two_sum(c.head, for_cosh.head);
-  const auto sinh_tail = fma(c.tail, r.head, s.tail + (sinh.tail + for_sinh.tail));
-  const auto cosh_tail = fma(s.tail, r.head, c.tail + (cosh.tail + for_cosh.tail));
-  return {XorSign(x, fast_two_sum(sinh.head, fma(s.head, cosh_rest, fma(c.head, sinh_rest, sinh_tail)))),
-          fast_two_sum(cosh.head, fma(c.head, cosh_rest, fma(s.head, sinh_rest, cosh_tail)))};
+  if constexpr (std::is_same_v<Number, OnePart>) {
+    const auto s = all(0.5) * ((rising.head - falling.head) + (rising.tail - falling.tail));
+    const auto c = all(0.5) * (rising.head + falling.head);
+    const auto q = r.head * r.head;
+    const auto sinh_of_r = fma(r.head * q, horner(q, pairs_sinh), r.head), cosh_rest = q * horner(q, pairs_cosh);
+    return {XorSign(x, OnePart{fma(c, sinh_of_r, fma(s, cosh_rest, s))}), {fma(s, sinh_of_r, fma(c, cosh_rest, c))}};
+  } else {
+    const auto half_rising = Scaled(rising, 0.5), half_falling = Scaled(falling, 0.5);
+    const auto s = Add(half_rising, -half_falling), c = Add(half_rising, half_falling);
+    const auto q = r.head * r.head;
+    const auto sinh_rest = fma(r.head * q, horner(q, pairs_sinh), r.tail);
+    const auto cosh_rest = fma(r.head, r.tail, q * horner(q, pairs_cosh));
+    const auto for_sinh = two_product(c.head, r.head), for_cosh = two_product(s.head, r.head);
+    const auto sinh = fast_two_sum(s.head, for_sinh.head), cosh = fast_two_sum(c.head, for_cosh.head);
+    const auto sinh_tail = fma(c.tail, r.head, s.tail + (sinh.tail + for_sinh.tail));
+    const auto cosh_tail = fma(s.tail, r.head, c.tail + (cosh.tail + for_cosh.tail));
+    return {XorSign(x, fast_two_sum(sinh.head, fma(s.head, cosh_rest, fma(c.head, sinh_rest, sinh_tail)))),
+            fast_two_sum(cosh.head, fma(c.head, cosh_rest, fma(s.head, sinh_rest, cosh_tail)))};
+  }
 }
-LUM_INLINE SinhCosh HyperbolicPair(Vec<Lum64f> x) { return HyperbolicPairOf(x, ReduceExponent(abs(x))); }
+template <class Number> LUM_INLINE SinhCosh<Number> HyperbolicPair(Vec<Lum64f> x) {
+  return HyperbolicPairOf<Number>(x, ReduceExponent(abs(x)));
+}
 
 // For results beyond the range: x = 512 k ln 2 + rest, and e^x = 2^exponent e^rest.
 struct RestOfExponent {

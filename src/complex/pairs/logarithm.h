@@ -4,6 +4,7 @@
 
 #include "complex/pairs/pair.h"
 #include "complex/polynomials.h"
+#include "explog/ln_terms.h"
 #include "frame/numbers.h"
 #include "tables/table.h"
 
@@ -49,6 +50,20 @@ LUM_INLINE HeadTail LogarithmOfOnePlus(HeadTail z) {
   auto terms = ReduceLogarithm(fast_two_sum(sum.head, sum.tail + z.tail));
   terms.r = Select(eq(terms.base, all(0.0)), z, terms.r);
   return SumLogarithm(terms);
+}
+
+// ln q of q = head (1 + rest), and next to 1 of q = 1 + z.
+LUM_INLINE OnePart LogarithmInOnePart(Vec<Lum64f> head, Vec<Lum64f> rest, Vec<Lum64f> z) {
+  using Ln = explog::LnTerms_A50;
+  auto terms = Ln::Corrected(Ln::Terms(explog::ReduceByReciprocal<4>(head)), rest);
+  const auto is_near = lt(abs(z), all(0.0625));
+  terms.base = zero_unless(~is_near, terms.base);
+  terms.r = select(is_near, z, terms.r);
+  return {Ln::Sum(terms)};
+}
+LUM_INLINE OnePart LogarithmOfOnePlus(OnePart z) {
+  const auto sum = two_sum(all(1.0), z.head);
+  return LogarithmInOnePart(sum.head, sum.tail * rcp14(sum.head), z.head);
 }
 
 }  // namespace lum::inline LUM_LAYER::complex

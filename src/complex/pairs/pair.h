@@ -2,6 +2,8 @@
 // head. Numbers near the ends of the exponent range are no matter of these functions.
 #pragma once
 
+#include <type_traits>
+
 #include "frame/types.h"
 #include "frame/vec.h"
 
@@ -74,5 +76,41 @@ LUM_INLINE HeadTail SquareRoot(HeadTail a) {
 
 // x^2 exactly.
 LUM_INLINE HeadTail ExactSquare(Vec<Lum64f> x) { return two_product(x, x); }
+
+// A number in one part, which is enough for results of 32 bits. The formulas of the functions are written for a Number of
+// either kind.
+struct OnePart {
+  Vec<Lum64f> head;
+};
+
+LUM_INLINE OnePart operator-(OnePart a) { return {negate(a.head)}; }
+LUM_INLINE OnePart XorSign(Vec<Lum64f> x, OnePart a) { return {xor_sign(x, a.head)}; }
+LUM_INLINE OnePart Add(OnePart a, OnePart b) { return {a.head + b.head}; }
+LUM_INLINE OnePart Add(OnePart a, Vec<Lum64f> b) { return {a.head + b}; }
+LUM_INLINE OnePart Product(OnePart a, OnePart b) { return {a.head * b.head}; }
+LUM_INLINE OnePart Square(OnePart a) { return {a.head * a.head}; }
+LUM_INLINE OnePart Scaled(OnePart a, Lum64f power) { return {a.head * all(power)}; }
+LUM_INLINE OnePart Select(Mask<Lum64f> m, OnePart a, OnePart b) { return {select(m, a.head, b.head)}; }
+LUM_INLINE OnePart ZeroUnless(Mask<Lum64f> m, OnePart a) { return {zero_unless(m, a.head)}; }
+LUM_INLINE OnePart Magnitude(OnePart a) { return {abs(a.head)}; }
+LUM_INLINE OnePart Quotient(OnePart a, OnePart b) { return {div(a.head, b.head)}; }
+LUM_INLINE OnePart SquareRoot(OnePart a) { return {sqrt(a.head)}; }
+
+// What a path needs for results of a type.
+template <class E> using NumberFor = std::conditional_t<std::is_same_v<E, Lum32fc>, OnePart, HeadTail>;
+
+// x, a + b and x^2 as a Number.
+template <class Number> LUM_INLINE Number NumberOf(Vec<Lum64f> x) {
+  if constexpr (std::is_same_v<Number, OnePart>) return {x};
+  else return {x, all(0.0)};
+}
+template <class Number> LUM_INLINE Number SumOf(Vec<Lum64f> a, Vec<Lum64f> b) {
+  if constexpr (std::is_same_v<Number, OnePart>) return {a + b};
+  else return two_sum(a, b);
+}
+template <class Number> LUM_INLINE Number SquareOf(Vec<Lum64f> x) {
+  if constexpr (std::is_same_v<Number, OnePart>) return {x * x};
+  else return ExactSquare(x);
+}
 
 }  // namespace lum::inline LUM_LAYER::complex
