@@ -106,7 +106,7 @@ def speed_series(row, stored, layers):
     for layer, times in layers.items():
         points = {length: ns for (function, length, who), (ns, _) in times.items() if function == name and who == (tags[-1] or "lumvm")}
         if points:
-            series.append((f"{tags[-1]} {layer}".strip(), pictures.LAYERS[layer], 0, "o", points))
+            series.append((f"{tags[-1] or 'lumVM'} {layer}", pictures.LAYERS[layer], 0, "o", points))
     levels = ("low", "mid", "high") if len(tags) == 3 else ("high",)
     for tag, level in zip(tags, levels):
         if (tag or "lumvm") in by_who:

@@ -63,8 +63,9 @@ def draw_speed(path, types, series):
         values = [ns for *_, points in series[type_] for ns in points.values()]
         low, high = min(values) / 1.3, max(values) * 1.2
         axis.set_ylim(low, high)
-        decades = [10.0 ** k for k in range(-3, 4)]
-        shown = [step * d for d in decades for step in ((1, 2, 5) if high / low < 60 else (1,)) if low <= step * d <= high]
+        decades = [10.0 ** k for k in range(-3, 5)]
+        steps = (1, 2, 5) if high / low < 60 else (1, 3) if high / low < 1000 else (1,)
+        shown = [step * d for d in decades for step in steps if low <= step * d <= high]
         axis.yaxis.set_major_locator(FixedLocator(shown))
         axis.yaxis.set_major_formatter(FixedFormatter([f"{tick:g}" for tick in shown]))
         axis.yaxis.set_minor_locator(NullLocator())
