@@ -13,6 +13,7 @@
 #include "accuracy/hunt_points.h"
 #include "accuracy/long_reference.h"
 #include "support/declarations.h"
+#include "support/scalar_loop.h"
 
 namespace lum::accuracy {
 namespace {
@@ -21,7 +22,7 @@ using support::Export;
 using support::Library;
 
 constexpr double infinity = std::numeric_limits<double>::infinity();
-constexpr size_t kept_worst = 12;
+constexpr size_t kept_worst = 12, kept_run = 512;  // the largest errors to climb from; one of so many elements may be one
 
 // The exports of binary64 that give what functions of binary32 are compared with.
 const Export* WideExport(const Export& entry) {
@@ -49,16 +50,18 @@ class Judge {
     const double largest = result_.worst.ulp;
     const double limit = std::min(largest + doubt, std::max(largest, subject_.bound - doubt));
     open_.clear();
-    double top = 0;
-    size_t top_at = 0;
-    for (size_t i = 0; i < hunt_block; ++i) {
-      if (!(errors[i] <= limit)) open_.push_back({errors[i], i});
-      if (errors[i] > top && errors[i] < infinity) {
-        top = errors[i];
-        top_at = i;
+    for (size_t first = 0; first < hunt_block; first += kept_run) {
+      double top = 0;
+      size_t top_at = 0;
+      for (size_t i = first; i < first + kept_run; ++i) {
+        if (!(errors[i] <= limit)) open_.push_back({errors[i], i});
+        if (errors[i] > top && errors[i] < infinity) {
+          top = errors[i];
+          top_at = i;
+        }
       }
+      if (top > 0) Keep(top, points.At(top_at));
     }
-    if (top > 0) Keep(top, points.At(top_at));
     if (!open_.empty()) Settle(points, results);
   }
   void AddToCurve(const HuntPoints& points, const HuntColumn& errors) {
@@ -176,9 +179,9 @@ class Judge {
 // The search of one group.
 class Search {
  public:
-  Search(const Library& library, const std::vector<HuntSubject>& subjects, uint64_t seed)
+  Search(const Library& library, const std::vector<HuntSubject>& subjects, const HuntLimits& limits)
       : first_(*subjects.front().entry),
-        source_(first_, seed),
+        source_(first_, limits.seed),
         caller_(first_),
         values_(first_.is_32bit(), support::IsComplex(first_.output), static_cast<size_t>(Parts(first_))) {
     for (const HuntSubject& subject : subjects) judges_.push_back(std::make_unique<Judge>(subject, FindReference(first_)));
@@ -186,27 +189,22 @@ class Search {
     wide_caller_ = std::make_unique<Caller>(*wide);
     wide_call_ = CallOf(library, *wide);
     long_reference_ = first_.is_32bit() ? nullptr : FindLongReference(first_);
+    const bool compares = limits.compares && first_.type == "64f" && subjects.size() == 1;
+    if (compares && long_reference_ != nullptr) c_loop_ = support::FindScalarLoop(first_);
   }
 
   bool CanCross() const { return !first_.is_32bit() && OwnCount() > 1; }
+  bool CanCompare() const { return c_loop_ != nullptr; }
   bool CanJudge() const { return first_.is_32bit() || long_reference_ != nullptr; }
 
   void AddBlock(uint64_t index, bool is_exact) {
-    std::vector<Point> worst;
-    for (const auto& judge : judges_) {
-      for (const auto& [error, p] : judge->climb()) worst.push_back(p);
-    }
-    source_.Fill(*points_, index, worst);
-    caller_.Set(*points_);
+    Fill(index);
     if (first_.is_32bit() || !is_exact) {
       wide_caller_->Set(*points_);
       wide_caller_->Call(wide_call_, *wide_);
       values_.Take(*wide_);
     } else {
-      const double* parts[4] = {points_->part[0].data(), points_->part[1].data(), points_->part[2].data(),
-                                points_->part[3].data()};
-      long_reference_(hunt_block, parts, (*long_)[0].data(), (*long_)[1].data());
-      values_.Take(*long_);
+      TakeLong(*points_);
     }
     // Two functions that are each within an ulp; the doubt of long double, and of the wider type's own ulp.
     const double doubt = first_.is_32bit() ? 0x1p-28 : is_exact ? long_reference_error : 1;
@@ -222,7 +220,25 @@ class Search {
       if (is_exact && points_->kind == HuntKind::ordinary) judge->AddToDistribution(values_, errors_);
     }
   }
-  std::vector<HuntResult> Results() const {
+
+  // Of a block only the results that differ from the C library's are judged, once there is a block full of them.
+  void CompareBlock(uint64_t index) {
+    Fill(index);
+    caller_.Call(judges_.front()->subject().call, *results_);
+    caller_.Call(c_loop_, *wide_);
+    for (size_t i = 0; i < hunt_block; ++i) {
+      if (IsEqual(i)) {
+        ++judges_.front()->result().compared;
+        continue;
+      }
+      for (size_t part = 0; part < 4; ++part) differing_->part[part][differing_count_] = points_->part[part][i];
+      for (size_t part = 0; part < 2; ++part) (*differing_results_)[part][differing_count_] = (*results_)[part][i];
+      if (++differing_count_ == hunt_block) JudgeDiffering();
+    }
+  }
+
+  std::vector<HuntResult> Results() {
+    if (differing_count_ != 0) JudgeDiffering();
     std::vector<HuntResult> results;
     for (const auto& judge : judges_) {
       judge->FinishCurve();
@@ -232,6 +248,45 @@ class Search {
   }
 
  private:
+  void Fill(uint64_t index) {
+    std::vector<Point> worst;
+    for (const auto& judge : judges_) {
+      for (const auto& [error, p] : judge->climb()) worst.push_back(p);
+    }
+    source_.Fill(*points_, index, worst);
+    caller_.Set(*points_);
+  }
+
+  void TakeLong(const HuntPoints& points) {
+    const double* parts[4] = {points.part[0].data(), points.part[1].data(), points.part[2].data(), points.part[3].data()};
+    long_reference_(hunt_block, parts, (*long_)[0].data(), (*long_)[1].data());
+    values_.Take(*long_);
+  }
+
+  // Whether the results of both libraries are the same, and the C library's may be trusted: its circular functions have lost
+  // most digits at some large arguments.
+  bool IsEqual(size_t i) const {
+    if (is_circular_ && !(std::fabs(points_->part[0][i]) < 0x1p26)) return false;
+    for (size_t part = 0; part < static_cast<size_t>(Parts(first_)); ++part) {
+      const double a = (*results_)[part][i], b = (*wide_)[part][i];
+      if (std::bit_cast<uint64_t>(a) != std::bit_cast<uint64_t>(b) && !(std::isnan(a) && std::isnan(b))) return false;
+    }
+    return true;
+  }
+
+  void JudgeDiffering() {
+    judges_.front()->result().judged += differing_count_;
+    for (size_t i = differing_count_; i < hunt_block; ++i) {  // the last block is filled with what it has
+      for (auto& part : differing_->part) part[i] = part[0];
+      for (auto& part : *differing_results_) part[i] = part[0];
+    }
+    differing_count_ = 0;
+    TakeLong(*differing_);
+    values_.Errors(*differing_results_, errors_);
+    judges_.front()->Add(*differing_, *differing_results_, errors_, long_reference_error);
+    judges_.front()->AddToCurve(*differing_, errors_);
+  }
+
   static const Export* HighExport(const std::vector<HuntSubject>& subjects) {
     const Export* high = subjects.front().entry;
     for (const HuntSubject& subject : subjects) {
@@ -256,6 +311,13 @@ class Search {
   std::unique_ptr<std::array<LongColumn, 2>> long_ = std::make_unique<std::array<LongColumn, 2>>();
   std::unique_ptr<std::array<HuntColumn, 2>> results_ = std::make_unique<std::array<HuntColumn, 2>>();
   HuntColumn errors_;
+
+  support::ScalarLoop c_loop_ = nullptr;
+  bool is_circular_ =
+      first_.function == "Sin" || first_.function == "Cos" || first_.function == "SinCos" || first_.function == "Tan";
+  size_t differing_count_ = 0;
+  std::unique_ptr<HuntPoints> differing_ = std::make_unique<HuntPoints>();
+  std::unique_ptr<std::array<HuntColumn, 2>> differing_results_ = std::make_unique<std::array<HuntColumn, 2>>();
 };
 
 }  // namespace
@@ -273,12 +335,14 @@ std::vector<HuntSubject> OwnSubjects(const Library& library, const std::vector<c
 }
 
 std::vector<HuntResult> Hunt(const Library& library, const std::vector<HuntSubject>& subjects, const HuntLimits& limits) {
-  const auto search = std::make_unique<Search>(library, subjects, limits.seed);
+  const auto search = std::make_unique<Search>(library, subjects, limits);
   const auto start = std::chrono::steady_clock::now();
   constexpr uint64_t round = 16;  // blocks, of all kinds
   for (uint64_t i = 0; i * hunt_block < limits.count; ++i) {
-    const bool is_exact = search->CanJudge() && (!search->CanCross() || (i / round) % limits.exact_every == 0);
-    if (is_exact || search->CanCross()) search->AddBlock(i, is_exact);
+    const bool is_cheap = search->CanCross() || search->CanCompare();
+    const bool is_exact = search->CanJudge() && (!is_cheap || (i / round) % limits.exact_every == 0);
+    if (!is_exact && search->CanCompare()) search->CompareBlock(i);
+    else if (is_exact || search->CanCross()) search->AddBlock(i, is_exact);
     const double seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
     if (i % round == round - 1 && seconds > limits.seconds) break;
   }
