@@ -109,10 +109,12 @@ class Judge {
     }
   }
 
-  // The largest first, so that few have to be settled.
+  // The largest first, so that few have to be settled. Where the limit is next to the largest error there may be thousands, of
+  // which each counts.
   void Settle(const HuntPoints& points, const std::array<HuntColumn, 2>& results) {
     std::ranges::sort(open_, [](const auto& a, const auto& b) { return !(a.first <= b.first) && b.first == b.first; });
-    const size_t most = support::IsComplex(subject_.entry->output) ? 8 : 24, most_of_a_class = 4;
+    const size_t most_of_others = support::IsComplex(subject_.entry->output) ? 8 : 24, most_of_a_class = 4;
+    const size_t most = subject_.is_own && !support::IsComplex(subject_.entry->input) ? hunt_block : most_of_others;
     size_t done = 0, of_a_class = 0;
     for (const auto& [error, i] : open_) {
       if (error <= result_.worst.ulp) break;
