@@ -60,7 +60,7 @@ class Judge {
           top_at = i;
         }
       }
-      if (top > 0) Keep(top, points.At(top_at));
+      if (top > 0) Keep({top, points.At(top_at), {results[0][top_at], results[1][top_at]}});
     }
     if (!open_.empty()) Settle(points, results);
   }
@@ -88,24 +88,33 @@ class Judge {
       for (size_t k = 0; k < std::size(distribution_limits); ++k) d.within[k] += errors[i] <= distribution_limits[k] ? 1 : 0;
     }
   }
-  const std::vector<std::pair<double, Point>>& climb() const { return climb_; }
+  // The largest errors are known but for the doubt; of those that were kept it is taken away.
+  void SettleKept() {
+    for (const Kept& kept : kept_) SettleOne(kept.point, kept.result);
+  }
+  struct Kept {
+    double error;
+    Point point;
+    std::array<double, 2> result;
+  };
+  const std::vector<Kept>& kept() const { return kept_; }
   HuntResult& result() { return result_; }
   const HuntSubject& subject() const { return subject_; }
 
  private:
   // Keeps the largest errors, of arguments that differ in sign, exponent or leading bits.
-  void Keep(double error, const Point& p) {
+  void Keep(const Kept& found) {
     const auto cell = [](const Point& q) {
       return std::array{std::bit_cast<uint64_t>(q.re1) >> 46, std::bit_cast<uint64_t>(q.re2) >> 50};
     };
-    const auto same = std::ranges::find_if(climb_, [&](const auto& kept) { return cell(kept.second) == cell(p); });
-    if (same != climb_.end()) {
-      if (error > same->first) *same = {error, p};
-    } else if (climb_.size() < kept_worst) {
-      climb_.push_back({error, p});
+    const auto same = std::ranges::find_if(kept_, [&](const Kept& kept) { return cell(kept.point) == cell(found.point); });
+    if (same != kept_.end()) {
+      if (found.error > same->error) *same = found;
+    } else if (kept_.size() < kept_worst) {
+      kept_.push_back(found);
     } else {
-      const auto least = std::ranges::min_element(climb_, {}, [](const auto& kept) { return kept.first; });
-      if (error > least->first) *least = {error, p};
+      const auto least = std::ranges::min_element(kept_, {}, &Kept::error);
+      if (found.error > least->error) *least = found;
     }
   }
 
@@ -119,12 +128,12 @@ class Judge {
     for (const auto& [error, i] : open_) {
       if (error <= result_.worst.ulp) break;
       const bool is_class = !(error < infinity);
-      if (is_class ? of_a_class++ < most_of_a_class : done++ < most) SettleOne(points.At(i), results, i);
+      if (is_class ? of_a_class++ < most_of_a_class : done++ < most) SettleOne(points.At(i), {results[0][i], results[1][i]});
       else ++result_.left;
     }
   }
 
-  void SettleOne(const Point& point, const std::array<HuntColumn, 2>& results, size_t i) {
+  void SettleOne(const Point& point, const std::array<double, 2>& results) {
     const bool is_32bit = subject_.entry->is_32bit();
     mpfr_set_zero(value_[1], 1);
     exact_(value_[0], value_[1], point);
@@ -132,7 +141,7 @@ class Judge {
     double error = 0;
     bool is_wrong = false;
     for (size_t part = 0; part < parts_; ++part) {
-      const double result = results[part][i], rounded = RoundToType(value_[part], is_32bit);
+      const double result = results[part], rounded = RoundToType(value_[part], is_32bit);
       const double part_error = UlpError(result, value_[part], is_32bit);
       const bool sign_differs = !std::isnan(rounded) && !std::isnan(result) && std::signbit(result) != std::signbit(rounded);
       const bool kind_differs = std::isnan(result) != std::isnan(rounded) || std::isinf(result) != std::isinf(rounded);
@@ -148,19 +157,18 @@ class Judge {
       result_.wrong_at = point;
       return;
     }
-    if (support::IsComplex(subject_.entry->output)) error = NormError(results, i, is_32bit);
+    if (support::IsComplex(subject_.entry->output)) error = NormError(results, is_32bit);
     if (error > result_.worst.ulp) result_.worst = {error, point};
   }
 
-  double NormError(const std::array<HuntColumn, 2>& results, size_t i, bool is_32bit) {
-    if (!mpfr_number_p(value_[0]) || !mpfr_number_p(value_[1]) || !std::isfinite(results[0][i]) ||
-        !std::isfinite(results[1][i]))
+  double NormError(const std::array<double, 2>& results, bool is_32bit) {
+    if (!mpfr_number_p(value_[0]) || !mpfr_number_p(value_[1]) || !std::isfinite(results[0]) || !std::isfinite(results[1]))
       return 0;
     mpfr_hypot(norm_, value_[0], value_[1], MPFR_RNDN);
     const int digits = is_32bit ? 24 : 53, lowest = is_32bit ? -149 : -1074;
     if (mpfr_zero_p(norm_) || mpfr_get_exp(norm_) <= lowest + 2 * digits) return 0;
-    mpfr_sub_d(difference_, value_[0], results[0][i], MPFR_RNDN);
-    mpfr_sub_d(value_[1], value_[1], results[1][i], MPFR_RNDN);
+    mpfr_sub_d(difference_, value_[0], results[0], MPFR_RNDN);
+    mpfr_sub_d(value_[1], value_[1], results[1], MPFR_RNDN);
     mpfr_hypot(difference_, difference_, value_[1], MPFR_RNDN);
     mpfr_div(difference_, difference_, norm_, MPFR_RNDN);
     return std::ldexp(mpfr_get_d(difference_, MPFR_RNDN), digits - 1);
@@ -174,7 +182,7 @@ class Judge {
   HuntResult result_;
   std::vector<float> bins_ = std::vector<float>(size_t{1} << (64 - bin_shift), -1.0f);
   std::vector<std::pair<double, size_t>> open_;
-  std::vector<std::pair<double, Point>> climb_;
+  std::vector<Kept> kept_;
   mpfr_t value_[2], difference_, norm_;
 };
 
@@ -243,6 +251,7 @@ class Search {
     if (differing_count_ != 0) JudgeDiffering();
     std::vector<HuntResult> results;
     for (const auto& judge : judges_) {
+      judge->SettleKept();
       judge->FinishCurve();
       results.push_back(judge->result());
     }
@@ -253,7 +262,7 @@ class Search {
   void Fill(uint64_t index) {
     std::vector<Point> worst;
     for (const auto& judge : judges_) {
-      for (const auto& [error, p] : judge->climb()) worst.push_back(p);
+      for (const Judge::Kept& kept : judge->kept()) worst.push_back(kept.point);
     }
     source_.Fill(*points_, index, worst);
     caller_.Set(*points_);
