@@ -20,6 +20,9 @@ HEAD = """<!-- Written by tools/function_pages.py from docs/data; do not edit. -
 
 {remark} What the columns mean: [accuracy](../accuracy.md), [performance](../performance.md). Special values and statuses: [reference](../reference.md).
 
+In the pictures of times the lines are those of the AVX-512 layer; dots are the highest tag in the [AVX2 layer](../performance-a2.md) and
+the [portable one](../performance-p0.md), at the lengths measured there.
+
 {contents}
 """
 
@@ -78,8 +81,9 @@ def speed_table(rows, stored, floors=None):
     return lines if len(lines) > 2 else []
 
 
-def speed_series(row, stored):
-    """Lines of the picture: our tags, the best peers of both classes at the main length, the loop."""
+def speed_series(row, stored, layers):
+    """Lines of the picture: our tags, the best peers of both classes at the main length, the loop; and the highest tag in the other
+    layers, with a mark at each length measured, which are few."""
     import pictures
     name = f"{row.function}_{row.type}"
     by_who = {}
@@ -91,18 +95,22 @@ def speed_series(row, stored):
     series = []
     figures = data.at_length(row, stored)
     if "scalar" in by_who:
-        series.append(("C library loop", pictures.SCALAR, 1.4, by_who["scalar"]))
+        series.append(("C library loop", pictures.SCALAR, 1.4, "-", by_who["scalar"]))
     shown = set()
     for is_high, colour in ((False, pictures.FAST_PEER), (True, pictures.EXACT_PEER)):
         peer = data.best_peer(figures, is_high)
         if peer and peer[0] not in shown and peer[0] in by_who:
             shown.add(peer[0])
             exact = peer[0] in data.EXACT_PEERS
-            series.append((data.peer_name(peer[0]), pictures.EXACT_PEER if exact else colour, 1.6, by_who[peer[0]]))
+            series.append((data.peer_name(peer[0]), pictures.EXACT_PEER if exact else colour, 1.6, "-", by_who[peer[0]]))
+    for layer, times in layers.items():
+        points = {length: ns for (function, length, who), (ns, _) in times.items() if function == name and who == (tags[-1] or "lumvm")}
+        if points:
+            series.append((f"{tags[-1] or 'lumVM'} {layer}", pictures.LAYERS[layer], 0, "o", points))
     levels = ("low", "mid", "high") if len(tags) == 3 else ("high",)
     for tag, level in zip(tags, levels):
         if (tag or "lumvm") in by_who:
-            series.append((tag or "lumVM", *colours[level], by_who[tag or "lumvm"]))
+            series.append((tag or "lumVM", *colours[level], "-", by_who[tag or "lumvm"]))
     return series
 
 
@@ -127,10 +135,10 @@ def interval(row):
     return float(low), float(high)
 
 
-def draw(title, rows, stored, figures, curves):
+def draw(title, rows, stored, layers, figures, curves):
     import pictures
     stem = title.replace(" (complex)", "_complex")
-    series = {row.type: speed_series(row, stored) for row in rows}
+    series = {row.type: speed_series(row, stored, layers) for row in rows}
     types = [row.type for row in rows if series[row.type]]
     if types:
         pictures.draw_speed(IMAGES / f"{stem}_speed.svg", types, series)
@@ -167,6 +175,7 @@ def main():
     parser.add_argument("--pictures", nargs="*", metavar="FUNCTION", help="draw the pictures, of all functions when none is named")
     arguments = parser.parse_args()
     stored, figures, floors = data.times(), data.accuracy(), data.floors()
+    layers = {"AVX2": data.times("performance-a2.csv"), "portable": data.times("performance-p0.csv")}
     PAGES.mkdir(parents=True, exist_ok=True)
     for (folder, heading, remark), functions in make_reference.sections():
         contents = ", ".join(f"[{title.removesuffix(' (complex)')}](#{make_reference.anchor(title)})" for title, _, _ in functions)
@@ -177,7 +186,7 @@ def main():
             named = arguments.pictures is not None and (not arguments.pictures or rows[0].function in arguments.pictures)
             # Rows of complex numbers that are declared beside the real ones have pictures of their own kind.
             if named:
-                draw(title, rows, stored, figures, arguments.curves)
+                draw(title, rows, stored, layers, figures, arguments.curves)
             lines += section(title, entry, rows, stored, figures, floors)
         catalogue.write_if_changed(PAGES / f"{folder}.md", "\n".join(lines).rstrip() + "\n")
     return 0

@@ -71,7 +71,7 @@ def hunted():
         key = row["function"], row["type"], row["who"]
         one = merged.setdefault(key, dict(row))
         if one is not row and one != row:
-            for name in ("crossed", "judged", "settled", "left", "wrong_class"):
+            for name in ("crossed", "compared", "judged", "settled", "left", "wrong_class"):
                 one[name] = str(int(one[name]) + int(row[name]))
             if float(row["max_ulp"]) > float(one["max_ulp"]):
                 one.update({name: row[name] for name in ("max_ulp", "at", "at_bits")})

@@ -16,6 +16,7 @@ plt.rcParams.update({
 })
 HIGH, MID, LOW = "#0b5394", "#3d9be9", "#8fc6f4"
 EXACT_PEER, FAST_PEER, SCALAR = "#d9480f", "#f4a261", "#868e96"
+LAYERS = {"AVX2": "#2b8a3e", "portable": "#862e9c"}
 WIDTH = 8.6
 
 
@@ -46,30 +47,31 @@ def name_lines(axis, ends, gap):
 
 
 def draw_speed(path, types, series):
-    """series[type]: list of (name, colour, width, {length: ns})."""
-    figure, axes = panels(len(types), 2.7)
+    """series[type]: list of (name, colour, width, style, {length: ns})."""
+    figure, axes = panels(len(types), 3.2)
     for axis, type_ in zip(axes, types):
         axis.set_title(type_)
         axis.set_xscale("log")
         axis.set_yscale("log")
-        for _, colour, width, points in series[type_]:
+        for _, colour, width, style, points in series[type_]:
             lengths = sorted(points)
-            axis.plot(lengths, [points[n] for n in lengths], color=colour, linewidth=width, solid_capstyle="round")
-        ticks = [1, 16, 128, 1024, 4096, 65536]
+            axis.plot(lengths, [points[n] for n in lengths], style, color=colour, linewidth=width, markersize=4, solid_capstyle="round")
+        ticks = [1, 16, 100, 1000, 4096, 16_000_000]
         axis.xaxis.set_major_locator(FixedLocator(ticks))
-        axis.xaxis.set_major_formatter(FixedFormatter(["1", "16", "128", "1k", "4k", "64k"]))
+        axis.xaxis.set_major_formatter(FixedFormatter(["1", "16", "100", "1k", "4k", "16M"]))
         axis.xaxis.set_minor_locator(NullLocator())
-        values = [ns for _, _, _, points in series[type_] for ns in points.values()]
+        values = [ns for *_, points in series[type_] for ns in points.values()]
         low, high = min(values) / 1.3, max(values) * 1.2
         axis.set_ylim(low, high)
-        decades = [10.0 ** k for k in range(-3, 4)]
-        shown = [step * d for d in decades for step in ((1, 2, 5) if high / low < 60 else (1,)) if low <= step * d <= high]
+        decades = [10.0 ** k for k in range(-3, 5)]
+        steps = (1, 2, 5) if high / low < 60 else (1, 3) if high / low < 1000 else (1,)
+        shown = [step * d for d in decades for step in steps if low <= step * d <= high]
         axis.yaxis.set_major_locator(FixedLocator(shown))
         axis.yaxis.set_major_formatter(FixedFormatter([f"{tick:g}" for tick in shown]))
         axis.yaxis.set_minor_locator(NullLocator())
         axis.set_xlabel("elements in the array")
         height = math.log(high / low)
-        name_lines(axis, [(math.log(points[max(points)] / low) / height, name, colour) for name, colour, _, points in series[type_]], 0.085)
+        name_lines(axis, [(math.log(points[max(points)] / low) / height, name, colour) for name, colour, *_, points in series[type_]], 0.07)
     axes[0].set_ylabel("ns an element")
     figure.tight_layout(w_pad=1.5)
     save(figure, path)

@@ -14,9 +14,9 @@
 #include <memory>
 #include <mutex>
 #include <string>
-#include <thread>
 
 #include "accuracy/cheap_reference.h"
+#include "accuracy/threads.h"
 
 namespace lum::accuracy {
 namespace {
@@ -236,9 +236,7 @@ std::vector<Accuracy> MeasureAll(const Library& library, std::span<const Export*
     const std::scoped_lock lock(mutex);
     worker.JoinTo(totals);
   };
-  std::vector<std::jthread> threads;
-  for (unsigned i = 0; i < std::max(1u, std::thread::hardware_concurrency()); ++i) threads.emplace_back(work);
-  threads.clear();
+  OnThreads(ProcessorCount(), work);
   return totals;
 }
 

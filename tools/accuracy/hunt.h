@@ -30,6 +30,7 @@ struct Distribution {
 
 struct HuntResult {
   uint64_t crossed = 0;      // against the high tag, whose own error blurs what is found by an ulp
+  uint64_t compared = 0;     // equal to the C library's results of binary64, and judged no further
   uint64_t judged = 0;       // against values with at least eight more bits
   uint64_t settled = 0;      // by MPFR or MPC
   uint64_t left = 0;         // that would have been settled, had there not been so many next to one another
@@ -44,9 +45,14 @@ struct HuntLimits {
   uint64_t count = 100'000'000;  // elements
   double seconds = 1e9;          // or what can be done in these
   uint64_t exact_every = 8;      // of the rounds of blocks of 64f and 64fc one in that many is an exact one
+  bool compares = false;         // the others, of one subject of 64f, are compared with the C library's results first
   uint64_t seed = 1;
 };
 
+// A result that equals the C library's of binary64 is no worse than that, whose error is next to 1/2 ulp for many functions and
+// known for all; so only those that differ are judged where the limits want it. Equal errors of both stay unseen but for the
+// exact rounds.
+//
 // Searches the subjects, which are one function's of one type, in one thread; deterministic but for `seconds`. The results are
 // in their order.
 std::vector<HuntResult> Hunt(const support::Library& library, const std::vector<HuntSubject>& subjects,

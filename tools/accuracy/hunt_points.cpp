@@ -227,7 +227,9 @@ void HuntSource::KeepParameters(HuntPoints& points) const {
 void HuntSource::Fill(HuntPoints& points, uint64_t index, std::span<const Point> worst) {
   Random random(seed_, index);
   points.kind = kinds[index % std::size(kinds)];
-  if (points.kind == HuntKind::hard && hard_.empty()) points.kind = HuntKind::ordinary;
+  // Those that were drawn about eight times each have been seen.
+  const bool has_hard = index / std::size(kinds) * hunt_block < 8 * hard_.size();
+  if (points.kind == HuntKind::hard && !has_hard) points.kind = HuntKind::ordinary;
   if (points.kind == HuntKind::borders && borders_.empty()) points.kind = HuntKind::thresholds;
   // The rounding of exponent times logarithm takes as many digits from a complex power as that product has before the point;
   // exponents are kept small, so that other errors show.

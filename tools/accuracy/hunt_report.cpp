@@ -11,10 +11,10 @@
 #include <limits>
 #include <mutex>
 #include <stdexcept>
-#include <thread>
 
 #include "accuracy/records.h"
 #include "accuracy/text.h"
+#include "accuracy/threads.h"
 #include "peers.h"
 #include "support/declarations.h"
 #include "support/scalar_loop.h"
@@ -27,7 +27,7 @@ using support::Library;
 using Group = std::vector<const Export*>;
 
 constexpr const char* csv_header =
-    "function,type,who,seed,count,crossed,judged,settled,left,max_ulp,at,at_bits,bound_ulp,wrong_class,wrong_at,"
+    "function,type,who,seed,count,crossed,compared,judged,settled,left,max_ulp,at,at_bits,bound_ulp,wrong_class,wrong_at,"
     "distribution,within_050,within_051,within_060,within_075,within_100,mean_ulp";
 
 std::string Row(const HuntSubject& subject, const std::string& who, const HuntResult& r, const HuntLimits& limits,
@@ -35,8 +35,8 @@ std::string Row(const HuntSubject& subject, const std::string& who, const HuntRe
   const Export& entry = *subject.entry;
   const Distribution& d = r.distribution;
   std::string text =
-      fmt::format("{},{},{},{},{},{},{},{},{},{:.7g},{},{},{},{},{},{}", entry.function, entry.type, who, limits.seed, count,
-                  r.crossed, r.judged, r.settled, r.left, r.worst.ulp, DecimalOf(entry, r.worst.point),
+      fmt::format("{},{},{},{},{},{},{},{},{},{},{:.7g},{},{},{},{},{},{}", entry.function, entry.type, who, limits.seed, count,
+                  r.crossed, r.compared, r.judged, r.settled, r.left, r.worst.ulp, DecimalOf(entry, r.worst.point),
                   PatternOf(entry, r.worst.point), subject.is_own ? fmt::format("{:g}", subject.bound) : "", r.wrong_class,
                   r.wrong_class != 0 ? DecimalOf(entry, r.wrong_at) : "", d.count);
   const auto share = [&](double x) {
@@ -78,6 +78,7 @@ class Report {
   void Add(const Group& group) {
     if (!HasReference(*group[0])) return;
     std::vector<HuntSubject> subjects = OwnSubjects(library_, group);
+    if (request_.limits.compares) subjects.erase(subjects.begin(), subjects.end() - 1);
     if (request_.with_peers) AddPeers(subjects, *group[0]);
     const std::vector<HuntResult> results = Hunt(library_, subjects, request_.limits);
     const std::scoped_lock lock(mutex_);
@@ -92,12 +93,14 @@ class Report {
                   size_t i, std::vector<std::string>& rows) const {
     const HuntSubject& subject = subjects[i];
     const HuntResult& r = results[i];
-    const uint64_t count = r.judged + std::max_element(results.begin(), results.end(), [](const auto& a, const auto& b) {
-                                        return a.crossed < b.crossed;
-                                      })->crossed;
-    fmt::print("{:<10} {:<4} {:<10} {:>9.3g} {:>9.3g} {:>10.7g} ulp at {}{}{}\n", subject.entry->function, subject.entry->type,
-               subject.name, static_cast<double>(r.crossed), static_cast<double>(r.judged), r.worst.ulp,
-               DecimalOf(*subject.entry, r.worst.point), r.worst.ulp > subject.bound ? "  BEYOND THE LIMIT" : "",
+    const uint64_t count =
+        r.compared + r.judged + std::max_element(results.begin(), results.end(), [](const auto& a, const auto& b) {
+                                  return a.crossed < b.crossed;
+                                })->crossed;
+    fmt::print("{:<10} {:<4} {:<10} {:>9.3g} {:>9.3g} {:>9.3g} {:>10.7g} ulp at {}{}{}\n", subject.entry->function,
+               subject.entry->type, subject.name, static_cast<double>(r.crossed), static_cast<double>(r.compared),
+               static_cast<double>(r.judged), r.worst.ulp, DecimalOf(*subject.entry, r.worst.point),
+               r.worst.ulp > subject.bound ? "  BEYOND THE LIMIT" : "",
                r.wrong_class != 0
                    ? fmt::format("  {} of the wrong class, as at {}", r.wrong_class, DecimalOf(*subject.entry, r.wrong_at))
                    : "");
@@ -135,9 +138,7 @@ void HuntGroups(const Library& library, const std::vector<Group>& groups, const 
       next = groups.size();
     }
   };
-  std::vector<std::jthread> threads;
-  for (unsigned i = 0; i < std::max(1u, std::thread::hardware_concurrency()); ++i) threads.emplace_back(work);
-  threads.clear();
+  OnThreads(request.threads, work);
   if (!problem.empty()) throw std::runtime_error(problem);
 }
 

@@ -7,9 +7,9 @@
 
 namespace lum::accuracy {
 
-// Error in units of binary64's last place that the values of real functions have next to nowhere: 32 units of the last place of
+// Error in units of binary64's last place that the values of real functions have next to nowhere: 8 units of the last place of
 // the 64 bits of long double.
-inline constexpr double long_reference_error = 0x1p-6;
+inline constexpr double long_reference_error = 0x1p-8;
 
 // Gives the parts of f for all arguments; part[0] to part[3] are the real and imaginary parts of the first and of the second
 // input (or of the parameter), as far as the function has them.

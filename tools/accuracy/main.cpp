@@ -15,6 +15,7 @@
 #include "accuracy/property_report.h"
 #include "accuracy/records.h"
 #include "accuracy/text.h"
+#include "accuracy/threads.h"
 
 namespace {
 
@@ -151,6 +152,7 @@ int main(int argc, char** argv) {
   CLI::App app("Measures the error of functions against MPFR and MPC", "accuracy");
   Options options;
   uint64_t count = 0;
+  unsigned threads = ProcessorCount();
   app.add_option("functions", options.functions, "functions (Exp) or exports (lumsExp_32f_A24); all when none is given");
   app.add_flag("--exhaustive", options.exhaustive, "all 2^32 arguments of the functions of one 32f input");
   const auto hunt = app.add_flag("--hunt", options.hunt, "search hundreds of millions of arguments for the largest errors");
@@ -159,6 +161,14 @@ int main(int argc, char** argv) {
   app.add_option("--seed", hunt_options.limits.seed, "with --hunt: start of the random numbers")->needs(hunt);
   app.add_flag("--peers", hunt_options.with_peers, "with --hunt: SLEEF and the C library, too")->needs(hunt);
   app.add_option("--hunted", hunt_options.csv, "with --hunt: results file to update");
+  app.add_flag("--compared", hunt_options.limits.compares,
+               "with --hunt: of the highest tags of 64f, results equal to the C library's are judged no further")
+      ->needs(hunt)
+      ->excludes("--peers");
+  app.add_option("--whole", hunt_options.limits.exact_every,
+                 "with --hunt: one round of blocks of 64f and 64fc in so many is judged as a whole")
+      ->needs(hunt)
+      ->check(CLI::PositiveNumber);
   const auto properties = app.add_flag("--properties", options.properties, "symmetries, ranges, monotonicity and exact values");
   app.add_option("--found", options.property_request.csv, "with --properties: results file to update");
   app.add_option("--compare", options.property_request.compare, "with --properties: results file that has to hold")
@@ -166,6 +176,8 @@ int main(int argc, char** argv) {
   app.add_option("--share", options.property_request.limits.share_of_all,
                  "with --properties: one block in so many of all 32f arguments")
       ->needs(properties);
+  app.add_option("--threads", threads, "with --hunt or --properties: as many as the machine has processors where not given")
+      ->check(CLI::PositiveNumber);
   app.add_option("--inputs", options.inputs,
                  "kinds of inputs: sample, borders, quarter-turns, unit-circle; all when none is given")
       ->check(CLI::IsMember({"sample", "borders", "quarter-turns", "unit-circle"}))
@@ -179,6 +191,7 @@ int main(int argc, char** argv) {
     app.parse(argc, argv);
     if (count != 0) options.count = options.hunt_request.limits.count = options.property_request.limits.count = count;
     options.hunt_request.curves = options.curves;
+    options.hunt_request.threads = options.property_request.threads = threads;
     return Run(options) ? 0 : 1;
   } catch (const CLI::Success& request) { return app.exit(request); } catch (const std::exception& problem) {
     fmt::print(stderr, "accuracy: {}\n", problem.what());

@@ -9,10 +9,10 @@
 #include <map>
 #include <mutex>
 #include <sstream>
-#include <thread>
 
 #include "accuracy/records.h"
 #include "accuracy/text.h"
+#include "accuracy/threads.h"
 
 namespace lum::accuracy {
 namespace {
@@ -98,9 +98,7 @@ bool ReportProperties(const Library& library, const std::vector<std::vector<cons
       if (!request.csv.empty()) UpdateRows(request.csv, csv_header, rows, KeyOf);
     }
   };
-  std::vector<std::jthread> threads;
-  for (unsigned i = 0; i < std::max(1u, std::thread::hardware_concurrency()); ++i) threads.emplace_back(work);
-  threads.clear();
+  OnThreads(request.threads, work);
   std::ranges::sort(complaints);
   for (const std::string& complaint : complaints) fmt::print("{}\n", complaint);
   if (!request.compare.empty()) fmt::print("{} exports, {} complaints\n", entries.size(), complaints.size());
