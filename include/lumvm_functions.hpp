@@ -1844,9 +1844,10 @@ auto pow3o2(const W& way, const X& x) {
 }
 
 // Each element to the power `value`, which is the same for all. Exponents that have a function of their own (-1, 0.5, -0.5,
-// 1.5; at A11 and A26 also 1/3, -1/3, 2/3), small integers, 0 and 1 take that function, products, a fill or a copy.
-// Complex: Each element to the power `value`, as exp(value ln(z)) with the principal logarithm. All tags are one function;
-// the error of the rounded product grows with its size and takes digits from large and small results.
+// 1.5; at A11 and A26 also 1/3, -1/3, 2/3), small integers, 0 and 1 take that function, products, a fill or a copy. At 64f
+// A53 the error reaches 1.07 ulp, for bases up to 2^-9 above 1 whose power is next to the ends of the range. Complex: Each
+// element to the power `value`, as exp(value ln(z)) with the principal logarithm. All tags are one function; the error of
+// the rounded product grows with its size and takes digits from large and small results.
 // lumsPowx: float, double, std::complex<float>, std::complex<double>.
 template <accuracy a = high, input X, class Y>
 requires detail::gives<detail::powx, X, Y>

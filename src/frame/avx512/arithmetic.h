@@ -199,6 +199,9 @@ template <Integer T> LUM_INLINE Mask<T> test_none(Vec<T> a, Vec<T> b) {
 
 // Per lane m ? a : b.
 template <Lane T> LUM_INLINE Vec<T> select(Mask<T> m, Vec<T> a, Vec<T> b) {
+  // A constant is loaded as a whole. Under the mask, where no lane needs it and its page is not mapped yet, it would take the
+  // processor hundreds of cycles, and again at every vector, since that maps no page.
+  if (__builtin_constant_p(a.v[0])) asm("" : "+v"(a.v));
   if constexpr (std::same_as<T, float>) return {_mm512_mask_blend_ps(m.k, b.v, a.v)};
   else if constexpr (std::same_as<T, double>) return {_mm512_mask_blend_pd(m.k, b.v, a.v)};
   else if constexpr (is32<T>) return {_mm512_mask_blend_epi32(m.k, b.v, a.v)};
