@@ -70,7 +70,7 @@ template <class E> struct AbsKernel : Kernel<E, Real<E>> {
     }
     if (any(lanes.refused & special)) {
       const auto infinite = IsInfinite(z.re) | IsInfinite(z.im), nan = special & unord(z.re, z.im) & ~infinite;
-      const auto unbounded = in_register(std::numeric_limits<T>::infinity());
+      const auto unbounded = all(std::numeric_limits<T>::infinity());
       const auto of_special = select(infinite, unbounded, zero_unless(nan, z.re * z.im));
       const auto finished = lanes.refused & special & ~(nan & HasTwoNans(z));
       value = select(finished, of_special, value);

@@ -50,7 +50,7 @@ struct AcosEnds {
   }
   static LUM_INLINE Mask<Lum64f> IsSpecial(ComplexVec<Lum64f> z) { return HasNonFinitePart(z); }
   static LUM_INLINE ComplexVec<Lum64f> OfSpecial(ComplexVec<Lum64f> z) {
-    const auto x = z.re, y = z.im, nan = x * y, unbounded = in_register(infinity);
+    const auto x = z.re, y = z.im, nan = x * y, unbounded = all(infinity);
     const auto is_nan = unord(x, y), infinite = IsInfinite(x) | IsInfinite(y), of_zero = IsZero(x) & unord(y, y);
     const auto beside_nan = select(IsInfinite(x), unbounded, negate(or_sign(y, unbounded)));
     const auto re = select(is_nan & ~of_zero, nan, abs(AngleOfInfinite(z)));
@@ -82,7 +82,7 @@ struct AcoshEnds {
   static LUM_INLINE Mask<Lum64f> IsSpecial(ComplexVec<Lum64f> z) { return HasNonFinitePart(z); }
   static LUM_INLINE ComplexVec<Lum64f> OfSpecial(ComplexVec<Lum64f> z) {
     const auto nan = z.re * z.im;
-    return {select(IsInfinite(z.re) | IsInfinite(z.im), in_register(infinity), nan),
+    return {select(IsInfinite(z.re) | IsInfinite(z.im), all(infinity), nan),
             select(unord(z.re, z.im), nan, AngleOfInfinite(z))};
   }
 };

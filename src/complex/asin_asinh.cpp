@@ -48,11 +48,11 @@ struct AsinhEnds {
   }
   static LUM_INLINE Mask<Lum64f> IsSpecial(ComplexVec<Lum64f> z) { return HasNonFinitePart(z); }
   static LUM_INLINE ComplexVec<Lum64f> OfSpecial(ComplexVec<Lum64f> z) {
-    const auto x = z.re, y = z.im, nan = x * y, unbounded = in_register(infinity);
+    const auto x = z.re, y = z.im, nan = x * y, unbounded = all(infinity);
     const auto is_nan = unord(x, y), x_infinite = IsInfinite(x);
     const auto beside_nan = select(x_infinite, x, select(IsInfinite(y), unbounded, nan));
     constexpr auto half_pi = numbers::pi<Lum64f> / 2;
-    const auto angle = select(x_infinite, zero_unless(IsInfinite(y), in_register(half_pi / 2)), in_register(half_pi));
+    const auto angle = select(x_infinite, select(IsInfinite(y), all(half_pi / 2), all(0.0)), all(half_pi));
     return {select(is_nan, beside_nan, or_sign(x, unbounded)), select(IsZero(y), y, select(is_nan, nan, or_sign(y, angle)))};
   }
 };

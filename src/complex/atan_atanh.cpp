@@ -77,9 +77,9 @@ struct AtanhEnds {
     const auto x = z.re, y = z.im;
     const auto x_nan = unord(x, x), y_nan = unord(y, y), infinite = IsInfinite(x) | IsInfinite(y);
     const auto nan = select(x_nan, x, y) * y, zero = select(x_nan, all(0.0), or_sign(x, all(0.0)));
-    const auto half_pi = or_sign(y, in_register(numbers::pi<Lum64f> / 2));
+    const auto half_pi = or_sign(y, all(numbers::pi<Lum64f> / 2));
     const ComplexVec<Lum64f> value{select(infinite | IsZero(x), zero, nan), select(y_nan | (x_nan & ~infinite), nan, half_pi)};
-    return Select(IsPole(z), {or_sign(x, in_register(infinity)), y}, value);
+    return Select(IsPole(z), {or_sign(x, all(infinity)), y}, value);
   }
 };
 

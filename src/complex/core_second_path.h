@@ -72,16 +72,6 @@ template <KeptNans kept> LUM_INLINE Vec<Lum64f> NegatedBut(Vec<Lum64f> x) {
 template <KeptNans kept> LUM_INLINE ComplexVec<Lum64f> TimesI(ComplexVec<Lum64f> z) { return {NegatedBut<kept>(z.im), z.re}; }
 template <KeptNans kept> LUM_INLINE ComplexVec<Lum64f> OverI(ComplexVec<Lum64f> z) { return {z.im, NegatedBut<kept>(z.re)}; }
 
-// x in every lane, in a register. A load under a mask, which the compiler would make of a constant that is selected, takes
-// hundreds of cycles as long as its page has not been touched without a mask.
-template <Floating T> LUM_INLINE Vec<T> in_register(T x) {
-  auto v = all(x);
-#ifdef LUM_AVX512
-  asm("" : "+v"(v.v));
-#endif
-  return v;
-}
-
 // The angles of the upper half plane's diagonals and axes, in some unit.
 struct EighthTurns {
   Lum64f diagonal, up, left_diagonal, left;
@@ -91,9 +81,9 @@ inline constexpr EighthTurns eighth_turns{0.25 * numbers::pi<Lum64f>, 0.5 * numb
 // The angle of a number with an infinite part.
 LUM_INLINE Vec<Lum64f> AngleOfInfinite(ComplexVec<Lum64f> z, const EighthTurns& turns = eighth_turns) {
   const auto is_left = IsNegative(z.re);
-  const auto diagonal = select(is_left, in_register(turns.left_diagonal), in_register(turns.diagonal));
-  const auto along = select(is_left, in_register(turns.left), all(0.0));
-  return or_sign(z.im, select(IsInfinite(z.re), select(IsInfinite(z.im), diagonal, along), in_register(turns.up)));
+  const auto diagonal = select(is_left, all(turns.left_diagonal), all(turns.diagonal));
+  const auto along = select(is_left, all(turns.left), all(0.0));
+  return or_sign(z.im, select(IsInfinite(z.re), select(IsInfinite(z.im), diagonal, along), all(turns.up)));
 }
 
 // A number of binary32 that the core rounds by way of binary64, where it has the given one or its neighbour.

@@ -45,12 +45,12 @@ struct QuotientEnds {
   }
   // 1 or 0 for an infinity or another number, with its sign.
   template <class T> static LUM_INLINE Vec<T> Boxed(Vec<T> x) {
-    return or_sign(x, zero_unless(IsInfinite(x), in_register(T(1))));
+    return or_sign(x, select(IsInfinite(x), all(T(1)), all(T(0))));
   }
   template <class T> static LUM_INLINE ComplexVec<T> OfSpecial(ComplexVec<T> z, ComplexVec<T> w) {
     const auto z_finite = ~HasNonFinitePart(z), w_finite = ~HasNonFinitePart(w);
     const auto z_infinite = IsInfinite(z.re) | IsInfinite(z.im), w_infinite = IsInfinite(w.re) | IsInfinite(w.im);
-    const auto unbounded = in_register(std::numeric_limits<T>::infinity()), zero = all(T(0));
+    const auto unbounded = all(std::numeric_limits<T>::infinity()), zero = all(T(0));
     const auto boxes_z = z_infinite & w_finite, boxes_w = z_finite & w_infinite;
     const auto chosen = [](Mask<T> m, Vec<T> x) __attribute__((always_inline)) { return select(m, Boxed(x), x); };
     const auto directed = Directed<T>(select(boxes_z, unbounded, zero), {chosen(boxes_z, z.re), chosen(boxes_z, z.im)},

@@ -69,8 +69,8 @@ LUM_INLINE ScaledLogarithm LogarithmOfAny(ComplexVec<Lum64f> z) {
 
 // The logarithm of zero and of numbers with an infinite or a NaN part.
 LUM_INLINE ComplexVec<Lum64f> LogarithmOfSpecial(ComplexVec<Lum64f> z, const EighthTurns& turns, Lum64f half_turn) {
-  const auto nan = z.re * z.im, unbounded = in_register(infinity);
-  const auto of_zero = or_sign(z.im, zero_unless(IsNegative(z.re), in_register(half_turn)));
+  const auto nan = z.re * z.im, unbounded = all(infinity);
+  const auto of_zero = or_sign(z.im, select(IsNegative(z.re), all(half_turn), all(0.0)));
   const ComplexVec<Lum64f> value{select(IsInfinite(z.re) | IsInfinite(z.im), unbounded, nan),
                                  select(unord(z.re, z.im), nan, AngleOfInfinite(z, turns))};
   return Select(IsZero(z), {negate(unbounded), of_zero}, value);

@@ -57,7 +57,7 @@ struct SqrtEnds {
   }
   static LUM_INLINE Mask<Lum64f> IsSpecial(ComplexVec<Lum64f> z) { return HasNonFinitePart(z) | (IsZero(z.re) & IsZero(z.im)); }
   static LUM_INLINE ComplexVec<Lum64f> OfSpecial(ComplexVec<Lum64f> z) {
-    const auto x = z.re, y = z.im, nan = x * y, unbounded = in_register(infinity);
+    const auto x = z.re, y = z.im, nan = x * y, unbounded = all(infinity);
     const auto y_nan = unord(y, y), x_infinite = IsInfinite(x), is_left = IsNegative(x);
     // Beside an infinite x.
     const auto other = zero_unless(y_nan, y), small = select(y_nan, other + other, all(0.0));

@@ -64,7 +64,7 @@ struct TanhEnds {
     const auto x = z.re, y = z.im, nan = select(unord(x, x), x + x, y - y);
     const auto infinite = IsInfinite(x);
     const auto zero = zero_unless(IsInfinite(y), or_sign(y, all(0.0)));
-    return {select(infinite, or_sign(x, in_register(1.0)), nan), select(infinite, zero, select(IsZero(y), y, nan))};
+    return {select(infinite, or_sign(x, all(1.0)), nan), select(infinite, zero, select(IsZero(y), y, nan))};
   }
 };
 

@@ -148,7 +148,7 @@ LUM_INLINE bool BlockOfBothPaths(const K& kernel, const Arrays<K, n, m>& arrays,
     return LoadStep<K, n, m>(arrays, first + static_cast<int64_t>(i) * step_of<K>);
   };
   if constexpr (HasSecondPath<K> && KnowsRefused<K> && K::second_is_short && vectors_fit_registers) {
-    if ((RefusesAll<K, n>(kernel, step(v)) & ...))
+    if ((int{RefusesAll<K, n>(kernel, step(v))} & ...) != 0)
       return FinishBlock<K, n, m>(kernel, arrays, first, call, std::array{ComputeSecondAlone<K, n, m>(kernel, step(v))...},
                                   std::index_sequence<v...>());
   }
