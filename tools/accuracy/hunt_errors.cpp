@@ -95,8 +95,8 @@ void HuntValues::AddPart(const std::array<HuntColumn, 2>& results, size_t part, 
     const double error = std::fabs((clipped - value) - rest_[part][i]) * inverse_unit_[part][i];
     const bool both_beyond = (std::fabs(result) == infinity) & (std::fabs(value) >= overflow) & ((result > 0) == (value > 0));
     const bool both_nan = (result != result) & (value != value);
-    const double judged = both_beyond | both_nan ? 0 : error;
-    errors[i] = (errors[i] > judged) | (errors[i] != errors[i]) ? errors[i] : judged;  // a NaN stays
+    const double judged = (both_beyond | both_nan) ? 0 : error;
+    errors[i] = !(errors[i] <= judged) ? errors[i] : judged;  // a NaN stays
   }
 }
 
