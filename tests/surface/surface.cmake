@@ -45,8 +45,9 @@ add_test(NAME surface.reference_is_current
 add_test(NAME surface.numbers_are_current COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/tools/make_numbers.py --check)
 add_test(NAME surface.polynomials_are_current COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/tools/polynomials.py --check)
 add_test(NAME surface.polynomial_errors COMMAND ${Python3_EXECUTABLE} ${CMAKE_CURRENT_SOURCE_DIR}/surface/polynomial_errors.py)
-set_tests_properties(surface.numbers_are_current surface.polynomials_are_current surface.polynomial_errors PROPERTIES
-                     SKIP_REGULAR_EXPRESSION "No module named 'mpmath'")
+add_test(NAME surface.polynomial_supnorm COMMAND ${Python3_EXECUTABLE} ${CMAKE_CURRENT_SOURCE_DIR}/surface/polynomial_supnorm.py)
+set_tests_properties(surface.numbers_are_current surface.polynomials_are_current surface.polynomial_errors surface.polynomial_supnorm
+                     PROPERTIES SKIP_REGULAR_EXPRESSION "No module named 'mpmath';which is not installed")
 add_test(NAME surface.tables_are_current
          COMMAND ${Python3_EXECUTABLE} ${PROJECT_SOURCE_DIR}/src/tables/generators/generate.py --check)
 set_tests_properties(surface.tables_are_current PROPERTIES
