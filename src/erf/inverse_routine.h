@@ -159,13 +159,9 @@ LUM_INLINE Finished<T> FinishEnds(Vec<T> x, const Lanes<T>& lanes, T upper, bool
     if constexpr (sizeof(T) == sizeof(Lum64f)) {
       value = select(between, of_tail(in_tail), value);
     } else {
-      const auto low = of_tail(widen_low(in_tail)), high = of_tail(widen_high(in_tail));
-      const auto rounded = [&](double factor) __attribute__((always_inline)) {
-        return narrow(low * all(factor), high * all(factor));
-      };
-      const auto of_between = rounded(1 - 0x1p-38);
-      value = select(between, of_between, value);
-      remaining = between & ne(of_between, rounded(1 + 0x1p-38));
+      const auto of_between = NarrowedWithin(0x1p-38, of_tail(widen_low(in_tail)), of_tail(widen_high(in_tail)));
+      value = select(between, of_between.value, value);
+      remaining = between & of_between.refused;
     }
   }
   return {select(lanes.refused, value, lanes.value), remaining, {.domain = outside, .singularity = at_zero | at_upper}};

@@ -61,12 +61,7 @@ LUM_INLINE Lanes<Lum64f> ExpAtEnds(Vec<Lum64f> x) {
 }
 // c e^x. The rounding to binary32 is in doubt next to a tie alone.
 LUM_INLINE Lanes<Lum32f> ScaledExpAtEnds(Vec<Lum32f> x, double c) {
-  const auto low = ExpInBinary64(widen_low(x)), high = ExpInBinary64(widen_high(x));
-  const auto rounded = [&](double factor) __attribute__((always_inline)) {
-    return narrow(low * all(factor), high * all(factor));
-  };
-  const auto value = rounded(c * (1 - 0x1p-46));
-  return {value, ne(value, rounded(c * (1 + 0x1p-46)))};
+  return NarrowedWithin(0x1p-46, ExpInBinary64(widen_low(x)), ExpInBinary64(widen_high(x)), c);
 }
 LUM_INLINE Lanes<Lum32f> ExpAtEnds(Vec<Lum32f> x) { return ScaledExpAtEnds(x, 1); }
 

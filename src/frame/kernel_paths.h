@@ -72,6 +72,14 @@ template <class E> struct TwoLanes {
   Mask<Real<E>> refused;
 };
 
+// Two halves times the factor, known but for the relative distance, rounded to binary32; refused where that distance decides
+// the rounding.
+LUM_INLINE Lanes<Lum32f> NarrowedWithin(double distance, Vec<Lum64f> low, Vec<Lum64f> high, double factor = 1) {
+  const auto below = all(factor * (1 - distance)), above = all(factor * (1 + distance));
+  const auto value = narrow(low * below, high * below);
+  return {value, ne(value, narrow(low * above, high * above))};
+}
+
 // What a second path gives where elements may report.
 template <class E> struct Finished {
   Packed<E> value;

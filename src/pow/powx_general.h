@@ -45,12 +45,7 @@ LUM_INLINE Vec<Lum64f> PowerInBinary64(Vec<Lum64f> x, Vec<Lum64f> y) {
   return fma(g * scaled, horner(g, pow::powx_exp2_A50), scaled);
 }
 LUM_INLINE Lanes<Lum32f> PowerByBinary64(Vec<Lum32f> x, Vec<Lum32f> y) {
-  const auto low = PowerInBinary64(widen_low(x), widen_low(y)), high = PowerInBinary64(widen_high(x), widen_high(y));
-  const auto rounded = [&](double factor) __attribute__((always_inline)) {
-    return narrow(low * all(factor), high * all(factor));
-  };
-  const auto value = rounded(1 - 0x1p-40);
-  return {value, ne(value, rounded(1 + 0x1p-40))};
+  return NarrowedWithin(0x1p-40, PowerInBinary64(widen_low(x), widen_low(y)), PowerInBinary64(widen_high(x), widen_high(y)));
 }
 
 template <class T> struct PowxGeneral : Kernel<T> {

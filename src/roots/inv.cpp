@@ -10,8 +10,8 @@
 namespace lum::inline LUM_LAYER {
 namespace {
 
-// A tier has 1 / x of all numbers from the estimate r0, and for which it takes no step. Where the estimate takes
-// normal numbers alone, the first path refuses all others, and those without a normal reciprocal.
+// A tier has 1 / x of all numbers from the estimate r0, and for which it takes no step. Where the estimate takes normal numbers
+// alone, the first path refuses all others, and those without a normal reciprocal.
 template <class T, class Tier> struct InvKernel : Kernel<T> {
   static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) {
     if constexpr (estimates_take_all) {

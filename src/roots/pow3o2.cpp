@@ -134,12 +134,7 @@ template <class T> struct Pow3o2Kernel : Kernel<T> {
   // Powers that are neither too large nor too small for the type. In binary32 the lane routine's value, within 2^-38.3 of the
   // power, is rounded as the power is, but next to a tie, where it remains.
   static LUM_INLINE Lanes<Lum32f> BetweenEnds(Vec<Lum32f> x) {
-    const auto low = ByRootInDouble(widen_low(x)), high = ByRootInDouble(widen_high(x));
-    const auto rounded = [&](double factor) __attribute__((always_inline)) {
-      return narrow(low * all(factor), high * all(factor));
-    };
-    const auto value = rounded(1 - 0x1p-38);
-    return {value, ne(value, rounded(1 + 0x1p-38))};
+    return NarrowedWithin(0x1p-38, ByRootInDouble(widen_low(x)), ByRootInDouble(widen_high(x)));
   }
   static LUM_INLINE Vec<Lum64f> ByRootInDouble(Vec<Lum64f> x) {
     if constexpr (estimates_take_all && vectors_fit_registers) return x * HeronStep(x, CoupledStep(Start(x, rsqrt14(x))));

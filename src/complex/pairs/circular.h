@@ -21,12 +21,12 @@ template <class Number> struct SineAndCosine {
 };
 
 // |y| = k pi/128 + r, the low bits of the row being k.
-struct ReducedAngle {
+template <class Number> struct ReducedAngle {
   Vec<uint64_t> row;
-  HeadTail r;
+  Number r;
   Mask<Lum64f> refused;
 };
-LUM_INLINE ReducedAngle ReduceAngle(Vec<Lum64f> magnitude) {
+LUM_INLINE ReducedAngle<HeadTail> ReduceAngle(Vec<Lum64f> magnitude) {
   constexpr auto shifter = rounding_shifter<Lum64f>();
   const auto t = fma(magnitude, all(128 * numbers::inverse_pi<Lum64f>), all(shifter));
   const auto k = t - all(shifter);
@@ -38,52 +38,55 @@ LUM_INLINE ReducedAngle ReduceAngle(Vec<Lum64f> magnitude) {
 }
 
 // Each step is rounded once, and r is far larger than the third part's product.
-LUM_INLINE ReducedAngle ReduceAngleInOnePart(Vec<Lum64f> magnitude) {
+LUM_INLINE ReducedAngle<OnePart> ReduceAngleInOnePart(Vec<Lum64f> magnitude) {
   constexpr auto shifter = rounding_shifter<Lum64f>();
   constexpr auto& parts = numbers::pi_128th_parts<Lum64f>;
   const auto t = fma(magnitude, all(128 * numbers::inverse_pi<Lum64f>), all(shifter));
   const auto k = t - all(shifter);
   const auto r = fnma(k, all(parts[2]), fnma(k, all(parts[1]), fnma(k, all(parts[0]), magnitude)));
-  return {bits(t), {r, all(0.0)}, lt(abs(r), all(0x1p-30)) & ne(k, all(0.0))};
+  return {bits(t), {r}, lt(abs(r), all(0x1p-30)) & ne(k, all(0.0))};
 }
 
-template <class Number = HeadTail>
-LUM_INLINE SineAndCosine<Number> SineCosineOfReduced(Vec<Lum64f> y, const ReducedAngle& angle) {
+// The table's row of an angle.
+LUM_INLINE auto SineCosineRow(Vec<uint64_t> row) {
   static constexpr auto table = table64({
 #include "tables/generated/sine_cosine_64f_256_pairs.inc"
   });
-  if constexpr (std::is_same_v<Number, OnePart>) {
-    const auto r = angle.r.head, q = r * r;
-    const auto sine_of_r = fma(r * q, horner(q, pairs_sine), r), cosine_rest = q * horner(q, pairs_cosine);
-    const auto row = gather_rows<Lum64f>(table, shift_left<2>(angle.row & all(uint64_t{255})));
-    const auto s = row.column0, c = row.column2;
-    return {XorSign(y, OnePart{fma(c, sine_of_r, fma(s, cosine_rest, s))}),
-            {fnma(s, sine_of_r, fma(c, cosine_rest, c))},
-            angle.refused};
-  } else {
-    const auto r = angle.r.head, r_tail = angle.r.tail;
-    const auto q = r * r;
-    const auto sine_rest = fma(r * q, horner(q, pairs_sine), r_tail);
-    const auto cosine_rest = fnma(r, r_tail, q * horner(q, pairs_cosine));
-    const auto row = gather_rows<Lum64f>(table, shift_left<2>(angle.row & all(uint64_t{255})));
-    const HeadTail s{row.column0, row.column1}, c{row.column2, row.column3};
-    const auto for_sine = two_product(c.head, r), for_cosine = two_product(s.head, r);
-    const auto sine = fast_two_sum(s.head, for_sine.head), cosine = fast_two_sum(c.head, negate(for_cosine.head));
-    const auto sine_tail = fma(c.tail, r, s.tail + (sine.tail + for_sine.tail));
-    const auto cosine_tail = fnma(s.tail, r, c.tail + (cosine.tail - for_cosine.tail));
-    return {XorSign(y, fast_two_sum(sine.head, fma(s.head, cosine_rest, fma(c.head, sine_rest, sine_tail)))),
-            fast_two_sum(cosine.head, fma(c.head, cosine_rest, fnma(s.head, sine_rest, cosine_tail))), angle.refused};
-  }
+  return gather_rows<Lum64f>(table, shift_left<2>(row & all(uint64_t{255})));
+}
+
+LUM_INLINE SineAndCosine<OnePart> SineCosineOfReduced(Vec<Lum64f> y, const ReducedAngle<OnePart>& angle) {
+  const auto r = angle.r.head, q = r * r;
+  const auto sine_of_r = fma(r * q, horner(q, pairs_sine), r), cosine_rest = q * horner(q, pairs_cosine);
+  const auto row = SineCosineRow(angle.row);
+  const auto s = row.column0, c = row.column2;
+  return {XorSign(y, OnePart{fma(c, sine_of_r, fma(s, cosine_rest, s))}),
+          {fnma(s, sine_of_r, fma(c, cosine_rest, c))},
+          angle.refused};
+}
+LUM_INLINE SineAndCosine<HeadTail> SineCosineOfReduced(Vec<Lum64f> y, const ReducedAngle<HeadTail>& angle) {
+  const auto r = angle.r.head, r_tail = angle.r.tail;
+  const auto q = r * r;
+  const auto sine_rest = fma(r * q, horner(q, pairs_sine), r_tail);
+  const auto cosine_rest = fnma(r, r_tail, q * horner(q, pairs_cosine));
+  const auto row = SineCosineRow(angle.row);
+  const HeadTail s{row.column0, row.column1}, c{row.column2, row.column3};
+  const auto for_sine = two_product(c.head, r), for_cosine = two_product(s.head, r);
+  const auto sine = fast_two_sum(s.head, for_sine.head), cosine = fast_two_sum(c.head, negate(for_cosine.head));
+  const auto sine_tail = fma(c.tail, r, s.tail + (sine.tail + for_sine.tail));
+  const auto cosine_tail = fnma(s.tail, r, c.tail + (cosine.tail - for_cosine.tail));
+  return {XorSign(y, fast_two_sum(sine.head, fma(s.head, cosine_rest, fma(c.head, sine_rest, sine_tail)))),
+          fast_two_sum(cosine.head, fma(c.head, cosine_rest, fnma(s.head, sine_rest, cosine_tail))), angle.refused};
 }
 // The sine of a zero is that zero.
 template <class Number> LUM_INLINE SineAndCosine<Number> SineCosineOf(Vec<Lum64f> y) {
-  if constexpr (std::is_same_v<Number, OnePart>) return SineCosineOfReduced<Number>(y, ReduceAngleInOnePart(abs(y)));
-  else return SineCosineOfReduced<Number>(y, ReduceAngle(abs(y)));
+  if constexpr (std::is_same_v<Number, OnePart>) return SineCosineOfReduced(y, ReduceAngleInOnePart(abs(y)));
+  else return SineCosineOfReduced(y, ReduceAngle(abs(y)));
 }
 
 // The reduction of angles beyond the largest, by the remainder of turns in fixed-point numbers: an index of steps of pi/256 and
 // hi + lo, of which the odd steps go half to either side.
-[[gnu::noinline]] inline ReducedAngle ReduceFarAngle(const Vec<Lum64f>& magnitude) {
+[[gnu::noinline]] inline ReducedAngle<HeadTail> ReduceFarAngle(const Vec<Lum64f>& magnitude) {
   const auto turned = circular::ReduceLarge<Lum64f>(magnitude, all(uint64_t{0}));
   const auto is_odd = mask_cast<Lum64f>(test_any(turned.index, all(uint64_t{1})));
   const auto step = zero_unless(is_odd, or_sign(turned.hi, all(numbers::pi<Lum64f> / 256)));
