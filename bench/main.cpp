@@ -10,6 +10,7 @@
 #include "data.h"
 #include "peers.h"
 #include "special.h"
+#include "assists.h"
 #include "support/scalar_loop.h"
 
 namespace {
@@ -24,6 +25,7 @@ struct Options {
   std::string library;
   std::string base;
   bool special = false;
+  bool assists = false;
 };
 
 bool IsBuilt(const std::string& name) {
@@ -42,7 +44,11 @@ void RegisterAll(const Options& options) {
   const std::string instructions = IsBuilt(name_of_library) ? name_of_library : std::string(FastestLibrary());
   const Library library = Load(name_of_library);
   if (options.special) {
-    lum::bench::RegisterSpecial(library, options.functions, instructions);
+    lum::bench::TakeSpecial(library, options.functions, instructions, Register);
+    return;
+  }
+  if (options.assists) {
+    lum::bench::TakeSpecial(library, options.functions, "", lum::bench::PrintAssists);
     return;
   }
   std::optional<Library> base;
@@ -99,6 +105,10 @@ int main(int argc, char** argv) {
                "arrays with special arguments: zeros, infinities, NaN, results at the ends of the range")
       ->excludes(lengths)
       ->excludes(base);
+  app.add_flag("--assists", options.assists,
+               "count the operations on those arrays that meet or make denormal numbers, of a library built for it")
+      ->excludes(lengths)
+      ->excludes(base);
   app.allow_extras();
   app.prefix_command(false);
   try {
@@ -109,6 +119,7 @@ int main(int argc, char** argv) {
     CheckFunctions(options);
     for (const std::string& line : lum::bench::AbsentPeers()) fmt::print(stderr, "bench: {}\n", line);
     RegisterAll(options);
+    if (options.assists) return 0;
     int count = static_cast<int>(theirs.size());
     benchmark::Initialize(&count, theirs.data());
     if (count > 1) throw std::runtime_error(fmt::format("unknown option '{}'", theirs[1]));

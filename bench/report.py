@@ -4,6 +4,8 @@
 report.py BUILD [FUNCTION...]                 measure, all functions when none is named
 report.py BUILD --compare BASE [FUNCTION...]  measure this build and another one side by side, and write nothing
 report.py BUILD --special [FUNCTION...]       measure arrays with special arguments, and write docs/special-arguments.md and its data
+report.py BUILD --assists [FUNCTION...]       count their microcode assists at denormal numbers; those of all functions go into
+                                              docs/data/assists.csv
 report.py BUILD --library NAME [FUNCTION...]  measure the library of a layer, a2 or p0, against the peers for its instructions,
                                               and write docs/performance-NAME.md and its data
 
@@ -22,6 +24,7 @@ import function_pages
 import measured_data as data
 import port_bound
 import special_arguments
+import assists
 from runs import machine, merged, run_benchmarks
 
 DATA = catalogue.ROOT / "docs/data/performance.csv"
@@ -184,6 +187,7 @@ def main():
     mode = parser.add_mutually_exclusive_group()
     mode.add_argument("--compare", type=Path, metavar="BASE")
     mode.add_argument("--special", action="store_true")
+    mode.add_argument("--assists", action="store_true")
     mode.add_argument("--library", choices=LIBRARIES)
     mode.add_argument("--lengths", help="lengths of the arrays, separated by commas")
     mode.add_argument("--pages", action="store_true", help="measure nothing, write the page anew")
@@ -193,6 +197,9 @@ def main():
         return 0
     if arguments.special:
         special_arguments.report(arguments.build, arguments.functions)
+        return 0
+    if arguments.assists:
+        assists.report(arguments.build, arguments.functions)
         return 0
     if arguments.compare:
         base = arguments.compare / "liblumvmk0.so" if arguments.compare.is_dir() else arguments.compare

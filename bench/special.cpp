@@ -96,8 +96,8 @@ std::vector<SpecialClass> ClassesOf(const Export& entry) {
   return result;
 }
 
-void RegisterShare(const support::Library& library, const std::vector<const Export*>& levels, const SpecialClass& special,
-                   const Share& share, std::string_view instructions) {
+void TakeShare(const support::Library& library, const std::vector<const Export*>& levels, const SpecialClass& special,
+               const Share& share, std::string_view instructions, const Taker& take) {
   const auto data = std::make_shared<Data>(*levels[0], length);
   std::mt19937_64 engine(2);
   size_t turn = 0;
@@ -117,30 +117,30 @@ void RegisterShare(const support::Library& library, const std::vector<const Expo
     if ((!has_all_tags && !is_high) || (!special.tags.empty() && special.tags.find(entry->tag) == std::string_view::npos))
       continue;
     void* address = library.Symbol(entry->name);
-    Register(name(entry->tag.empty() ? "lumvm" : entry->tag), data, length,
-             [address, entry](const support::Arguments& a) { CallAddress(address, *entry, a); });
+    take(name(entry->tag.empty() ? "lumvm" : entry->tag), data, length,
+         [address, entry](const support::Arguments& a) { CallAddress(address, *entry, a); });
   }
-  if (const auto scalar = support::FindScalarLoop(*levels[0]); scalar != nullptr)
-    Register(name("scalar"), data, length, scalar);
+  if (instructions.empty()) return;
+  if (const auto scalar = support::FindScalarLoop(*levels[0]); scalar != nullptr) take(name("scalar"), data, length, scalar);
   for (const auto& peer : FindPeers(*levels[0], instructions)) {
-    if (peer.name == "sleef_u10" || peer.name == "libmvec") Register(name(peer.name), data, length, peer.loop);
+    if (peer.name == "sleef_u10" || peer.name == "libmvec") take(name(peer.name), data, length, peer.loop);
   }
 }
 
 }  // namespace
 
-void RegisterSpecial(const support::Library& library, const std::vector<std::string>& functions,
-                     std::string_view instructions) {
+void TakeSpecial(const support::Library& library, const std::vector<std::string>& functions, std::string_view instructions,
+                 const Taker& take) {
   std::vector<const Export*> levels;
   const auto flush = [&] {
     if (levels.empty()) return;
     const auto classes = ClassesOf(*levels[0]);
     for (const SpecialClass& special : classes) {
       for (const Share& share : shares) {
-        if (share.period != 0) RegisterShare(library, levels, special, share, instructions);
+        if (share.period != 0) TakeShare(library, levels, special, share, instructions, take);
       }
     }
-    RegisterShare(library, levels, {"ordinary", {}, ""}, shares[0], instructions);
+    TakeShare(library, levels, {"ordinary", {}, ""}, shares[0], instructions, take);
     levels.clear();
   };
   for (const Export& entry : support::Exports()) {

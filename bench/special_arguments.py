@@ -4,6 +4,7 @@ import csv
 import statistics
 
 import catalogue
+import assists
 from runs import machine, run_benchmarks
 
 DATA = catalogue.ROOT / "docs/data/special.csv"
@@ -58,6 +59,17 @@ Of its classes of arguments the one with the longest time, all elements being su
 {functions}
 
 [Why some remain slow](notes/speed.md#special-arguments).
+
+## Denormal numbers
+
+Many processors take a microcode assist of some 150 cycles for a product, a fused sum, a division or a conversion that meets or
+makes a denormal number. Such operations can be counted on any processor, by their exceptions: `./run bench --assists`
+([data/assists.csv](data/assists.csv)). A vector operation counts once; a vector has 8 elements of 64 bits or 16 of 32. Where all
+elements are special:
+
+| arguments | arrays | without an assist | less than one a vector | worst, assists an element |
+|---|--:|--:|--:|---|
+{assists}
 """
 
 
@@ -146,6 +158,25 @@ def draw(figures):
     figure.savefig(PICTURE, facecolor="white", metadata={"Date": None})
 
 
+KINDS = {"denormal": ["denormal", "smallest positive"], "tiny, whose squares are denormal": ["tiny", "small"], "others": [""]}
+
+
+def assists_lines(figures):
+    """Lines of a table of the assists, by the kind of arguments."""
+    counts = assists.stored()
+    lines, taken = [], set()
+    for kind, words in KINDS.items():
+        arrays = [(function, argument) for function, argument, _ in figures.arrays("all")
+                  if (function, argument) not in taken and any(word in argument for word in words)]
+        taken.update(arrays)
+        found = {array: counts.get((*array, "all"), 0) for array in arrays}
+        a_vector = {array: count * (8 if "_64" in array[0] else 16) for array, count in found.items()}
+        worst = max(found, key=found.get)
+        lines.append(f"| {kind} | {len(arrays)} | {sum(n == 0 for n in found.values())} | {sum(n < 0.5 for n in a_vector.values())} | "
+                     f"{found[worst]:.2g}: {worst[0].replace('_', ' ')}, {worst[1]} |")
+    return lines
+
+
 def write_page(rows):
     figures = Figures(rows)
     everywhere = list(figures.arrays("all"))
@@ -155,7 +186,7 @@ def write_page(rows):
     PAGE.write_text(PAGE_TEXT.format(
         machine=machine(), summary="\n".join(summary_line(figures, share) for share in SHARES), worst=table(figures, worst),
         slower=table(figures, slower[:WORST]) if slower else "None.",
-        functions="\n".join(function_line(figures, function) for function in order)))
+        functions="\n".join(function_line(figures, function) for function in order), assists="\n".join(assists_lines(figures))))
     draw(figures)
 
 

@@ -40,7 +40,11 @@ inline constexpr Variant element_loop_variant{MxcsrForm::strict, X87Form::double
 inline constexpr uint32_t mxcsr_flags = 0x003F;  // of the six exceptions
 inline constexpr uint32_t mxcsr_precision_flag = 0x0020;
 inline constexpr uint32_t mxcsr_denormals_are_zero = 0x0040;
-inline constexpr uint32_t mxcsr_masks = 0x1F80;     // of the six exceptions
+#ifdef LUM_COUNTS_ASSISTS
+inline constexpr uint32_t mxcsr_masks = 0x1680;  // denormal operands and results raise exceptions where the caller lets them
+#else
+inline constexpr uint32_t mxcsr_masks = 0x1F80;  // of the six exceptions
+#endif
 inline constexpr uint32_t mxcsr_rounding = 0x6000;  // 0: to nearest
 inline constexpr uint32_t mxcsr_flush_to_zero = 0x8000;
 inline constexpr uint16_t x87_masks = 0x003F;

@@ -9,7 +9,12 @@ inline namespace avx512 {
 
 // ---- Arithmetic
 
+// A rounding, and no exceptions, but for those by which assists for denormal numbers are counted.
+#ifdef LUM_COUNTS_ASSISTS
+template <int R> inline constexpr int suppressed = R == rn ? _MM_FROUND_CUR_DIRECTION : R | _MM_FROUND_NO_EXC;
+#else
 template <int R> inline constexpr int suppressed = R | _MM_FROUND_NO_EXC;
+#endif
 
 template <int R = rn, Floating T> LUM_INLINE Vec<T> add(Vec<T> a, Vec<T> b) {
   if constexpr (is32<T>) return {_mm512_add_round_ps(a.v, b.v, suppressed<R>)};

@@ -73,11 +73,9 @@ template <Integer T> LUM_INLINE Vec<T> max(Vec<T> a, Vec<T> b) {
 // ---- Conversions
 
 // The low or high half of the lanes, widened; exact.
-LUM_INLINE Vec<double> widen_low(Vec<float> a) {
-  return {_mm512_cvt_roundps_pd(_mm512_castps512_ps256(a.v), _MM_FROUND_NO_EXC)};
-}
+LUM_INLINE Vec<double> widen_low(Vec<float> a) { return {_mm512_cvt_roundps_pd(_mm512_castps512_ps256(a.v), suppressed<rn>)}; }
 LUM_INLINE Vec<double> widen_high(Vec<float> a) {
-  return {_mm512_cvt_roundps_pd(_mm512_extractf32x8_ps(a.v, 1), _MM_FROUND_NO_EXC)};
+  return {_mm512_cvt_roundps_pd(_mm512_extractf32x8_ps(a.v, 1), suppressed<rn>)};
 }
 LUM_INLINE Vec<int64_t> widen_low(Vec<int32_t> a) { return {_mm512_cvtepi32_epi64(_mm512_castsi512_si256(a.v))}; }
 LUM_INLINE Vec<int64_t> widen_high(Vec<int32_t> a) { return {_mm512_cvtepi32_epi64(_mm512_extracti32x8_epi32(a.v, 1))}; }
