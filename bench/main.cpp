@@ -7,10 +7,10 @@
 #include <CLI/CLI.hpp>
 #include <memory>
 
+#include "assists.h"
 #include "data.h"
 #include "peers.h"
 #include "special.h"
-#include "assists.h"
 #include "support/scalar_loop.h"
 
 namespace {
