@@ -11,7 +11,9 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <csignal>
+#include <cstddef>
 #include <cstdint>
 #endif
 
@@ -25,16 +27,17 @@ constexpr uint32_t of_denormals = 0x0900;  // the masks of denormal operands and
 
 // Counts by address, in a table that a signal handler may write.
 struct Count {
-  uintptr_t address;
+  const std::byte* address;
   uint32_t assists;
 };
 std::array<Count, 1 << 14> counts;
 
 void CountAndStepOn(int, siginfo_t*, void* state) {
   auto& machine = static_cast<ucontext_t*>(state)->uc_mcontext;
-  const auto address = static_cast<uintptr_t>(machine.gregs[REG_RIP]);
-  size_t i = address * 0x9E3779B97F4A7C15u >> 50;
-  while (counts[i].address != 0 && counts[i].address != address) i = (i + 1) % counts.size();
+  const auto instruction = static_cast<uint64_t>(machine.gregs[REG_RIP]);
+  const auto address = std::bit_cast<const std::byte*>(instruction);
+  size_t i = instruction * 0x9E3779B97F4A7C15u >> 50;
+  while (counts[i].address != nullptr && counts[i].address != address) i = (i + 1) % counts.size();
   counts[i].address = address;
   ++counts[i].assists;
   // The instruction is done anew with the exceptions masked, and traps behind it.
@@ -69,8 +72,8 @@ void PrintAssists(const std::string& name, const std::shared_ptr<Data>& data, in
   fmt::print("{}|{}", name, len);
   for (size_t i = 0; counts[i].assists != 0; ++i) {
     Dl_info info = {};
-    dladdr(reinterpret_cast<void*>(counts[i].address), &info);
-    fmt::print("|{:x}:{}", counts[i].address - reinterpret_cast<uintptr_t>(info.dli_fbase), counts[i].assists);
+    dladdr(counts[i].address, &info);
+    fmt::print("|{:x}:{}", counts[i].address - static_cast<const std::byte*>(info.dli_fbase), counts[i].assists);
   }
   fmt::print("\n");
 }
