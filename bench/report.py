@@ -7,7 +7,8 @@ report.py BUILD --special [FUNCTION...]       measure arrays with special argume
 report.py BUILD --assists [FUNCTION...]       count their microcode assists at denormal numbers; those of all functions go into
                                               docs/data/assists.csv
 report.py BUILD --library NAME [FUNCTION...]  measure the library of a layer, a2 or p0, against the peers for its instructions,
-                                              and write docs/performance-NAME.md and its data
+                                              and write docs/performance-NAME.md and its data; with --special, its arrays with
+                                              special arguments
 
 BUILD is a build folder; BASE a build folder or a library file."""
 
@@ -92,7 +93,7 @@ The highest tags: ns an element and, in parentheses, the time of the scalar loop
 Names of which a peer is the faster one, with its time over ours:
 
 {behind}
-
+{special}
 ## All names
 
 {names}
@@ -146,6 +147,7 @@ def write_library_page(library):
     rows, behind = overview(stored)
     page = LIBRARY_PAGE.format(library=library, what=LIBRARIES[library], length=data.MAIN_LENGTH, machine=machine(),
                                table="\n".join(rows), behind="\n".join(f"- {name}" for name in behind) or "none",
+                               special=special_arguments.section(library),
                                names="\n".join(function_pages.speed_table(catalogue.rows(), stored)))
     catalogue.write_if_changed(catalogue.ROOT / f"docs/performance-{library}.md", page)
 
@@ -188,15 +190,21 @@ def main():
     mode.add_argument("--compare", type=Path, metavar="BASE")
     mode.add_argument("--special", action="store_true")
     mode.add_argument("--assists", action="store_true")
-    mode.add_argument("--library", choices=LIBRARIES)
     mode.add_argument("--lengths", help="lengths of the arrays, separated by commas")
     mode.add_argument("--pages", action="store_true", help="measure nothing, write the page anew")
+    parser.add_argument("--library", choices=LIBRARIES)
     arguments = parser.parse_intermixed_args()  # functions may stand behind options
     if arguments.pages:
         write_page()
         return 0
+    if arguments.library and (arguments.compare or arguments.assists or arguments.lengths):
+        parser.error("--library goes with --special alone")
     if arguments.special:
-        special_arguments.report(arguments.build, arguments.functions)
+        special_arguments.measure(arguments.build, arguments.functions, arguments.library)
+        if arguments.library:
+            write_library_page(arguments.library)
+        else:
+            special_arguments.write_page()
         return 0
     if arguments.assists:
         assists.report(arguments.build, arguments.functions)

@@ -1,4 +1,5 @@
-"""The speed of special arguments: measures it, and writes docs/data/special.csv, docs/special-arguments.md and its picture."""
+"""The speed of special arguments: measures it, and writes docs/data/special.csv, docs/special-arguments.md and its picture; of the
+library of a layer docs/data/special-<library>.csv and a section of its page."""
 
 import csv
 import statistics
@@ -7,7 +8,7 @@ import catalogue
 import assists
 from runs import machine, run_benchmarks
 
-DATA = catalogue.ROOT / "docs/data/special.csv"
+DATA = catalogue.ROOT / "docs/data"
 PAGE = catalogue.ROOT / "docs/special-arguments.md"
 PICTURE = catalogue.ROOT / "docs/images/special-arguments.svg"
 PARTS = ["function", "length", "who", "argument", "share"]
@@ -72,11 +73,39 @@ elements are special:
 {assists}
 """
 
+SECTION = """
+## Special arguments
 
-def measured(build, function):
+Arrays with special arguments, as on [the page of the AVX-512 library](special-arguments.md), by the share of special elements:
+
+| share | arrays | time over the ordinary one, median | more than 3 times | slower than the loop | slower than SLEEF |
+|---|--:|--:|--:|--:|--:|
+{summary}
+
+The worst where all elements are special, by the loop's time over ours. To repeat: `./run bench --special --library {library}`.
+
+{slower}
+"""
+
+
+def data_file(library):
+    return DATA / (f"special-{library}.csv" if library else "special.csv")
+
+
+def stored_rows(library=None):
+    """The stored figures by their keys."""
+    path = data_file(library)
+    if not path.exists():
+        return {}
+    with path.open() as file:
+        return {tuple(row[part] for part in KEYS): row for row in csv.DictReader(file)}
+
+
+def measured(build, function, library):
     """Wide rows: a function, a class of arguments, a share; the ticks of each candidate."""
     rows = {}
-    for row in run_benchmarks(build, [function], ["--special"], PARTS, repetitions=7, of_all=min, min_time=0.0003):
+    extra = ["--special", *(["--library", library] if library else [])]
+    for row in run_benchmarks(build, [function], extra, PARTS, repetitions=7, of_all=min, min_time=0.0003):
         key = tuple(row[part] for part in KEYS)
         rows.setdefault(key, dict(zip(KEYS, key)))[LEVELS.get(row["who"], row["who"])] = f"{float(row['ticks']):.3g}"
     return rows
@@ -177,30 +206,44 @@ def assists_lines(figures):
     return lines
 
 
-def write_page(rows):
-    figures = Figures(rows)
-    everywhere = list(figures.arrays("all"))
-    worst = sorted(everywhere, key=lambda a: -a[2]["high"] / figures.ordinary(a[0]))[:WORST]
-    slower = sorted((a for a in everywhere if "scalar" in a[2] and ratio(a[2], "scalar") < 0.9), key=lambda a: ratio(a[2], "scalar"))
+def slower_than_loop(figures):
+    """The arrays of special elements alone on which the loop is the faster one, by its time over ours."""
+    arrays = [a for a in figures.arrays("all") if "scalar" in a[2] and ratio(a[2], "scalar") < 0.9]
+    return sorted(arrays, key=lambda a: ratio(a[2], "scalar"))
+
+
+def summary(figures):
+    return "\n".join(summary_line(figures, share) for share in SHARES)
+
+
+def section(library):
+    """What the page of a layer's library says of special arguments."""
+    rows = stored_rows(library)
+    if not rows:
+        return ""
+    figures = Figures(rows.values())
+    return SECTION.format(library=library, summary=summary(figures), slower=table(figures, slower_than_loop(figures)[:WORST]))
+
+
+def write_page():
+    figures = Figures(stored_rows().values())
+    worst = sorted(figures.arrays("all"), key=lambda a: -a[2]["high"] / figures.ordinary(a[0]))[:WORST]
+    slower = slower_than_loop(figures)
     order = [f"{row.function}_{row.type}" for row in catalogue.rows() if f"{row.function}_{row.type}" in figures.by_function]
     PAGE.write_text(PAGE_TEXT.format(
-        machine=machine(), summary="\n".join(summary_line(figures, share) for share in SHARES), worst=table(figures, worst),
+        machine=machine(), summary=summary(figures), worst=table(figures, worst),
         slower=table(figures, slower[:WORST]) if slower else "None.",
         functions="\n".join(function_line(figures, function) for function in order), assists="\n".join(assists_lines(figures))))
     draw(figures)
 
 
-def report(build, functions):
-    stored = {}
-    if DATA.exists():
-        with DATA.open() as file:
-            stored = {tuple(row[part] for part in KEYS): row for row in csv.DictReader(file)}
+def measure(build, functions, library=None):
+    """Measures the functions, or all, and stores the figures beside those of the others."""
+    stored = stored_rows(library)
     for function in functions or dict.fromkeys(row.function for row in catalogue.rows()):
         stored = {key: row for key, row in stored.items() if key[0].rsplit("_", 1)[0] != function}
-        stored.update(measured(build, function))
-    rows = [row for _, row in sorted(stored.items())]
-    with DATA.open("w", newline="") as file:
+        stored.update(measured(build, function, library))
+    with data_file(library).open("w", newline="") as file:
         writer = csv.DictWriter(file, [*KEYS, *CANDIDATES], lineterminator="\n", restval="")
         writer.writeheader()
-        writer.writerows(rows)
-    write_page(rows)
+        writer.writerows(row for _, row in sorted(stored.items()))
