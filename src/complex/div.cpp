@@ -162,6 +162,7 @@ struct A53_64fc : QuotientKernel<Lum64fc> {
   // parts that are so small or large that it could matter, NaN, and numbers that are zero as a whole. All calls share one
   // copy of either and of its stack.
   static constexpr bool scales_all = !vectors_fit_registers || streams_fit_registers;
+  static constexpr bool is_called = !scales_all;
   static LUM_INLINE Mask<Lum64f> IsExtreme(ComplexVec<Lum64f> z) {
     const auto low = all(0x1p-100), high = all(0x1p100), zero = all(0.0);
     const auto re = abs(z.re), im = abs(z.im);

@@ -29,16 +29,30 @@ LUM_INLINE int64_t Block(const K& kernel, const Arrays<K, n, m>& arrays, int64_t
   return i + block_of<K>;
 }
 
+// A tail with elements that the first path refuses.
+template <class K, int n, int m>
+LUM_INLINE void RefusedTail(const K& kernel, const Arrays<K, n, m>& arrays, int64_t i, int count, Call& call) {
+  if constexpr (HasSecondPath<K>) TailOfBothPaths<K, n, m>(kernel, arrays, i, count, call);
+  else FinishLanes(kernel, arrays, i, count, call);
+}
+
 // A vector of fewer elements, the rest of its lanes holding the fill.
 template <class K, int n, int m>
 LUM_INLINE void TailStep(const K& kernel, const Arrays<K, n, m>& arrays, int64_t i, int count, Call& call) {
+  if constexpr (TakesHalves<K>) {
+    if (count <= step_of<K> / 2) {
+      const auto result = Compute<K, n>(kernel, LoadHalfStep<K, n, m>(arrays, i, count));
+      if constexpr (requires { result.refused; }) {
+        if (AnyInHalf(result.refused)) [[unlikely]]
+          return RefusedTail<K, n, m>(kernel, arrays, i, count, call);
+      }
+      return StoreHalfStep<K, n, m>(arrays, i, count, result);
+    }
+  }
   const auto result = ComputeTail<K, n>(kernel, LoadStep<K, n, m>(arrays, i, count), count);
   if constexpr (requires { result.refused; }) {
-    if (any(result.refused)) [[unlikely]] {
-      if constexpr (HasSecondPath<K>) TailOfBothPaths<K, n, m>(kernel, arrays, i, count, call);
-      else FinishLanes(kernel, arrays, i, count, call);
-      return;
-    }
+    if (any(result.refused)) [[unlikely]]
+      return RefusedTail<K, n, m>(kernel, arrays, i, count, call);
   }
   StoreStep<K, n, m>(arrays, i, count, result);
 }
@@ -60,6 +74,7 @@ template <class K, int n, int m> LUM_INLINE LumStatus RunChecked(const K& kernel
   while (i + block_of<K> <= len) i = Block<K, n, m>(kernel, arrays, i, len, call, std::make_index_sequence<vectors_of<K>>());
   for (; i < len; i += step_of<K>) {
     TailStep<K, n, m>(kernel, arrays, i, static_cast<int>(std::min<int64_t>(step_of<K>, len - i)), call);
+    if constexpr (vectors_fit_registers && vectors_of<K> == 1) break;
   }
   Leave(call.environment);
   return call.status;

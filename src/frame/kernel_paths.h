@@ -20,7 +20,8 @@
 //     Optional: whether the first path refuses all lanes, from the arguments by a few operations, so that the loop over both
 //     paths runs the second one alone.
 // Constants that a kernel may override: variant, vectors (in a block), fill (of inactive lanes: never to be refused), is_short
-// (a vector path of a few operations, which is inlined in either layer), aligns_stores (a function that takes no longer than
+// (a vector path of a few operations, which is inlined in either layer), is_called (a vector path that is a function by itself,
+// which takes as long for half a vector), aligns_stores (a function that takes no longer than
 // the memory, whose long arrays begin with the elements up to the first aligned one), and those of the second path:
 //   second_is_short: a few operations, so that it costs less to run it than to see whether a vector needs it, or to bring the
 //   refused elements of several vectors together.
@@ -52,6 +53,7 @@ template <class InputElement, class OutputElement = InputElement> struct Kernel 
   static constexpr Variant variant = common_variant;
   static constexpr int vectors = 2;
   static constexpr bool is_short = false;
+  static constexpr bool is_called = false;
   static constexpr bool aligns_stores = false;
   static constexpr Real<Input> fill = Real<Input>(0.75);
   static constexpr bool second_is_short = false;
@@ -285,6 +287,16 @@ template <class K, int n, int m> LUM_INLINE Inputs<K, n> LoadStep(const Arrays<K
   else return {LoadElements(count, a.src[0] + i, K::fill), LoadElements(count, a.src[1] + i, K::fill)};
 }
 
+// Tails of at most half a vector take one of its two registers, where that spares something.
+template <class K>
+concept TakesHalves = has_halves && !K::is_short && !K::is_called && !requires {
+  &K::TailPath;
+};
+template <class K, int n, int m> LUM_INLINE Inputs<K, n> LoadHalfStep(const Arrays<K, n, m>& a, int64_t i, int count) {
+  if constexpr (n == 1) return {LoadHalf(count, a.src[0] + i, K::fill)};
+  else return {LoadHalf(count, a.src[0] + i, K::fill), LoadHalf(count, a.src[1] + i, K::fill)};
+}
+
 // Without an array of results, which g++ would have on the stack.
 template <class Result> LUM_INLINE const auto& Value(const Result& r) {
   if constexpr (requires { r.value; }) return r.value;
@@ -305,6 +317,15 @@ LUM_INLINE void StoreStep(const Arrays<K, n, m>& a, int64_t i, int count, const 
     StoreElements(count, a.dst[1] + i, r.value2);
   } else {
     StoreElements(count, a.dst[0] + i, Value(r));
+  }
+}
+template <class K, int n, int m, class Result>
+LUM_INLINE void StoreHalfStep(const Arrays<K, n, m>& a, int64_t i, int count, const Result& r) {
+  if constexpr (m == 2) {
+    StoreHalf(count, a.dst[0] + i, r.value1);
+    StoreHalf(count, a.dst[1] + i, r.value2);
+  } else {
+    StoreHalf(count, a.dst[0] + i, Value(r));
   }
 }
 

@@ -101,4 +101,18 @@ requires is_complex<E> LUM_INLINE void StoreElements(int count, E* p, Packed<E> 
   store_first(std::max(2 * count - lanes, 0), parts + lanes, x.high);
 }
 
+// The same where the first count elements are at most half a step, and whether a mask has any of its elements.
+template <Lane T> LUM_INLINE Vec<T> LoadHalf(int count, const T* p, T fill) { return load_half(count, p, fill); }
+template <class E>
+requires is_complex<E> LUM_INLINE Packed<E> LoadHalf(int count, const E* p, Real<E> fill) {
+  using T = Real<E>;
+  const auto filled = all(fill);
+  return {load(first_lanes<T>(2 * count), &p->re, filled), filled};
+}
+template <Lane T> LUM_INLINE void StoreHalf(int count, T* p, Vec<T> x) { store_half(count, p, x); }
+template <class E>
+requires is_complex<E> LUM_INLINE void StoreHalf(int count, E* p, Packed<E> x) { store_first(2 * count, &p->re, x.low); }
+template <Lane T> LUM_INLINE bool AnyInHalf(Mask<T> m) { return any_in_half(m); }
+template <Floating T> LUM_INLINE bool AnyInHalf(ComponentMask<T> m) { return any(m.low); }
+
 }  // namespace lum::inline LUM_LAYER

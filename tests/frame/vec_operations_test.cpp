@@ -192,7 +192,8 @@ TEST(VecOperations, AllLayersDefineTheSameOperationsInTheSameOrder) {
       "signed_fma",        "called_fma",  "called_mul",       "called_div",        "negate_every_other",
       "restore_nan",       "raw",         "unsigned_part",    "by_lane",           "directed_fma",
       "of_unknown_origin", "JoinedTable", "each_part_in_two", "rounded_halves_up", "interleaved",
-      "half_with_care",    "with_care",   "in_two",           "any_small_product"};
+      "half_with_care",    "with_care",   "in_two",           "any_small_product", "load_half",
+      "store_half",        "any_in_half"};
   for (const char* layer : {"portable", "avx2"}) {
     std::vector<std::string> names;
     for (const auto& name : OperationsOfLayer(layer))

@@ -26,6 +26,8 @@ inline constexpr bool permutes_doubles = false;
 // The compilers may exchange the operands of sums and products, so that of two NaNs the other one is taken.
 inline constexpr bool orders_nans = false;
 inline constexpr bool streams_fit_registers = false;
+// Whether a vector is two registers, so that a step of few elements can do without the second.
+inline constexpr bool has_halves = true;
 
 // ---- Make, load, store
 
@@ -41,6 +43,13 @@ template <Lane T> LUM_INLINE Vec<T> load(const T* p) { return {half::load(p), ha
 // The lanes of the mask from memory, which alone is read; the others from fill.
 template <Lane T> LUM_INLINE Vec<T> load(Mask<T> mask, const T* p, Vec<T> fill) {
   return {half::load(mask.low, p, fill.low), half::load(mask.high, p + Half<T>::lanes, fill.high)};
+}
+
+// The first count lanes, at most half of them, the others from fill. The compiler drops what is done for the second register
+// where nothing asks for it.
+template <Lane T> LUM_INLINE Vec<T> load_half(int count, const T* p, T fill) {
+  const auto filled = half::all(fill);
+  return {half::load(half::first_lanes<T>(count, 0), p, filled), filled};
 }
 
 template <Lane T> LUM_INLINE void store(T* p, Vec<T> a) {
@@ -81,6 +90,8 @@ template <Lane T> LUM_INLINE void store_first(int count, T* p, Vec<T> a) {
   half::store(p, a.low);
   if (count > lanes) half::store_first(count - lanes, p + lanes, a.high);
 }
+// The first count lanes, at most half of them.
+template <Lane T> LUM_INLINE void store_half(int count, T* p, Vec<T> a) { half::store_first(count, p, a.low); }
 template <Lane T> LUM_INLINE Mask<T> mask_of(uint32_t lane_bits) {
   return {half::mask_of<T>(lane_bits, 0), half::mask_of<T>(lane_bits, Half<T>::lanes)};
 }
@@ -95,6 +106,7 @@ template <Lane T> LUM_INLINE Mask<T> operator|(Mask<T> a, Mask<T> b) { return {a
 template <Lane T> LUM_INLINE Mask<T> operator^(Mask<T> a, Mask<T> b) { return {a.low ^ b.low, a.high ^ b.high}; }
 template <Lane T> LUM_INLINE Mask<T> operator~(Mask<T> a) { return {~a.low, ~a.high}; }
 template <Lane T> LUM_INLINE bool any(Mask<T> a) { return half::any(a.low | a.high); }
+template <Lane T> LUM_INLINE bool any_in_half(Mask<T> a) { return half::any(a.low); }
 template <Lane T> LUM_INLINE bool none(Mask<T> a) { return !any(a); }
 // The masks of two vectors of doubles as that of one vector of floats, and its halves.
 LUM_INLINE Mask<float> join(Mask<double> low, Mask<double> high) {

@@ -34,6 +34,7 @@ inline constexpr bool estimates_take_all = true;
 inline constexpr bool permutes_doubles = true;
 inline constexpr bool orders_nans = true;
 inline constexpr bool streams_fit_registers = true;
+inline constexpr bool has_halves = false;
 
 // ---- Make, load, store
 

@@ -21,6 +21,7 @@ inline constexpr bool estimates_take_all = true;
 inline constexpr bool permutes_doubles = true;
 inline constexpr bool orders_nans = false;
 inline constexpr bool streams_fit_registers = false;
+inline constexpr bool has_halves = false;
 
 // ---- Make, load, store
 
