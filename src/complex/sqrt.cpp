@@ -144,9 +144,9 @@ struct A50_64fc : SqrtKernel<Lum64fc> {
     const auto y = abs(z.im);
     const auto s = Scale(abs(z.re), y);
     const auto square = fma(s.a, s.a, s.b * s.b);
-    const auto modulus = HeronStep(square, CoupledStep(roots::Start(square, rsqrt14(square))));
+    const auto modulus = HeronStep(square, CoupledStep(roots::Start(square, rsqrt14_normal(square))));
     const auto u = all(0.5) * (s.a + modulus);
-    const auto roots = CoupledStep(roots::Start(u, rsqrt14(u)));
+    const auto roots = CoupledStep(roots::Start(u, rsqrt14_normal(u)));
     const auto root = HeronStep(u, roots);
     const auto half_reciprocal = fma(fnma(root, roots.h, all(0.5)), roots.h + roots.h, roots.h);
     const auto large = root * PowerOfTwo<Lum64f>(s.h);
@@ -159,17 +159,17 @@ struct A50_64fc : SqrtKernel<Lum64fc> {
 LUM_INLINE Vec<Lum64f> DoubleRoot(Vec<Lum64f> x) {
   const auto is_small = lt(x, all(0.5));
   const auto scaled = select(is_small, x * all(0x1p108), x);
-  const auto root = HeronStep(scaled, CoupledStep(roots::Start(scaled, rsqrt14(scaled))));
+  const auto root = HeronStep(scaled, CoupledStep(roots::Start(scaled, rsqrt14_normal(scaled))));
   const auto unscaled = select(is_small, root * all(0x1p-54), root);
   return zero_unless(ne(x, all(0.0)), unscaled);
 }
 
-// a / b of positive normal numbers, |error| below 2^-27.
+// a / b of positive numbers of binary32, |error| below 2^-27; of a zero any value.
 LUM_INLINE Vec<Lum64f> DoubleQuotient(Vec<Lum64f> a, Vec<Lum64f> b) {
-  const auto fraction = getmant<significand::from_1_to_2>(b);
-  const auto estimate = rcp14(fraction);
+  const auto fraction = getmant_normal<significand::from_1_to_2>(b);
+  const auto estimate = rcp14_normal(fraction);
   const auto reciprocal = fma(fnma(fraction, estimate, all(1.0)), estimate, estimate);
-  return scalef(getmant<significand::from_1_to_2>(a) * reciprocal, getexp(a) - getexp(b));
+  return scalef_normal(getmant_normal<significand::from_1_to_2>(a) * reciprocal, getexp_normal(a) - getexp_normal(b));
 }
 
 struct A24_32fc : SqrtKernel<Lum32fc, /*refuses_numbers=*/false> {
