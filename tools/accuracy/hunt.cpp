@@ -224,6 +224,9 @@ class Search {
       if (!is_exact && (!subject.is_own || is_high)) continue;
       caller_.Call(subject.call, *results_);
       values_.Errors(*results_, errors_);
+      for (size_t i = 0; i < hunt_block; ++i) {
+        if (std::fabs(points_->part[0][i]) > subject.reach) errors_[i] = 0;
+      }
       judge->Add(*points_, *results_, errors_, doubt);
       (is_exact ? judge->result().judged : judge->result().crossed) += hunt_block;
       if (is_exact) judge->AddToCurve(*points_, errors_);
@@ -274,10 +277,9 @@ class Search {
     values_.Take(*long_);
   }
 
-  // Whether the results of both libraries are the same, and the C library's may be trusted: its circular functions have lost
-  // most digits at some large arguments.
+  // Whether the results of both libraries are the same, and the C library's may be trusted.
   bool IsEqual(size_t i) const {
-    if (is_circular_ && !(std::fabs(points_->part[0][i]) < 0x1p26)) return false;
+    if (is_circular_ && !(std::fabs(points_->part[0][i]) < circular_reach)) return false;
     for (size_t part = 0; part < static_cast<size_t>(Parts(first_)); ++part) {
       const double a = (*results_)[part][i], b = (*wide_)[part][i];
       if (std::bit_cast<uint64_t>(a) != std::bit_cast<uint64_t>(b) && !(std::isnan(a) && std::isnan(b))) return false;
@@ -324,14 +326,18 @@ class Search {
   HuntColumn errors_;
 
   support::ScalarLoop c_loop_ = nullptr;
-  bool is_circular_ =
-      first_.function == "Sin" || first_.function == "Cos" || first_.function == "SinCos" || first_.function == "Tan";
+  bool is_circular_ = IsCircular(first_);
   size_t differing_count_ = 0;
   std::unique_ptr<HuntPoints> differing_ = std::make_unique<HuntPoints>();
   std::unique_ptr<std::array<HuntColumn, 2>> differing_results_ = std::make_unique<std::array<HuntColumn, 2>>();
 };
 
 }  // namespace
+
+bool IsCircular(const Export& entry) {
+  constexpr std::array names = {"Sin", "Cos", "SinCos", "Tan"};
+  return std::ranges::find(names, entry.function) != names.end();
+}
 
 bool HasReference(const Export& entry) { return FindReference(entry) != nullptr; }
 

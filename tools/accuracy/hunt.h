@@ -4,6 +4,7 @@
 
 #include <chrono>
 #include <functional>
+#include <limits>
 #include <string>
 #include <vector>
 
@@ -18,7 +19,12 @@ struct HuntSubject {
   std::function<void(const support::Arguments&)> call;
   double bound;  // infinite where nothing is promised
   bool is_own;   // of the library; others are judged in the exact blocks alone
+  double reach = std::numeric_limits<double>::infinity();  // first arguments beyond are not judged
 };
+
+// The C library's circular functions of binary64 are known to lose most digits at some arguments beyond.
+inline constexpr double circular_reach = 0x1p26;
+bool IsCircular(const support::Export& entry);
 
 // Shares of the results for arguments of the ordinary interval, by their error in ulp.
 inline constexpr double distribution_limits[] = {0.5, 0.51, 0.6, 0.75, 1};

@@ -62,6 +62,7 @@ void AddPeers(std::vector<HuntSubject>& subjects, const Export& entry) {
   }
   if (const support::ScalarLoop loop = support::FindScalarLoop(entry)) {
     subjects.push_back({"libm", &entry, loop, nothing_promised, false});
+    if (IsCircular(entry)) subjects.push_back({"libm below 2^26", &entry, loop, nothing_promised, false, circular_reach});
   }
 }
 
