@@ -17,8 +17,8 @@ struct HuntSubject {
   std::string name;  // the tag, or who
   const support::Export* entry;
   std::function<void(const support::Arguments&)> call;
-  double bound;  // infinite where nothing is promised
-  bool is_own;   // of the library; others are judged in the exact blocks alone
+  double bound;                                            // infinite where nothing is promised
+  bool is_own;                                             // of the library; others are judged in the exact blocks alone
   double reach = std::numeric_limits<double>::infinity();  // first arguments beyond are not judged
 };
 
