@@ -5,6 +5,7 @@
 #include <fmt/format.h>
 
 #include <CLI/CLI.hpp>
+#include <filesystem>
 #include <memory>
 
 #include "assists.h"
@@ -39,9 +40,19 @@ Library Load(const std::string& name) {
   return *library;
 }
 
+// The layer of a built library or of a file by its name; the processor's fastest one where neither tells.
+std::string LayerOf(const std::string& library) {
+  const std::string stem = std::filesystem::path(library).stem().string();
+  const std::string_view prefix = "liblumvm";
+  for (const std::string& name : {library, stem.starts_with(prefix) ? stem.substr(prefix.size()) : stem}) {
+    if (IsBuilt(name)) return name;
+  }
+  return std::string(FastestLibrary());
+}
+
 void RegisterAll(const Options& options) {
   const std::string name_of_library = options.library.empty() ? std::string(FastestLibrary()) : options.library;
-  const std::string instructions = IsBuilt(name_of_library) ? name_of_library : std::string(FastestLibrary());
+  const std::string instructions = LayerOf(name_of_library);
   const Library library = Load(name_of_library);
   if (options.special) {
     lum::bench::TakeSpecial(library, options.functions, instructions, Register);

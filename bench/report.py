@@ -6,9 +6,9 @@ report.py BUILD --compare BASE [FUNCTION...]  measure this build and another one
 report.py BUILD --special [FUNCTION...]       measure arrays with special arguments, and write docs/special-arguments.md and its data
 report.py BUILD --assists [FUNCTION...]       count their microcode assists at denormal numbers; those of all functions go into
                                               docs/data/assists.csv
-report.py BUILD --library NAME [FUNCTION...]  measure the library of a layer, a2 or p0, against the peers for its instructions,
-                                              and write docs/performance-NAME.md and its data; with --special, its arrays with
-                                              special arguments
+report.py BUILD --library NAME [FUNCTION...]  measure the library of a layer, a2, p0 or p0-v3, against the peers for its
+                                              instructions, and write docs/performance-NAME.md and its data; with --special, its
+                                              arrays with special arguments
 
 BUILD is a build folder; BASE a build folder or a library file."""
 
@@ -53,7 +53,8 @@ frequency).
 
 These are the figures of a processor with AVX-512. One with AVX2 alone takes [the layer for it](performance-a2.md), mostly two to
 three times as long; an older one [the portable layer](performance-p0.md), which is there for its bits and is slower than a loop over
-the standard library. Zeros, infinities and other special arguments have [a page of their own](special-arguments.md).
+the standard library. Built for other processors with a fused multiply-add, [that layer](performance-p0-v3.md) is mostly faster than
+the loop. Zeros, infinities and other special arguments have [a page of their own](special-arguments.md).
 
 Measured on {machine}. To repeat: `./run bench` (or `./run bench Exp`); `./run bench --compare BUILD Exp` sets two builds side
 by side. [data/performance.csv](data/performance.csv) has all figures."""
@@ -74,7 +75,8 @@ Names of which a peer is the faster one, with its time over ours:
 """
 
 
-LIBRARIES = {"a2": "the library for AVX2 and FMA", "p0": "the portable library, built for any x86-64 processor"}
+LIBRARIES = {"a2": "the library for AVX2 and FMA", "p0": "the portable library, built for any x86-64 processor",
+             "p0-v3": "the portable library, built for processors with a fused multiply-add"}
 LIBRARY_PAGE = """<!-- Written by `./run bench --library {library}` (bench/report.py) from docs/data/performance-{library}.csv; do not edit. -->
 # Performance of {what}
 
@@ -142,6 +144,16 @@ def write_page():
     catalogue.write_if_changed(PAGE, text)
 
 
+def library_argument(build, library):
+    """The program's argument for a library. The one for x86-64-v3 is that of the tests of other processors."""
+    if library != "p0-v3":
+        return library
+    path = build / "cross/x86-64-v3/liblumvmp0.so"
+    if not path.exists():
+        sys.exit(f"bench: {path} is not built; ./run cross builds it")
+    return str(path.resolve())
+
+
 def write_library_page(library):
     stored = data.times(f"performance-{library}.csv")
     rows, behind = overview(stored)
@@ -200,7 +212,8 @@ def main():
     if arguments.library and (arguments.compare or arguments.assists or arguments.lengths):
         parser.error("--library goes with --special alone")
     if arguments.special:
-        special_arguments.measure(arguments.build, arguments.functions, arguments.library)
+        measured = arguments.library and library_argument(arguments.build, arguments.library)
+        special_arguments.measure(arguments.build, arguments.functions, arguments.library, measured)
         if arguments.library:
             write_library_page(arguments.library)
         else:
@@ -219,8 +232,9 @@ def main():
         return 0
     if arguments.library:
         rows = []
+        measured = library_argument(arguments.build, arguments.library)
         for function in arguments.functions or dict.fromkeys(row.function for row in catalogue.rows()):
-            extra = ["--library", arguments.library, "--lengths", f"1,{data.MAIN_LENGTH}"]
+            extra = ["--library", measured, "--lengths", f"1,{data.MAIN_LENGTH}"]
             rows += run_benchmarks(arguments.build, [function], extra, PARTS)
         merged(rows, catalogue.ROOT / f"docs/data/performance-{arguments.library}.csv", PARTS)
         write_library_page(arguments.library)

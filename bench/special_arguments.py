@@ -102,7 +102,8 @@ def stored_rows(library=None):
 
 
 def measured(build, function, library):
-    """Wide rows: a function, a class of arguments, a share; the ticks of each candidate."""
+    """Wide rows: a function, a class of arguments, a share; the ticks of each candidate. The library is that of the program's
+    argument, the fastest one where there is none."""
     rows = {}
     extra = ["--special", *(["--library", library] if library else [])]
     for row in run_benchmarks(build, [function], extra, PARTS, repetitions=7, of_all=min, min_time=0.0003):
@@ -237,12 +238,13 @@ def write_page():
     draw(figures)
 
 
-def measure(build, functions, library=None):
-    """Measures the functions, or all, and stores the figures beside those of the others."""
+def measure(build, functions, library=None, argument=None):
+    """Measures the functions, or all, of the library by the program's argument for it, and stores the figures beside those of the
+    others."""
     stored = stored_rows(library)
     for function in functions or dict.fromkeys(row.function for row in catalogue.rows()):
         stored = {key: row for key, row in stored.items() if key[0].rsplit("_", 1)[0] != function}
-        stored.update(measured(build, function, library))
+        stored.update(measured(build, function, argument))
     with data_file(library).open("w", newline="") as file:
         writer = csv.DictWriter(file, [*KEYS, *CANDIDATES], lineterminator="\n", restval="")
         writer.writeheader()
