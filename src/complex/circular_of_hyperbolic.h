@@ -15,6 +15,11 @@ template <class Hyperbolic, KeptNans kept> struct CircularEnds : Hyperbolic {
     core.value = Exchanged(core.value);
     return core;
   }
+  static LUM_INLINE CoreValue InDouble(ComplexVec<Lum64f> z) requires ComputesInDouble<Hyperbolic> {
+    auto core = Hyperbolic::InDouble(Exchanged(z));
+    core.value = Exchanged(core.value);
+    return core;
+  }
   static LUM_INLINE Mask<Lum64f> IsSpecial(ComplexVec<Lum64f> z) { return Hyperbolic::IsSpecial(Exchanged(z)); }
   static LUM_INLINE ComplexVec<Lum64f> OfSpecial(ComplexVec<Lum64f> z) {
     return OverI<kept>(Hyperbolic::OfSpecial(TimesI<kept>(z)));

@@ -4,6 +4,7 @@
 //   OfSpecial(z)   these values
 //   OfFar(z)       the values of any other numbers, from pairs whose exponent is put in at the end
 // and where it applies:
+//   InDouble(z)        of numbers of binary32 instead, in one part, with relative errors below narrowing_distance
 //   IsHard(z)          numbers inside the domain of the first path for which its pairs have too few bits
 //   no_float_is_far    the domain of the first path has all numbers of binary32
 #pragma once
@@ -50,6 +51,11 @@ LUM_INLINE CoreValue CoreValueOf(RoundedPart re, RoundedPart im, Mask<Lum64f> is
   return {{re.value, im.value}, is_known, ~(re.refused | im.refused)};
 }
 
+// Parts that NarrowedOfNeighbours makes sure of.
+LUM_INLINE CoreValue ValueOfParts(OnePart re, OnePart im, Mask<Lum64f> refused) {
+  return {{re.head, im.head}, ~refused, ~refused};
+}
+
 // value 2^exponent, the value at least 2^-200 in magnitude, or zero: products of such numbers keep all their bits.
 struct RaisedNumber {
   Vec<Lum64f> value, exponent;
@@ -91,7 +97,7 @@ struct NarrowedTwice {
   Vec<Lum32f> value;
   Mask<Lum32f> is_sure;
 };
-LUM_INLINE NarrowedTwice NarrowedOfNeighbours(Vec<Lum64f> low, Vec<Lum64f> high, double given_distance = 0x1p-51) {
+LUM_INLINE NarrowedTwice NarrowedOfNeighbours(Vec<Lum64f> low, Vec<Lum64f> high, double given_distance) {
   const auto distance = all(given_distance);
   const auto inner = narrow(fnma(low, distance, low), fnma(high, distance, high));
   const auto outer = narrow(fma(low, distance, low), fma(high, distance, high));
@@ -108,10 +114,9 @@ template <class Ends> LUM_INLINE CoreValue SpecialAtEnds(ComplexVec<Lum64f> z) {
   const auto by_rule = Ends::IsSpecial(z) & ~HasTwoNans(z);
   return {Ends::OfSpecial(z), by_rule, by_rule};
 }
-// Any values in the wanted lanes. All kernels of a function share it.
-template <class Ends> [[gnu::noinline]] CoreValue AnyAtEnds(const ComplexVec<Lum64f>& z, const Mask<Lum64f>& wanted) {
+// Any values in the wanted lanes.
+template <class Ends> LUM_INLINE CoreValue ValueAtEnds(ComplexVec<Lum64f> z, Mask<Lum64f> wanted) {
   const auto special = Ends::IsSpecial(z);
-  if (none(wanted & ~special)) return SpecialAtEnds<Ends>(z);
   auto result = Ends::OfFar(z);
   result.is_known = result.is_known & ~special;
   if (any(wanted & special)) {
@@ -120,6 +125,24 @@ template <class Ends> [[gnu::noinline]] CoreValue AnyAtEnds(const ComplexVec<Lum
               result.is_sure | by_rule.is_sure};
   }
   return result;
+}
+// Those of the low register of a vector, also in the place of the high one: half the stack, of which a call may take little.
+template <class Ends, class Z, class M> [[gnu::noinline]] CoreValue RegisterAtEnds(const Z& z, const M& wanted) {
+  return ValueAtEnds<Ends>({low_register(z.re), low_register(z.im)}, low_register(wanted));
+}
+// All kernels of a function share it.
+template <class Ends, class Z, class M> [[gnu::noinline]] CoreValue AnyAtEnds(const Z& z, const M& wanted) {
+  if (none(wanted & ~Ends::IsSpecial(z))) return SpecialAtEnds<Ends>(z);
+  if constexpr (has_halves) {
+    auto result = RegisterAtEnds<Ends>(z, wanted);
+    const auto high = RegisterAtEnds<Ends>(Z{high_register(z.re), high_register(z.im)}, high_register(wanted));
+    result.value = {join_registers(result.value.re, high.value.re), join_registers(result.value.im, high.value.im)};
+    result.is_known = join_registers(result.is_known, high.is_known);
+    result.is_sure = join_registers(result.is_sure, high.is_sure);
+    return result;
+  } else {
+    return ValueAtEnds<Ends>(z, wanted);
+  }
 }
 template <class Ends, bool has_far> LUM_INLINE CoreValue AtEnds(ComplexVec<Lum64f> z, Mask<Lum64f> wanted) {
   if constexpr (has_far) return AnyAtEnds<Ends>(z, wanted);
@@ -131,9 +154,10 @@ LUM_INLINE Lanes<Lum64fc> Finish(const CoreValue& core, const Lanes<Lum64fc>& la
   const auto finished = wanted & core.is_known & core.is_sure;
   return {join(Select(finished, core.value, split(lanes.value))), lanes.refused & ~finished};
 }
-LUM_INLINE Lanes<Lum32fc> Finish(const CoreValue& low, const CoreValue& high, const Lanes<Lum32fc>& lanes,
-                                 Mask<Lum32f> wanted) {
-  const auto re = NarrowedOfNeighbours(low.value.re, high.value.re), im = NarrowedOfNeighbours(low.value.im, high.value.im);
+LUM_INLINE Lanes<Lum32fc> Finish(const CoreValue& low, const CoreValue& high, const Lanes<Lum32fc>& lanes, Mask<Lum32f> wanted,
+                                 double distance = 0x1p-51) {
+  const auto re = NarrowedOfNeighbours(low.value.re, high.value.re, distance),
+             im = NarrowedOfNeighbours(low.value.im, high.value.im, distance);
   const auto finished = wanted & join(low.is_known, high.is_known) & re.is_sure & im.is_sure;
   const auto value = split(lanes.value);
   return {join(ComplexVec<Lum32f>{select(finished, re.value, value.re), select(finished, im.value, value.im)}),
@@ -145,11 +169,27 @@ template <class Ends, bool has_far = true>
 LUM_INLINE Lanes<Lum64fc> SecondPathAsCore(Interleaved<Lum64f> z, const Lanes<Lum64fc>& lanes, Mask<Lum64f> wanted) {
   return Finish(AtEnds<Ends, has_far>(split(z), wanted), lanes, wanted);
 }
+// Those of binary32 numbers, in one part where a function has it.
+template <class Ends> [[gnu::noinline]] CoreValue ValueInDouble(const ComplexVec<Lum64f>& z) { return Ends::InDouble(z); }
+template <class Ends>
+concept ComputesInDouble = requires(ComplexVec<Lum64f> z) {
+  Ends::InDouble(z);
+};
 template <class Ends, bool has_far = !requires { Ends::no_float_is_far; }
 > LUM_INLINE Lanes<Lum32fc> SecondPathAsCore(Interleaved<Lum32f> packed, const Lanes<Lum32fc>& lanes, Mask<Lum32f> wanted) {
   const auto z = split(packed);
-  return Finish(AtEnds<Ends, has_far>(WidenLow(z), low_half(wanted)), AtEnds<Ends, has_far>(WidenHigh(z), high_half(wanted)),
-                lanes, wanted);
+  const auto low = WidenLow(z), high = WidenHigh(z);
+  if constexpr (ComputesInDouble<Ends>) {
+    const auto special = join(Ends::IsSpecial(low), Ends::IsSpecial(high));
+    auto r = lanes;
+    if (any(wanted & ~special)) {
+      r = Finish(ValueInDouble<Ends>(low), ValueInDouble<Ends>(high), r, wanted & ~special, narrowing_distance<OnePart>);
+    }
+    if (none(wanted & special)) return r;
+    return Finish(SpecialAtEnds<Ends>(low), SpecialAtEnds<Ends>(high), r, wanted & special);
+  } else {
+    return Finish(AtEnds<Ends, has_far>(low, low_half(wanted)), AtEnds<Ends, has_far>(high, high_half(wanted)), lanes, wanted);
+  }
 }
 
 // The overflows that cores report: infinite parts of a result whose arguments are finite and have no zero part.

@@ -30,6 +30,10 @@ struct CoshEnds {
     return CoreValueOf(RoundedProduct(f.cosh, f.cosine, f.cosh_exponent),
                        RoundedProduct(f.sinh, f.sine, f.sinh_exponent + f.sine_exponent), f.is_known);
   }
+  static LUM_INLINE CoreValue InDouble(ComplexVec<Lum64f> z) {
+    const auto f = FactorsInDouble(z.re, z.im, beyond_binary32);
+    return ValueOfParts(Product(f.cosh, f.cosine), Product(f.sinh, f.sine), f.refused);
+  }
   static LUM_INLINE Mask<Lum64f> IsSpecial(ComplexVec<Lum64f> z) { return IsSpecialPair(z.re, z.im); }
   static LUM_INLINE ComplexVec<Lum64f> OfSpecial(ComplexVec<Lum64f> z) {
     const auto x = z.re, y = z.im, twice = x + x, nan = y - y;
@@ -43,6 +47,7 @@ struct CoshEnds {
 
 struct CosEnds {
   static LUM_INLINE CoreValue OfFar(ComplexVec<Lum64f> z) { return CoshEnds::OfFar({negate(z.im), z.re}); }
+  static LUM_INLINE CoreValue InDouble(ComplexVec<Lum64f> z) { return CoshEnds::InDouble({negate(z.im), z.re}); }
   static LUM_INLINE Mask<Lum64f> IsSpecial(ComplexVec<Lum64f> z) { return IsSpecialPair(z.im, z.re); }
   static LUM_INLINE ComplexVec<Lum64f> OfSpecial(ComplexVec<Lum64f> z) {
     return CoshEnds::OfSpecial(TimesI<KeptNans::positive>(z));

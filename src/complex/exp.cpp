@@ -79,31 +79,11 @@ struct SingleExponential {
   }
 };
 
-// e^z of binary32 numbers in binary64, whose errors stay below eight last places.
-[[gnu::noinline]] ComplexVec<Lum64f> ExponentialInDouble(const ComplexVec<Lum64f>& z);
-
 template <class E> struct ExpKernel : Kernel<E> {
   static constexpr int vectors = 1;
   static constexpr bool second_is_shared = true;
   static LUM_INLINE Finished<E> SecondPath(Packed<E> packed, const Lanes<E>& lanes) {
-    if constexpr (streams_fit_registers && std::is_same_v<E, Lum32fc>) {
-      auto r = OfNumbers(packed, lanes);
-      if (any(r.refused)) r = SecondPathAsCore<ExpEnds, false>(packed, r, r.refused);
-      return {r.value, r.refused, {.overflow = OverflowsOf(r, lanes.refused) & ~CannotOverflow(split(packed))}};
-    } else {
-      return ReportingSecondPath<ExpEnds>(packed, lanes, lanes.refused);
-    }
-  }
-  // Without NaN and infinite imaginary parts.
-  static LUM_INLINE Lanes<Lum32fc> OfNumbers(Interleaved<Lum32f> packed, const Lanes<Lum32fc>& lanes) {
-    const auto z = split(packed), value = split(lanes.value);
-    const auto wanted = lanes.refused & ~(unord(z.re, z.re) | IsNonFinite(z.im));
-    if (none(wanted)) return lanes;
-    const auto low = ExponentialInDouble(WidenLow(z)), high = ExponentialInDouble(WidenHigh(z));
-    constexpr double distance = 0x1p-49;
-    const auto re = NarrowedOfNeighbours(low.re, high.re, distance), im = NarrowedOfNeighbours(low.im, high.im, distance);
-    const auto finished = wanted & re.is_sure & im.is_sure;
-    return {join(Select(finished, {re.value, im.value}, value)), lanes.refused & ~finished};
+    return ReportingSecondPath<ExpEnds>(packed, lanes, lanes.refused);
   }
   static LumStatus LaneRoutine(const E& z, E& result) { return ReportingCoreOnLane<CoreExp>(z, result); }
 };
@@ -232,29 +212,6 @@ struct A53_64fc : ExpKernel<Lum64fc> {
     return {join(result), nlt(abs(x), all(512.0)) | nlt(a, all(512.0))};
   }
 };
-
-// Sine and cosine of a large |y| by the next of 512 angles of a turn and the addition theorem.
-LUM_INLINE SineCosine SineCosineOfLarge(Vec<Lum64f> y) {
-  const auto [index, r, rest] = circular::ReduceLarge(y);
-  const auto [cos_tail, cos_head, s, s_tail] = gather_rows<Lum64f>(circular::angles_64f, shift_left<2>(index));
-  const auto c = cos_head + cos_tail, q = r * r;
-  const auto sine = r + fma(horner(q, circular::large_sine_64f) * q, r, rest),
-             versine = horner(q, circular::large_cosine_64f) * q;
-  return {fma(c, sine, fma(s, versine, s)) ^ sign_of(y), fnma(s, sine, fma(c, versine, c))};
-}
-ComplexVec<Lum64f> ExponentialInDouble(const ComplexVec<Lum64f>& z) {
-  // Beyond the limits all results overflow, or vanish.
-  const auto e = A53_64fc::ExponentialOf(max(min(z.re, all(250.0)), all(-250.0)));
-  const auto size = fma(e.power, e.excess, e.power);
-  const auto is_large = lt(all(0x1p23), abs(z.im));
-  auto angle = SineCosine{z.im, z.im};
-  if (any(is_large)) angle = SineCosineOfLarge(z.im);
-  if (any(~is_large)) {
-    const auto small = circular::SineAndCosine_A50::Ordinary(z.im);
-    angle = {select(is_large, angle.sine, small.sine), select(is_large, angle.cosine, small.cosine)};
-  }
-  return {size * angle.cosine, size * angle.sine};
-}
 
 }  // namespace
 

@@ -3,8 +3,7 @@
 #pragma once
 
 #include "complex/core_second_path.h"
-#include "complex/pairs/circular.h"
-#include "complex/pairs/exponential.h"
+#include "complex/hyperbolic_factors.h"
 
 namespace lum::inline LUM_LAYER::complex {
 
@@ -16,11 +15,15 @@ struct ExpEnds {
     const auto power = ExponentialOf(e.reduced);
     // The sine of a number so small is the number.
     const auto angle = Raised(z.im);
-    const auto circular = SineCosineOfAny(angle.value);
+    const auto circular = SineCosineOfAny<HeadTail>(angle.value);
     const auto re = Product(power, circular.cosine), im = Product(power, circular.sine);
-    constexpr double product_error = 4.3125;
     return CoreValueOf(RoundedAtEnds(re, abs(re.head) * all(product_error), e.exponent),
                        RoundedAtEnds(im, abs(im.head) * all(product_error), e.exponent + angle.exponent), ~circular.refused);
+  }
+  static LUM_INLINE CoreValue InDouble(ComplexVec<Lum64f> z) {
+    const auto power = Exponential<OnePart>(max(min(z.re, all(beyond_binary32)), all(-beyond_binary32)));
+    const auto circular = SineCosineOfAny<OnePart>(z.im);
+    return ValueOfParts(Product(power, circular.cosine), Product(power, circular.sine), circular.refused);
   }
   // Beside a finite imaginary part an infinite real one is as a large number.
   static LUM_INLINE Mask<Lum64f> IsSpecial(ComplexVec<Lum64f> z) { return unord(z.re, z.re) | IsNonFinite(z.im); }

@@ -14,7 +14,7 @@ struct ScaledFactors {
 };
 LUM_INLINE ScaledFactors FactorsOfAny(Vec<Lum64f> exponent, Vec<Lum64f> angle) {
   const auto raised_angle = Raised(angle), raised = Raised(exponent);
-  const auto circular = SineCosineOfAny(raised_angle.value);
+  const auto circular = SineCosineOfAny<HeadTail>(raised_angle.value);
   // Beyond this limit every product overflows. From the first multiple on, e^-x does not count.
   const auto x = min(abs(raised.value), all(1500.0));
   const auto k = max(rndscale<binary_places(0) | quiet>(fma(x, all(numbers::log2_e<Lum64f> / 512), all(-1.0))), all(0.0));

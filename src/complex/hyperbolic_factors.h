@@ -23,6 +23,15 @@ template <class Number> LUM_INLINE Factors<Number> FactorsOf(Vec<Lum64f> exponen
   return {circular.sine, circular.cosine, hyperbolic.sinh, hyperbolic.cosh, refused};
 }
 
+// The factors of any numbers of binary32, in one part: beyond the limit all results are as they are there.
+LUM_INLINE Factors<OnePart> FactorsInDouble(Vec<Lum64f> exponent, Vec<Lum64f> angle, double limit) {
+  const auto circular = SineCosineOfAny<OnePart>(angle);
+  const auto hyperbolic = HyperbolicPair<OnePart>(or_sign(exponent, min(abs(exponent), all(limit))));
+  return {circular.sine, circular.cosine, hyperbolic.sinh, hyperbolic.cosh, circular.refused};
+}
+// Every product with an exponential of this number overflows, or vanishes.
+constexpr double beyond_binary32 = 250;
+
 // A product of two factors that are right to 0.56 units in the last place of Extended, rounded; and one of the pairs to 2^-64.
 constexpr double product_error = 4.3125;
 

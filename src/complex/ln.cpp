@@ -16,32 +16,18 @@ namespace {
 
 using namespace complex;
 
-// The logarithm of binary32 numbers by the middle tag's steps in binary64, whose errors stay below four last places.
-[[gnu::noinline]] ComplexVec<Lum64f> LogarithmInDouble(const ComplexVec<Lum64f>& z);
+// Of binary32 numbers by the middle tag's steps in binary64, whose errors stay below four last places.
+struct LnEndsOfFloats : LnEnds {
+  [[maybe_unused]] static CoreValue InDouble(ComplexVec<Lum64f> z);
+};
+template <class E> using EndsFor = std::conditional_t<std::is_same_v<E, Lum32fc>, LnEndsOfFloats, LnEnds>;
 
 template <class E> struct LnKernel : Kernel<E> {
   static constexpr int vectors = 1;
   static constexpr bool second_is_shared = true;
   static void LaneRoutine(const E& z, E& result) { SilentCoreOnLane<CoreLog>(z, result); }
-  static LUM_INLINE Lanes<E> SecondPath(Packed<E> z, const Lanes<E>& given) {
-    if constexpr (streams_fit_registers && std::is_same_v<E, Lum32fc>) {
-      const auto lanes = OfFinite(z, given);
-      if (none(lanes.refused)) return lanes;
-      return SecondPathAsCore<LnEnds, false>(z, lanes, lanes.refused);
-    } else {
-      // The first path takes so much of the stack where it does not fit registers that there is no room for far numbers.
-      return SecondPathAsCore<LnEnds, streams_fit_registers>(z, given, given.refused);
-    }
-  }
-  static LUM_INLINE Lanes<Lum32fc> OfFinite(Interleaved<Lum32f> packed, const Lanes<Lum32fc>& lanes) {
-    const auto z = split(packed), value = split(lanes.value);
-    const auto wanted = lanes.refused & ~(HasNonFinitePart(z) | IsZero(z));
-    if (none(wanted)) return lanes;
-    const auto low = LogarithmInDouble(WidenLow(z)), high = LogarithmInDouble(WidenHigh(z));
-    constexpr double distance = 0x1p-49;
-    const auto re = NarrowedOfNeighbours(low.re, high.re, distance), im = NarrowedOfNeighbours(low.im, high.im, distance);
-    const auto finished = wanted & re.is_sure & im.is_sure;
-    return {join(Select(finished, {re.value, im.value}, value)), lanes.refused & ~finished};
+  static LUM_INLINE Lanes<E> SecondPath(Packed<E> z, const Lanes<E>& lanes) {
+    return SecondPathAsCore<EndsFor<E>>(z, lanes, lanes.refused);
   }
 };
 
@@ -149,9 +135,11 @@ template <class Ln, class Angle, bool has_all_places = false> struct Double : Ln
   }
 };
 
-ComplexVec<Lum64f> LogarithmInDouble(const ComplexVec<Lum64f>& z) {
+CoreValue LnEndsOfFloats::InDouble(ComplexVec<Lum64f> z) {
   const auto x = or_sign(z.re, max(abs(z.re), all(0x1p-900)));  // instead of zero, which would count as negative
-  return {LogOfModulus<explog::LnTerms_A50, true>(z.re, z.im), invcircular::arctan2::A50_64f::VectorPath(z.im, x).value};
+  const OnePart modulus{LogOfModulus<explog::LnTerms_A50, true>(z.re, z.im)},
+      angle{invcircular::arctan2::A50_64f::VectorPath(z.im, x).value};
+  return ValueOfParts(modulus, angle, mask_of<Lum64f>(0));
 }
 
 using A11_32fc = Single<3, invcircular::arctan2::Low<Lum32f>>;

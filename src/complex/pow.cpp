@@ -24,7 +24,6 @@ template <class Number> struct PowPath {
     const auto circular = SineCosineOf<Number>(angle);
     const auto refused = logarithm.refused | re.refused | im.refused | circular.refused | IsFar(exponent, largest_exponent) |
                          IsFar(angle, largest_angle);
-    constexpr double product_error = 4.3125;
     return SmallValueWithin(Product(e, circular.cosine), Product(e, circular.sine), product_error, refused);
   }
   [[gnu::noinline]] static PathValue<Number> CalledValue(const ComplexVec<Lum64f>& z, const ComplexVec<Lum64f>& w) {

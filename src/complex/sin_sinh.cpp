@@ -31,6 +31,10 @@ struct SinhEnds {
     return CoreValueOf(RoundedProduct(f.sinh, f.cosine, f.sinh_exponent),
                        RoundedProduct(f.cosh, f.sine, f.cosh_exponent + f.sine_exponent), f.is_known);
   }
+  static LUM_INLINE CoreValue InDouble(ComplexVec<Lum64f> z) {
+    const auto f = FactorsInDouble(z.re, z.im, beyond_binary32);
+    return ValueOfParts(Product(f.sinh, f.cosine), Product(f.cosh, f.sine), f.refused);
+  }
   static LUM_INLINE Mask<Lum64f> IsSpecial(ComplexVec<Lum64f> z) { return IsSpecialPair(z.re, z.im); }
   static LUM_INLINE ComplexVec<Lum64f> OfSpecial(ComplexVec<Lum64f> z) {
     const auto x = z.re, y = z.im, twice = x + x, nan = y - y;

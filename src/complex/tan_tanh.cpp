@@ -17,11 +17,13 @@ template <class Number> struct Tangent {
   Number hyperbolic, circular;
   Mask<Lum64f> refused;
 };
-template <class Number> LUM_INLINE Tangent<Number> TangentOf(Vec<Lum64f> exponent, Vec<Lum64f> angle) {
-  const auto f = FactorsOf<Number>(exponent, angle, vanishing);
+template <class Number> LUM_INLINE Tangent<Number> TangentOf(const Factors<Number>& f) {
   const auto c2 = Square(f.cosine), s2 = Square(f.sinh);
   const auto reciprocal = Quotient(NumberOf<Number>(all(1.0)), Add(c2, s2));
   return {Product(Product(f.sinh, f.cosh), reciprocal), Product(Product(f.sine, f.cosine), reciprocal), f.refused};
+}
+template <class Number> LUM_INLINE Tangent<Number> TangentOf(Vec<Lum64f> exponent, Vec<Lum64f> angle) {
+  return TangentOf(FactorsOf<Number>(exponent, angle, vanishing));
 }
 constexpr double tangent_error = 12;
 
@@ -58,6 +60,11 @@ struct TanhEnds {
     return CoreValueOf(rounded(Product(Product(f.sinh, f.cosh), reciprocal), f.sinh_exponent),
                        rounded(Product(Product(f.sine, f.cosine), factor), f.sine_exponent + zero_unless(beyond, e.exponent)),
                        f.is_known);
+  }
+  // At the limit the circular part vanishes in binary32.
+  static LUM_INLINE CoreValue InDouble(ComplexVec<Lum64f> z) {
+    const auto t = TangentOf(FactorsInDouble(z.re, z.im, 100));
+    return ValueOfParts(t.hyperbolic, t.circular, t.refused);
   }
   static LUM_INLINE Mask<Lum64f> IsSpecial(ComplexVec<Lum64f> z) { return IsSpecialPair(z.re, z.im); }
   static LUM_INLINE ComplexVec<Lum64f> OfSpecial(ComplexVec<Lum64f> z) {

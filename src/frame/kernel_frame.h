@@ -56,6 +56,16 @@ LUM_INLINE void TailStep(const K& kernel, const Arrays<K, n, m>& arrays, int64_t
   }
   StoreStep<K, n, m>(arrays, i, count, result);
 }
+// Both forms of a complex function's tail beside its blocks would take as much of the stack as all that follows a refusal.
+template <class K, int n, int m>
+[[gnu::noinline]] void CalledTailStep(const K& kernel, const Arrays<K, n, m>& arrays, int64_t i, int count, Call& call) {
+  TailStep<K, n, m>(kernel, arrays, i, count, call);
+}
+template <class K, int n, int m>
+LUM_INLINE void Tail(const K& kernel, const Arrays<K, n, m>& arrays, int64_t i, int count, Call& call) {
+  if constexpr (TakesHalves<K> && is_complex<typename K::Input>) CalledTailStep<K, n, m>(kernel, arrays, i, count, call);
+  else TailStep<K, n, m>(kernel, arrays, i, count, call);
+}
 
 // Elements of dst up to the first one at a whole vector's alignment: in a long array of a function that takes no longer than
 // the memory, stores that cross cache lines are what is slow.
@@ -70,10 +80,10 @@ template <class K, class T> LUM_INLINE int CountToAlignment(const T* dst, int64_
 template <class K, int n, int m> LUM_INLINE LumStatus RunChecked(const K& kernel, const Arrays<K, n, m>& arrays, int64_t len) {
   Call call{Enter<K::variant>()};
   int64_t i = CountToAlignment<K>(arrays.dst[0], len);
-  if (i != 0) TailStep<K, n, m>(kernel, arrays, 0, static_cast<int>(i), call);
+  if (i != 0) Tail<K, n, m>(kernel, arrays, 0, static_cast<int>(i), call);
   while (i + block_of<K> <= len) i = Block<K, n, m>(kernel, arrays, i, len, call, std::make_index_sequence<vectors_of<K>>());
   for (; i < len; i += step_of<K>) {
-    TailStep<K, n, m>(kernel, arrays, i, static_cast<int>(std::min<int64_t>(step_of<K>, len - i)), call);
+    Tail<K, n, m>(kernel, arrays, i, static_cast<int>(std::min<int64_t>(step_of<K>, len - i)), call);
     if constexpr (vectors_fit_registers && vectors_of<K> == 1) break;
   }
   Leave(call.environment);

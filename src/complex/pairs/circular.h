@@ -97,19 +97,26 @@ template <class Number> LUM_INLINE SineAndCosine<Number> SineCosineOf(Vec<Lum64f
   const auto row = shift_right<1>(select(rises, turned.index + all(uint64_t{1}), turned.index));
   return {row, r, lt(abs(r.head), all(0x1p-19))};
 }
-// Sine and cosine of any number, but for far ones where their reduction has no room on the stack.
-LUM_INLINE SineAndCosine<HeadTail> SineCosineOfAny(Vec<Lum64f> y) {
+LUM_INLINE ReducedAngle<OnePart> InOnePart(const ReducedAngle<HeadTail>& angle) {
+  return {angle.row, {angle.r.head}, lt(abs(angle.r.head), all(0x1p-30))};
+}
+template <class Number>
+LUM_INLINE ReducedAngle<Number> SelectAngle(Mask<Lum64f> m, const ReducedAngle<Number>& a, const ReducedAngle<Number>& b) {
+  return {select(mask_cast<uint64_t>(m), a.row, b.row), Select(m, a.r, b.r), (m & a.refused) | (b.refused & ~m)};
+}
+// Sine and cosine of any number.
+template <class Number> LUM_INLINE SineAndCosine<Number> SineCosineOfAny(Vec<Lum64f> y) {
   const auto magnitude = abs(y);
-  const auto far = nle(magnitude, all(largest_angle));
-  auto angle = ReduceAngle(magnitude);
-  if constexpr (!streams_fit_registers) {
-    angle.refused = angle.refused | far;
-  } else if (any(far)) {
-    const auto turned = ReduceFarAngle(magnitude);
-    angle = {select(mask_cast<uint64_t>(far), turned.row, angle.row), Select(far, turned.r, angle.r),
-             (far & turned.refused) | (angle.refused & ~far)};
+  const auto far = nle(magnitude, all(largest_angle_of<Number>));
+  if constexpr (std::is_same_v<Number, OnePart>) {
+    auto angle = ReduceAngleInOnePart(magnitude);
+    if (any(far)) angle = SelectAngle(far, InOnePart(ReduceFarAngle(magnitude)), angle);
+    return SineCosineOfReduced(y, angle);
+  } else {
+    auto angle = ReduceAngle(magnitude);
+    if (any(far)) angle = SelectAngle(far, ReduceFarAngle(magnitude), angle);
+    return SineCosineOfReduced(y, angle);
   }
-  return SineCosineOfReduced(y, angle);
 }
 
 }  // namespace lum::inline LUM_LAYER::complex

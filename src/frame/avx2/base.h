@@ -63,6 +63,14 @@ template <Lane T> LUM_INLINE void store(Mask<T> mask, T* p, Vec<T> a) {
   half::store(mask.high, p + Half<T>::lanes, a.high);
 }
 
+// One register of a vector in both places, of which the compiler computes one, and a vector of two such.
+template <Lane T> LUM_INLINE Vec<T> low_register(Vec<T> a) { return {a.low, a.low}; }
+template <Lane T> LUM_INLINE Vec<T> high_register(Vec<T> a) { return {a.high, a.high}; }
+template <Lane T> LUM_INLINE Vec<T> join_registers(Vec<T> low, Vec<T> high) { return {low.low, high.low}; }
+template <Lane T> LUM_INLINE Mask<T> low_register(Mask<T> m) { return {m.low, m.low}; }
+template <Lane T> LUM_INLINE Mask<T> high_register(Mask<T> m) { return {m.high, m.high}; }
+template <Lane T> LUM_INLINE Mask<T> join_registers(Mask<T> low, Mask<T> high) { return {low.low, high.low}; }
+
 // ---- Reinterpretation
 
 template <Floating T> LUM_INLINE Vec<UnsignedOf<T>> bits(Vec<T> a) { return {half::bits(a.low), half::bits(a.high)}; }
