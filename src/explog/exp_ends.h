@@ -17,14 +17,22 @@ template <int scale> LUM_INLINE Vec<Lum32f> RoundedToDenormal(Vec<Lum32f> v) {
   return as_float(bits(v + all(addend)) - bits(all(addend)));
 }
 
+// v 2^floor(n) where that is no denormal number, for n from -2 bias to 2 bias: in two steps where one factor for it may lie
+// beyond the normal numbers and there is no instruction for it. A v that is a NaN stays.
+template <class T> LUM_INLINE Vec<T> ScaledInTwo(Vec<T> v, Vec<T> n) {
+  if constexpr (estimates_take_all && vectors_fit_registers) return scalef(v, n);
+  const auto half = rndscale<binary_places(0) | rd | quiet>(n * all(T(0.5)));
+  return scalef_normal(scalef_normal(v, half), n - half);
+}
+
 // e^x of numbers between the refusal and the ends, in the lanes of the mask; the others hold an ordinary number.
 LUM_INLINE Lanes<Lum32f> ExpFloatAtEnds(Vec<Lum32f> x) {
   const auto a = ExpFloatReduced(x);
   const auto denormal = lt(x, all(ExpLimits<Lum32f>::denormal));
-  const auto raised = scalef(a.p, a.m + all(60.0f));
+  const auto raised = scalef_normal(a.p, zero_unless(denormal, a.m) + all(60.0f));
   // The error of p may bring it above the smallest normal number.
   const auto rounds = denormal & le(raised, all(0x1p-66f));
-  const auto normal = scalef(a.p, select(rounds, all(0.0f), a.m));
+  const auto normal = ScaledInTwo(a.p, zero_unless(~rounds, a.m));
   return {select(rounds, RoundedToDenormal<60>(raised), normal), mask_of<Lum32f>(0)};
 }
 
@@ -40,12 +48,12 @@ LUM_INLINE ExpDoubleValue ExpDoubleAtEnds(Vec<Lum64f> x) {
 
 LUM_INLINE Lanes<Lum64f> ExpAtEnds(Vec<Lum64f> x) {
   const auto a = ExpDoubleAtEnds(x);
-  const auto normal = scalef(a.head + a.p, a.exponent);
   const auto denormal = lt(x, all(ExpLimits<Lum64f>::denormal));
+  const auto normal = ScaledInTwo(a.head + a.p, zero_unless(~denormal, a.exponent));
   if (!any(denormal)) return {normal, mask_of<Lum64f>(0)};
   // The steps of ExpScaledToDenormal.
   const auto exponent = select(denormal, a.exponent, all(-1000.0)) + all(60.0);
-  const auto up = scalef(a.p, exponent), b = scalef(a.head, exponent);
+  const auto up = scalef_normal(a.p, exponent), b = scalef_normal(a.head, exponent);
   const auto s = b + up;
   constexpr double unit = 0x1p-962;  // its last bit is worth 2^60 times the smallest positive number
   const auto counted = [](Vec<Lum64f> v, double addend) __attribute__((always_inline)) {

@@ -55,7 +55,7 @@ template <class T> LUM_INLINE Vec<T> ExpTail(const ExpReduced<T>& a) { return pe
 LUM_INLINE Vec<Lum64f> ExpInBinary64(Vec<Lum64f> x) {
   const auto a = ReduceExp<2>(x);
   const auto head = ExpHead(a);
-  return scalef(fma(horner(a.r, explog::exp_A50), head * a.r, head), a.n);
+  return scalef_normal(fma(horner(a.r, explog::exp_A50), head * a.r, head), a.n);
 }
 
 }  // namespace lum::inline LUM_LAYER::explog

@@ -86,13 +86,16 @@ template <class T, size_t entries> LUM_INLINE Vec<T> Lookup(const Table<T, entri
 // s q + (s - 1) with the sign of x.
 template <class T> LUM_INLINE Vec<T> Join(Vec<T> x, Vec<T> s, Vec<T> q) { return or_sign(x, fma(s, q, s - all(T(1)))); }
 
-// Large positive arguments; without a NaN, which runs through, or with it.
-template <class T> LUM_INLINE Mask<T> Refused(Vec<T> x) { return le(all(Expm1Constants<T>::threshold), x); }
-template <class T> LUM_INLINE Mask<T> RefusedWithNan(Vec<T> x) { return nlt(x, all(Expm1Constants<T>::threshold)); }
-
+// Large positive arguments and NaN.
+template <class T> LUM_INLINE Mask<T> Refused(Vec<T> x) { return nlt(x, all(Expm1Constants<T>::threshold)); }
 // s, kept from vanishing, so that s - 1 has a well-formed error.
 template <class T> LUM_INLINE Vec<T> LowerBoundedScale(Vec<T> head, Vec<T> n) {
-  return scalef(head, max(n, all(Expm1Constants<T>::lowest_n)));
+  return scalef_normal(head, max(n, all(Expm1Constants<T>::lowest_n)));
+}
+// The low and middle tags need no bound and no refusal of NaN where any power of 2 takes one instruction.
+template <class T> LUM_INLINE Lanes<T> JoinScaled(Vec<T> x, Vec<T> head, Vec<T> n, Vec<T> q) {
+  if constexpr (estimates_take_all) return {Join(x, scalef(head, n), q), le(all(Expm1Constants<T>::threshold), x)};
+  else return {Join(x, LowerBoundedScale(head, n), q), Refused(x)};
 }
 
 // (s + s tail)(e^(r + lo)) - 1 in two parts, added at last, with e^r = 1 + r + r^2 p.
@@ -125,8 +128,13 @@ template <class T, class AtEnds> LUM_INLINE Finished<T> SecondPathBy(Vec<T> x, c
   return result;
 }
 
+template <class T> struct Expm1Kernel : Kernel<T> {
+  static constexpr bool refuses_by_class = true;
+  static constexpr bool second_is_short = vectors_fit_registers && !packs_lanes;
+};
+
 // The tiers whose lane routine computes in binary32.
-struct Float : Kernel<Lum32f> {
+struct Float : Expm1Kernel<Lum32f> {
   static LumStatus LaneRoutine(Lum32f x, Lum32f& result) { return LaneRoutineBy(ExpFloatRoutine, x, result); }
   static LUM_INLINE Finished<Lum32f> SecondPath(Vec<Lum32f> x, const Lanes<Lum32f>& lanes) {
     return SecondPathBy(
@@ -134,7 +142,7 @@ struct Float : Kernel<Lum32f> {
   }
 };
 // The tiers whose lane routine computes in binary64.
-template <class T> struct ByDouble : Kernel<T> {
+template <class T> struct ByDouble : Expm1Kernel<T> {
   static LumStatus LaneRoutine(T x, T& result) { return LaneRoutineBy(ExpDoubleRoutine<T>, x, result); }
   static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) {
     return SecondPathBy(
@@ -146,7 +154,7 @@ struct A11_32f : Float {
   static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
     const auto a = Reduce<32, 1>(x);
     const auto q = fma(a.r * a.r, horner(a.r, explog::expm1_A11), a.r);
-    return {Join(x, scalef(Lookup(Grid<Lum32f, 32>::head, a.j), a.n), q), Refused(x)};
+    return JoinScaled(x, Lookup(Grid<Lum32f, 32>::head, a.j), a.n, q);
   }
 };
 
@@ -156,7 +164,7 @@ struct A21_32f : Float {
     const auto a = Reduce<32, 2>(x);
     const auto p = horner(a.r, explog::expm1_A21);
     const auto q = fma(a.r * a.r, p, Lookup(G::tail, a.j)) + a.r;
-    return {Join(x, scalef(Lookup(G::head, a.j), a.n), q), Refused(x)};
+    return JoinScaled(x, Lookup(G::head, a.j), a.n, q);
   }
 };
 
@@ -166,7 +174,7 @@ struct A24_32f : ByDouble<Lum32f> {
     const auto a = Reduce<16, 2>(x);
     const auto p = horner(a.r, explog::expm1_A24);
     const auto s = LowerBoundedScale(Lookup(G::head, a.j), a.n);
-    return {JoinCompensated(x, a, Lookup(G::tail, a.j), s, p), RefusedWithNan(x)};
+    return {JoinCompensated(x, a, Lookup(G::tail, a.j), s, p), Refused(x)};
   }
 };
 
@@ -179,7 +187,7 @@ struct A26_64f : Double {
     const auto a = Reduce<16, 1>(x);
     const auto r2 = a.r * a.r;
     const auto q = fma(r2, horner_of_pairs(a.r, r2, explog::expm1_A26), a.r);
-    return {Join(x, scalef(Lookup(G::head, a.j), a.n), q), Refused(x)};
+    return JoinScaled(x, Lookup(G::head, a.j), a.n, q);
   }
 };
 
@@ -192,7 +200,7 @@ struct A50_64f : Double {
     const auto r2 = a.r * a.r;
     const auto p = fma(r2, fma(r2, p6, p4), p2);
     const auto q = fma(r2, p, Lookup(G::tail, a.j)) + a.r;
-    return {Join(x, LowerBoundedScale(Lookup(G::head, a.j), a.n), q), RefusedWithNan(x)};
+    return {Join(x, LowerBoundedScale(Lookup(G::head, a.j), a.n), q), Refused(x)};
   }
 };
 
@@ -202,7 +210,7 @@ struct A53_64f : Double {
     const auto p1 = horner_of_pairs(a.r, a.r * a.r, part<1, 6>(explog::expm1_A53));
     const auto p = fma(p1, a.r, all(explog::expm1_A53.c[0]));
     const auto s = LowerBoundedScale(Lookup(G::head, a.j), a.n);
-    return {JoinCompensated(x, a, Lookup(G::tail, a.j), s, p), RefusedWithNan(x)};
+    return {JoinCompensated(x, a, Lookup(G::tail, a.j), s, p), Refused(x)};
   }
 };
 

@@ -15,7 +15,7 @@ struct LogarithmTerms {
 
 // One part each of ln 2 and the table.
 struct ShortLnTerms {
-  static constexpr int refused_classes = classes::zero | classes::infinity | classes::negative;  // a NaN passes through
+  static constexpr int refused_classes = refused_by_logarithms;
   static LUM_INLINE LogarithmTerms Terms(const ReciprocalReduction& a) {
     static constexpr auto rows = table64({
 #include "tables/generated/minus_ln_64f_8.inc"

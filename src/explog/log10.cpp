@@ -15,8 +15,15 @@ namespace {
 
 using namespace explog;
 
-using Float = LogarithmKernel<Lum32f, Log10Routine<Lum32f>>;
-using Double = LogarithmKernel<Lum64f, Log10Routine<Lum64f>>;
+// The kernels by parts, and what they refuse.
+template <class Tier, int significand_interval> struct Log10OfFloat : LogarithmOfParts<Lum32f, Log10Routine<Lum32f>, Tier> {
+  static constexpr int interval = significand_interval;
+  static constexpr int refused_classes = refused_by_logarithms;
+};
+template <class Tier> struct Log10OfDouble : LogarithmOfParts<Lum64f, Log10Routine<Lum64f>, Tier> {
+  static constexpr int interval = significand::from_1_to_2;
+  static constexpr int refused_classes = refused_by_logarithms;
+};
 
 constexpr auto segments_of_degree_3 = by_columns<3>(table32({
 #include "tables/generated/log10_segments_32f_16_degree_3.inc"
@@ -34,14 +41,14 @@ template <class T> LUM_INLINE Vec<T> Compensated(Vec<T> b, Vec<T> lo, Vec<T> r, 
   return s + fma(r, tail, error + lo);
 }
 
-struct A24_32f : Float {
+struct A24_32f : Log10OfFloat<A24_32f, significand::from_half_to_1> {
   // hi, then lo.
   static constexpr auto half_inverse = by_columns<2>(table32({
 #include "tables/generated/minus_log10_below_one_32f_32_pairs.inc"
   }));
-  static LUM_INLINE Lanes<Lum32f> VectorPath(Vec<Lum32f> x) {
+  static LUM_INLINE Vec<Lum32f> OfParts(const Parts<Lum32f>& parts) {
     constexpr auto shifter = rounding_shifter<Lum32f>(5);
-    const auto [m, e] = parts<significand::from_half_to_1 | significand::nan_if_negative>(x);
+    const auto [m, e] = parts;
     const auto t = shifted_rcp14<5, significand::from_half_to_1>(m);
     const auto c = t - all(shifter);      // in [1, 2]
     const auto k = e - getexp_normal(c);  // c = 2 is 2 times row 0
@@ -50,9 +57,8 @@ struct A24_32f : Float {
     const auto hi = permute2(load<Lum32f>(half_inverse), load(half_inverse + 16), j);
     const auto lo = permute2(load(half_inverse + 32), load(half_inverse + 48), j);
     const auto tail = horner(r, explog::log10_A24);
-    return {Compensated(fma(k, all(numbers::log10_2_short<Lum32f>), hi), fma(k, all(numbers::log10_2_short_tail<Lum32f>), lo),
-                        r, numbers::log10_e<Lum32f>, tail),
-            Refused(x)};
+    return Compensated(fma(k, all(numbers::log10_2_short<Lum32f>), hi), fma(k, all(numbers::log10_2_short_tail<Lum32f>), lo), r,
+                       numbers::log10_e<Lum32f>, tail);
   }
 };
 
@@ -64,37 +70,36 @@ LUM_INLINE Vec<Lum64f> Row(const ReciprocalReduction& a) { return permute2(load<
 // The coefficients behind the first, which A50 and A53 have in common.
 LUM_INLINE Vec<Lum64f> LongTail(Vec<Lum64f> r) { return estrin(r, part<1, 8>(explog::log10_A50)); }
 
-LUM_INLINE Lanes<Lum64f> OnePart(Vec<Lum64f> x, const ReciprocalReduction& a, Vec<Lum64f> tail, Lum64f first_coefficient) {
+LUM_INLINE Vec<Lum64f> OnePart(const ReciprocalReduction& a, Vec<Lum64f> tail, Lum64f first_coefficient) {
   const auto p = fma(fma(tail, a.r, all(first_coefficient)), a.r, Row(a));
-  return {fma(a.e, all(numbers::log10_2<Lum64f>), p), Refused(x)};
+  return fma(a.e, all(numbers::log10_2<Lum64f>), p);
 }
 
-struct A26_64f : Double {
-  static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
-    const auto a = ReduceByReciprocal<5>(x);
-    return OnePart(x, a, horner_of_pairs(a.r, a.r * a.r, part<1, 4>(explog::log10_A26)), explog::log10_A26.c[0]);
+struct A26_64f : Log10OfDouble<A26_64f> {
+  static LUM_INLINE Vec<Lum64f> OfParts(const Parts<Lum64f>& parts) {
+    const auto a = ReduceByReciprocal<5>(parts);
+    return OnePart(a, horner_of_pairs(a.r, a.r * a.r, part<1, 4>(explog::log10_A26)), explog::log10_A26.c[0]);
   }
 };
 
-struct A50_64f : Double {
-  static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
-    const auto a = ReduceByReciprocal<5>(x);
-    return OnePart(x, a, LongTail(a.r), explog::log10_A50.c[0]);
+struct A50_64f : Log10OfDouble<A50_64f> {
+  static LUM_INLINE Vec<Lum64f> OfParts(const Parts<Lum64f>& parts) {
+    const auto a = ReduceByReciprocal<5>(parts);
+    return OnePart(a, LongTail(a.r), explog::log10_A50.c[0]);
   }
 };
 
-struct A53_64f : Double {
+struct A53_64f : Log10OfDouble<A53_64f> {
   static constexpr auto pairs = by_columns<2>(table64({
 #include "tables/generated/minus_log10_64f_16_pairs.inc"
   }));
-  static LUM_INLINE Lanes<Lum64f> VectorPath(Vec<Lum64f> x) {
-    const auto a = ReduceByReciprocal<5>(x);
+  static LUM_INLINE Vec<Lum64f> OfParts(const Parts<Lum64f>& parts) {
+    const auto a = ReduceByReciprocal<5>(parts);
     const auto hi = permute2(load<Lum64f>(pairs), load(pairs + 8), a.j);
     const auto lo = permute2(load(pairs + 16), load(pairs + 24), a.j);
     const auto tail = fma(LongTail(a.r), a.r, all(explog::log10_A53.c[0]));
-    return {Compensated(fma(a.e, all(numbers::log10_2_short<Lum64f>), hi),  // exact
-                        fma(a.e, all(numbers::log10_2_short_tail<Lum64f>), lo), a.r, numbers::log10_e<Lum64f>, tail),
-            Refused(x)};
+    return Compensated(fma(a.e, all(numbers::log10_2_short<Lum64f>), hi),  // exact
+                       fma(a.e, all(numbers::log10_2_short_tail<Lum64f>), lo), a.r, numbers::log10_e<Lum64f>, tail);
   }
 };
 

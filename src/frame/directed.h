@@ -43,7 +43,8 @@ template <Floating T> LUM_INLINE TwoParts<Register<T>> two_sum(Register<T> a, Re
   return {s, (a - (s - b_part)) + (b - b_part)};
 }
 
-// Each directed operation has a companion that tells the lanes in which it may be wrong.
+// Each directed operation has a companion that tells the lanes in which it may be wrong; of infinities and NaN among the
+// operands it knows nothing. There the error is a NaN, so that the nearest result stands, which is right.
 template <int R, Floating T> LUM_INLINE Register<T> directed_add(Register<T> a, Register<T> b) {
   const auto [s, error] = two_sum<T>(a, b);
   return directed<R, T>(s, error);
@@ -61,15 +62,17 @@ template <Floating T> LUM_INLINE Register<UnsignedOf<T>> directed_mul_doubt(Regi
   return product_doubt<T>(a * b, a, b);
 }
 // The error of a fused sum by S. Boldo and J.-M. Muller, Exact and approximated error of the FMA, 2011.
-template <Floating T> LUM_INLINE TwoParts<Register<T>> fused_with_error(Register<T> a, Register<T> b, Register<T> c) {
-  const Register<T> s = fma<false, false, T>(a, b, c), p = a * b;
+template <bool negate_product, bool negate_addend, Floating T>
+LUM_INLINE TwoParts<Register<T>> fused_with_error(Register<T> x, Register<T> b, Register<T> z) {
+  const Register<T> a = negate_product ? -x : x, c = negate_addend ? -z : z;
+  const Register<T> s = fma<negate_product, negate_addend, T>(x, b, z), p = a * b;
   const auto low = two_sum<T>(c, fma<false, true, T>(a, b, p));
   const auto high = two_sum<T>(p, low.head);
   return {s, ((high.head - s) + high.tail) + low.tail};
 }
 template <int R, bool negate_product, bool negate_addend, Floating T>
 LUM_INLINE Register<T> directed_fma(Register<T> a, Register<T> b, Register<T> c) {
-  const auto [s, error] = fused_with_error<T>(negate_product ? -a : a, b, negate_addend ? -c : c);
+  const auto [s, error] = fused_with_error<negate_product, negate_addend, T>(a, b, c);
   return directed<R, T>(s, error);
 }
 template <int R, bool negate_product, bool negate_addend, Floating T>
@@ -96,7 +99,7 @@ template <Floating T> LUM_INLINE TwoParts<Register<T>> mul_toward_zero(Register<
 }
 template <Floating T> LUM_INLINE TwoParts<Register<T>> mul_toward_zero(Register<T> a, Register<T> a_tail, Register<T> b) {
   const auto first = mul_toward_zero<T>(a, b);
-  const auto fused = fused_with_error<T>(a_tail, b, first.tail);
+  const auto fused = fused_with_error<false, false, T>(a_tail, b, first.tail);
   const auto second = directed<rz, T>(fused.head, fused.tail);
   const Register<T> sum = first.head + second;
   const auto head = directed<rz, T>(sum, second - (sum - first.head));

@@ -144,6 +144,9 @@ template <class T> struct PowKernel : Kernel<T> {
   static LUM_INLINE Two<Finished<T>> SecondPathOfTwo(const Two<Vec<T>>& x, const Two<Vec<T>>& y, const Two<Lanes<T>>& lanes) {
     return PowerSecondPaths<T>(x, y, lanes, std::index_sequence<0, 1>());
   }
+  static LUM_INLINE bool RefusesAll(Vec<T> x, Vec<T> y) {
+    return has_all_elements(fpclass<classes::not_positive_finite>(x) | fpclass<classes::nonfinite>(y));
+  }
   static LumStatus LaneRoutine(T x, T y, T& result) { return PowerRoutine(x, y, result); }
 };
 

@@ -1,5 +1,6 @@
 // The cube root: the scheme of thirds, with the sign of x copied to the result. Zeros, infinities, NaN and denormals come out
-// of the operations on exponents and significands, so that no lane is ever refused.
+// of the operations on exponents and significands where a layer has these for all numbers. Elsewhere they have a second path,
+// after which nothing remains.
 #include "frame/kernel_frame.h"
 #include "frame/kernels.h"
 #include "roots/polynomials.h"
@@ -35,8 +36,18 @@ using Scheme = ThirdsScheme<Data>;
 template <class T, Tier tier> struct CbrtKernel : Kernel<T> {
   static constexpr int vectors = thirds_vectors<T, tier>;
   static constexpr Variant variant = pure_vector_variant;
-  static LUM_INLINE Vec<T> VectorPath(Vec<T> x) {
-    return or_sign(x, ThirdsMagnitude<Scheme, tier>(ReduceThirds<Scheme::power>(x)));
+  static constexpr bool refuses_by_class = true;
+  static LUM_INLINE auto VectorPath(Vec<T> x) {
+    if constexpr (thirds_take_all) {
+      return or_sign(x, ThirdsMagnitude<Scheme, tier>(ReduceThirds<Scheme::power>(x)));
+    } else {
+      const auto lanes = ThirdsOfNormal<Scheme, tier>(x);
+      return Lanes<T>{or_sign(x, lanes.value), lanes.refused};
+    }
+  }
+  static void LaneRoutine(T, T&) {}
+  static LUM_INLINE Lanes<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) {
+    return {or_sign(x, ThirdsOfRefused<Scheme, tier>(x, x + x, lanes)), mask_of<T>(0)};
   }
 };
 

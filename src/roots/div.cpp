@@ -10,6 +10,7 @@
 #include "frame/kernel_frame.h"
 #include "frame/kernels.h"
 #include "frame/lane_format.h"
+#include "frame/lifted.h"
 
 namespace lum::inline LUM_LAYER {
 namespace {
@@ -67,25 +68,42 @@ template <class T> LUM_INLINE Vec<T> Quotient(Vec<T> x, Vec<T> y) {
 // takes many instructions the first path divides the numbers themselves, which is the same but for a power of 2, and refuses
 // those so small or large that an intermediate value could be beyond the normal numbers.
 template <class T> struct BySignificands : DivKernel<T> {
+  static constexpr bool refuses_by_class = !estimates_take_all;
   static LUM_INLINE Lanes<T> VectorPath(Vec<T> x, Vec<T> y) {
-    if constexpr (estimates_take_all) return Scaled(x, y);
+    if constexpr (estimates_take_all)
+      return {OfParts(parts<significand::from_1_to_2>(x), parts<significand::from_1_to_2>(y)),
+              fpclass<classes::nan | classes::zero>(y)};
     else return {Quotient(x, y), IsExtreme(x) | IsExtreme(y)};
   }
   static LUM_INLINE Finished<T> SecondPath(Vec<T> x, Vec<T> y, const Lanes<T>& lanes) {
-    return DivKernel<T>::SecondPath(x, y, estimates_take_all ? lanes : Scaled(x, y));
+    if constexpr (estimates_take_all) return DivKernel<T>::SecondPath(x, y, lanes);
+    else return {OfRefused(x, y, lanes), mask_of<T>(0), {.singularity = fpclass<classes::zero>(y)}};
   }
 
  private:
+  static LUM_INLINE Mask<T> IsSpecial(Vec<T> x) { return fpclass<classes::zero | classes::nonfinite>(x); }
   static LUM_INLINE Mask<T> IsExtreme(Vec<T> x) {
     constexpr T large = std::is_same_v<T, Lum32f> ? T(0x1p60) : T(0x1p500);
     const auto a = abs(x);
     return nle(all(1 / large), a) | nle(a, all(large));
   }
-  static LUM_INLINE Lanes<T> Scaled(Vec<T> x, Vec<T> y) {
-    const auto [xm, xe] = parts<significand::from_1_to_2>(x);
-    const auto [ym, ye] = parts<significand::from_1_to_2>(y);
-    const auto d = xe - ye;
-    return {scalef(Quotient(xm, ym), d), fpclass<classes::nan | classes::zero>(y)};
+  static LUM_INLINE Parts<T> PartsOfNormal(Vec<T> x) { return {getmant_normal<significand::from_1_to_2>(x), getexp_normal(x)}; }
+  // Quotients of zeros, infinities and NaN are those of the division itself.
+  static LUM_INLINE Vec<T> OfRefused(Vec<T> x, Vec<T> y, const Lanes<T>& lanes) {
+    constexpr int interval = significand::from_1_to_2;
+    const auto special = IsSpecial(x) | IsSpecial(y), extreme = lanes.refused & ~special;
+    auto value = lanes.value;
+    if (any(extreme)) {
+      const auto dividend = select(extreme, x, all(T(1))), divisor = select(extreme, y, all(T(1)));
+      if (any(IsBelowNormal(dividend) | IsBelowNormal(divisor)))
+        value = select(extreme, OfParts(PartsOfFinite<interval>(dividend), PartsOfFinite<interval>(divisor)), value);
+      else value = select(extreme, OfParts(PartsOfNormal(dividend), PartsOfNormal(divisor)), value);
+    }
+    if (any(special)) value = select(special, div(select(special, x, all(T(1))), select(special, y, all(T(1)))), value);
+    return value;
+  }
+  static LUM_INLINE Vec<T> OfParts(const Parts<T>& x, const Parts<T>& y) {
+    return scalef(Quotient(x.significand, y.significand), x.exponent - y.exponent);
   }
 };
 

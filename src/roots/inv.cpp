@@ -6,6 +6,7 @@
 
 #include "frame/kernel_frame.h"
 #include "frame/kernels.h"
+#include "frame/lifted.h"
 
 namespace lum::inline LUM_LAYER {
 namespace {
@@ -27,10 +28,31 @@ template <class T, class Tier> struct InvKernel : Kernel<T> {
     return x == 0 ? lumStsSingularity : lumStsOk;
   }
   static constexpr bool second_is_short = true;
+  static constexpr bool refuses_by_class = !estimates_take_all;
   static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) {
-    const auto r0 = rcp14(x);
-    const auto full = estimates_take_all ? lanes : Of(x, r0);
-    return {select(full.refused, r0, full.value), mask_of<T>(0), {.singularity = fpclass<classes::zero>(x)}};
+    const auto zero = fpclass<classes::zero>(x);
+    if constexpr (estimates_take_all) {
+      return {select(lanes.refused, rcp14(x), lanes.value), mask_of<T>(0), {.singularity = zero}};
+    } else {
+      const auto special = zero | fpclass<classes::nonfinite>(x), others = lanes.refused & ~special;
+      const auto denormal = others & IsBelowNormal(x), large = others & ~denormal;
+      auto value = lanes.value;
+      if (any(large)) {
+        const auto a = select(large, x, all(T(1))), r0 = rcp14(a);
+        const auto full = Of(a, r0);
+        value = select(large, select(full.refused, r0, full.value), value);
+      }
+      if (any(denormal)) {
+        const auto a = LiftDenormals(select(denormal, x, all(T(1)))).x, r0 = rcp14_normal(a);
+        const auto half = all(lane::power_of_two<T>(lift<T> / 2));
+        const auto estimate = r0 * half * half;
+        const auto refused = fpclass<classes::infinity>(estimate);
+        value = select(denormal, select(refused, estimate, Tier::Reciprocal(a, r0) * half * half), value);
+      }
+      const auto of_special = or_sign(x, zero_unless(zero, all(std::numeric_limits<T>::infinity())));
+      value = select(special, of_special, value);
+      return {select(unord(x, x), x + x, value), mask_of<T>(0), {.singularity = zero}};
+    }
   }
 
  private:

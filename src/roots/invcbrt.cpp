@@ -35,8 +35,13 @@ using Scheme = ThirdsScheme<Data>;
 template <class T, Tier tier> struct InvCbrtKernel : Kernel<T> {
   static constexpr int vectors = thirds_vectors<T, tier>;
   static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) {
-    const auto a = ReduceThirds<Scheme::power>(x);
-    return {or_sign(x, ThirdsMagnitude<Scheme, tier>(a)), unord(a.j, a.j)};
+    if constexpr (thirds_take_all) {
+      const auto a = ReduceThirds<Scheme::power>(x);
+      return {or_sign(x, ThirdsMagnitude<Scheme, tier>(a)), unord(a.j, a.j)};
+    } else {
+      const auto lanes = ThirdsOfNormal<Scheme, tier>(x);
+      return {or_sign(x, lanes.value), lanes.refused};
+    }
   }
   static LumStatus LaneRoutine(T x, T& result) {
     if (x == 0) {
@@ -46,12 +51,15 @@ template <class T, Tier tier> struct InvCbrtKernel : Kernel<T> {
     result = x != x ? x / x : T(0) / x;
     return lumStsOk;
   }
-  static constexpr bool second_is_short = true;
+  static constexpr bool second_is_short = thirds_take_all;
+  static constexpr bool refuses_by_class = !thirds_take_all;
   static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) {
     const auto zero = fpclass<classes::zero>(x);
     auto value = or_sign(x, zero_unless(zero, all(std::numeric_limits<T>::infinity())));
     value = select(unord(x, x), x + x, value);
-    return {select(lanes.refused, value, lanes.value), mask_of<T>(0), {.singularity = zero}};
+    if constexpr (thirds_take_all) value = select(lanes.refused, value, lanes.value);
+    else value = or_sign(x, ThirdsOfRefused<Scheme, tier>(x, value, lanes));
+    return {value, mask_of<T>(0), {.singularity = zero}};
   }
 };
 

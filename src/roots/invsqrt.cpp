@@ -6,6 +6,7 @@
 #include "frame/kernel_frame.h"
 #include "frame/kernels.h"
 #include "frame/lane_format.h"
+#include "frame/lifted.h"
 #include "roots/polynomials.h"
 
 namespace lum::inline LUM_LAYER {
@@ -34,15 +35,29 @@ template <class T, class Tier> struct InvSqrtKernel : Kernel<T> {
     result = x == -infinity ? lane::default_nan<T>() : std::numeric_limits<T>::quiet_NaN();
     return lumStsDomain;
   }
+  static constexpr bool hides_refused = !estimates_take_all;
   static constexpr bool second_is_short = true;
+  static constexpr bool refuses_by_class = !estimates_take_all;
   static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) {
-    // For zeros and infinities the estimate is the result.
-    const auto s = rsqrt14(x);
-    const auto value =
-        select(fpclass<classes::zero | classes::infinity>(x), s, estimates_take_all ? lanes.value : Tier::Root(x, s));
-    return {select(fpclass<classes::negative>(x), all(std::numeric_limits<T>::quiet_NaN()), value),
-            mask_of<T>(0),
-            {.domain = fpclass<classes::below_zero>(x), .singularity = fpclass<classes::zero>(x)}};
+    const auto zero = fpclass<classes::zero>(x), below_zero = fpclass<classes::below_zero>(x);
+    auto value = lanes.value;
+    if constexpr (estimates_take_all) {
+      // For zeros and infinities the estimate is the result.
+      value = select(fpclass<classes::zero | classes::infinity>(x), rsqrt14(x), value);
+    } else {
+      const auto others = lanes.refused & ~(zero | below_zero | fpclass<classes::nan | classes::plus_infinity>(x));
+      if (any(others)) {
+        // Denormal numbers, scaled by a power of 4, which changes no step.
+        const auto a = LiftDenormals(select(others, x, all(T(1)))).x;
+        value = select(others, Tier::Root(a, rsqrt14_normal(a)) * all(lane::power_of_two<T>(lift<T> / 2)), value);
+      }
+      value = select(zero, or_sign(x, all(std::numeric_limits<T>::infinity())), value);
+      value = zero_unless(~fpclass<classes::plus_infinity>(x), value);
+      value = select(unord(x, x), x + x, value);
+      value = select(fpclass<classes::minus_infinity>(x), all(lane::default_nan<T>()), value);
+    }
+    value = select(fpclass<classes::negative>(x), all(std::numeric_limits<T>::quiet_NaN()), value);
+    return {value, mask_of<T>(0), {.domain = below_zero, .singularity = zero}};
   }
 };
 

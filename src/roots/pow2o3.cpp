@@ -35,7 +35,15 @@ using Scheme = ThirdsScheme<Data>;
 template <class T, Tier tier> struct Pow2o3Kernel : Kernel<T> {
   static constexpr int vectors = thirds_vectors<T, tier>;
   static constexpr Variant variant = pure_vector_variant;
-  static LUM_INLINE Vec<T> VectorPath(Vec<T> x) { return ThirdsMagnitude<Scheme, tier>(ReduceThirds<Scheme::power>(x)); }
+  static constexpr bool refuses_by_class = true;
+  static LUM_INLINE auto VectorPath(Vec<T> x) {
+    if constexpr (thirds_take_all) return ThirdsMagnitude<Scheme, tier>(ReduceThirds<Scheme::power>(x));
+    else return ThirdsOfNormal<Scheme, tier>(x);
+  }
+  static void LaneRoutine(T, T&) {}
+  static LUM_INLINE Lanes<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) {
+    return {ThirdsOfRefused<Scheme, tier>(x, x * x, lanes), mask_of<T>(0)};
+  }
 };
 
 using A11_32f = Pow2o3Kernel<Lum32f, Tier::low>;

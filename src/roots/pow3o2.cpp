@@ -90,6 +90,7 @@ template <> struct Limits<Lum64f> {
 template <class T> struct Pow3o2Kernel : Kernel<T> {
   static constexpr bool second_is_short = sizeof(T) == sizeof(Lum32f);
   static constexpr bool hides_refused = true;
+  static constexpr bool refuses_by_class = true;
   static LUM_INLINE Mask<T> Refused(Vec<T> x) {
     using L = Limits<T>;
     const auto distance = bits(x) - all(L::lowest);
@@ -155,7 +156,7 @@ template <class T> struct Pow3o2Kernel : Kernel<T> {
 
 template <class T, Steps steps> struct ByRoot : Pow3o2Kernel<T> {
   static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) {
-    const auto y = rsqrt14(x);
+    const auto y = rsqrt14_normal(x);
     auto g = x * y, h = all(T(0.5)) * y;
     // One by one, since the portable layer keeps vectors that pass through functions in memory.
     for (int i = 0; i < steps.coupled; ++i) {

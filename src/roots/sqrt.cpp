@@ -7,6 +7,7 @@
 
 #include "frame/kernel_frame.h"
 #include "frame/kernels.h"
+#include "frame/lifted.h"
 #include "roots/coupled_root.h"
 
 namespace lum::inline LUM_LAYER {
@@ -34,11 +35,29 @@ template <class T, class Tier> struct SqrtKernel : Kernel<T> {
     result = x == 0 ? x : x + x;
     return lumStsOk;
   }
+  // What brings numbers below the lowest argument above it, and their roots back.
+  static constexpr T raised = sizeof(T) == sizeof(Lum32f) ? T(0x1p80) : T(0x1p916);
+  static constexpr T lowered_root = sizeof(T) == sizeof(Lum32f) ? T(0x1p-40) : T(0x1p-458);
+  static constexpr bool hides_refused = !estimates_take_all;
   static constexpr bool second_is_short = true;
+  static constexpr bool refuses_by_class = !estimates_take_all;
   static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) {
     const auto negative = fpclass<classes::below_zero>(x);
-    const auto ordinary = estimates_take_all ? lanes.value : Tier::Root(x, rsqrt14(x));
-    const auto value = select(fpclass<classes::zero | classes::plus_infinity>(x), x, ordinary);
+    auto value = lanes.value;
+    if constexpr (estimates_take_all) {
+      value = select(fpclass<classes::zero | classes::plus_infinity>(x), x, value);
+    } else {
+      const auto itself = fpclass<classes::zero | classes::nonfinite>(x);
+      const auto others = lanes.refused & ~(itself | negative);
+      if (any(others)) {
+        // Scaled by a power of 4, which changes no step.
+        const auto [lifted, was_lifted] = LiftDenormals(select(others, x, all(T(1))));
+        const auto a = lifted * select(was_lifted, all(T(1)), all(raised));
+        const auto down = select(was_lifted, all(lane::power_of_two<T>(-lift<T> / 2)), all(lowered_root));
+        value = select(others, Tier::OrdinaryRoot(a, rsqrt14_normal(a)) * down, value);
+      }
+      value = select(itself, x + x, value);
+    }
     return {select(negative, all(std::numeric_limits<T>::quiet_NaN()), value), mask_of<T>(0), {.domain = negative}};
   }
 };

@@ -6,6 +6,7 @@
 #include <type_traits>
 
 #include "frame/kernel_frame.h"
+#include "frame/lifted.h"
 #include "tables/table.h"
 
 namespace lum::inline LUM_LAYER::roots {
@@ -71,9 +72,9 @@ template <class T> struct ThirdsReduced {
 
 // The rounded third of the shifted exponent, less the third of the shifter, exceeds e / 3 by less than 1/3, so that rounding
 // down finds q; for the negative power it falls below -e / 3 by as little, and is rounded up.
-template <Power power, class T> LUM_INLINE ThirdsReduced<T> ReduceThirds(Vec<T> x) {
+template <Power power, class T> LUM_INLINE ThirdsReduced<T> ReduceThirds(const Parts<T>& parts) {
   using C = ThirdsConstants<T>;
-  const auto [m, e] = parts<significand::from_1_to_2>(x);
+  const auto [m, e] = parts;
   const auto E = (power == Power::two_thirds ? e + e : e) + all(C::shifter);
   Vec<T> q, j;
   if constexpr (power == Power::minus_one_third) {
@@ -85,6 +86,10 @@ template <Power power, class T> LUM_INLINE ThirdsReduced<T> ReduceThirds(Vec<T> 
   }
   const auto c = rounded_rcp14<C::grid, significand::from_1_to_2>(m);
   return {q, j, c, fms(m, c, all(T(1)))};
+}
+
+template <Power power, class T> LUM_INLINE ThirdsReduced<T> ReduceThirds(Vec<T> x) {
+  return ReduceThirds<power>(parts<significand::from_1_to_2>(x));
 }
 
 // An entry of a table of c^power. The index of c = 1 is the first one behind the table; `thirds` stands there, the powers of 2
@@ -117,25 +122,50 @@ template <class Data> struct ThirdsScheme {
 // Vectors in a block: the constants of the longest path leave registers for one stream alone.
 template <class T, Tier tier> inline constexpr int thirds_vectors = std::is_same_v<T, Lum64f>&& tier == Tier::high ? 1 : 2;
 
+// Where the exponents and significands of zeros, infinities and NaN take many instructions, the first path refuses these and
+// denormal numbers.
+inline constexpr bool thirds_take_all = estimates_take_all;
+
 template <class F, Tier tier, class T> LUM_INLINE Vec<T> ThirdsMagnitude(const ThirdsReduced<T>& a) {
   using Thirds = ThirdsOfTwo<T, F::power == Power::minus_one_third ? -1 : 1>;
   const auto heads = load<T>(Thirds::head), tails = load<T>(Thirds::tail);
   const auto third = permute(heads, bits(a.j));
   const auto t = AtReciprocal(F::template head<T>(), heads, a.c);
   const auto p = F::template polynomial<tier>(a.r);
+  const auto scaled = [&](Vec<T> v) __attribute__((always_inline)) {
+    if constexpr (thirds_take_all) return scalef(v, a.q);
+    else return scalef_normal(v, a.q);
+  };
   if constexpr (tier == Tier::low) {
-    return fma(third * a.r, p, third) * scalef(t, a.q);
+    return fma(third * a.r, p, third) * scaled(t);
   } else if constexpr (tier == Tier::mid) {
     const auto w = fma(third * a.r, p, permute(tails, bits(a.j)));
-    return (w + third) * scalef(t, a.q);
+    return (w + third) * scaled(t);
   } else {
     // The product of the table factors as h + l.
     const auto h = third * t;
     auto l = fms(third, t, h);
     l = fma(AtReciprocal(F::template tail<T>(), tails, a.c), third, l);
     l = fma(permute(tails, bits(a.j)), t, l);
-    return scalef(h + fma(h * a.r, p, l), a.q);
+    return scaled(h + fma(h * a.r, p, l));
   }
+}
+
+// The power of |x| for normal numbers, and what is refused then.
+template <class F, Tier tier, class T> LUM_INLINE Lanes<T> ThirdsOfNormal(Vec<T> x) {
+  const Parts<T> parts{getmant_normal<significand::from_1_to_2>(x), getexp_normal(x)};
+  return {ThirdsMagnitude<F, tier>(ReduceThirds<F::power>(parts)), fpclass<classes::not_positive_normal>(abs(x))};
+}
+// In the refused lanes that of any number; of zeros, infinities and NaN it is what is given.
+template <class F, Tier tier, class T> LUM_INLINE Vec<T> ThirdsOfRefused(Vec<T> x, Vec<T> of_special, const Lanes<T>& lanes) {
+  const auto special = fpclass<classes::zero | classes::nonfinite>(x);
+  const auto denormal = lanes.refused & ~special;
+  auto value = lanes.value;
+  if (any(denormal)) {
+    const auto parts = PartsOfFinite<significand::from_1_to_2>(select(denormal, x, all(T(1))));
+    value = select(denormal, ThirdsMagnitude<F, tier>(ReduceThirds<F::power>(parts)), value);
+  }
+  return select(special, of_special, value);
 }
 
 }  // namespace lum::inline LUM_LAYER::roots

@@ -1,6 +1,8 @@
 // Floating-point arithmetic, comparison and selection on pairs of registers, a part of frame/vec_avx2.h.
 #pragma once
 
+#include <limits>
+
 #include "frame/avx2/base.h"
 #include "frame/avx2/estimates.h"
 #include "frame/directed.h"
@@ -15,12 +17,21 @@ template <auto one, Floating T, class... Others> LUM_INLINE Vec<T> by_lane(Vec<T
   return {half::each_lane<one>(a.low, others.low...), half::each_lane<one>(a.high, others.high...)};
 }
 
-// quick(a, b, ...) of one register, with careful(a, b, ...) of every lane instead where doubt(a, b, ...) has bits set; and of
-// both, one after the other, as not all that they need is in registers at one time.
+// Whether a lane in doubt has finite operands alone.
+template <Floating T, class... Others>
+[[gnu::noinline, gnu::cold]] bool any_of_finite(Register<UnsignedOf<T>> doubt, Register<T> a, Others... others) {
+  constexpr T infinity = std::bit_cast<T>(lane::Format<T>::infinity);
+  return any_bit(doubt & reg::lanes_where<T>(reg::magnitude<T>(a) < infinity) &
+                 (reg::lanes_where<T>(reg::magnitude<T>(others) < infinity) & ...));
+}
+// quick(a, b, ...) of one register, with careful(a, b, ...) of every lane instead where doubt(a, b, ...) has bits set for
+// finite numbers; and of both, one after the other, as not all that they need is in registers at one time.
 template <auto careful, Floating T, class Quick, class Doubt, class... Others>
 LUM_INLINE Half<T> half_with_care(Quick quick, Doubt doubt, Half<T> a, Others... others) {
-  if (any_bit(doubt(a.v, others.v...))) [[unlikely]]
-    return half::each_lane<careful>(a, others...);
+  const auto in_doubt = doubt(a.v, others.v...);
+  if (any_bit(in_doubt)) [[unlikely]] {
+    if (any_of_finite<T>(in_doubt, a.v, Register<T>(others.v)...)) return half::each_lane<careful>(a, others...);
+  }
   return {quick(a.v, others.v...)};
 }
 template <auto careful, Floating T, class Quick, class Doubt, class... Others>
@@ -90,26 +101,48 @@ template <Floating T> LUM_INLINE bool any_small_product(Vec<T> product, Vec<T> a
   return any_bit(reg::is_small_product<T>(product.low.v, a.low.v, b.low.v) |
                  reg::is_small_product<T>(product.high.v, a.high.v, b.high.v));
 }
-// a b rounded toward zero, and what is left of it, exactly: of products that are finite and whose lowest bit is in the range.
-template <Floating T> LUM_INLINE TwoParts<Vec<T>> mul_toward_zero(Vec<T> a, Vec<T> b) {
-  auto [head, tail] = in_two<T>(reg::mul_toward_zero<T>(a.low.v, b.low.v), reg::mul_toward_zero<T>(a.high.v, b.high.v));
-  if (any_small_product(head, a, b)) [[unlikely]] {
-    head = mul<rz>(a, b);
-    tail = fms<rz>(a, b, head);
+// The head or the tail of by(b), but of small products what by gives of a b that is some powers of 2 larger, brought down. A
+// head that is then no normal number is the smallest one, without a tail, or zero where it would be below all numbers.
+template <bool is_head, Floating T, class By> LUM_INLINE Half<T> part_of_product(Half<T> a, Half<T> b, By by) {
+  constexpr int powers = is32<T> ? 100 : 600;
+  constexpr T raised = lane::power_of_two<T>(powers), lowered = lane::power_of_two<T>(-powers);
+  constexpr T smallest = std::numeric_limits<T>::min() * raised, least = smallest * std::numeric_limits<T>::epsilon();
+  const auto product = by(b.v);
+  const half::HalfMask<T> small{std::bit_cast<__m256i>(reg::is_small_product<T>(product.head, a.v, b.v))};
+  const auto large = by(half::select(small, b * half::all(raised), b).v);
+  const Half<T> head{large.head}, tail{large.tail};
+  const auto magnitude = half::magnitude(head);
+  if constexpr (is_head) {
+    const auto kept = half::max(magnitude, half::all(smallest)) * half::all(lowered);
+    const auto bits = half::bits(half::zero_unless(half::le(half::all(least), magnitude), kept));
+    return half::select(small, half::as_float<T>(bits | (half::bits(head) & half::all(sign_bit<T>))), Half<T>{product.head});
+  } else {
+    const auto kept = half::zero_unless(half::le(half::all(smallest), magnitude), tail) * half::all(lowered);
+    return half::select(small, kept, Half<T>{product.tail});
   }
-  return {head, tail};
 }
-// (a + a_tail) b, each step toward zero, for a tail that is zero or from 2^-212 (float: 2^-96) to 2^-8 of a.
-template <Floating T> LUM_INLINE TwoParts<Vec<T>> mul_toward_zero(Vec<T> a, Vec<T> a_tail, Vec<T> b) {
-  auto [head, tail] = in_two<T>(reg::mul_toward_zero<T>(a.low.v, a_tail.low.v, b.low.v),
-                                reg::mul_toward_zero<T>(a.high.v, a_tail.high.v, b.high.v));
-  if (any_small_product(head, a, b)) [[unlikely]] {
-    const auto first = mul<rz>(a, b);
-    const auto second = fma<rz>(a_tail, b, fms<rz>(a, b, first));
-    head = add<rz>(first, second);
-    tail = second - (head - first);
+template <bool is_head, Floating T> [[gnu::noinline, gnu::cold]] Half<T> small_product(Half<T> a, Half<T> b) {
+  return part_of_product<is_head>(
+      a, b, [&](Register<T> factor) __attribute__((always_inline)) { return reg::mul_toward_zero<T>(a.v, factor); });
+}
+// a b rounded toward zero, and what is left of it, exactly: of products that are finite and whose lowest bit is that of a
+// normal number.
+template <Floating T> LUM_INLINE TwoParts<Vec<T>> mul_toward_zero(Vec<T> a, Vec<T> b) {
+  const auto low = reg::mul_toward_zero<T>(a.low.v, b.low.v), high = reg::mul_toward_zero<T>(a.high.v, b.high.v);
+  auto low_head = low.head, high_head = high.head, low_tail = low.tail, high_tail = high.tail;
+  if (any_small_product<T>({{low_head}, {high_head}}, a, b)) [[unlikely]] {
+    low_head = small_product<true>(a.low, b.low).v;
+    high_head = small_product<true>(a.high, b.high).v;
+    low_tail = small_product<false>(a.low, b.low).v;
+    high_tail = small_product<false>(a.high, b.high).v;
   }
-  return {head, tail};
+  return {{{low_head}, {high_head}}, {{low_tail}, {high_tail}}};
+}
+// (a + a_tail) b, each step toward zero, for a tail that is zero or from 2^-212 (float: 2^-96) to 2^-8 of a. Of a product below
+// 2^-300 (2^-40) any numbers near it, or of its size where it is below all numbers.
+template <Floating T> LUM_INLINE TwoParts<Vec<T>> mul_toward_zero(Vec<T> a, Vec<T> a_tail, Vec<T> b) {
+  return in_two<T>(reg::mul_toward_zero<T>(a.low.v, a_tail.low.v, b.low.v),
+                   reg::mul_toward_zero<T>(a.high.v, a_tail.high.v, b.high.v));
 }
 // a b - c in even lanes, a b + c in odd ones, with one rounding.
 template <Floating T> LUM_INLINE Vec<T> fmaddsub(Vec<T> a, Vec<T> b, Vec<T> c) {
@@ -122,15 +155,9 @@ template <Floating T> LUM_INLINE Vec<T> fmsubadd(Vec<T> a, Vec<T> b, Vec<T> c) {
   return {half::fmsubadd(a.low, b.low, c.low), half::fmsubadd(a.high, b.high, c.high)};
 }
 // The smaller; b when either is a NaN or both are zeros, so the order of the operands matters.
-template <Floating T> LUM_INLINE Vec<T> min(Vec<T> a, Vec<T> b) {
-  if constexpr (is32<T>) return {{_mm256_min_ps(a.low.v, b.low.v)}, {_mm256_min_ps(a.high.v, b.high.v)}};
-  else return {{_mm256_min_pd(a.low.v, b.low.v)}, {_mm256_min_pd(a.high.v, b.high.v)}};
-}
+template <Floating T> LUM_INLINE Vec<T> min(Vec<T> a, Vec<T> b) { return {half::min(a.low, b.low), half::min(a.high, b.high)}; }
 // The larger; b when either is a NaN or both are zeros, so the order of the operands matters.
-template <Floating T> LUM_INLINE Vec<T> max(Vec<T> a, Vec<T> b) {
-  if constexpr (is32<T>) return {{_mm256_max_ps(a.low.v, b.low.v)}, {_mm256_max_ps(a.high.v, b.high.v)}};
-  else return {{_mm256_max_pd(a.low.v, b.low.v)}, {_mm256_max_pd(a.high.v, b.high.v)}};
-}
+template <Floating T> LUM_INLINE Vec<T> max(Vec<T> a, Vec<T> b) { return {half::max(a.low, b.low), half::max(a.high, b.high)}; }
 // 1 / a with a relative error below 2^-14; a zero gives an infinity and an infinity a zero, of its sign.
 template <Floating T> LUM_INLINE Vec<T> rcp14(Vec<T> a) { return half::rcp14(a); }
 // 1 / sqrt a with a relative error below 2^-14; a zero gives an infinity of its sign, a negative number the default NaN.
@@ -146,8 +173,8 @@ template <Floating T> LUM_INLINE Vec<T> rsqrt14_normal(Vec<T> a) { return half::
 template <Floating T> LUM_INLINE Vec<T> getexp(Vec<T> a) {
   auto low = half::getexp_of_normal(a.low).v, high = half::getexp_of_normal(a.high).v;
   if (half::any_not_normal(a)) [[unlikely]] {
-    low = half::getexp(a.low).v;
-    high = half::getexp(a.high).v;
+    low = half::getexp_of_any<T>(a.low.v);
+    high = half::getexp_of_any<T>(a.high.v);
   }
   return {{low}, {high}};
 }
@@ -156,8 +183,8 @@ template <Floating T> LUM_INLINE Vec<T> getexp(Vec<T> a) {
 template <int imm, Floating T> LUM_INLINE Vec<T> getmant(Vec<T> a) {
   auto low = half::getmant_of_normal<imm>(a.low).v, high = half::getmant_of_normal<imm>(a.high).v;
   if ((imm & 8) != 0 ? half::any_not_positive_normal(a) : half::any_not_normal(a)) [[unlikely]] {
-    low = half::getmant<imm>(a.low).v;
-    high = half::getmant<imm>(a.high).v;
+    low = half::getmant_of_any<imm, T>(a.low.v);
+    high = half::getmant_of_any<imm, T>(a.high.v);
   }
   return {{low}, {high}};
 }
@@ -174,10 +201,10 @@ template <int imm, Floating T> LUM_INLINE Parts<T> parts(Vec<T> a) {
   auto low = half::getmant_of_normal<imm>(a.low).v, high = half::getmant_of_normal<imm>(a.high).v;
   auto low_exponent = half::getexp_of_normal(a.low).v, high_exponent = half::getexp_of_normal(a.high).v;
   if ((imm & 8) != 0 ? half::any_not_positive_normal(a) : half::any_not_normal(a)) [[unlikely]] {
-    low = half::getmant<imm>(a.low).v;
-    high = half::getmant<imm>(a.high).v;
-    low_exponent = half::getexp(a.low).v;
-    high_exponent = half::getexp(a.high).v;
+    low = half::getmant_of_any<imm, T>(a.low.v);
+    high = half::getmant_of_any<imm, T>(a.high.v);
+    low_exponent = half::getexp_of_any<T>(a.low.v);
+    high_exponent = half::getexp_of_any<T>(a.high.v);
   }
   return {{{low}, {high}}, {{low_exponent}, {high_exponent}}};
 }

@@ -38,6 +38,13 @@ template <class F> LUM_INLINE Vec<float> by_top_words(Vec<float> a, F f) {
 template <class F> LUM_INLINE Vec<double> by_top_words(Vec<double> a, F f) {
   return of_words(all(0u), f(upper_words(a), lower_words(a)));
 }
+// The same of one register.
+template <Floating T, class F> LUM_INLINE Half<T> by_top_words(Half<T> a, F f) {
+  if constexpr (is32<T>) return from_raw<T>(f(Word{raw(a)}, all(0u)).v);
+  else
+    return as_float<T>(Half<uint64_t>{f(Word{raw(a)}, Word{_mm256_slli_epi64(raw(a), 32)}).v} &
+                       all(uint64_t{0xFFFFFFFF00000000}));
+}
 
 // Lanes whose top words as numbers are not from low to high - 1. Numbers below low wrap around; the top bit is turned over by
 // the subtraction for the signed comparison.
@@ -80,28 +87,31 @@ template <int scale, int place> LUM_INLINE Word on_line(const lane::LineWords& l
   return shift_right<9>(shift_left<scale>(shift_right<10>(line)) - down);
 }
 
-template <Floating T> LUM_INLINE Vec<T> rcp14_normal(Vec<T> a) {
+// The top words of the estimates, from the top words of numbers and whether bits below them are set.
+template <Floating T> LUM_INLINE Word rcp14_word(Word w, Word below) {
   using F = TopWord<T>;
   constexpr int fb = F::fraction_bits;
+  const Word significand = shift_left<fb - 16>(on_line<8, fb - 6>(lane::reciprocal_line_words, w));
+  const auto is_power = eq((w & all(F::fraction)) | below, all(0u));
+  const Word field = all((2 * F::bias - 2) << fb) - (w & all(~F::fraction));
+  return field + select(is_power, all(2 * F::hidden), significand);
+}
+template <Floating T> LUM_INLINE Word rsqrt14_word(Word w, Word below) {
+  using F = TopWord<T>;
+  constexpr int fb = F::fraction_bits;
+  const Word significand = shift_left<fb - 16>(on_line<7, fb - 5>(lane::reciprocal_root_line_words, w));
+  // Only the exponent's last bit is set, none of the fraction.
+  const auto is_power = eq(((w ^ all(F::hidden)) & all(2 * F::hidden - 1)) | below, all(0u));
+  const Word half_field = shift_right<1>(w + all(F::hidden)) & all(~F::fraction);
+  return all((F::bias - 2 + (F::bias + 1) / 2) << fb) - half_field + select(is_power, all(2 * F::hidden), significand);
+}
+template <Floating T> LUM_INLINE Vec<T> rcp14_normal(Vec<T> a) {
   return by_top_words(
-      a, [](Word w, Word below) __attribute__((always_inline)) {
-        const Word significand = shift_left<fb - 16>(on_line<8, fb - 6>(lane::reciprocal_line_words, w));
-        const auto is_power = eq((w & all(F::fraction)) | below, all(0u));
-        const Word field = all((2 * F::bias - 2) << fb) - (w & all(~F::fraction));
-        return field + select(is_power, all(2 * F::hidden), significand);
-      });
+      a, [](Word w, Word below) __attribute__((always_inline)) { return rcp14_word<T>(w, below); });
 }
 template <Floating T> LUM_INLINE Vec<T> rsqrt14_normal(Vec<T> a) {
-  using F = TopWord<T>;
-  constexpr int fb = F::fraction_bits;
   return by_top_words(
-      a, [](Word w, Word below) __attribute__((always_inline)) {
-        const Word significand = shift_left<fb - 16>(on_line<7, fb - 5>(lane::reciprocal_root_line_words, w));
-        // Only the exponent's last bit is set, none of the fraction.
-        const auto is_power = eq(((w ^ all(F::hidden)) & all(2 * F::hidden - 1)) | below, all(0u));
-        const Word half_field = shift_right<1>(w + all(F::hidden)) & all(~F::fraction);
-        return all((F::bias - 2 + (F::bias + 1) / 2) << fb) - half_field + select(is_power, all(2 * F::hidden), significand);
-      });
+      a, [](Word w, Word below) __attribute__((always_inline)) { return rsqrt14_word<T>(w, below); });
 }
 
 // ---- Estimates rounded to few bits
@@ -157,25 +167,68 @@ template <Floating T> LUM_INLINE bool any_without_normal_reciprocal(Vec<T> a) {
   using F = TopWord<T>;
   return any_outside(Vec<T>{magnitude(a.low), magnitude(a.high)}, F::hidden, (2 * F::bias - 1) << F::fraction_bits);
 }
+// The estimates of any number: that of its significand, with the exponent behind it.
+template <Floating T> [[gnu::noinline, gnu::cold, gnu::const]] Native<T> rcp14_of_any(Native<T> in_a) {
+  const Half<T> a{in_a};
+  using F = lane::Format<T>;
+  using Bits = UnsignedOf<T>;
+  using S = SignedOf<T>;
+  constexpr int fb = F::fraction_bits;
+  const auto [b, small] = normal(a);
+  const auto significand = as_float<T>((b & all(static_cast<Bits>(F::fraction))) | all(static_cast<Bits>(F::one)));
+  const auto r = bits(by_top_words(
+      significand, [](Word w, Word below) __attribute__((always_inline)) { return rcp14_word<T>(w, below); }));
+  const auto bias = select(HalfMask<Bits>{small.v}, all(static_cast<Bits>(F::bias + lift<T>)), all(static_cast<Bits>(F::bias)));
+  const auto exponent = shift_right<fb>(b) - bias;
+  const Half<S> field{(shift_right<fb>(r) - exponent).v};
+  const auto normal_bits = r - shift_left<fb>(exponent);
+  // A denormal one loses no set bit.
+  const auto fraction = (r & all(static_cast<Bits>(F::fraction))) | all(static_cast<Bits>(F::hidden));
+  const auto denormal_bits = shift_right(fraction, all(Bits{1}) - Half<Bits>{field.v});
+  const auto choose = [](Half<UnsignedOf<S>> x, HalfMask<S> m, Half<UnsignedOf<S>> y) __attribute__((always_inline)) {
+    return select(HalfMask<UnsignedOf<S>>{m.v}, x, y);
+  };
+  auto v = choose(denormal_bits, greater(all(S{1}), field), normal_bits);
+  v = choose(all(static_cast<Bits>(F::infinity)), greater(field, all(static_cast<S>(2 * F::bias))), v);
+  const auto infinite = eq(bits(magnitude(a)), all(static_cast<Bits>(F::infinity)));
+  v = select(infinite, all(Bits{0}), v) | (bits(a) & all(static_cast<Bits>(F::sign)));
+  return select(compare<3>(a, a), a + a, as_float<T>(v)).v;
+}
+template <Floating T> [[gnu::noinline, gnu::cold, gnu::const]] Native<T> rsqrt14_of_any(Native<T> in_a) {
+  const Half<T> a{in_a};
+  using F = lane::Format<T>;
+  using Bits = UnsignedOf<T>;
+  constexpr bool odd = lift<T> % 2 != 0;
+  constexpr auto half_lift = static_cast<Bits>(static_cast<Bits>((lift<T> + 1) / 2) << F::fraction_bits);
+  const auto [b, small] = normal(a);
+  const Half<Bits> where_small{small.v};
+  const auto even = odd ? b + (where_small & all(static_cast<Bits>(F::hidden))) : b;
+  const auto s = by_top_words(
+      as_float<T>(even), [](Word w, Word below) __attribute__((always_inline)) { return rsqrt14_word<T>(w, below); });
+  auto v = as_float<T>(bits(s) + (where_small & all(half_lift)));
+  v = zero_unless(~eq(a, all(std::bit_cast<T>(F::infinity))), v);
+  v = select(lt(a, all(T{0})), all(lane::default_nan<T>()), v);
+  const auto zero = eq(a, all(T{0}));
+  v = select(zero, as_float<T>(bits(a) | all(static_cast<Bits>(F::infinity))), v);
+  return select(compare<3>(a, a), a + a, v).v;
+}
 // Where such a lane is found the registers are computed one by one: g++ sends a pair of them through memory when it comes from
 // two sides of a branch.
 template <Floating T> LUM_INLINE Vec<T> rcp14(Vec<T> a) {
-  constexpr auto one = [](T x) { return lane::rcp14(x); };
   const auto r = half::rcp14_normal(a);
   auto low = r.low.v, high = r.high.v;
   if (any_without_normal_reciprocal(a)) [[unlikely]] {
-    low = each_lane<one>(a.low).v;
-    high = each_lane<one>(a.high).v;
+    low = rcp14_of_any<T>(a.low.v);
+    high = rcp14_of_any<T>(a.high.v);
   }
   return {{low}, {high}};
 }
 template <Floating T> LUM_INLINE Vec<T> rsqrt14(Vec<T> a) {
-  constexpr auto one = [](T x) { return lane::rsqrt14(x); };
   const auto r = half::rsqrt14_normal(a);
   auto low = r.low.v, high = r.high.v;
   if (any_not_positive_normal(a)) [[unlikely]] {
-    low = each_lane<one>(a.low).v;
-    high = each_lane<one>(a.high).v;
+    low = rsqrt14_of_any<T>(a.low.v);
+    high = rsqrt14_of_any<T>(a.high.v);
   }
   return {{low}, {high}};
 }
@@ -206,16 +259,16 @@ template <int grid, int interval> LUM_INLINE Vec<double> shifted_rcp14(Vec<doubl
   return of_words(shift_right<fb>(stepped < interval == 0 ? grid : grid + 1, fb, true > (w)), all(shifter));
 }
 template <int kept, Floating T> LUM_INLINE Vec<T> rcp14_halves_up_normal(Vec<T> a) { return short_rcp14<kept, false>(a); }
+template <int kept, Floating T> LUM_INLINE Half<T> rounded_halves_up(Half<T> a) {
+  constexpr auto half_step = UnsignedOf<T>{1} << (lane::Format<T>::fraction_bits - kept - 1);
+  return as_float<T>((bits(a) + all(half_step)) & all(static_cast<UnsignedOf<T>>(~(2 * half_step - 1))));
+}
 template <int kept, Floating T> LUM_INLINE Vec<T> rcp14_halves_up(Vec<T> a) {
-  constexpr auto one = [](T x) {
-    constexpr auto half_step = UnsignedOf<T>{1} << (lane::Format<T>::fraction_bits - kept - 1);
-    return lane::from_bits<T>((lane::to_bits(lane::rcp14(x)) + half_step) & ~(2 * half_step - 1));
-  };
   const auto r = half::short_rcp14<kept, false>(a);
   auto low = r.low.v, high = r.high.v;
   if (any_without_normal_reciprocal(a)) [[unlikely]] {
-    low = each_lane<one>(a.low).v;
-    high = each_lane<one>(a.high).v;
+    low = rounded_halves_up<kept>(Half<T>{rcp14_of_any<T>(a.low.v)}).v;
+    high = rounded_halves_up<kept>(Half<T>{rcp14_of_any<T>(a.high.v)}).v;
   }
   return {{low}, {high}};
 }

@@ -93,6 +93,15 @@ template <int mode, Floating T> LUM_INLINE Half<T> round(Half<T> a) {
   if constexpr (is32<T>) return {_mm256_round_ps(a.v, mode | _MM_FROUND_NO_EXC)};
   else return {_mm256_round_pd(a.v, mode | _MM_FROUND_NO_EXC)};
 }
+// The second number where either is a NaN or both are zeros.
+template <Floating T> LUM_INLINE Half<T> min(Half<T> a, Half<T> b) {
+  if constexpr (is32<T>) return {_mm256_min_ps(a.v, b.v)};
+  else return {_mm256_min_pd(a.v, b.v)};
+}
+template <Floating T> LUM_INLINE Half<T> max(Half<T> a, Half<T> b) {
+  if constexpr (is32<T>) return {_mm256_max_ps(a.v, b.v)};
+  else return {_mm256_max_pd(a.v, b.v)};
+}
 template <Floating T> LUM_INLINE Half<T> magnitude(Half<T> a) {
   return as_float<T>(bits(a) & all(static_cast<UnsignedOf<T>>(~sign_bit<T>)));
 }

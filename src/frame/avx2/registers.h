@@ -21,6 +21,8 @@ template <Lane T> struct Half {
   static constexpr int lanes = 32 / static_cast<int>(sizeof(T));
   typename RegisterOf<T>::Type v;
 };
+// A function by itself takes and returns what is in a Half, since only of such calls does g++ see that two are the same.
+template <Lane T> using Native = typename RegisterOf<T>::Type;
 // All bits of a lane, or none.
 template <Lane T> struct HalfMask { __m256i v; };
 

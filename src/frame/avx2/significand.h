@@ -20,16 +20,20 @@ template <Floating T> LUM_INLINE HalfMask<T> bits_outside(Half<T> a, UnsignedOf<
   return {greater(moved, all(static_cast<S>(high - low - 1 + top))).v};
 }
 
-// |a| with denormal numbers made normal, and what was added to the exponent field of all.
+// |a|, and of denormal numbers what counts their steps, as a normal number or zero: by the bits, since an operation on such a
+// number takes the processor long. `lift` is then too much in the exponent.
+template <Floating T> inline constexpr int lift = lane::Format<T>::bias - 1 + lane::Format<T>::fraction_bits;
 template <Floating T> struct Normal {
   Half<UnsignedOf<T>> bits;
   HalfMask<T> was_small;
 };
 template <Floating T> LUM_INLINE Normal<T> normal(Half<T> a) {
   using F = lane::Format<T>;
-  const auto m = magnitude(a);
-  const auto small = lt(m, all(std::bit_cast<T>(F::hidden)));
-  return {bits(select(small, m * all(lane::power_of_two<T>(F::fraction_bits + 1)), m)), small};
+  using S = SignedOf<T>;
+  constexpr T shifter = static_cast<T>(F::hidden);
+  const auto m = bits(magnitude(a));
+  const HalfMask<T> small{greater(all(static_cast<S>(F::hidden)), Half<S>{m.v}).v};
+  return {bits(select(small, as_float<T>(m | bits(all(shifter))) - all(shifter), as_float<T>(m))), small};
 }
 
 // getexp and getmant of normal numbers; in other lanes any value.
@@ -52,19 +56,21 @@ template <int imm, Floating T> LUM_INLINE Half<T> getmant_of_normal(Half<T> a) {
   return as_float<T>(r);
 }
 
-template <Floating T> [[gnu::noinline, gnu::cold]] Half<T> getexp(Half<T> a) {
+template <Floating T> [[gnu::noinline, gnu::cold, gnu::const]] Native<T> getexp_of_any(Native<T> in_a) {
+  const Half<T> a{in_a};
   using F = lane::Format<T>;
   const auto [b, small] = normal(a);
   const auto field = to_floating<T>(shift_right<F::fraction_bits>(b));
-  const auto exponent = field - select(small, all(T(F::bias + F::fraction_bits + 1)), all(T(F::bias)));
+  const auto exponent = field - select(small, all(T(F::bias + lift<T>)), all(T(F::bias)));
   const auto infinity = all(std::bit_cast<T>(F::infinity));
   const auto minus_infinity = all(std::bit_cast<T>(F::infinity | F::sign));
   const auto finite = select(eq(a, all(T{0})), minus_infinity, exponent);
   // The square of an infinity, and a NaN made quiet.
-  return select(nlt(magnitude(a), infinity), a * a, finite);
+  return select(nlt(magnitude(a), infinity), a * a, finite).v;
 }
 
-template <int imm, Floating T> [[gnu::noinline, gnu::cold]] Half<T> getmant(Half<T> a) {
+template <int imm, Floating T> [[gnu::noinline, gnu::cold, gnu::const]] Native<T> getmant_of_any(Native<T> in_a) {
+  const Half<T> a{in_a};
   using F = lane::Format<T>;
   using Bits = UnsignedOf<T>;
   constexpr int interval = imm & 3;
@@ -73,9 +79,10 @@ template <int imm, Floating T> [[gnu::noinline, gnu::cold]] Half<T> getmant(Half
   const auto one = all(static_cast<Bits>(static_cast<Bits>(F::bias) << F::fraction_bits));
   auto finite = (b & all(static_cast<Bits>(F::fraction))) | one;
   if constexpr (interval == 1) {
-    // The bias is odd, so the exponent is odd where the field is even, and of doubles made normal by 2^53 where it is odd.
+    // The bias is odd, so the exponent is odd where the field is even, and of denormal floats, whose lift is odd, where it is
+    // odd.
     auto even = shift_left<F::fraction_bits>(and_not(shift_right<F::fraction_bits>(b), all(Bits{1})));
-    if constexpr ((F::fraction_bits + 1) % 2 != 0) even = even ^ (Half<Bits>{small.v} & all(static_cast<Bits>(F::hidden)));
+    if constexpr (lift<T> % 2 != 0) even = even ^ (Half<Bits>{small.v} & all(static_cast<Bits>(F::hidden)));
     finite = finite - even;
   }
   if constexpr (interval == 2) finite = finite - all(static_cast<Bits>(F::hidden));
@@ -84,7 +91,7 @@ template <int imm, Floating T> [[gnu::noinline, gnu::cold]] Half<T> getmant(Half
   auto r = select(special, as_float<T>(one), as_float<T>(finite));
   if constexpr (!clear_sign) r = as_float<T>(bits(r) | (bits(a) & all(sign_bit<T>)));
   if constexpr (nan_if_negative) r = select(lt(a, all(T{0})), all(lane::default_nan<T>()), r);
-  return select(compare<3>(a, a), a + a, r);
+  return select(compare<3>(a, a), a + a, r).v;
 }
 
 template <int imm, Floating T> LUM_INLINE Half<T> rndscale(Half<T> a) {
@@ -136,12 +143,52 @@ template <Floating T> LUM_INLINE Half<T> scalef_by_normal(Half<T> a, Half<T> flo
   constexpr T shifter = T(1.5) * static_cast<T>(F::hidden) + T(F::bias);
   return a * as_float<T>(shift_left<F::fraction_bits>(bits(floor_b + all(shifter))));
 }
+// a b for a factor b of +infinity, zero as minus infinity stands for it, or NaN; but the factor prevails over a quiet NaN.
+template <Floating T> [[gnu::noinline, gnu::cold, gnu::const]] Native<T> scalef_by_special(Native<T> in_a, Native<T> in_b) {
+  const Half<T> a{in_a};
+  const Half<T> b{in_b};
+  using F = lane::Format<T>;
+  const auto nan_a = compare<3>(a, a), nan_b = compare<3>(b, b);
+  const auto factor = zero_unless(~lt(b, all(T{0})), magnitude(b));
+  const HalfMask<T> is_quiet{
+      eq(bits(a) & all(static_cast<UnsignedOf<T>>(F::quiet)), all(static_cast<UnsignedOf<T>>(F::quiet))).v};
+  const auto product = select(nan_b, b + b, a * factor);
+  return select(nan_a, select(is_quiet & ~nan_b, factor, a + a), product).v;
+}
+// a 2^floor(b) of any numbers.
+template <Floating T> [[gnu::noinline, gnu::cold, gnu::const]] Native<T> scalef_of_any(Native<T> in_a, Native<T> in_b) {
+  const Half<T> a{in_a};
+  const Half<T> b{in_b};
+  using F = lane::Format<T>;
+  using Bits = UnsignedOf<T>;
+  constexpr T shifter = T(1.5) * static_cast<T>(F::hidden);
+  const auto infinity = all(std::bit_cast<T>(F::infinity));
+  const auto [m, small] = normal(a);
+  const auto field = to_floating<T>(shift_right<F::fraction_bits>(m));
+  const auto n = max(min(round<1>(b), all(T(4 * F::bias))), all(T(-4 * F::bias)));
+  const auto sum = field - select(small, all(T(F::bias + lift<T>)), all(T(F::bias))) + n;
+  // Beyond these limits all is infinite, or zero.
+  const auto e = max(min(sum, all(T(F::bias + 1))), all(T(-F::bias - F::fraction_bits - 2)));
+  const auto denormal = lt(e, all(T(1 - F::bias)));
+  // A denormal result is rounded by a sum with 1, bias - 1 powers of 2 higher: its pattern counts the steps.
+  const auto shifted = bits(select(denormal, e + all(T(F::bias - 1)), e) + all(shifter));
+  const auto one = all(static_cast<Bits>(F::one));
+  const auto significand = (m & all(static_cast<Bits>(F::fraction))) | one;
+  const auto scaled = as_float<T>(significand + shift_left<F::fraction_bits>(shifted));
+  const auto counted = as_float<T>(bits(scaled + as_float<T>(one)) - one);
+  auto r = select(denormal, counted, select(eq(e, all(T(F::bias + 1))), infinity, scaled));
+  r = as_float<T>(bits(r) | (bits(a) & all(static_cast<Bits>(F::sign))));
+  r = select(eq(a, all(T{0})) | nlt(magnitude(a), infinity), a + a, r);
+  const auto special = nlt(magnitude(b), infinity);
+  if (any(special)) r = select(special, Half<T>{scalef_by_special<T>(a.v, b.v)}, r);
+  return r.v;
+}
 template <Floating T> LUM_INLINE Half<T> scalef(Half<T> a, Half<T> b) {
   using F = lane::Format<T>;
   const auto n = round<1>(b);
   const auto r = scalef_by_normal(a, n);
   if (any(compare<6>(magnitude(n), all(T(F::bias - 1))))) [[unlikely]]
-    return each_lane<[](T x, T y) { return lane::exact_scalef<rn, T>(x, y); }>(a, b);
+    return {scalef_of_any<T>(a.v, b.v)};
   return r;
 }
 
