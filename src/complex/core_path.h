@@ -129,6 +129,10 @@ template <class Path, class E, class... Inputs> LUM_INLINE Lanes<E> PathOfElemen
   if constexpr (std::is_same_v<E, Lum64fc>) return RoundedPath<Path>(packed...);
   else return NarrowedPath<Path>(packed...);
 }
+// By itself where a second path needs the stack that it would take beside that.
+template <class Path, class E, class... Inputs> [[gnu::noinline]] Lanes<E> CalledPathOfElements(const Inputs&... packed) {
+  return PathOfElements<Path, E>(packed...);
+}
 template <class Path, class E, class... Inputs> LUM_INLINE Lanes<E> PathOfTail(int count, const Inputs&... packed) {
   if constexpr (std::is_same_v<E, Lum64fc>) return RoundedPath<Path>(packed...);
   else return NarrowedTail<Path>(count, packed...);

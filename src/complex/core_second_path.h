@@ -117,8 +117,11 @@ template <class Ends> LUM_INLINE CoreValue SpecialAtEnds(ComplexVec<Lum64f> z) {
 // Any values in the wanted lanes.
 template <class Ends> LUM_INLINE CoreValue ValueAtEnds(ComplexVec<Lum64f> z, Mask<Lum64f> wanted) {
   const auto special = Ends::IsSpecial(z);
-  auto result = Ends::OfFar(z);
-  result.is_known = result.is_known & ~special;
+  CoreValue result{z, special & ~special, special};
+  if (any(wanted & ~special)) {
+    result = Ends::OfFar(z);
+    result.is_known = result.is_known & ~special;
+  }
   if (any(wanted & special)) {
     const auto by_rule = SpecialAtEnds<Ends>(z);
     result = {Select(special, by_rule.value, result.value), result.is_known | by_rule.is_known,
@@ -126,20 +129,30 @@ template <class Ends> LUM_INLINE CoreValue ValueAtEnds(ComplexVec<Lum64f> z, Mas
   }
   return result;
 }
-// Those of the low register of a vector, also in the place of the high one: half the stack, of which a call may take little.
-template <class Ends, class Z, class M> [[gnu::noinline]] CoreValue RegisterAtEnds(const Z& z, const M& wanted) {
-  return ValueAtEnds<Ends>({low_register(z.re), low_register(z.im)}, low_register(wanted));
+// The same of a vector's registers, each by itself and in the place of the other, too: half the stack, of which a call may take
+// little.
+enum class Which { low, high };
+template <class V> LUM_INLINE V OneRegister(const V& v, Which which) {
+  return which == Which::low ? low_register(v) : high_register(v);
+}
+template <class Z> LUM_INLINE Z OneRegisterEach(const Z& z, Which which) {
+  return {OneRegister(z.re, which), OneRegister(z.im, which)};
+}
+// The first one is that of the low registers before, and in the place of a function's result.
+template <class Core> LUM_INLINE void JoinRegisters(Core& core, const Core& high) {
+  core = {{join_registers(core.value.re, high.value.re), join_registers(core.value.im, high.value.im)},
+          join_registers(core.is_known, high.is_known),
+          join_registers(core.is_sure, high.is_sure)};
+}
+template <class Ends, class Z, class M> [[gnu::noinline]] CoreValue RegisterAtEnds(const Z& z, const M& wanted, Which which) {
+  return ValueAtEnds<Ends>(OneRegisterEach(z, which), OneRegister(wanted, which));
 }
 // All kernels of a function share it.
 template <class Ends, class Z, class M> [[gnu::noinline]] CoreValue AnyAtEnds(const Z& z, const M& wanted) {
-  if (none(wanted & ~Ends::IsSpecial(z))) return SpecialAtEnds<Ends>(z);
   if constexpr (has_halves) {
-    auto result = RegisterAtEnds<Ends>(z, wanted);
-    const auto high = RegisterAtEnds<Ends>(Z{high_register(z.re), high_register(z.im)}, high_register(wanted));
-    result.value = {join_registers(result.value.re, high.value.re), join_registers(result.value.im, high.value.im)};
-    result.is_known = join_registers(result.is_known, high.is_known);
-    result.is_sure = join_registers(result.is_sure, high.is_sure);
-    return result;
+    auto core = RegisterAtEnds<Ends>(z, wanted, Which::low);
+    JoinRegisters(core, RegisterAtEnds<Ends>(z, wanted, Which::high));
+    return core;
   } else {
     return ValueAtEnds<Ends>(z, wanted);
   }

@@ -169,9 +169,6 @@ struct A53_64fc : QuotientKernel<Lum64fc> {
     return nle(re, high) | nle(im, high) | (lt(re, low) & lt(im, low)) | (lt(re, low) & lt(zero, re)) |
            (lt(im, low) & lt(zero, im));
   }
-  [[gnu::noinline]] static Lanes<Lum64fc> CalledScaledQuotient(const Interleaved<Lum64f>& z, const Interleaved<Lum64f>& w) {
-    return ScaledQuotient(z, w);
-  }
   [[gnu::noinline]] static Lanes<Lum64fc> CalledOrdinaryQuotient(const Interleaved<Lum64f>& packed_z,
                                                                  const Interleaved<Lum64f>& packed_w) {
     const auto z = split(packed_z), w = split(packed_w);
@@ -194,29 +191,59 @@ struct A53_64fc : QuotientKernel<Lum64fc> {
       is_sure = scaled.is_sure, overflow = scaled.overflow;
     }
     if (any(special)) {
-      const auto given_z = z, given_w = w;  // of which the call takes the address
-      const auto core = QuotientAsCore(given_z, given_w, special);
-      is_sure = is_sure & (~special | (core.is_known & core.is_sure));
-      re = select(special, core.value.re, re), im = select(special, core.value.im, im);
+      const auto value = QuotientEnds::OfSpecial(z, w);
+      is_sure = is_sure & ~(special & QuotientEnds::HaveTwoNans(z, w));
+      re = select(special, value.re, re), im = select(special, value.im, im);
     }
     return {{re, im}, is_sure, overflow};
   }
-  static constexpr bool second_is_shared = streams_fit_registers && scales_all;
-  static LUM_INLINE Finished<Lum64fc> SecondPath(Interleaved<Lum64f> z, Interleaved<Lum64f> w, const Lanes<Lum64fc>& lanes) {
-    if constexpr (streams_fit_registers) {
-      const auto quotient = QuotientOfScaled(split(z), split(w));
-      if (none(~quotient.is_sure)) [[likely]]
-        return {join(quotient.value), ~quotient.is_sure, {.overflow = quotient.overflow}};
-      const auto given_z = z, given_w = w;
-      return OfBothPaths(given_z, given_w);
-    } else if constexpr (scales_all) {
-      return QuotientKernel<Lum64fc>::SecondPath(z, w, lanes);
+  static LUM_INLINE Finished<Lum64fc> SureQuotients(const Interleaved<Lum64f>& z, const Interleaved<Lum64f>& w) {
+    const auto quotient = QuotientOfScaled(split(z), split(w));
+    return {join(quotient.value), ~quotient.is_sure, {.overflow = quotient.overflow}};
+  }
+  template <class Packed> static LUM_INLINE Finished<Lum64fc> OfBothPaths(const Packed& packed_z, const Packed& packed_w) {
+    const auto lanes = ScaledQuotient(packed_z, packed_w);
+    const auto z = split(packed_z), w = split(packed_w);
+    const auto core = QuotientAsCore</*of_register=*/has_halves>(z, w, lanes.refused);
+    const auto r = Finish(core, lanes, lanes.refused);
+    return {r.value, r.refused, {.overflow = OverflowsOf(r, lanes.refused) & ~QuotientEnds::IsSpecial(z, w)}};
+  }
+  // Of one register's elements, standing in the place of the other's, too: half the stack.
+  template <class Packed> static LUM_INLINE Packed Elements(const Packed& z, Which which) {
+    return which == Which::low ? Packed{z.low, z.low} : Packed{z.high, z.high};
+  }
+  template <class Packed>
+  [[gnu::noinline]] static Finished<Lum64fc> CalledOfBothPaths(const Packed& z, const Packed& w, Which which) {
+    if constexpr (has_halves) return OfBothPaths(Elements(z, which), Elements(w, which));
+    else return OfBothPaths(z, w);
+  }
+  template <class Packed>
+  [[gnu::noinline]] static Finished<Lum64fc> SureRegister(const Packed& z, const Packed& w, Which which) {
+    return SureQuotients(Elements(z, which), Elements(w, which));
+  }
+  template <class Packed>
+  static LUM_INLINE Finished<Lum64fc> RegisterOfQuotients(const Packed& z, const Packed& w, Which which) {
+    const auto sure = SureRegister(z, w, which);
+    return none(sure.refused) ? sure : CalledOfBothPaths(z, w, which);
+  }
+  template <class Packed> static LUM_INLINE Finished<Lum64fc> QuotientsOf(const Packed& z, const Packed& w) {
+    if constexpr (has_halves) {
+      const auto low = RegisterOfQuotients(z, w, Which::low), high = RegisterOfQuotients(z, w, Which::high);
+      return {{low.value.low, high.value.low},
+              join_registers(low.refused, high.refused),
+              {.overflow = join_registers(low.reports.overflow, high.reports.overflow)}};
     } else {
-      return QuotientKernel<Lum64fc>::SecondPath(z, w, CalledScaledQuotient(z, w));
+      const auto sure = SureQuotients(z, w);
+      if (none(sure.refused)) [[likely]]
+        return sure;
+      const auto given_z = z, given_w = w;  // of which the call takes the address
+      return CalledOfBothPaths(given_z, given_w, Which::low);
     }
   }
-  [[gnu::noinline]] static Finished<Lum64fc> OfBothPaths(const Interleaved<Lum64f>& z, const Interleaved<Lum64f>& w) {
-    return QuotientKernel<Lum64fc>::SecondPath(z, w, ScaledQuotient(z, w));
+  static constexpr bool second_is_shared = streams_fit_registers && scales_all;
+  static LUM_INLINE Finished<Lum64fc> SecondPath(Interleaved<Lum64f> z, Interleaved<Lum64f> w, const Lanes<Lum64fc>& lanes) {
+    if constexpr (vectors_fit_registers) return QuotientsOf(z, w);
+    else return QuotientKernel<Lum64fc>::SecondPath(z, w, lanes);
   }
 };
 

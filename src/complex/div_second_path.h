@@ -64,13 +64,12 @@ struct QuotientEnds {
   }
 };
 
-// In the wanted lanes. All kernels share it.
-[[gnu::noinline]] inline CoreValue QuotientAsCore(const ComplexVec<Lum64f>& z, const ComplexVec<Lum64f>& w,
-                                                  const Mask<Lum64f>& wanted) {
+// In the wanted lanes.
+LUM_INLINE CoreValue AnyQuotientAsCore(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w, Mask<Lum64f> wanted) {
   const auto special = QuotientEnds::IsSpecial(z, w), by_rule = special & ~QuotientEnds::HaveTwoNans(z, w);
   CoreValue result{z, by_rule, by_rule};
-  // Where they do not fit registers the numbers take too much of the stack.
-  if constexpr (streams_fit_registers) {
+  // Numbers take too much of the stack where they lie there.
+  if constexpr (vectors_fit_registers) {
     if (any(wanted & ~special)) {
       const auto finite = QuotientEnds::OfFinite(z, w, wanted & ~special);
       result = {finite.value, by_rule | ~special, by_rule | finite.is_sure};
@@ -78,6 +77,25 @@ struct QuotientEnds {
   }
   if (any(wanted & special)) result.value = Select(special, QuotientEnds::OfSpecial(z, w), result.value);
   return result;
+}
+template <class Z, class M>
+[[gnu::noinline]] CoreValue RegisterOfQuotientsAsCore(const Z& z, const Z& w, const M& wanted, Which which) {
+  return AnyQuotientAsCore(OneRegisterEach(z, which), OneRegisterEach(w, which), OneRegister(wanted, which));
+}
+template <class Z, class M> [[gnu::noinline]] CoreValue CalledQuotientAsCore(const Z& z, const Z& w, const M& wanted) {
+  if constexpr (has_halves) {
+    auto core = RegisterOfQuotientsAsCore(z, w, wanted, Which::low);
+    JoinRegisters(core, RegisterOfQuotientsAsCore(z, w, wanted, Which::high));
+    return core;
+  } else {
+    return AnyQuotientAsCore(z, w, wanted);
+  }
+}
+// All kernels share it. The vectors may hold one register twice.
+template <bool of_register = false, class Z, class M>
+LUM_INLINE CoreValue QuotientAsCore(const Z& z, const Z& w, const M& wanted) {
+  if constexpr (of_register) return RegisterOfQuotientsAsCore(z, w, wanted, Which::low);
+  else return CalledQuotientAsCore(z, w, wanted);
 }
 
 }  // namespace lum::inline LUM_LAYER::complex

@@ -38,11 +38,7 @@ struct CoreValue32 {
   Mask<Lum32f> is_sure;
 };
 LUM_INLINE CoreValue32 ProductAsCore(ComplexVec<Lum32f> z, ComplexVec<Lum32f> w, Mask<Lum32f>) {
-  const auto half = [](ComplexVec<Lum64f> a, ComplexVec<Lum64f> b) __attribute__((always_inline)) {
-    return ComplexVec<Lum64f>{a.re * b.re + negate(a.im * b.im), a.re * b.im + a.im * b.re};
-  };
-  const auto low = half({widen_low(z.re), widen_low(z.im)}, {widen_low(w.re), widen_low(w.im)});
-  const auto high = half({widen_high(z.re), widen_high(z.im)}, {widen_high(w.re), widen_high(w.im)});
+  const auto low = PlainProduct(WidenLow(z), WidenLow(w)), high = PlainProduct(WidenHigh(z), WidenHigh(w));
   const auto narrowed = [](Vec<Lum64f> x, Vec<Lum64f> y, Vec<Lum32f> & value) __attribute__((always_inline)) {
     const auto distance = all(0x1p-52);
     value = narrow(x, y);
@@ -59,6 +55,7 @@ LUM_INLINE CoreValue32 ProductAsCore(ComplexVec<Lum32f> z, ComplexVec<Lum32f> w,
 template <class E, bool by_conjugate> struct Product : Kernel<E> {
   static constexpr int vectors = 1;
   static constexpr bool second_is_shared = true;
+  static constexpr bool second_orders_nans = vectors_fit_registers;
   static LUM_INLINE Finished<E> SecondPath(Packed<E> packed_z, Packed<E> packed_w,
                                            const Lanes<E, ComponentMask<Real<E>>>& lanes) {
     using T = Real<E>;
@@ -68,8 +65,8 @@ template <class E, bool by_conjugate> struct Product : Kernel<E> {
     const auto refused = ElementsOf(lanes.refused);
     const auto product = ProductAsCore(z, w, refused);
     auto finished = product.is_sure & refused;
-    // A NaN may be one of several, which only a layer that orders them gives right.
-    if constexpr (!orders_nans) finished = finished & ~unord(product.value.re, product.value.im);
+    // Elsewhere the NaN of an invalid product may be another one.
+    if constexpr (!second_orders_nans) finished = finished & ~unord(product.value.re, product.value.im);
     const ComplexVec<T> value{select(finished, product.value.re, first.re), select(finished, product.value.im, first.im)};
     const auto infinite = fpclass<classes::infinity>(value.re) | fpclass<classes::infinity>(value.im);
     const auto not_finite = fpclass<classes::nonfinite>(z.re) | fpclass<classes::nonfinite>(z.im) |
@@ -140,18 +137,15 @@ template <bool by_conjugate> struct A53_64fc : Product<Lum64fc, by_conjugate> {
   }
   static LUM_INLINE Finished<Lum64fc> SecondPath(Interleaved<Lum64f> packed_z, Interleaved<Lum64f> packed_w,
                                                  const Lanes<Lum64fc, ComponentMask<Lum64f>>& lanes) {
-    if constexpr (streams_fit_registers) {
-      const auto z = split(packed_z);
-      auto w = split(packed_w);
-      if constexpr (by_conjugate) w.im = negate(w.im);
-      const auto product = ProductOfScaled(z, w);
-      if (none(~product.is_sure)) [[likely]]
-        return {join(product.value), ~product.is_sure, {.overflow = product.overflow}};
-      const auto given_z = packed_z, given_w = packed_w;  // of which the call takes the address
-      return OfBothPaths(given_z, given_w);
-    } else {
-      return Product<Lum64fc, by_conjugate>::SecondPath(packed_z, packed_w, lanes);
-    }
+    if constexpr (!vectors_fit_registers) return Product<Lum64fc, by_conjugate>::SecondPath(packed_z, packed_w, lanes);
+    const auto z = split(packed_z);
+    auto w = split(packed_w);
+    if constexpr (by_conjugate) w.im = negate(w.im);
+    const auto product = ProductOfScaled(z, w);
+    if (none(~product.is_sure)) [[likely]]
+      return {join(product.value), ~product.is_sure, {.overflow = product.overflow}};
+    const auto given_z = packed_z, given_w = packed_w;  // of which the call takes the address
+    return OfBothPaths(given_z, given_w);
   }
   [[gnu::noinline]] static Finished<Lum64fc> OfBothPaths(const Interleaved<Lum64f>& z, const Interleaved<Lum64f>& w) {
     return Product<Lum64fc, by_conjugate>::SecondPath(z, w, VectorPath(z, w));

@@ -10,6 +10,15 @@ template <class T> LUM_INLINE Mask<T> HaveTwoNans(ComplexVec<T> z, ComplexVec<T>
   return unord(z.re, z.im) & unord(w.re, w.im);
 }
 
+// The sum of two products, of which the first one's NaN is the core's.
+template <class T> LUM_INLINE Vec<T> SumOfProducts(Vec<T> first, Vec<T> second) {
+  if constexpr (orders_nans) return first + second;
+  else return select(unord(first, first), first, first + second);
+}
+template <class T> LUM_INLINE ComplexVec<T> PlainProduct(ComplexVec<T> z, ComplexVec<T> w) {
+  return {SumOfProducts(z.re * w.re, negate(z.im * w.im)), SumOfProducts(z.re * w.im, z.im * w.re)};
+}
+
 // The product of finite numbers.
 LUM_INLINE CorePair ProductOfFinite(ComplexVec<Lum64f> given_z, ComplexVec<Lum64f> given_w, Mask<Lum64f> wanted) {
   const auto z = PartsOf(given_z), w = PartsOf(given_w);
@@ -26,9 +35,7 @@ LUM_INLINE CorePair ProductAsCore(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w, Ma
   const auto zero = all(0.0), zeros = fma(z.re, zero, fma(z.im, zero, fma(w.re, zero, w.im * zero)));
   const auto is_plain = wanted & (unord(zeros, zeros) | IsZeroAsWhole(z) | IsZeroAsWhole(w));
   CorePair product{z, is_plain};
-  if (any(is_plain)) {
-    product = {{z.re * w.re + negate(z.im * w.im), z.re * w.im + z.im * w.re}, is_plain & ~HaveTwoNans(z, w)};
-  }
+  if (any(is_plain)) { product = {PlainProduct(z, w), is_plain & ~HaveTwoNans(z, w)}; }
   const auto rest = wanted & ~is_plain;
   if (any(rest)) {
     const auto finite = ProductOfFinite(z, w, rest);
@@ -62,8 +69,8 @@ LUM_INLINE ScaledResult ProductOfScaled(ComplexVec<Lum64f> z, ComplexVec<Lum64f>
   }
   if (any(is_special)) {
     is_sure = is_sure & ~(is_special & HaveTwoNans(z, w));
-    re = select(is_special, z.re * w.re + negate(z.im * w.im), re);
-    im = select(is_special, z.re * w.im + z.im * w.re, im);
+    const auto plain = PlainProduct(z, w);
+    re = select(is_special, plain.re, re), im = select(is_special, plain.im, im);
   }
   return {{re, im}, is_sure, overflow};
 }

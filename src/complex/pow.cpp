@@ -36,50 +36,86 @@ template <class Number> struct PowPath {
   }
 };
 
-// What the core has beyond the domain of the path: a logarithm and an exponential, each in the way of its second path.
-[[gnu::noinline]] CoreValue PowerAtEnds(const ComplexVec<Lum64f>& z, const ComplexVec<Lum64f>& w, const Mask<Lum64f>& wanted) {
-  const auto logarithm = AnyAtEnds<LnEnds>(z, wanted);
+// What the core has beyond the domain of the path: a logarithm and an exponential, each in the way of its second path, by the
+// functions that are given.
+template <class Logarithm, class Power>
+LUM_INLINE CoreValue PowerBy(Logarithm logarithm_of, Power power_of, ComplexVec<Lum64f> z, ComplexVec<Lum64f> w,
+                             Mask<Lum64f> wanted) {
+  const auto logarithm = logarithm_of(z, wanted);
   const auto l = logarithm.value;
   const ComplexVec<Lum64f> product{w.re * l.re - w.im * l.im, w.re * l.im + w.im * l.re};
-  auto power = AnyAtEnds<ExpEnds>(product, wanted);
+  auto power = power_of(product, wanted);
   // Which of two NaNs results depends on how the core was compiled.
   const auto two_nans = unord(l.re, l.im) & unord(w.re, w.im);
   power.is_known = power.is_known & logarithm.is_known & logarithm.is_sure & ~two_nans;
   return power;
 }
+template <class Z, class M> [[gnu::noinline]] CoreValue RegisterOfPowers(const Z& z, const Z& w, const M& wanted, Which which) {
+  const auto ends = [which](auto register_at_ends) __attribute__((always_inline)) {
+    return [=](const Z& x, const M& m) __attribute__((always_inline)) { return register_at_ends(x, m, which); };
+  };
+  return PowerBy(ends(RegisterAtEnds<LnEnds, Z, M>), ends(RegisterAtEnds<ExpEnds, Z, M>), OneRegisterEach(z, which),
+                 OneRegisterEach(w, which), OneRegister(wanted, which));
+}
+template <class Z, class M> [[gnu::noinline]] CoreValue PowerAtEnds(const Z& z, const Z& w, const M& wanted) {
+  if constexpr (has_halves) {
+    auto core = RegisterOfPowers(z, w, wanted, Which::low);
+    JoinRegisters(core, RegisterOfPowers(z, w, wanted, Which::high));
+    return core;
+  } else {
+    return PowerBy(AnyAtEnds<LnEnds, Z, M>, AnyAtEnds<ExpEnds, Z, M>, z, w, wanted);
+  }
+}
+// At least the parts of the exponent's product with the logarithm.
+template <class T> LUM_INLINE Vec<T> SizeOfLogarithm(ComplexVec<T> z, ComplexVec<T> w) {
+  return (abs(w.re) + abs(w.im)) * (abs(getexp(max(abs(z.re), abs(z.im)))) + all(T(4)));
+}
 // Where the logarithm or the power may lie outside; other refused lanes are next to the middle between two numbers.
 LUM_INLINE Mask<Lum64f> IsFarPower(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w) {
-  // At least the parts of the product with the logarithm.
-  const auto size = (abs(w.re) + abs(w.im)) * (abs(getexp(max(abs(z.re), abs(z.im)))) + all(4.0));
-  return HasFarPart(z) | HasFarPart(w) | IsNextToCircle(z) | nle(size, all(largest_exponent));
+  const auto size = SizeOfLogarithm(z, w);
+  return HasFarPart(z) | HasFarPart(w) | IsNextToCircle(z) | nle(size, all(largest_exponent)) | (IsZero(z.re) & IsZero(z.im));
 }
 [[maybe_unused]] LUM_INLINE Lanes<Lum64fc> PowerLanes(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w, const Lanes<Lum64fc>& lanes) {
-  const auto wanted = lanes.refused & (IsFarPower(z, w) | (IsZero(z.re) & IsZero(z.im)));
+  const auto wanted = lanes.refused & IsFarPower(z, w);
+  if (none(wanted)) return lanes;
   return Finish(PowerAtEnds(z, w, wanted), lanes, wanted);
 }
+// Those of binary32 and a few others.
+[[maybe_unused]] LUM_INLINE Mask<Lum32f> IsFarPower(ComplexVec<Lum32f> z, ComplexVec<Lum32f> w) {
+  const auto size = SizeOfLogarithm(z, w);
+  const auto from_circle = abs(fma(z.re, z.re, fma(z.im, z.im, all(-1.0f))));
+  return HasNonFinitePart(z) | HasNonFinitePart(w) | lt(from_circle, all(0x1p-20f)) |
+         nle(size, all(static_cast<Lum32f>(largest_exponent - 1))) | (IsZero(z.re) & IsZero(z.im));
+}
 [[maybe_unused]] LUM_INLINE Lanes<Lum32fc> PowerLanes(ComplexVec<Lum32f> z, ComplexVec<Lum32f> w, const Lanes<Lum32fc>& lanes) {
-  return Finish(PowerAtEnds(WidenLow(z), WidenLow(w), low_half(lanes.refused)),
-                PowerAtEnds(WidenHigh(z), WidenHigh(w), high_half(lanes.refused)), lanes, lanes.refused);
+  auto wanted = lanes.refused;
+  // For one number next to the middle between two the core takes less than this for the numbers of a register.
+  if constexpr (has_halves) wanted = wanted & IsFarPower(z, w);
+  if (none(wanted)) return lanes;
+  return Finish(PowerAtEnds(WidenLow(z), WidenLow(w), low_half(wanted)),
+                PowerAtEnds(WidenHigh(z), WidenHigh(w), high_half(wanted)), lanes, wanted);
 }
 
 template <class E> struct PowKernel : Kernel<E> {
   static constexpr Variant variant = scalar_core_variant;
   static constexpr int vectors = 1;
 
-  // Two second paths in one take too much of the stack where they do not fit registers.
   static LUM_INLINE Finished<E> SecondPath(Interleaved<Real<E>> packed_z, Interleaved<Real<E>> packed_w,
                                            const Lanes<E>& lanes) {
-    if constexpr (!streams_fit_registers) return {lanes.value, lanes.refused, {}};
+    // Two second paths in one take too much of the stack where they lie there.
+    if constexpr (!vectors_fit_registers) return {lanes.value, lanes.refused, {}};
     const auto z = split(packed_z), w = split(packed_w);
     const auto r = PowerLanes(z, w, lanes);
     return {r.value, r.refused, {.overflow = OverflowsOf(r, lanes.refused) & ~(CannotOverflow(z) | CannotOverflow(w))}};
   }
 
   static LUM_INLINE Lanes<E> VectorPath(Interleaved<Real<E>> z, Interleaved<Real<E>> w) {
-    return PathOfElements<PowPath<NumberFor<E>>, E>(z, w);
+    if constexpr (streams_fit_registers) return PathOfElements<PowPath<NumberFor<E>>, E>(z, w);
+    else return CalledPathOfElements<PowPath<NumberFor<E>>, E>(z, w);
   }
   static LUM_INLINE Lanes<E> TailPath(Interleaved<Real<E>> z, Interleaved<Real<E>> w, int count) {
-    return PathOfTail<PowPath<NumberFor<E>>, E>(count, z, w);
+    if constexpr (!streams_fit_registers && std::is_same_v<E, Lum64fc>) return VectorPath(z, w);
+    else return PathOfTail<PowPath<NumberFor<E>>, E>(count, z, w);
   }
   static LumStatus LaneRoutine(const E& z, const E& w, E& result) { return ReportingCoreOnLane<CorePow>(z, w, result); }
 };

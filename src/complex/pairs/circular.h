@@ -86,7 +86,7 @@ template <class Number> LUM_INLINE SineAndCosine<Number> SineCosineOf(Vec<Lum64f
 
 // The reduction of angles beyond the largest, by the remainder of turns in fixed-point numbers: an index of steps of pi/256 and
 // hi + lo, of which the odd steps go half to either side.
-[[gnu::noinline]] inline ReducedAngle<HeadTail> ReduceFarAngle(const Vec<Lum64f>& magnitude) {
+LUM_INLINE ReducedAngle<HeadTail> FarAngle(Vec<Lum64f> magnitude) {
   const auto turned = circular::ReduceLarge<Lum64f>(magnitude, all(uint64_t{0}));
   const auto is_odd = mask_cast<Lum64f>(test_any(turned.index, all(uint64_t{1})));
   const auto step = zero_unless(is_odd, or_sign(turned.hi, all(numbers::pi<Lum64f> / 256)));
@@ -97,6 +97,17 @@ template <class Number> LUM_INLINE SineAndCosine<Number> SineCosineOf(Vec<Lum64f
   const auto row = shift_right<1>(select(rises, turned.index + all(uint64_t{1}), turned.index));
   return {row, r, lt(abs(r.head), all(0x1p-19))};
 }
+// The vector holds one register twice, or two.
+template <bool holds_one, class V> [[gnu::noinline]] ReducedAngle<HeadTail> CalledFarAngle(const V& magnitude) {
+  if constexpr (holds_one) return FarAngle(low_register(magnitude));
+  else return FarAngle(magnitude);
+}
+template <bool holds_one, class V> LUM_INLINE ReducedAngle<HeadTail> ReduceFarAngle(const V& magnitude) {
+  const auto angle = CalledFarAngle<holds_one>(magnitude);
+  if constexpr (holds_one)
+    return {low_register(angle.row), {low_register(angle.r.head), low_register(angle.r.tail)}, low_register(angle.refused)};
+  else return angle;
+}
 LUM_INLINE ReducedAngle<OnePart> InOnePart(const ReducedAngle<HeadTail>& angle) {
   return {angle.row, {angle.r.head}, lt(abs(angle.r.head), all(0x1p-30))};
 }
@@ -104,17 +115,18 @@ template <class Number>
 LUM_INLINE ReducedAngle<Number> SelectAngle(Mask<Lum64f> m, const ReducedAngle<Number>& a, const ReducedAngle<Number>& b) {
   return {select(mask_cast<uint64_t>(m), a.row, b.row), Select(m, a.r, b.r), (m & a.refused) | (b.refused & ~m)};
 }
-// Sine and cosine of any number.
+// Sine and cosine of any number; as a pair, in a second path, which takes registers one by one where a layer has two in a
+// vector.
 template <class Number> LUM_INLINE SineAndCosine<Number> SineCosineOfAny(Vec<Lum64f> y) {
   const auto magnitude = abs(y);
   const auto far = nle(magnitude, all(largest_angle_of<Number>));
   if constexpr (std::is_same_v<Number, OnePart>) {
     auto angle = ReduceAngleInOnePart(magnitude);
-    if (any(far)) angle = SelectAngle(far, InOnePart(ReduceFarAngle(magnitude)), angle);
+    if (any(far)) angle = SelectAngle(far, InOnePart(ReduceFarAngle<false>(magnitude)), angle);
     return SineCosineOfReduced(y, angle);
   } else {
     auto angle = ReduceAngle(magnitude);
-    if (any(far)) angle = SelectAngle(far, ReduceFarAngle(magnitude), angle);
+    if (any(far)) angle = SelectAngle(far, ReduceFarAngle<has_halves>(magnitude), angle);
     return SineCosineOfReduced(y, angle);
   }
 }
