@@ -77,6 +77,7 @@ struct SubDoubles : SumKernel<Lum64fc, Minus, classes::nonfinite | classes::zero
 
 // The signs of the imaginary parts flipped, as bits: a signalling NaN stays signalling.
 template <uint64_t... pattern> struct ConjKernel : Kernel<uint64_t> {
+  static constexpr bool is_short = true;
   static constexpr Variant variant = conj_variant;
   static constexpr int vectors = 4;
   static constexpr uint64_t fill = 0;

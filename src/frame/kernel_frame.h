@@ -56,14 +56,15 @@ LUM_INLINE void TailStep(const K& kernel, const Arrays<K, n, m>& arrays, int64_t
   }
   StoreStep<K, n, m>(arrays, i, count, result);
 }
-// Both forms of a complex function's tail beside its blocks would take as much of the stack as all that follows a refusal.
+// By itself, with the constants that it needs: a short call has no time for those that the blocks keep in registers or on the
+// stack, of which a call may take little.
 template <class K, int n, int m>
 [[gnu::noinline]] void CalledTailStep(const K& kernel, const Arrays<K, n, m>& arrays, int64_t i, int count, Call& call) {
   TailStep<K, n, m>(kernel, arrays, i, count, call);
 }
 template <class K, int n, int m>
 LUM_INLINE void Tail(const K& kernel, const Arrays<K, n, m>& arrays, int64_t i, int count, Call& call) {
-  if constexpr (TakesHalves<K> && is_complex<typename K::Input>) CalledTailStep<K, n, m>(kernel, arrays, i, count, call);
+  if constexpr (has_halves && !K::is_short && !K::aligns_stores) CalledTailStep<K, n, m>(kernel, arrays, i, count, call);
   else TailStep<K, n, m>(kernel, arrays, i, count, call);
 }
 

@@ -31,6 +31,7 @@
 //     over both paths has the fill in their place.
 //   second_in_all_layers: the lane routine knows only what the second path leaves. Otherwise the portable layer has the
 //     routine alone where the processor has no fused multiply-add, for which it is faster.
+//   second_orders_nans: of several NaNs it gives the right one also where the layer's operations may give any.
 // A kernel with a parameter has it as a data member; all others are empty.
 #pragma once
 
@@ -61,6 +62,7 @@ template <class InputElement, class OutputElement = InputElement> struct Kernel 
   static constexpr bool refuses_by_class = false;
   static constexpr bool hides_refused = false;
   static constexpr bool second_in_all_layers = false;
+  static constexpr bool second_orders_nans = orders_nans;
   static constexpr bool hook_has_first_source_only = false;  // in the place of the second, too
 };
 
@@ -203,7 +205,7 @@ template <class K, int m, class Result> LUM_INLINE auto AsBothPaths(const Result
 template <class K, int n, int m, class Result>
 LUM_INLINE auto FinishVector(const K& kernel, const Inputs<K, n>& x, const Result& r) {
   auto second = SecondPathOf<K, n>(kernel, x, r);
-  if constexpr (!orders_nans && requires { ~r.refused; }) {
+  if constexpr (!K::second_orders_nans && requires { ~r.refused; }) {
     second.refused = second.refused | (r.refused & SeveralNans<K, n>(x));
   }
   return AsBothPaths<K, m>(second, true);
