@@ -180,18 +180,19 @@ struct A53_64fc : QuotientKernel<Lum64fc> {
   }
   // The first path's steps for any exponents, whose roundings are the core's where they are sure.
   static LUM_INLINE ScaledResult QuotientOfScaled(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w) {
-    const auto z_exponent = max(getexp(z.re), getexp(z.im)), w_exponent = max(getexp(w.re), getexp(w.im));
-    const auto special = IsNonFinite(w_exponent) | nle(z_exponent, all(1100.0)) | unord(z.re, w.re);
+    const auto z_exponent = ExponentOf(z), w_exponent = ExponentOf(w), exponent = z_exponent - w_exponent;
+    const auto special = IsEitherSpecial(z, w, exponent);
     auto re = z.re, im = z.im;
     auto is_sure = special, overflow = mask_of<Lum64f>(0);
     if (any(~special)) {
-      const auto [x, y] = QuotientBy<RatioWithRest>(NextToOne(z, negate(z_exponent)), NextToOne(w, negate(w_exponent)));
-      const auto scaled = ScaledBack(x, y, z_exponent - w_exponent, special);
+      const auto [x, y] = QuotientBy<RatioWithRest>(NextToOne(z, z_exponent), NextToOne(w, w_exponent));
+      const auto scaled = ScaledBack(x, y, exponent, special);
       re = scaled.value.re, im = scaled.value.im;
       is_sure = scaled.is_sure, overflow = scaled.overflow;
     }
     if (any(special)) {
-      const auto value = QuotientEnds::OfSpecial(z, w);
+      const auto vanishes = IsZeroAsWhole(z) & ~QuotientEnds::IsSpecial(z, w);  // a zero is positive
+      const auto value = Select(vanishes, {all(0.0), all(0.0)}, QuotientEnds::OfSpecial(z, w));
       is_sure = is_sure & ~(special & QuotientEnds::HaveTwoNans(z, w));
       re = select(special, value.re, re), im = select(special, value.im, im);
     }

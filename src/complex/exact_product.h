@@ -5,6 +5,7 @@
 
 #include "complex/core_second_path.h"
 #include "frame/immediates.h"
+#include "frame/lifted.h"
 
 namespace lum::inline LUM_LAYER::complex {
 
@@ -85,13 +86,38 @@ LUM_INLINE CorePair RoundedPair(const ScaledSum& re, Vec<Lum64f> re_distance, co
   return {{x.value, y.value}, x.is_sure & y.is_sure};
 }
 
-// Both parts divided by a power of 2, of which the larger one is next to 1 then. Beside it, the square of a smaller part is as
+LUM_INLINE Mask<Lum64f> IsZeroAsWhole(ComplexVec<Lum64f> z) {
+  return mask_cast<Lum64f>(test_none(bits(z.re) | bits(z.im), all(~sign_bit<Lum64f>)));
+}
+// The exponent of the larger part. Where a layer has no instruction for it, denormal numbers have theirs by their bits, and
+// what is special any.
+LUM_INLINE Vec<Lum64f> ExponentOf(ComplexVec<Lum64f> z) {
+  constexpr int interval = significand::from_1_to_2;
+  if constexpr (estimates_take_all) return max(getexp(z.re), getexp(z.im));
+  else return max(PartsOfFinite<interval>(z.re).exponent, PartsOfFinite<interval>(z.im).exponent);
+}
+// Infinite, NaN, or zero as a whole, given the sum or the difference of the exponents.
+LUM_INLINE Mask<Lum64f> IsEitherSpecial(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w, Vec<Lum64f> exponent) {
+  if constexpr (estimates_take_all) return IsNonFinite(exponent) | unord(z.re, w.re);
+  else return HasNonFinitePart(z) | HasNonFinitePart(w) | IsZeroAsWhole(z) | IsZeroAsWhole(w);
+}
+// Both parts divided by 2^exponent, of which the larger one is next to 1 then. Beside it, the square of a smaller part is as
 // little as that of 2^-400, and there are no denormal numbers, which take long.
-LUM_INLINE ComplexVec<Lum64f> NextToOne(ComplexVec<Lum64f> z, Vec<Lum64f> down) {
-  const auto part = [down](Vec<Lum64f> x) __attribute__((always_inline)) {
-    return or_sign(x, max(abs(scalef(x, down)), all(0x1p-400)));
+LUM_INLINE ComplexVec<Lum64f> NextToOne(ComplexVec<Lum64f> z, Vec<Lum64f> exponent) {
+  const auto part = [exponent](Vec<Lum64f> x) __attribute__((always_inline)) {
+    if constexpr (estimates_take_all) {
+      return or_sign(x, max(abs(scalef(x, negate(exponent))), all(0x1p-400)));
+    } else {
+      const auto p = PartsOfFinite<significand::from_1_to_2>(x);
+      return scalef_normal(p.significand, max(p.exponent - exponent, all(-400.0)));
+    }
   };
   return {part(z.re), part(z.im)};
+}
+// What has a part next to 1, times 2^exponent, where that is no denormal number. Beyond these ends all vanish or overflow.
+LUM_INLINE Vec<Lum64f> ScaledFromOne(Vec<Lum64f> x, Vec<Lum64f> exponent) {
+  if constexpr (estimates_take_all) return scalef(x, exponent);
+  else return ScaledInTwo(x, max(min(exponent, all(2046.0)), all(-2040.0)));
 }
 // A part of a product or quotient of such numbers, and what is left of it behind the rounding.
 struct RoundedWithRest {
@@ -105,14 +131,14 @@ LUM_INLINE Mask<Lum64f> IsFarFromMiddle(Vec<Lum64f> value, Vec<Lum64f> rest, dou
 }
 // Times 2^exponent: below the normal numbers the sum with the shifter has the least denormal number in its last place.
 LUM_INLINE Vec<Lum64f> ScaledBack(const RoundedWithRest& s, Vec<Lum64f> exponent, Mask<Lum64f>& is_sure) {
-  const auto is_below = lt(getexp(s.value) + exponent, all(-1022.0));
-  const auto shifter = or_sign(s.value, scalef(all(1.0), all(-1022.0) - max(exponent, all(-1900.0))));
+  const auto is_below = lt(getexp_normal(s.value) + exponent, all(-1022.0));
+  const auto shifter = or_sign(s.value, scalef_normal(all(1.0), all(-1022.0) - max(exponent, all(-1900.0))));
   const auto sum = shifter + s.value;
   const auto rest = s.value - (sum - shifter);
   const auto distance = fma(abs(rest), all(0x1p-52), all(0x1p-60));
   const auto above = sum + (rest + (s.rest + distance)), below = sum + (rest + (s.rest - distance));
   is_sure = is_sure & (eq(above, below) | ~is_below);
-  return scalef(select(is_below, or_sign(s.value, above - shifter), s.value), exponent);
+  return ScaledFromOne(select(is_below, or_sign(s.value, above - shifter), s.value), exponent);
 }
 // Both parts times 2^exponent.
 struct ScaledResult {
@@ -122,7 +148,7 @@ struct ScaledResult {
 // The lanes of the mask, which have values of their own, are sure.
 LUM_INLINE ScaledResult ScaledBack(const RoundedWithRest& re, const RoundedWithRest& im, Vec<Lum64f> exponent,
                                    Mask<Lum64f> is_special) {
-  ComplexVec<Lum64f> value{scalef(re.value, exponent), scalef(im.value, exponent)};
+  ComplexVec<Lum64f> value{ScaledFromOne(re.value, exponent), ScaledFromOne(im.value, exponent)};
   auto is_sure = re.is_sure & im.is_sure;
   if (any(lt(exponent, all(-990.0)) & ~is_special)) [[unlikely]]
     value = {ScaledBack(re, exponent, is_sure), ScaledBack(im, exponent, is_sure)};

@@ -26,9 +26,6 @@ LUM_INLINE CorePair ProductOfFinite(ComplexVec<Lum64f> given_z, ComplexVec<Lum64
   return RoundedPair(re, DistanceFromCore(re), im, DistanceFromCore(im), wanted);
 }
 
-LUM_INLINE Mask<Lum64f> IsZeroAsWhole(ComplexVec<Lum64f> z) {
-  return mask_cast<Lum64f>(test_none(bits(z.re) | bits(z.im), all(~sign_bit<Lum64f>)));
-}
 // The products in the lanes of the mask; the others are not sure. Plain products and sums are the core's where a number is not
 // finite, and where one is zero.
 LUM_INLINE CorePair ProductAsCore(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w, Mask<Lum64f> wanted) {
@@ -54,14 +51,13 @@ LUM_INLINE RoundedWithRest RoundedSumOfProducts(Vec<Lum64f> a, Vec<Lum64f> c, Ve
 // Products of numbers of any exponents by both factors divided by the power of 2 in their larger part: sums with their tails
 // rounded once, which are the first path's, too; plain ones where one of the arguments is not finite, or zero as a whole.
 LUM_INLINE ScaledResult ProductOfScaled(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w) {
-  const auto z_exponent = max(getexp(z.re), getexp(z.im)), w_exponent = max(getexp(w.re), getexp(w.im));
-  const auto exponent = z_exponent + w_exponent;
-  const auto is_special = IsNonFinite(exponent) | unord(z.re, w.re);
+  const auto z_exponent = ExponentOf(z), w_exponent = ExponentOf(w), exponent = z_exponent + w_exponent;
+  const auto is_special = IsEitherSpecial(z, w, exponent);
   auto re = z.re, im = z.im;
   auto is_sure = is_special, overflow = mask_of<Lum64f>(0);
   if (any(~is_special)) {
-    const auto [a, b] = NextToOne(z, negate(z_exponent));
-    const auto [c, d] = NextToOne(w, negate(w_exponent));
+    const auto [a, b] = NextToOne(z, z_exponent);
+    const auto [c, d] = NextToOne(w, w_exponent);
     const auto scaled =
         ScaledBack(RoundedSumOfProducts(a, c, negate(b), d), RoundedSumOfProducts(a, d, b, c), exponent, is_special);
     re = scaled.value.re, im = scaled.value.im;

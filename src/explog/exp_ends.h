@@ -7,6 +7,7 @@
 #include "explog/exp_reduction.h"
 #include "explog/exp_routine.h"
 #include "frame/kernel_frame.h"
+#include "frame/lifted.h"
 
 namespace lum::inline LUM_LAYER::explog {
 
@@ -15,14 +16,6 @@ namespace lum::inline LUM_LAYER::explog {
 template <int scale> LUM_INLINE Vec<Lum32f> RoundedToDenormal(Vec<Lum32f> v) {
   constexpr auto addend = lane::power_of_two<Lum32f>(1 + scale - lane::Format<Lum32f>::bias);
   return as_float(bits(v + all(addend)) - bits(all(addend)));
-}
-
-// v 2^floor(n) where that is no denormal number, for n from -2 bias to 2 bias: in two steps where one factor for it may lie
-// beyond the normal numbers and there is no instruction for it. A v that is a NaN stays.
-template <class T> LUM_INLINE Vec<T> ScaledInTwo(Vec<T> v, Vec<T> n) {
-  if constexpr (estimates_take_all && vectors_fit_registers) return scalef(v, n);
-  const auto half = rndscale<binary_places(0) | rd | quiet>(n * all(T(0.5)));
-  return scalef_normal(scalef_normal(v, half), n - half);
 }
 
 // e^x of numbers between the refusal and the ends, in the lanes of the mask; the others hold an ordinary number.

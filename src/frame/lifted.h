@@ -1,5 +1,6 @@
-// Denormal numbers as normal ones, by their bits: on Intel's processors an operation that meets or makes a denormal number
-// takes a hundred times as long.
+// Numbers at the ends of the range by operations between normal ones: denormal numbers by their bits, since on Intel's
+// processors an operation that meets or makes a denormal number takes a hundred times as long, and powers of 2 that are no
+// factors.
 #pragma once
 
 #include "frame/lane_format.h"
@@ -31,6 +32,14 @@ template <int imm, Floating T> LUM_INLINE Parts<T> PartsOfFinite(Vec<T> x) {
   const auto lifted = LiftDenormals(x);
   const auto exponent = getexp_normal(lifted.x);
   return {getmant_normal<imm>(lifted.x), exponent - zero_unless(lifted.was_lifted, all(T(lift<T>)))};
+}
+
+// v 2^floor(n) where that is no denormal number, for n from -2 bias to 2 bias: in two steps where one factor for it may lie
+// beyond the normal numbers and there is no instruction for it. A v that is a NaN stays.
+template <Floating T> LUM_INLINE Vec<T> ScaledInTwo(Vec<T> v, Vec<T> n) {
+  if constexpr (estimates_take_all && vectors_fit_registers) return scalef(v, n);
+  const auto half = rndscale<binary_places(0) | rd | quiet>(n * all(T(0.5)));
+  return scalef_normal(scalef_normal(v, half), n - half);
 }
 
 }  // namespace lum::inline LUM_LAYER

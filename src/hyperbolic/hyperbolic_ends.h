@@ -16,7 +16,7 @@ LUM_INLINE Lanes<Lum64f> HalfExponential(Vec<Lum64f> m) {
   const auto i = shift_left<1>(bits(shifted) & all(uint64_t{63}));
   const auto [hi, lo] = gather_pairs<Lum64f>(exp2_pairs, i);
   // The floor of the exponent is taken.
-  return {explog::ScaledInTwo(hi + (hi * u + lo), fma(k, all(1.0 / 64), all(-1.0))), mask_of<Lum64f>(0)};
+  return {ScaledInTwo(hi + (hi * u + lo), fma(k, all(1.0 / 64), all(-1.0))), mask_of<Lum64f>(0)};
 }
 LUM_INLINE Lanes<Lum32f> HalfExponential(Vec<Lum32f> m) { return explog::ScaledExpAtEnds(m, 0.5); }
 
