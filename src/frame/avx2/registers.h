@@ -24,7 +24,9 @@ template <Lane T> struct Half {
 // A function by itself takes and returns what is in a Half, since only of such calls does g++ see that two are the same.
 template <Lane T> using Native = typename RegisterOf<T>::Type;
 // All bits of a lane, or none.
-template <Lane T> struct HalfMask { __m256i v; };
+template <Lane T> struct HalfMask {
+  __m256i v = _mm256_setzero_si256();  // as a register: what is given no value is else written to memory by bytes
+};
 
 // ---- Make, load, store, reinterpretation
 
