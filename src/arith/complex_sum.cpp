@@ -18,8 +18,10 @@ template <class E> bool HasInfinity(E z) { return IsInfinite(z.re) || IsInfinite
 
 // Components that are infinite.
 template <class T> LUM_INLINE Mask<T> Infinite(Vec<T> x) { return fpclass<classes::infinity>(x); }
-// Components that are infinite or NaN.
-template <class T> LUM_INLINE Mask<T> NotFinite(Vec<T> x) { return fpclass<classes::nonfinite>(x); }
+// Components of an infinite sum of which neither term is infinite.
+template <class T> LUM_INLINE Mask<T> InfiniteOfFinite(Mask<T> sum_is_infinite, Vec<T> a, Vec<T> b) {
+  return sum_is_infinite & ~(Infinite(a) | Infinite(b));
+}
 
 // Numbers with a component of one of the classes.
 template <int classes, class T> LUM_INLINE Mask<T> InAnyPart(Interleaved<T> packed) {
@@ -38,14 +40,12 @@ struct Minus {
 template <class E, class Operation, int excusing = classes::infinity> struct SumKernel : Kernel<E> {
   using T = Real<E>;
   using Refused = ComponentMask<T>;
-  static constexpr bool is_single = std::is_same_v<E, Lum32fc>;
   static constexpr bool is_short = true;
-  static constexpr Variant variant = is_single ? x87_up_front_variant : common_variant;
+  static constexpr Variant variant = std::is_same_v<E, Lum32fc> ? x87_up_front_variant : common_variant;
 
   static LUM_INLINE Lanes<E, Refused> VectorPath(Interleaved<T> a, Interleaved<T> b) {
     const Interleaved<T> sum{Operation::Of(a.low, b.low), Operation::Of(a.high, b.high)};
-    if constexpr (is_single) return {sum, {Infinite(sum.low), Infinite(sum.high)}};
-    else return {sum, {NotFinite(sum.low), NotFinite(sum.high)}};
+    return {sum, {Infinite(sum.low), Infinite(sum.high)}};
   }
   // The sum itself is the vector path's.
   static LumStatus LaneRoutine(const E& a, const E& b, const E& sum) {
@@ -53,6 +53,9 @@ template <class E, class Operation, int excusing = classes::infinity> struct Sum
   }
   static constexpr bool second_is_short = true;
   static LUM_INLINE Finished<E> SecondPath(Interleaved<T> a, Interleaved<T> b, const Lanes<E, Refused>& lanes) {
+    // Most infinite sums are of infinities.
+    if (none(InfiniteOfFinite(lanes.refused.low, a.low, b.low) | InfiniteOfFinite(lanes.refused.high, a.high, b.high)))
+      return {lanes.value, mask_of<T>(0), {}};
     const auto overflows = InAnyPart<classes::infinity>(lanes.value) & ~InAnyPart<excusing>(a) & ~InAnyPart<excusing>(b);
     return {lanes.value, mask_of<T>(0), {.overflow = overflows}};
   }

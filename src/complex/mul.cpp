@@ -123,20 +123,57 @@ template <bool by_conjugate> struct A53_64fc : Product<Lum64fc, by_conjugate> {
     const auto moved = as_signed(bits(abs(x))) - all(std::bit_cast<int64_t>(uint64_t{0xA340000000000000}));
     return mask_cast<Lum64f>(lt(all(std::bit_cast<int64_t>(uint64_t{0xBC96A09DFFFFFFFF})), moved));
   }
-  static LUM_INLINE Vec<Lum64f> HalfOf(Vec<Lum64f> z, Vec<Lum64f> w) {
+  // The sums of two products, exactly but for the rounding of the tail. Where one of each two is zero, it is nothing but the
+  // other and its error.
+  template <bool one_is_zero = false> static LUM_INLINE HeadTail SumsOf(Vec<Lum64f> z, Vec<Lum64f> w) {
     constexpr uint64_t s = sign_bit<Lum64f>;
     static constexpr uint64_t even_signs[8] = {s, 0, s, 0, s, 0, s, 0}, odd_signs[8] = {0, s, 0, s, 0, s, 0, s};
     const auto f = FactorsOf(z, w);
     const auto w_im = f.w_im ^ load(by_conjugate ? odd_signs : even_signs);
     const auto first = f.z * f.w_re, second = f.z_swapped * w_im;
+    const auto errors = fms(f.z, f.w_re, first) + fms(f.z_swapped, w_im, second);
+    if constexpr (one_is_zero) return {first + second, errors};
     const auto sum = two_sum(first, second);
-    return sum.head + (sum.tail + (fms(f.z, f.w_re, first) + fms(f.z_swapped, w_im, second)));
+    return {sum.head, sum.tail + errors};
+  }
+  static LUM_INLINE Vec<Lum64f> HalfOf(Vec<Lum64f> z, Vec<Lum64f> w) {
+    const auto sum = SumsOf(z, w);
+    return sum.head + sum.tail;
   }
   static LUM_INLINE Lanes<Lum64fc, ComponentMask<Lum64f>> VectorPath(Interleaved<Lum64f> z, Interleaved<Lum64f> w) {
     return {{HalfOf(z.low, w.low), HalfOf(z.high, w.high)}, {IsFar(z.low) | IsFar(w.low), IsFar(z.high) | IsFar(w.high)}};
   }
+  static LUM_INLINE Mask<Lum64f> IsFarAndNotZero(Vec<Lum64f> x) { return IsFar(x) & ~IsZero(x); }
+  // Where its vectors fit into the registers, the second path has the values of all lanes.
+  static LUM_INLINE bool RefusesAll(Interleaved<Lum64f> z, Interleaved<Lum64f> w) {
+    return vectors_fit_registers && any(IsFar(z.low) | IsFar(w.low) | IsFar(z.high) | IsFar(w.high));
+  }
+
+  // Numbers with zero parts, as real data are, and others between the ends. Where one of its two products is zero, a sum is the
+  // core's but next to the middle of two numbers; a zero has the sign of the sum.
+  template <bool one_is_zero> static LUM_INLINE Vec<Lum64f> WithZeros(Vec<Lum64f> z, Vec<Lum64f> w, Mask<Lum64f>& is_sure) {
+    const auto sum = SumsOf<one_is_zero>(z, w);
+    const auto value = one_is_zero ? sum.head : add(~IsZero(sum.tail), sum.head, sum.tail);
+    const auto rest = one_is_zero ? sum.tail : sum.tail - (value - sum.head);
+    is_sure = eq(fma(rest, all(1 + core_distance), value), value);
+    return value;
+  }
+  template <bool one_is_zero> static LUM_INLINE Lanes<Lum64fc> WithZeros(Interleaved<Lum64f> z, Interleaved<Lum64f> w) {
+    ComponentMask<Lum64f> is_sure;
+    const Interleaved<Lum64f> value{WithZeros<one_is_zero>(z.low, w.low, is_sure.low),
+                                    WithZeros<one_is_zero>(z.high, w.high, is_sure.high)};
+    return {value, ~(is_sure.low & is_sure.high)};
+  }
   static LUM_INLINE Finished<Lum64fc> SecondPath(Interleaved<Lum64f> packed_z, Interleaved<Lum64f> packed_w,
                                                  const Lanes<Lum64fc, ComponentMask<Lum64f>>& lanes) {
+    const ComponentMask<Lum64f> zeros{IsZero(packed_z.low) | IsZero(packed_w.low),
+                                      IsZero(packed_z.high) | IsZero(packed_w.high)};
+    if (none(IsFarAndNotZero(packed_z.low) | IsFarAndNotZero(packed_w.low) | IsFarAndNotZero(packed_z.high) |
+             IsFarAndNotZero(packed_w.high))) {
+      const auto r = has_all_elements(zeros) ? WithZeros<true>(packed_z, packed_w) : WithZeros<false>(packed_z, packed_w);
+      if (none(r.refused)) [[likely]]
+        return {r.value, mask_of<Lum64f>(0), {}};
+    }
     if constexpr (!vectors_fit_registers) return Product<Lum64fc, by_conjugate>::SecondPath(packed_z, packed_w, lanes);
     const auto z = split(packed_z);
     auto w = split(packed_w);

@@ -41,12 +41,16 @@ LUM_INLINE CorePair ProductAsCore(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w, Ma
   return product;
 }
 
+// How near to the middle of two numbers the rounding to extended precision, of 11 bits more, may turn the core's: a part of
+// half the last place.
+inline constexpr double core_distance = 0x1.1p-11;
+
 LUM_INLINE RoundedWithRest RoundedSumOfProducts(Vec<Lum64f> a, Vec<Lum64f> c, Vec<Lum64f> b, Vec<Lum64f> d) {
   const auto first = two_product(a, c), second = two_product(b, d);
   const auto sum = two_sum(first.head, second.head);
   const auto tail = sum.tail + (first.tail + second.tail);
   const auto value = sum.head + tail, rest = tail - (value - sum.head);
-  return {value, rest, IsFarFromMiddle(value, rest, 0x1.1p-11)};
+  return {value, rest, IsFarFromMiddle(value, rest, core_distance)};
 }
 // Products of numbers of any exponents by both factors divided by the power of 2 in their larger part: sums with their tails
 // rounded once, which are the first path's, too; plain ones where one of the arguments is not finite, or zero as a whole.

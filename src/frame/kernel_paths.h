@@ -17,8 +17,8 @@
 //     Optional, beside SecondPath: the same of two vectors, for a long chain of operations, of which the processor overlaps
 //     two.
 //   RefusesAll(x...)
-//     Optional: whether the first path refuses all lanes, from the arguments by a few operations, so that the loop over both
-//     paths runs the second one alone.
+//     Optional: whether the first path refuses all lanes, or some of which the second one gives the others' values, too: from
+//     the arguments by a few operations, so that the loop over both paths runs the second one alone.
 // Constants that a kernel may override: variant, vectors (in a block), fill (of inactive lanes: never to be refused), is_short
 // (a vector path of a few operations, which is inlined in either layer), is_called (a vector path that is a function by itself,
 // which takes as long for half a vector), aligns_stores (a function that takes no longer than
@@ -205,7 +205,7 @@ template <class K, int m, class Result> LUM_INLINE auto AsBothPaths(const Result
 template <class K, int n, int m, class Result>
 LUM_INLINE auto FinishVector(const K& kernel, const Inputs<K, n>& x, const Result& r) {
   auto second = SecondPathOf<K, n>(kernel, x, r);
-  if constexpr (!K::second_orders_nans && requires { ~r.refused; }) {
+  if constexpr (!K::second_orders_nans && requires { r.refused& SeveralNans<K, n>(x); }) {
     second.refused = second.refused | (r.refused & SeveralNans<K, n>(x));
   }
   return AsBothPaths<K, m>(second, true);

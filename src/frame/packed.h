@@ -45,6 +45,7 @@ template <Floating T> LUM_INLINE bool has_all_elements(ComponentMask<T> m) {
 template <Floating T> LUM_INLINE ComponentMask<T> operator|(ComponentMask<T> a, ComponentMask<T> b) {
   return {a.low | b.low, a.high | b.high};
 }
+template <Floating T> LUM_INLINE ComponentMask<T> operator~(ComponentMask<T> m) { return {~m.low, ~m.high}; }
 
 // x with the fill in the places of the mask.
 template <Floating T> LUM_INLINE Vec<T> FilledWhere(Mask<T> m, Vec<T> x, T fill) { return select(m, all(fill), x); }
