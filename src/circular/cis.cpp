@@ -25,11 +25,13 @@ template <class Tier> struct Plain : Kernel<typename Tier::Element, typename Com
   static void LaneRoutine(T x, C& result) { SineAndCosineRoutine(x, result.im, result.re); }
 };
 template <class Tier> struct WithLarge : Plain<Tier> {
+  static constexpr bool refuses_by_class = true;
   static constexpr bool second_in_all_layers = true;
   using typename Plain<Tier>::T;
   using typename Plain<Tier>::C;
-  static LUM_INLINE Lanes<C> SecondPath(Vec<T> x, const Lanes<C>&) {
-    const auto v = Tier::Large(x);
+  static LUM_INLINE Lanes<C> SecondPath(Vec<T> x, const Lanes<C>& lanes) {
+    const auto [cosine, sine] = split(lanes.value);
+    const auto v = OfAnyFinite<Tier>(x, SineAndCosineValues<T>{sine, cosine, lanes.refused});
     return {join(ComplexVec<T>{SelectNonFinite(x, v.cosine), SelectNonFinite(x, v.sine)}), mask_of<T>(0)};
   }
 };

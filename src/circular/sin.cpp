@@ -17,6 +17,7 @@ namespace {
 using namespace circular;
 
 struct Float : Kernel<Lum32f> {
+  static constexpr bool refuses_by_class = true;
   static constexpr bool second_in_all_layers = true;
   static LUM_INLINE Finished<Lum32f> SecondPath(Vec<Lum32f> x, const Lanes<Lum32f>& lanes) {
     return MergeLarge(
@@ -84,6 +85,7 @@ struct A26_64f : Kernel<Lum64f> {
 };
 
 struct Double : Kernel<Lum64f> {
+  static constexpr bool refuses_by_class = true;
   static constexpr bool second_in_all_layers = true;
   static LUM_INLINE Finished<Lum64f> SecondPath(Vec<Lum64f> x, const Lanes<Lum64f>& lanes) {
     return MergeLarge(

@@ -21,16 +21,12 @@ template <class T> LUM_INLINE TwoFinished<T> WithNonFinite(Vec<T> x, Vec<T> sine
   return {SelectNonFinite(x, sine), SelectNonFinite(x, cosine), mask_of<T>(0), {.domain = fpclass<classes::infinity>(x)}};
 }
 template <class Tier> struct WithLarge : Plain<Tier> {
+  static constexpr bool refuses_by_class = true;
   static constexpr bool second_in_all_layers = true;
   using T = typename Tier::Element;
   static LUM_INLINE TwoFinished<T> SecondPath(Vec<T> x, const TwoLanes<T>& lanes) {
-    SineAndCosineValues<T> v{lanes.value1, lanes.value2, lanes.refused};
-    if (AnyFinite(lanes.refused, x)) v = LargeValues(x, v);
+    const auto v = OfAnyFinite<Tier>(x, SineAndCosineValues<T>{lanes.value1, lanes.value2, lanes.refused});
     return WithNonFinite(x, v.sine, v.cosine);
-  }
-  static LUM_INLINE SineAndCosineValues<T> LargeValues(Vec<T> x, const SineAndCosineValues<T>& ordinary) {
-    if constexpr (sizeof(T) == 8) return MergeLarge(x, ordinary);
-    else return Tier::Large(x);
   }
 };
 template <class Tier> struct WithLarge_64f : WithLarge<Tier> {

@@ -49,7 +49,6 @@ struct SineAndCosine_A26 {
 struct SineAndCosine_A50 {
   using Element = Lum64f;
   static LUM_INLINE SineAndCosineValues<Lum64f> Ordinary(Vec<Lum64f> x) { return ByHalfTurns<3>(x, circular::sincos_A50); }
-  static LUM_INLINE SineAndCosineValues<Lum64f> Large(Vec<Lum64f> x) { return MergeLarge(x, Ordinary(x)); }
 };
 struct SineAndCosine_A53 {
   using Element = Lum64f;
@@ -59,8 +58,14 @@ struct SineAndCosine_A53 {
     const auto angle = AngleOf(r.shifted);
     return {SineOf(angle, r) ^ HalfTurnSign(r, x), CosineOf(angle, r) ^ HalfTurnSign(r), nle(a, all(0x1p24))};
   }
-  static LUM_INLINE SineAndCosineValues<Lum64f> Large(Vec<Lum64f> x) { return MergeLarge(x, Ordinary(x)); }
 };
+
+// The values of any finite numbers, given the ordinary ones.
+template <class Tier, class T> LUM_INLINE SineAndCosineValues<T> OfAnyFinite(Vec<T> x, const SineAndCosineValues<T>& ordinary) {
+  if (!AnyFinite(ordinary.refused, x)) return ordinary;
+  if constexpr (sizeof(T) == 8) return MergeLarge(x, ordinary);
+  else return Tier::Large(x);
+}
 
 // The lane routine of either type and tier: in binary32 only infinities and NaN come here.
 inline LumStatus SineAndCosineRoutine(Lum32f x, Lum32f& sine, Lum32f& cosine) {

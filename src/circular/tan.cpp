@@ -97,6 +97,7 @@ template <class T> LUM_INLINE Vec<T> QuotientWithTails(const Reduced<T>& a, Vec<
 
 // The tiers by their Tier::Reduce, Tier::Evaluate and Tier::threshold.
 template <class Tier, class T> struct Tangent : Kernel<T> {
+  static constexpr bool refuses_by_class = true;
   static constexpr bool second_in_all_layers = true;
   static LUM_INLINE Lanes<T> VectorPath(Vec<T> x) {
     return {Tier::Evaluate(Tier::Reduce(x)), nle(abs(x), all(T{Tier::threshold}))};

@@ -57,6 +57,7 @@ template <class T> LUM_INLINE Modulus<T> ModulusAsCore(ComplexVec<T> z) {
 template <class E> struct AbsKernel : Kernel<E, Real<E>> {
   using T = Real<E>;
   static constexpr bool second_is_shared = streams_fit_registers;
+  static constexpr bool refuses_by_class = true;
   static constexpr bool hides_refused = true;
   static LUM_INLINE Lanes<T> SecondPath(Packed<E> packed, const Lanes<T>& lanes) {
     const auto z = split(packed);

@@ -81,6 +81,7 @@ struct SingleExponential {
 
 template <class E> struct ExpKernel : Kernel<E> {
   static constexpr int vectors = 1;
+  static constexpr bool refuses_by_class = true;
   static constexpr bool second_is_shared = true;
   static LUM_INLINE Finished<E> SecondPath(Packed<E> packed, const Lanes<E>& lanes) {
     return ReportingSecondPath<ExpEnds>(packed, lanes, lanes.refused);

@@ -29,13 +29,13 @@ template <class V> LUM_INLINE V QuantileOfTail(V p) {
 
 // The refused lanes hold 1/2, numbers next to 0 and 1, and those outside of the domain.
 template <class T> struct NormalInverse : Kernel<T> {
+  static constexpr bool refuses_by_class = true;
   static LumStatus LaneRoutine(T x, T& result) { return FinishEnds(x, T(1), false, QuantileOfTail<double>, result); }
   static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) {
     const auto of_tail = [](Vec<Lum64f> p) __attribute__((always_inline)) {
-      const auto smaller = min(p, all(1.0) - p);
-      if constexpr (std::is_same_v<T, Lum32f>)
-        return xor_sign(all(0.5) - p, NearErfcInvOfTail(smaller + smaller) * all(minus_root2));
-      else return xor_sign(all(0.5) - p, QuantileOfTail(smaller));
+      // No number of binary32 is so near to 1.
+      if constexpr (std::is_same_v<T, Lum32f>) return NearErfcInvOfTail(p + p) * all(minus_root2);
+      else return xor_sign(all(0.5) - p, QuantileOfTail(min(p, all(1.0) - p)));
     };
     return FinishEnds(x, lanes, T(1), false, of_tail);
   }

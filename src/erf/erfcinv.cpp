@@ -16,15 +16,16 @@ using namespace erf;
 
 // The refused lanes hold 1, numbers next to 0 and 2, and those outside of the domain.
 template <class T> struct ComplementInverse : Kernel<T> {
+  static constexpr bool refuses_by_class = true;
   static LumStatus LaneRoutine(T x, T& result) {
     return FinishEnds(
         x, T(2), true, [](double q) { return ErfcInvOfTail(q).head; }, result);
   }
   static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) {
     const auto of_tail = [](Vec<Lum64f> q) __attribute__((always_inline)) {
-      const auto smaller = min(q, all(2.0) - q);
-      if constexpr (std::is_same_v<T, Lum32f>) return xor_sign(all(1.0) - q, NearErfcInvOfTail(smaller));
-      else return xor_sign(all(1.0) - q, ErfcInvOfTail(smaller).head);
+      // No number of binary32 is so near to 2.
+      if constexpr (std::is_same_v<T, Lum32f>) return NearErfcInvOfTail(q);
+      else return xor_sign(all(1.0) - q, ErfcInvOfTail(min(q, all(2.0) - q)).head);
     };
     return FinishEnds(x, lanes, T(2), true, of_tail);
   }

@@ -4,12 +4,14 @@
 
 #include <limits>
 
+#include "explog/ln_terms.h"
 #include "explog/logarithm_routine.h"
 #include "frame/constant.h"
 #include "frame/kernel_frame.h"
 #include "frame/literals.h"
 #include "frame/scalar_fma.h"
 #include "frame/two_parts.h"
+#include "roots/coupled_root.h"
 #include "tables/table.h"
 
 namespace lum::inline LUM_LAYER::erf {
@@ -96,17 +98,31 @@ template <class V> LUM_INLINE TwoParts<V> ErfcInvOfTail(V q) {
   return fast_two_sum(root, rest - correction);
 }
 
-// erfcinv q of numbers q < 2^-22 of binary32, but for 2^-39 of it, which rarely matters to the rounding. The last two
-// coefficients are too small to matter, and no t is beyond the fourth row.
+// The same correction to 2^-39 of t, on quarters of the binades of t, which its bits select.
+inline constexpr size_t near_degree = 7;
+inline constexpr auto near_rows = by_columns<near_degree + 1>(table64({
+#include "tables/generated/erfcinv_tail_64f_8_near.inc"
+}));
+LUM_INLINE Vec<Lum64f> NearCorrection(Vec<Lum64f> t) {
+  constexpr int rest = 50;  // the bits of the fraction below its first two
+  const auto row = shift_right<rest>(bits(t)) & all(uint64_t{7});
+  const auto middle = as_float((bits(t) & all(~uint64_t{0} << rest)) | all(uint64_t{1} << (rest - 1)));
+  const auto u = t - middle, u2 = u * u;
+  const auto c = [&](size_t i) __attribute__((always_inline)) { return permute(load<Lum64f>(near_rows + 8 * i), row); };
+  const auto c01 = fma(c(1), u, c(0)), c23 = fma(c(3), u, c(2)), c45 = fma(c(5), u, c(4)), c67 = fma(c(7), u, c(6));
+  return fma(fma(c67, u2, c45), u2 * u2, fma(c23, u2, c01));
+}
+
+// erfcinv q of numbers q < 2^-22 of binary32, but for 2^-38 of it, which rarely matters to the rounding.
 LUM_INLINE Vec<Lum64f> NearErfcInvOfTail(Vec<Lum64f> q) {
-  const auto [base, rest] = ReduceLn(q);
-  const auto t = rest.head + rest.tail;
-  const auto root = sqrt(negate(base.head + (t + fma(t * t, horner(t, part<0, 4>(log_series)), base.tail))));
-  const auto row = TailRow(root);
-  const auto u = root - TailEntry(row, 1);
-  auto correction = TailEntry(row, tail_row_size - 3);
-  for (size_t i = tail_row_size - 4; i >= 2; --i) correction = fma(correction, u, TailEntry(row, i));
-  return root - correction;
+  const auto a = explog::LnTerms_A50::Terms(explog::ReduceByReciprocal<4>(q));
+  const auto r = a.r, r2 = r * r;
+  const auto c = [](size_t i) __attribute__((always_inline)) { return all(log_series.c[i]); };
+  const auto c01 = fma(c(1), r, c(0)), c23 = fma(c(3), r, c(2)), c45 = fma(c(5), r, c(4));
+  const auto p = fma(fma(c(6), r2, c45), r2 * r2, fma(c23, r2, c01));
+  const auto square = negate(a.base + fma(p, r2, r));
+  const auto root = roots::HeronStep(square, roots::CoupledStep(roots::Start(square, rsqrt14_normal(square))));
+  return root - NearCorrection(root);
 }
 
 // ---- The ends of the domain
@@ -142,7 +158,7 @@ template <class T, class OfTail> LumStatus FinishEnds(T x, T upper, bool positiv
 
 // The ends 0 and `upper` of the domain, the middle, whose value is 0, NaN and what is outside of the domain, in the lanes that
 // a first path refuses; the pole at 0 is positive or negative. of_tail is the function of the numbers between, in binary64; to
-// binary32 it is rounded where 2^-38 of it make no difference, and the other lanes remain.
+// binary32 it is rounded where 2^-37 of it make no difference, and the other lanes remain.
 template <class T, class OfTail>
 LUM_INLINE Finished<T> FinishEnds(Vec<T> x, const Lanes<T>& lanes, T upper, bool positive_at_zero, OfTail of_tail) {
   constexpr auto infinity = std::numeric_limits<T>::infinity();
@@ -159,7 +175,7 @@ LUM_INLINE Finished<T> FinishEnds(Vec<T> x, const Lanes<T>& lanes, T upper, bool
     if constexpr (sizeof(T) == sizeof(Lum64f)) {
       value = select(between, of_tail(in_tail), value);
     } else {
-      const auto of_between = NarrowedWithin(0x1p-38, of_tail(widen_low(in_tail)), of_tail(widen_high(in_tail)));
+      const auto of_between = NarrowedWithin(0x1p-37, of_tail(widen_low(in_tail)), of_tail(widen_high(in_tail)));
       value = select(between, of_between.value, value);
       remaining = between & of_between.refused;
     }

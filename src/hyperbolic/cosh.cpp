@@ -42,6 +42,7 @@ LUM_INLINE Vec<Lum64f> SinhSeries(Vec<Lum64f> r, Vec<Lum64f> r2) {
 }
 
 template <class T> struct HyperbolicCosine : Kernel<T> {
+  static constexpr bool refuses_by_class = true;
   static LumStatus LaneRoutine(T x, T& result) { return CoshRoutine(x, result); }
   static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) { return FinishAtEnds<T, false>(x, lanes); }
 };

@@ -12,6 +12,7 @@ namespace {
 using namespace hyperbolic;
 
 template <class T> struct HyperbolicSine : Kernel<T> {
+  static constexpr bool refuses_by_class = true;
   static LumStatus LaneRoutine(T x, T& result) { return SinhRoutine(x, result); }
   static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) { return FinishAtEnds<T, true>(x, lanes); }
 };

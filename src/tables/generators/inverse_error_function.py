@@ -6,6 +6,8 @@ where n(k) has the pattern of 2^-53 plus k 2^45. Word 0 is the pattern of erfcin
 six exponent bits are enough; its top six bits count units of the relative tail, 2^-58.
 
 erfcinv_tail_64f_6: t - erfcinv(exp(-t^2)) by polynomials on pieces of the t axis, for the tails.
+
+erfcinv_tail_64f_8_near: the same for the tail of binary32, to fewer bits, on quarters of the binades of t.
 """
 
 from fractions import Fraction
@@ -24,6 +26,10 @@ POINT_BASE = 0x3C8C << 48
 
 PIECES = [(3.9, 5), (5, 7), (7, 10), (10, 14), (14, 20), (20, 27.4)]
 TAIL_DEGREE = 14
+
+# By the last bit of t's exponent and the first two of its fraction; the third is not in use.
+NEAR_PIECES = [(8, 10), (10, 12), None, (3.5, 4), (4, 5), (5, 6), (6, 7), (7, 8)]
+NEAR_DEGREE = 7
 
 
 def inverse_erfc(q=None, log_q=None):
@@ -88,21 +94,46 @@ def tail_correction(t):
     return t - inverse_erfc(log_q=-t * t)
 
 
+def piece(low, high, middle, degree):
+    """The correction's coefficients on a piece, and the largest error there in parts of t."""
+    coefficients = interpolate(lambda u: tail_correction(middle + u), low - middle, high - middle, degree)
+    worst = mpf(0)
+    for i in range(101):
+        t = low + (high - low) * i / 100
+        value = mpmath.polyval([mpf(float(c)) for c in coefficients[::-1]], t - middle)
+        worst = max(worst, abs(value - tail_correction(t)) / t)
+    return coefficients, worst
+
+
 def tail(directory):
     rows, worst = [], mpf(0)
     for low, high in PIECES:
         low, high = mpf(low), mpf(high)
         middle = mpf(float((low + high) / 2))
-        coefficients = interpolate(lambda u: tail_correction(middle + u), low - middle, high - middle, TAIL_DEGREE)
+        coefficients, error = piece(low, high, middle, TAIL_DEGREE)
         rows.append([high, middle] + coefficients)
-        for i in range(101):
-            t = low + (high - low) * i / 100
-            value = mpmath.polyval([mpf(float(c)) for c in coefficients[::-1]], t - middle)
-            worst = max(worst, abs(value - tail_correction(t)) / t)
+        worst = max(worst, error)
     comment = "\n".join([
         f"t - erfcinv(exp(-t^2)) on pieces of the t axis from {PIECES[0][0]} on. Row: the piece's upper end, its middle m, the",
         f"coefficients of (t - m)^0 to (t - m)^{TAIL_DEGREE}. Weight: 1 / t. Largest error so weighted: {float(worst):.2e}."])
     write("erfcinv_tail", SCRIPT, comment, rows, 64, directory)
+
+
+def near_tail(directory):
+    rows, worst = [], mpf(0)
+    for ends in NEAR_PIECES:
+        if ends is None:
+            rows.append([mpf(0)] * (NEAR_DEGREE + 1))
+            continue
+        low, high = map(mpf, ends)
+        coefficients, error = piece(low, high, (low + high) / 2, NEAR_DEGREE)
+        rows.append(coefficients)
+        worst = max(worst, error)
+    comment = "\n".join([
+        "t - erfcinv(exp(-t^2)) on quarters of the binades of t. Row, by the last bit of the exponent and the first two of the",
+        f"fraction: the coefficients of (t - m)^0 to (t - m)^{NEAR_DEGREE}, m being the quarter's middle. From 3.5 to 12; one row is not in use.",
+        f"Weight: 1 / t. Largest error so weighted: {float(worst):.2e}."])
+    write("erfcinv_tail", SCRIPT, comment, rows, 64, directory, part="near")
 
 
 def generate(directory):
@@ -112,3 +143,4 @@ def generate(directory):
           [row(k) for k in range(LAST + 1)], 64, directory)
     with mpmath.workprec(PRECISION):
         tail(directory)
+        near_tail(directory)
