@@ -160,19 +160,23 @@ template <class K, int n> LUM_INLINE bool RefusesAll(const K& kernel, const Inpu
   else if constexpr (n == 1) return kernel.RefusesAll(x[0]);
   else return kernel.RefusesAll(x[0], x[1]);
 }
-// Lanes with NaNs in several places, of which the result is that of the first: where operations do not order them, the lane
-// routine does.
+// Lanes with different NaNs in several places, of which the result is that of the first: where operations do not order them,
+// the lane routine does. Of complex numbers also negative ones, whose sign some functions change in one of the places.
+template <class T> LUM_INLINE Mask<T> DifferentNans(Vec<T> x, Vec<T> y) {
+  return unord(x, x) & unord(y, y) & mask_cast<T>(ne(bits(x), bits(y)));
+}
 template <class K, int n> LUM_INLINE auto SeveralNans(const Inputs<K, n>& x) {
-  const auto is_nan = [](auto v) { return unord(v, v); };
   if constexpr (is_complex<typename K::Input>) {
     const auto z = split(x[0]), w = split(x[n - 1]);
-    const auto re = is_nan(z.re), im = is_nan(z.im);
-    if constexpr (n == 1) return re & im;
-    else return (re & im) | (is_nan(w.re) & is_nan(w.im)) | ((re | im) & (is_nan(w.re) | is_nan(w.im)));
+    const auto is_nan = [](auto v) { return unord(v, v); };
+    const auto negative = [](auto nan) { return mask_cast<Real<typename K::Input>>(sign_mask(bits(nan))); };
+    const auto of_one = [&](auto v) { return DifferentNans(v.re, v.im) | (is_nan(v.re) & is_nan(v.im) & negative(v.re)); };
+    if constexpr (n == 1) return of_one(z);
+    else return of_one(z) | of_one(w) | (unord(z.re, z.im) & unord(w.re, w.im));
   } else if constexpr (n == 1) {
     return mask_of<Real<typename K::Input>>(0);
   } else {
-    return is_nan(x[0]) & is_nan(x[1]);
+    return DifferentNans(x[0], x[1]);
   }
 }
 template <class K>
