@@ -20,9 +20,17 @@ template <class Path, class Ends, OneInputCore core, class E> struct SilentKerne
   static constexpr Variant variant = scalar_core_variant;
   static constexpr int vectors = 1;
   static constexpr bool second_is_shared = true;
+  static constexpr bool calls_tail = vectors_fit_registers && std::is_same_v<E, Lum64fc> && requires {
+    Path::has_many_constants;
+  };
   static LUM_INLINE Lanes<E> VectorPath(Interleaved<Real<E>> z) { return PathOfElements<Path, E>(z); }
   static LUM_INLINE Lanes<E> TailPath(Interleaved<Real<E>> z, int count) { return PathOfTail<Path, E>(count, z); }
-  static LUM_INLINE bool RefusesAll(Interleaved<Real<E>> z) { return PathRefusesAll<Path, E>(z); }
+  // A path of 32fc spares the steps of these by itself.
+  static LUM_INLINE bool RefusesAll(Interleaved<Real<E>> packed) {
+    const auto z = split(packed);
+    if constexpr (std::is_same_v<E, Lum32fc>) return false;
+    else return none(~(Path::IsOutside(z) | Ends::IsSpecial(z)));
+  }
   static LUM_INLINE Lanes<E> SecondPath(Interleaved<Real<E>> z, const Lanes<E>& lanes) {
     return SecondPathAsCore<Ends>(z, lanes, IsForSecondPath(z, lanes.refused));
   }

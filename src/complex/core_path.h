@@ -13,9 +13,12 @@ namespace lum::inline LUM_LAYER::complex {
 
 // A path is a struct with
 //   IsOutside(z...)   the arguments outside its domain
-//   OfZero(z)         the result of a zero, given together with
-//   is_long           given where a branch that spares vectors of special arguments all steps costs the others little
 //   Of(z...)          the parts of the result, their distances from the core's values in units of 2^-64, and the lanes outside
+// and where it applies
+//   OfZero(z)         the result of a zero: vectors of zeros are spared all steps by a branch, which costs the others little
+//                     where registers come in halves, and where
+//   is_long           says that a branch for any special arguments costs them little
+//   has_many_constants  says that short calls of 64fc gain by a tail of their own and blocks lose little
 template <class Number> struct PathValue {
   Number re, im;
   Vec<Lum64f> re_error, im_error;
@@ -24,6 +27,7 @@ template <class Number> struct PathValue {
 
 template <class T> LUM_INLINE Mask<T> IsZero(Vec<T> x) { return eq(x, all(T(0))); }
 template <class T> LUM_INLINE Mask<T> IsZero(ComplexVec<T> z) { return IsZero(z.re) & IsZero(z.im); }
+LUM_INLINE bool AreZero(ComplexVec<Lum64f> z) { return none(test_any(bits(z.re) | bits(z.im), all(~sign_bit<Lum64f>))); }
 // Zeros are not among them, NaN is.
 LUM_INLINE Mask<Lum64f> IsBelow(Vec<Lum64f> x, double smallest) { return nle(all(smallest), abs(x)) & ~IsZero(x); }
 
@@ -79,6 +83,9 @@ template <class Path, class... Inputs> LUM_INLINE Lanes<Lum64fc> RoundedPath(con
       if (none(~outside)) [[unlikely]]
         return {{all(0.0), all(0.0)}, outside};
     }
+  } else if constexpr (has_halves && requires { Path::OfZero(split(packed)...); }) {
+    if (AreZero(split(packed)...)) [[unlikely]]
+      return {join(Path::OfZero(split(packed)...)), mask_of<Lum64f>(0)};
   }
   const auto value = PathOfVector<Path>(split(packed)...);
   const auto re = RoundedAsCore(value.re, value.re_error), im = RoundedAsCore(value.im, value.im_error);
@@ -136,12 +143,6 @@ template <class Path, class E, class... Inputs> [[gnu::noinline]] Lanes<E> Calle
 template <class Path, class E, class... Inputs> LUM_INLINE Lanes<E> PathOfTail(int count, const Inputs&... packed) {
   if constexpr (std::is_same_v<E, Lum64fc>) return RoundedPath<Path>(packed...);
   else return NarrowedTail<Path>(count, packed...);
-}
-
-// Whether the path refuses all elements because of their parts. A path of 32fc spares their steps by itself.
-template <class Path, class E, class... Inputs> LUM_INLINE bool PathRefusesAll(const Inputs&... packed) {
-  if constexpr (std::is_same_v<E, Lum64fc>) return none(~Path::IsOutside(split(packed)...));
-  else return false;
 }
 
 }  // namespace lum::inline LUM_LAYER::complex

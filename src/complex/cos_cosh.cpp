@@ -9,6 +9,7 @@ namespace {
 using namespace complex;
 
 template <class Number> struct CoshPath {
+  static constexpr bool has_many_constants = true;
   static LUM_INLINE Mask<Lum64f> IsOutside(ComplexVec<Lum64f> z) { return IsFarPair(z.re, z.im, largest_exponent); }
   static LUM_INLINE PathValue<Number> Of(ComplexVec<Lum64f> z) {
     const auto f = FactorsOf<Number>(z.re, z.im, largest_exponent);

@@ -10,6 +10,7 @@ namespace {
 using namespace complex;
 
 template <class Number> struct SinhPath {
+  static constexpr bool has_many_constants = true;
   static LUM_INLINE Mask<Lum64f> IsOutside(ComplexVec<Lum64f> z) { return IsFarPair(z.re, z.im, largest_exponent); }
   static LUM_INLINE PathValue<Number> Of(ComplexVec<Lum64f> z) {
     const auto f = FactorsOf<Number>(z.re, z.im, largest_exponent);
@@ -18,6 +19,7 @@ template <class Number> struct SinhPath {
 };
 
 template <class Number> struct SinPath {
+  static constexpr bool has_many_constants = true;
   static LUM_INLINE Mask<Lum64f> IsOutside(ComplexVec<Lum64f> z) { return IsFarPair(z.im, z.re, largest_exponent); }
   static LUM_INLINE PathValue<Number> Of(ComplexVec<Lum64f> z) {
     const auto f = FactorsOf<Number>(z.im, z.re, largest_exponent);

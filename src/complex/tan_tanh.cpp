@@ -28,7 +28,9 @@ template <class Number> LUM_INLINE Tangent<Number> TangentOf(Vec<Lum64f> exponen
 constexpr double tangent_error = 12;
 
 template <class Number> struct TanhPath {
+  static constexpr bool has_many_constants = true;
   static LUM_INLINE Mask<Lum64f> IsOutside(ComplexVec<Lum64f> z) { return IsFarPair(z.re, z.im, vanishing); }
+  static LUM_INLINE ComplexVec<Lum64f> OfZero(ComplexVec<Lum64f> z) { return z; }
   static LUM_INLINE PathValue<Number> Of(ComplexVec<Lum64f> z) {
     const auto t = TangentOf<Number>(z.re, z.im);
     return SmallValueWithin(t.hyperbolic, t.circular, tangent_error, t.refused);
@@ -36,7 +38,9 @@ template <class Number> struct TanhPath {
 };
 
 template <class Number> struct TanPath {
+  static constexpr bool has_many_constants = true;
   static LUM_INLINE Mask<Lum64f> IsOutside(ComplexVec<Lum64f> z) { return IsFarPair(z.im, z.re, vanishing); }
+  static LUM_INLINE ComplexVec<Lum64f> OfZero(ComplexVec<Lum64f> z) { return z; }
   static LUM_INLINE PathValue<Number> Of(ComplexVec<Lum64f> z) {
     const auto t = TangentOf<Number>(z.im, z.re);
     return SmallValueWithin(t.circular, t.hyperbolic, tangent_error, t.refused);

@@ -64,7 +64,8 @@ template <class K, int n, int m>
 }
 template <class K, int n, int m>
 LUM_INLINE void Tail(const K& kernel, const Arrays<K, n, m>& arrays, int64_t i, int count, Call& call) {
-  if constexpr (has_halves && !K::is_short && !K::aligns_stores) CalledTailStep<K, n, m>(kernel, arrays, i, count, call);
+  if constexpr (K::calls_tail || (has_halves && !K::is_short && !K::aligns_stores))
+    CalledTailStep<K, n, m>(kernel, arrays, i, count, call);
   else TailStep<K, n, m>(kernel, arrays, i, count, call);
 }
 

@@ -22,7 +22,8 @@
 // Constants that a kernel may override: variant, vectors (in a block), fill (of inactive lanes: never to be refused), is_short
 // (a vector path of a few operations, which is inlined in either layer), is_called (a vector path that is a function by itself,
 // which takes as long for half a vector), aligns_stores (a function that takes no longer than
-// the memory, whose long arrays begin with the elements up to the first aligned one), and those of the second path:
+// the memory, whose long arrays begin with the elements up to the first aligned one), calls_tail (of a vector path with so many
+// constants that a short call had better load none for the blocks), and those of the second path:
 //   second_is_short: a few operations, so that it costs less to run it than to see whether a vector needs it, or to bring the
 //   refused elements of several vectors together.
 //   refuses_by_class: a few operations of the first path say which lanes it refuses, and serve as RefusesAll.
@@ -56,6 +57,7 @@ template <class InputElement, class OutputElement = InputElement> struct Kernel 
   static constexpr bool is_short = false;
   static constexpr bool is_called = false;
   static constexpr bool aligns_stores = false;
+  static constexpr bool calls_tail = false;
   static constexpr Real<Input> fill = Real<Input>(0.75);
   static constexpr bool second_is_short = false;
   static constexpr bool second_is_shared = false;
