@@ -13,6 +13,7 @@ template <class E, class Path> struct ArgKernel : Kernel<E, Real<E>> {
     return Path::VectorPath(z.im, z.re);
   }
   static constexpr bool refuses_by_class = true;
+  static constexpr bool hides_refused = true;
   static constexpr bool second_is_short = true;
   static LUM_INLINE Lanes<Real<E>> SecondPath(Packed<E> packed, const Lanes<Real<E>>& lanes) {
     const auto z = split(packed);

@@ -97,7 +97,11 @@ struct NarrowedTwice {
   Vec<Lum32f> value;
   Mask<Lum32f> is_sure;
 };
-LUM_INLINE NarrowedTwice NarrowedOfNeighbours(Vec<Lum64f> low, Vec<Lum64f> high, double given_distance) {
+// What is below half the least number of binary32 is a zero of its sign, at which a processor that makes denormal numbers in
+// microcode would stop otherwise.
+LUM_INLINE Vec<Lum64f> WithoutVanishing(Vec<Lum64f> x) { return or_sign(x, zero_unless(nlt(abs(x), all(0x1p-151)), abs(x))); }
+LUM_INLINE NarrowedTwice NarrowedOfNeighbours(Vec<Lum64f> given_low, Vec<Lum64f> given_high, double given_distance) {
+  const auto low = WithoutVanishing(given_low), high = WithoutVanishing(given_high);
   const auto distance = all(given_distance);
   const auto inner = narrow(fnma(low, distance, low), fnma(high, distance, high));
   const auto outer = narrow(fma(low, distance, low), fma(high, distance, high));

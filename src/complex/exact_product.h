@@ -150,7 +150,8 @@ LUM_INLINE ScaledResult ScaledBack(const RoundedWithRest& re, const RoundedWithR
                                    Mask<Lum64f> is_special) {
   ComplexVec<Lum64f> value{ScaledFromOne(re.value, exponent), ScaledFromOne(im.value, exponent)};
   auto is_sure = re.is_sure & im.is_sure;
-  if (any(lt(exponent, all(-990.0)) & ~is_special)) [[unlikely]]
+  // Below the second limit all vanish.
+  if (any(lt(exponent, all(-990.0)) & lt(all(-1100.0), exponent) & ~is_special)) [[unlikely]]
     value = {ScaledBack(re, exponent, is_sure), ScaledBack(im, exponent, is_sure)};
   return {value, is_sure | is_special, (IsInfinite(value.re) | IsInfinite(value.im)) & ~is_special};
 }

@@ -90,6 +90,7 @@ template <class E> struct ExpKernel : Kernel<E> {
 };
 
 template <class Exponential> struct Single : ExpKernel<Lum32fc> {
+  static constexpr bool hides_refused = true;
   static LUM_INLINE Lanes<Lum32fc> VectorPath(Interleaved<Lum32f> z) {
     const auto [x, y] = split(z);
     const auto a = abs(y);

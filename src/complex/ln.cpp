@@ -25,6 +25,7 @@ template <class E> using EndsFor = std::conditional_t<std::is_same_v<E, Lum32fc>
 template <class E> struct LnKernel : Kernel<E> {
   static constexpr int vectors = 1;
   static constexpr bool refuses_by_class = true;
+  static constexpr bool hides_refused = true;
   static constexpr bool second_is_shared = true;
   static void LaneRoutine(const E& z, E& result) { SilentCoreOnLane<CoreLog>(z, result); }
   static LUM_INLINE Lanes<E> SecondPath(Packed<E> z, const Lanes<E>& lanes) {

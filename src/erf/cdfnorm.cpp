@@ -46,6 +46,8 @@ template <class T> LUM_INLINE Finished<T> FinishRefused(Vec<T> x, const Lanes<T>
 template <class T> struct NormalKernel : Kernel<T> {
   static LumStatus LaneRoutine(T x, T& result) { return FinishRefused(x, result); }
   static constexpr bool second_is_short = true;
+  static constexpr bool refuses_by_class = true;
+  static constexpr bool hides_refused = true;
   static LUM_INLINE Finished<T> SecondPath(Vec<T> x, const Lanes<T>& lanes) { return FinishRefused(x, lanes); }
 };
 

@@ -130,6 +130,7 @@ template <class T, class AtEnds> LUM_INLINE Finished<T> SecondPathBy(Vec<T> x, c
 
 template <class T> struct Expm1Kernel : Kernel<T> {
   static constexpr bool refuses_by_class = true;
+  static constexpr bool hides_refused = true;
   static constexpr bool second_is_short = vectors_fit_registers && !packs_lanes;
 };
 

@@ -12,6 +12,7 @@ template <class Path, int vectors_in_block = 2> struct TwoArguments : Kernel<typ
   using T = typename Path::Element;
   static constexpr int vectors = vectors_in_block;
   static constexpr bool refuses_by_class = true;
+  static constexpr bool hides_refused = true;
   static LUM_INLINE Lanes<T> VectorPath(Vec<T> y, Vec<T> x) { return Path::VectorPath(y, x); }
   static LUM_INLINE Lanes<T> SecondPath(Vec<T> y, Vec<T> x, const Lanes<T>& lanes) { return Atan2OfSpecial(y, x, lanes); }
   static void LaneRoutine(T y, T x, T& result) { Atan2Routine(y, x, result); }
