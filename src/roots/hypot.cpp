@@ -104,8 +104,8 @@ template <class T> struct HypotKernel : Kernel<T> {
   static LUM_INLINE Lanes<T> SecondPath(Vec<T> a, Vec<T> b, const Lanes<T>& lanes) {
     const auto m = max(abs(a), abs(b));
     const auto special = unord(a, b) | fpclass<classes::infinity | classes::zero>(m);
-    if (none(lanes.refused & special)) [[likely]]
-      return {select(lanes.refused, OfFinite(a, b), lanes.value), mask_of<T>(0)};
+    if (none(lanes.refused)) return {lanes.value, lanes.refused};
+    if (none(lanes.refused & special)) return {select(lanes.refused, OfFinite(a, b), lanes.value), mask_of<T>(0)};
     const auto infinite = fpclass<classes::infinity>(a) | fpclass<classes::infinity>(b), nan = unord(a, b);
     const auto finite = lanes.refused & ~special;
     auto value = select(lanes.refused & nan, a + b, lanes.value);
