@@ -118,23 +118,31 @@ __attribute__((noinline, cold)) void FinishLanes(const K& kernel, const Arrays<K
 
 namespace frame {
 
-// The status of the last lane that reports.
-LUM_INLINE void TakeLastReport(ReportBits reports, Call& call) {
-  if (reports.word != 0) call.status = reports.Of(std::bit_width(reports.Reporting()) - 1);
-}
+// The call's status is that of the last lane that reports. It is read from the last vector's reports at the end: statuses that
+// change from vector to vector are branches that the processor cannot foresee.
+struct LastReports {
+  ReportBits reports;
+
+  LUM_INLINE void Add(ReportBits later) { reports.word = later.word != 0 ? later.word : reports.word; }
+  LUM_INLINE void Take(Call& call) {
+    if (reports.word != 0) call.status = reports.Of(std::bit_width(reports.Reporting()) - 1);
+    reports = {};
+  }
+};
 
 // A full block of which both paths have made r; true where the first one refused lanes of it.
 template <class K, int n, int m, class Both, size_t... v>
-LUM_INLINE bool FinishBlock(const K& kernel, const Arrays<K, n, m>& arrays, int64_t first, Call& call, const Both& r,
-                            std::index_sequence<v...>) {
+LUM_INLINE bool FinishBlock(const K& kernel, const Arrays<K, n, m>& arrays, int64_t first, Call& call, LastReports& last,
+                            const Both& r, std::index_sequence<v...>) {
   constexpr uint32_t all_lanes = (1u << step_of<K>)-1u;
   if (AnyRemaining((r[v].remaining | ...)) || (!element_hook_is_empty && (r[v].reports.word | ...) != 0)) [[unlikely]] {
     SpilledBlock<K, n, m> block;
     (Spill<K, n, m>(LoadStep<K, n, m>(arrays, first + static_cast<int64_t>(v) * step_of<K>), r[v], v, all_lanes, block), ...);
+    last.Take(call);
     FinishSpilled(kernel, arrays, first, block_of<K>, block, call);
     return true;
   }
-  (TakeLastReport(r[v].reports, call), ...);
+  (last.Add(r[v].reports), ...);
   for (int j = 0; j < m; ++j) {
     (StoreElements(arrays.dst[j] + first + static_cast<int64_t>(v) * step_of<K>, r[v].values[j]), ...);
   }
@@ -142,18 +150,28 @@ LUM_INLINE bool FinishBlock(const K& kernel, const Arrays<K, n, m>& arrays, int6
 }
 // A full block by both paths; true where the first one refused lanes of it.
 template <class K, int n, int m, size_t... v>
-LUM_INLINE bool BlockOfBothPaths(const K& kernel, const Arrays<K, n, m>& arrays, int64_t first, Call& call,
-                                 std::index_sequence<v...>) {
+LUM_INLINE bool BlockOfBothPaths(const K& kernel, const Arrays<K, n, m>& arrays, int64_t first, Call& call, LastReports& last,
+                                 std::index_sequence<v...> vectors) {
   const auto step = [&](size_t i) __attribute__((always_inline)) {
     return LoadStep<K, n, m>(arrays, first + static_cast<int64_t>(i) * step_of<K>);
   };
   if constexpr (HasSecondPath<K> && KnowsRefused<K> && K::second_is_short && vectors_fit_registers) {
     if ((int{RefusesAll<K, n>(kernel, step(v))} & ...) != 0)
-      return FinishBlock<K, n, m>(kernel, arrays, first, call, std::array{ComputeSecondAlone<K, n, m>(kernel, step(v))...},
-                                  std::index_sequence<v...>());
+      return FinishBlock<K, n, m>(kernel, arrays, first, call, last,
+                                  std::array{ComputeSecondAlone<K, n, m>(kernel, step(v))...}, vectors);
   }
-  return FinishBlock<K, n, m>(kernel, arrays, first, call, std::array{ComputeBoth<K, n, m>(kernel, step(v))...},
-                              std::index_sequence<v...>());
+  if constexpr (HasSecondPath<K> && K::second_is_short && vectors_fit_registers) {
+    const std::array results{ComputeFirst<K, n>(kernel, step(v))...};
+    if (!any((results[v].refused | ...))) {
+      (StoreStep<K, n, m>(arrays, first + static_cast<int64_t>(v) * step_of<K>, results[v]), ...);
+      return false;
+    }
+    return FinishBlock<K, n, m>(kernel, arrays, first, call, last,
+                                std::array{ComputeSecond<K, n, m>(kernel, step(v), results[v])...}, vectors);
+  } else {
+    return FinishBlock<K, n, m>(kernel, arrays, first, call, last, std::array{ComputeBoth<K, n, m>(kernel, step(v))...},
+                                vectors);
+  }
 }
 
 // The refused elements of some vectors are packed side by side where the second path is long, which then runs over them alone.
@@ -184,7 +202,7 @@ __attribute__((noinline, cold)) void FinishPacked(const K& kernel, const Arrays<
 
 // The second path over packed elements. True where an element has to pass through FinishPacked.
 template <class K, int n, int m>
-LUM_INLINE bool FinishPackedVectors(const K& kernel, int elements, PackedElements<K, n, m>& packed, Call& call) {
+LUM_INLINE bool FinishPackedVectors(const K& kernel, int elements, PackedElements<K, n, m>& packed, LastReports& last) {
   using T = typename K::Input;
   constexpr int step = step_of<K>;
   bool is_cold = false;
@@ -203,7 +221,7 @@ LUM_INLINE bool FinishPackedVectors(const K& kernel, int elements, PackedElement
   using Both = decltype(ComputeSecond<K, n, m>(kernel, inputs_of(0), refused_alone(0)));
   const auto take = [&](int v, const Both& r) __attribute__((always_inline)) {
     Spill<K, n, m>(inputs_of(v), r, v, (1u << count_of(v)) - 1u, packed);
-    TakeLastReport(packed.reports[v], call);
+    last.Add(packed.reports[v]);
     is_cold = is_cold || packed.refused[v] != 0 || (!element_hook_is_empty && packed.reports[v].word != 0);
   };
   int v = 0;
@@ -219,41 +237,55 @@ LUM_INLINE bool FinishPackedVectors(const K& kernel, int elements, PackedElement
   return is_cold;
 }
 
+// The first path of some vectors side by side, from vector v of those at index first on: the refused elements are packed behind
+// the others and their lanes noted. Returns the number of packed elements.
+template <class K, int n, int m, size_t... s>
+LUM_INLINE int PackRefused(const K& kernel, const Arrays<K, n, m>& arrays, int64_t first, int v, int elements,
+                           PackedElements<K, n, m>& packed, uint32_t* refused, std::index_sequence<s...>) {
+  using T = typename K::Input;
+  constexpr int step = step_of<K>;
+  constexpr uint32_t all_lanes = (1u << step) - 1u;
+  const auto index_of = [&](size_t i) __attribute__((always_inline)) { return first + (v + static_cast<int>(i)) * step; };
+  const auto pack = [&](size_t i, uint32_t lanes) __attribute__((always_inline)) {
+    refused[v + static_cast<int>(i)] = lanes;
+    if (lanes == 0) return;
+    const auto x = LoadStep<K, n, m>(arrays, index_of(i));
+    for (int j = 0; j < n; ++j) {
+      store(&packed.inputs[j][elements], lanes == all_lanes ? x[j] : compress(mask_of<T>(lanes), x[j]));
+    }
+    elements += std::popcount(lanes);
+  };
+  if constexpr (KnowsRefused<K>) {
+    // There is no need for the first path's values.
+    const bool may_refuse_all = v == 0 || refused[v - 1] == all_lanes;
+    if (may_refuse_all && (int{RefusesAll<K, n>(kernel, LoadStep<K, n, m>(arrays, index_of(s)))} & ...) != 0) {
+      (pack(s, all_lanes), ...);
+      return elements;
+    }
+  }
+  const std::array results{ComputeFirst<K, n>(kernel, LoadStep<K, n, m>(arrays, index_of(s)))...};
+  (pack(s, to_bits(results[s].refused)), ...);
+  (StoreStep<K, n, m>(arrays, index_of(s), results[s]), ...);
+  return elements;
+}
+
 // Some vectors from index first on, the refused elements packed. Returns their number.
 template <class K, int n, int m>
-LUM_INLINE int VectorsOfBothPaths(const K& kernel, const Arrays<K, n, m>& arrays, int64_t first, int count, Call& call) {
+LUM_INLINE int VectorsOfBothPaths(const K& kernel, const Arrays<K, n, m>& arrays, int64_t first, int count, Call& call,
+                                  LastReports& last) {
   using T = typename K::Input;
   constexpr int step = step_of<K>;
   constexpr uint32_t all_lanes = (1u << step) - 1u;
   PackedElements<K, n, m> packed;
   uint32_t refused[most_packed<K, n>];
   int elements = 0;
-  for (int v = 0; v < count; ++v) {
-    const auto x = LoadStep<K, n, m>(arrays, first + v * step);
-    // Has no need for the first path's values.
-    const auto pack_all = [&]() __attribute__((always_inline)) {
-      refused[v] = all_lanes;
-      for (int j = 0; j < n; ++j) store(&packed.inputs[j][elements], x[j]);
-      elements += step;
-    };
-    if constexpr (KnowsRefused<K>) {
-      if (v > 0 && refused[v - 1] == all_lanes && RefusesAll<K, n>(kernel, x)) {
-        pack_all();
-        continue;
-      }
-    }
-    const auto r = ComputeFirst<K, n>(kernel, x);
-    refused[v] = to_bits(r.refused);
-    if (refused[v] == all_lanes) {
-      pack_all();
-      continue;
-    }
-    StoreStep<K, n, m>(arrays, first + v * step, r);
-    for (int j = 0; j < n; ++j) store(&packed.inputs[j][elements], compress(r.refused, x[j]));
-    elements += std::popcount(refused[v]);
+  for (int v = 0; v < count; v += vectors_of<K>) {
+    elements =
+        PackRefused<K, n, m>(kernel, arrays, first, v, elements, packed, refused, std::make_index_sequence<vectors_of<K>>());
   }
   if (elements == 0) return 0;
-  if (FinishPackedVectors<K, n, m>(kernel, elements, packed, call)) [[unlikely]] {
+  if (FinishPackedVectors<K, n, m>(kernel, elements, packed, last)) [[unlikely]] {
+    last.Take(call);
     FinishPacked(kernel, arrays, first, refused, count, packed, call);
   }
   int element = 0;
@@ -275,11 +307,12 @@ LUM_INLINE int VectorsOfBothPaths(const K& kernel, const Arrays<K, n, m>& arrays
 template <class K, int n, int m>
 __attribute__((noinline)) int64_t BlocksOfBothPaths(const K& kernel, const Arrays<K, n, m>& arrays, int64_t first, int64_t len,
                                                     Call& call) {
+  LastReports last;
   if constexpr (PacksRefused<K>) {
     // The longer the cluster is, the more vectors at a time.
-    for (int most = vectors_of<K>; first + step_of<K> <= len; most = std::min(2 * most, most_packed<K, n>)) {
-      const auto vectors = static_cast<int>(std::min<int64_t>(most, (len - first) / step_of<K>));
-      const bool refuses = VectorsOfBothPaths<K, n, m>(kernel, arrays, first, vectors, call) != 0;
+    for (int most = vectors_of<K>; first + block_of<K> <= len; most = std::min(2 * most, most_packed<K, n>)) {
+      const auto vectors = static_cast<int>(std::min<int64_t>(most, (len - first) / block_of<K> * vectors_of<K>));
+      const bool refuses = VectorsOfBothPaths<K, n, m>(kernel, arrays, first, vectors, call, last) != 0;
       first += vectors * step_of<K>;
       if (!refuses) break;
     }
@@ -287,11 +320,13 @@ __attribute__((noinline)) int64_t BlocksOfBothPaths(const K& kernel, const Array
     constexpr int most_ordinary = 2;
     int ordinary = 0;
     do {
-      const bool refuses = BlockOfBothPaths<K, n, m>(kernel, arrays, first, call, std::make_index_sequence<vectors_of<K>>());
+      const bool refuses =
+          BlockOfBothPaths<K, n, m>(kernel, arrays, first, call, last, std::make_index_sequence<vectors_of<K>>());
       ordinary = refuses ? 0 : ordinary + 1;
       first += block_of<K>;
     } while (ordinary < most_ordinary && first + block_of<K> <= len);
   }
+  last.Take(call);
   return first;
 }
 
@@ -309,7 +344,7 @@ __attribute__((noinline)) void TailOfBothPaths(const K& kernel, const Arrays<K, 
     FinishSpilled(kernel, arrays, i, count, block, call);
     return;
   }
-  TakeLastReport(reports, call);
+  LastReports{reports}.Take(call);
   for (int j = 0; j < m; ++j) StoreElements(count, arrays.dst[j] + i, r.values[j]);
 }
 
