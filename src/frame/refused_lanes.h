@@ -36,12 +36,16 @@ template <Floating T> LUM_INLINE bool AnyRemaining(ComponentMask<T> m) { return 
 
 // What both paths made of vector v of a block.
 template <class K, int n, int m, class Both, int vectors>
-LUM_INLINE void Spill(const Inputs<K, n>& x, const Both& r, int v, uint32_t in_use, SpilledBlock<K, n, m, vectors>& block) {
-  for (int j = 0; j < n; ++j) StoreElements(&block.inputs[j][v * step_of<K>], x[j]);
+LUM_INLINE void SpillResults(const Both& r, int v, uint32_t in_use, SpilledBlock<K, n, m, vectors>& block) {
   for (int j = 0; j < m; ++j) StoreElements(&block.results[j][v * step_of<K>], r.values[j]);
   // A fill lane is refused only where a parameter makes it so; its result would be dropped by the masked store.
   block.refused[v] = RemainingBits(r.remaining) & in_use;
   block.reports[v] = r.reports.Among(in_use);
+}
+template <class K, int n, int m, class Both, int vectors>
+LUM_INLINE void Spill(const Inputs<K, n>& x, const Both& r, int v, uint32_t in_use, SpilledBlock<K, n, m, vectors>& block) {
+  for (int j = 0; j < n; ++j) StoreElements(&block.inputs[j][v * step_of<K>], x[j]);
+  SpillResults(r, v, in_use, block);
 }
 
 // An element that reports passes through the caller's array and the hook.
@@ -220,7 +224,7 @@ LUM_INLINE bool FinishPackedVectors(const K& kernel, int elements, PackedElement
   };
   using Both = decltype(ComputeSecond<K, n, m>(kernel, inputs_of(0), refused_alone(0)));
   const auto take = [&](int v, const Both& r) __attribute__((always_inline)) {
-    Spill<K, n, m>(inputs_of(v), r, v, (1u << count_of(v)) - 1u, packed);
+    SpillResults(r, v, (1u << count_of(v)) - 1u, packed);
     last.Add(packed.reports[v]);
     is_cold = is_cold || packed.refused[v] != 0 || (!element_hook_is_empty && packed.reports[v].word != 0);
   };
@@ -232,8 +236,10 @@ LUM_INLINE bool FinishPackedVectors(const K& kernel, int elements, PackedElement
       take(v, r[0]);
       take(v + 1, r[1]);
     }
+    if (v * step < elements) take(v, ComputeSecond<K, n, m>(kernel, inputs_of(v), refused_alone(v)));
+  } else {
+    for (; v * step < elements; ++v) take(v, FinishVector<K, n, m>(kernel, inputs_of(v), refused_alone(v)));
   }
-  for (; v * step < elements; ++v) take(v, ComputeSecond<K, n, m>(kernel, inputs_of(v), refused_alone(v)));
   return is_cold;
 }
 
