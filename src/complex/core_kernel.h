@@ -25,11 +25,11 @@ template <class Path, class Ends, OneInputCore core, class E> struct SilentKerne
   };
   static LUM_INLINE Lanes<E> VectorPath(Interleaved<Real<E>> z) { return PathOfElements<Path, E>(z); }
   static LUM_INLINE Lanes<E> TailPath(Interleaved<Real<E>> z, int count) { return PathOfTail<Path, E>(count, z); }
-  // A path of 32fc spares the steps of these by itself.
-  static LUM_INLINE bool RefusesAll(Interleaved<Real<E>> packed) {
+  // Where streams fit the registers, a path of 32fc spares vectors of these all steps by itself.
+  static LUM_INLINE Mask<Real<E>> Outside(Interleaved<Real<E>> packed) {
     const auto z = split(packed);
-    if constexpr (std::is_same_v<E, Lum32fc>) return false;
-    else return none(~(Path::IsOutside(z) | Ends::IsSpecial(z)));
+    if constexpr (std::is_same_v<E, Lum64fc>) return Path::IsOutside(z) | Ends::IsSpecial(z);
+    else return streams_fit_registers ? mask_of<Lum32f>(0) : HasNonFinitePart(z);
   }
   static LUM_INLINE Lanes<E> SecondPath(Interleaved<Real<E>> z, const Lanes<E>& lanes) {
     return SecondPathAsCore<Ends>(z, lanes, IsForSecondPath(z, lanes.refused));

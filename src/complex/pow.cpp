@@ -117,10 +117,10 @@ template <class E> struct PowKernel : Kernel<E> {
     if constexpr (!streams_fit_registers && std::is_same_v<E, Lum64fc>) return VectorPath(z, w);
     else return PathOfTail<PowPath<NumberFor<E>>, E>(count, z, w);
   }
-  static LUM_INLINE bool RefusesAll(Interleaved<Real<E>> packed_z, Interleaved<Real<E>> packed_w) {
+  static LUM_INLINE Mask<Real<E>> Outside(Interleaved<Real<E>> packed_z, Interleaved<Real<E>> packed_w) {
     const auto z = split(packed_z), w = split(packed_w);
-    if constexpr (std::is_same_v<E, Lum64fc>) return none(~(PowPath<HeadTail>::IsOutside(z, w) | IsZero(z)));
-    else return false;
+    if constexpr (std::is_same_v<E, Lum64fc>) return PowPath<HeadTail>::IsOutside(z, w) | IsZero(z);
+    else return streams_fit_registers ? mask_of<Lum32f>(0) : HasNonFinitePart(z) | HasNonFinitePart(w) | IsZero(z);
   }
   static LumStatus LaneRoutine(const E& z, const E& w, E& result) { return ReportingCoreOnLane<CorePow>(z, w, result); }
 };
@@ -138,7 +138,7 @@ template <class E> struct PowxKernel : Kernel<E> {
   LUM_INLINE Finished<E> SecondPath(Interleaved<Real<E>> z, const Lanes<E>& lanes) const {
     return PowKernel<E>::SecondPath(z, Exponents(), lanes);
   }
-  LUM_INLINE bool RefusesAll(Interleaved<Real<E>> z) const { return PowKernel<E>::RefusesAll(z, Exponents()); }
+  LUM_INLINE Mask<Real<E>> Outside(Interleaved<Real<E>> z) const { return PowKernel<E>::Outside(z, Exponents()); }
   LUM_INLINE Interleaved<Real<E>> Exponents() const { return join(ComplexVec<Real<E>>{all(exponent.re), all(exponent.im)}); }
   LumStatus LaneRoutine(const E& z, E& result) const { return ReportingCoreOnLane<CorePow>(z, exponent, result); }
 };

@@ -77,6 +77,7 @@ template <class E, bool refuses_numbers = true> struct SqrtKernel : Kernel<E> {
   static LUM_INLINE Lanes<E> SecondPath(Packed<E> z, const Lanes<E>& lanes) {
     return SecondPathAsCore<SqrtEnds, refuses_numbers>(z, lanes, lanes.refused);
   }
+  static LUM_INLINE Mask<Real<E>> Outside(Packed<E> z) { return HasNonFinitePart(split(z)); }
   static void LaneRoutine(const E& z, E& result) { SilentCoreOnLane<CoreSqrt>(z, result); }
 };
 

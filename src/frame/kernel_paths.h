@@ -16,6 +16,9 @@
 //   SecondPathOfTwo({x...}, {lanes...})
 //     Optional, beside SecondPath: the same of two vectors, for a long chain of operations, of which the processor overlaps
 //     two.
+//   Outside(x...)
+//     Optional: by a few operations on the arguments, lanes that the first path refuses, or of which the second one gives the
+//     same values. Where estimates take long for some numbers, the loop over both paths has the fill in their place.
 //   RefusesAll(x...)
 //     Optional: whether the first path refuses all lanes, or some of which the second one gives the others' values, too: from
 //     the arguments by a few operations, so that the loop over both paths runs the second one alone.
@@ -154,27 +157,37 @@ template <class K, int n, class Result> LUM_INLINE auto SecondPathOf(const K& ke
   else return kernel.SecondPath(x[0], x[1], r);
 }
 template <class K>
-concept KnowsRefused = K::refuses_by_class || requires {
+concept KnowsOutside = requires {
+  &K::Outside;
+};
+template <class K, int n> LUM_INLINE auto OutsideOf(const K& kernel, const Inputs<K, n>& x) {
+  if constexpr (n == 1) return kernel.Outside(x[0]);
+  else return kernel.Outside(x[0], x[1]);
+}
+template <class K>
+concept KnowsRefused = K::refuses_by_class || KnowsOutside<K> || requires {
   &K::RefusesAll;
 };
 template <class K, int n> LUM_INLINE bool RefusesAll(const K& kernel, const Inputs<K, n>& x) {
   if constexpr (K::refuses_by_class) return has_all_elements(Compute<K, n>(kernel, x).refused);
+  else if constexpr (KnowsOutside<K>) return has_all_elements(OutsideOf<K, n>(kernel, x));
   else if constexpr (n == 1) return kernel.RefusesAll(x[0]);
   else return kernel.RefusesAll(x[0], x[1]);
 }
 // Lanes with different NaNs in several places, of which the result is that of the first: where operations do not order them,
-// the lane routine does. Of complex numbers also negative ones, whose sign some functions change in one of the places.
+// the lane routine does.
 template <class T> LUM_INLINE Mask<T> DifferentNans(Vec<T> x, Vec<T> y) {
   return unord(x, x) & unord(y, y) & mask_cast<T>(ne(bits(x), bits(y)));
 }
+template <class T> LUM_INLINE Mask<T> DifferentNans(ComplexVec<T> z) { return DifferentNans(z.re, z.im); }
 template <class K, int n> LUM_INLINE auto SeveralNans(const Inputs<K, n>& x) {
   if constexpr (is_complex<typename K::Input>) {
-    const auto z = split(x[0]), w = split(x[n - 1]);
-    const auto is_nan = [](auto v) { return unord(v, v); };
-    const auto negative = [](auto nan) { return mask_cast<Real<typename K::Input>>(sign_mask(bits(nan))); };
-    const auto of_one = [&](auto v) { return DifferentNans(v.re, v.im) | (is_nan(v.re) & is_nan(v.im) & negative(v.re)); };
-    if constexpr (n == 1) return of_one(z);
-    else return of_one(z) | of_one(w) | (unord(z.re, z.im) & unord(w.re, w.im));
+    const auto z = split(x[0]);
+    if constexpr (n == 1) return DifferentNans(z);
+    else {
+      const auto w = split(x[1]);
+      return DifferentNans(z) | DifferentNans(w) | (unord(z.re, z.im) & unord(w.re, w.im));
+    }
   } else if constexpr (n == 1) {
     return mask_of<Real<typename K::Input>>(0);
   } else {
@@ -241,17 +254,29 @@ LUM_INLINE auto ComputeSecond(const K& kernel, const Inputs<K, n>& x, const Resu
   else return CalledFinishVector<K, n, m>(kernel, x, r);
 }
 
+// The first path with the fill in the place of lanes that it would refuse.
+template <class K, int n, class Refused>
+LUM_INLINE auto ComputeOthers(const K& kernel, const Inputs<K, n>& x, const Refused& refused) {
+  Inputs<K, n> hidden = x;
+  for (auto& values : hidden) values = FilledWhere(refused, values, K::fill);
+  return Compute<K, n>(kernel, hidden);
+}
 // The first path where both run.
 template <class K, int n> LUM_INLINE auto ComputeFirst(const K& kernel, const Inputs<K, n>& x) {
-  auto r = Compute<K, n>(kernel, x);
-  if constexpr (K::hides_refused) {
-    Inputs<K, n> hidden = x;
-    for (auto& values : hidden) values = FilledWhere(r.refused, values, K::fill);
-    const auto refused = r.refused;
-    r = Compute<K, n>(kernel, hidden);
-    r.refused = refused;
+  if constexpr (KnowsOutside<K> && !estimates_take_all) {
+    const auto outside = OutsideOf<K, n>(kernel, x);
+    auto r = ComputeOthers<K, n>(kernel, x, outside);
+    r.refused = r.refused | outside;
+    return r;
+  } else {
+    auto r = Compute<K, n>(kernel, x);
+    if constexpr (K::hides_refused) {
+      const auto refused = r.refused;
+      r = ComputeOthers<K, n>(kernel, x, refused);
+      r.refused = refused;
+    }
+    return r;
   }
-  return r;
 }
 
 // The second path of a vector whose elements the first one all refuses, without that one's values.
