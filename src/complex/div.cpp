@@ -178,29 +178,38 @@ struct A53_64fc : QuotientKernel<Lum64fc> {
     if constexpr (scales_all) return ScaledQuotient(z, w);
     else return CalledOrdinaryQuotient(z, w);
   }
-  // The first path's steps for any exponents, whose roundings are the core's where they are sure.
-  static LUM_INLINE ScaledResult QuotientOfScaled(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w) {
+  // Infinities, NaN and zeros, which have quotients by rule.
+  static LUM_INLINE Mask<Lum64f> Outside(Interleaved<Lum64f> packed_z, Interleaved<Lum64f> packed_w) {
+    const auto z = split(packed_z), w = split(packed_w);
+    return QuotientEnds::IsSpecial(z, w) | IsZeroAsWhole(z);
+  }
+  static LUM_INLINE ComplexVec<Lum64f> QuotientByRule(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w) {
+    const auto vanishes = IsZeroAsWhole(z) & ~QuotientEnds::IsSpecial(z, w);  // a zero is positive
+    return Select(vanishes, {all(0.0), all(0.0)}, QuotientEnds::OfSpecial(z, w));
+  }
+  // The first path's steps for any exponents, whose roundings are the core's where they are sure; in the wanted lanes.
+  static LUM_INLINE ScaledResult QuotientOfScaled(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w, Mask<Lum64f> wanted) {
     const auto z_exponent = ExponentOf(z), w_exponent = ExponentOf(w), exponent = z_exponent - w_exponent;
     const auto special = IsEitherSpecial(z, w, exponent);
     auto re = z.re, im = z.im;
     auto is_sure = special, overflow = mask_of<Lum64f>(0);
-    if (any(~special)) {
+    if (any(wanted & ~special)) {
       const auto [x, y] = QuotientBy<RatioWithRest>(NextToOne(z, z_exponent), NextToOne(w, w_exponent));
       const auto scaled = ScaledBack(x, y, exponent, special);
       re = scaled.value.re, im = scaled.value.im;
       is_sure = scaled.is_sure, overflow = scaled.overflow;
     }
-    if (any(special)) {
-      const auto vanishes = IsZeroAsWhole(z) & ~QuotientEnds::IsSpecial(z, w);  // a zero is positive
-      const auto value = Select(vanishes, {all(0.0), all(0.0)}, QuotientEnds::OfSpecial(z, w));
+    if (any(wanted & special)) {
+      const auto value = QuotientByRule(z, w);
       is_sure = is_sure & ~(special & QuotientEnds::HaveTwoNans(z, w));
       re = select(special, value.re, re), im = select(special, value.im, im);
     }
     return {{re, im}, is_sure, overflow};
   }
-  static LUM_INLINE Finished<Lum64fc> SureQuotients(const Interleaved<Lum64f>& z, const Interleaved<Lum64f>& w) {
-    const auto quotient = QuotientOfScaled(split(z), split(w));
-    return {join(quotient.value), ~quotient.is_sure, {.overflow = quotient.overflow}};
+  static LUM_INLINE Finished<Lum64fc> SureQuotients(const Interleaved<Lum64f>& z, const Interleaved<Lum64f>& w,
+                                                    Mask<Lum64f> wanted) {
+    const auto quotient = QuotientOfScaled(split(z), split(w), wanted);
+    return {join(quotient.value), wanted & ~quotient.is_sure, {.overflow = wanted & quotient.overflow}};
   }
   template <class Packed> static LUM_INLINE Finished<Lum64fc> OfBothPaths(const Packed& packed_z, const Packed& packed_w) {
     const auto lanes = ScaledQuotient(packed_z, packed_w);
@@ -218,23 +227,31 @@ struct A53_64fc : QuotientKernel<Lum64fc> {
     if constexpr (has_halves) return OfBothPaths(Elements(z, which), Elements(w, which));
     else return OfBothPaths(z, w);
   }
-  template <class Packed>
-  [[gnu::noinline]] static Finished<Lum64fc> SureRegister(const Packed& z, const Packed& w, Which which) {
-    return SureQuotients(Elements(z, which), Elements(w, which));
+  template <class Packed, class M>
+  [[gnu::noinline]] static Finished<Lum64fc> SureRegister(const Packed& z, const Packed& w, const M& wanted, Which which) {
+    return SureQuotients(Elements(z, which), Elements(w, which), OneRegister(wanted, which));
   }
-  template <class Packed>
-  static LUM_INLINE Finished<Lum64fc> RegisterOfQuotients(const Packed& z, const Packed& w, Which which) {
-    const auto sure = SureRegister(z, w, which);
+  template <class Packed, class M>
+  static LUM_INLINE Finished<Lum64fc> RegisterOfQuotients(const Packed& z, const Packed& w, const M& wanted, Which which) {
+    const auto sure = SureRegister(z, w, wanted, which);
     return none(sure.refused) ? sure : CalledOfBothPaths(z, w, which);
   }
-  template <class Packed> static LUM_INLINE Finished<Lum64fc> QuotientsOf(const Packed& z, const Packed& w) {
+  template <class Packed, class L> static LUM_INLINE Finished<Lum64fc> QuotientsOf(const Packed& z, const Packed& w, const L& lanes) {
     if constexpr (has_halves) {
-      const auto low = RegisterOfQuotients(z, w, Which::low), high = RegisterOfQuotients(z, w, Which::high);
-      return {{low.value.low, high.value.low},
-              join_registers(low.refused, high.refused),
-              {.overflow = join_registers(low.reports.overflow, high.reports.overflow)}};
+      if (none(lanes.refused & ~Outside(z, w))) {
+        const auto value = QuotientByRule(split(z), split(w));
+        return {join(Select(lanes.refused, value, split(lanes.value))),
+                lanes.refused & QuotientEnds::HaveTwoNans(split(z), split(w)),
+                {}};
+      }
+      const auto low = RegisterOfQuotients(z, w, lanes.refused, Which::low),
+                 high = RegisterOfQuotients(z, w, lanes.refused, Which::high);
+      const Packed value{low.value.low, high.value.low};
+      return {join(Select(lanes.refused, split(value), split(lanes.value))),
+              lanes.refused & join_registers(low.refused, high.refused),
+              {.overflow = lanes.refused & join_registers(low.reports.overflow, high.reports.overflow)}};
     } else {
-      const auto sure = SureQuotients(z, w);
+      const auto sure = SureQuotients(z, w, mask_of<Lum64f>(~0u));
       if (none(sure.refused)) [[likely]]
         return sure;
       const auto given_z = z, given_w = w;  // of which the call takes the address
@@ -243,7 +260,7 @@ struct A53_64fc : QuotientKernel<Lum64fc> {
   }
   static constexpr bool second_is_shared = streams_fit_registers && scales_all;
   static LUM_INLINE Finished<Lum64fc> SecondPath(Interleaved<Lum64f> z, Interleaved<Lum64f> w, const Lanes<Lum64fc>& lanes) {
-    if constexpr (vectors_fit_registers) return QuotientsOf(z, w);
+    if constexpr (vectors_fit_registers) return QuotientsOf(z, w, lanes);
     else return QuotientKernel<Lum64fc>::SecondPath(z, w, lanes);
   }
 };

@@ -158,11 +158,14 @@ template <bool by_conjugate> struct A53_64fc : Product<Lum64fc, by_conjugate> {
     is_sure = eq(fma(rest, all(1 + core_distance), value), value);
     return value;
   }
-  template <bool one_is_zero> static LUM_INLINE Lanes<Lum64fc> WithZeros(Interleaved<Lum64f> z, Interleaved<Lum64f> w) {
+  struct SureProduct {
+    Interleaved<Lum64f> value;
     ComponentMask<Lum64f> is_sure;
-    const Interleaved<Lum64f> value{WithZeros<one_is_zero>(z.low, w.low, is_sure.low),
-                                    WithZeros<one_is_zero>(z.high, w.high, is_sure.high)};
-    return {value, ~(is_sure.low & is_sure.high)};
+  };
+  template <bool one_is_zero> static LUM_INLINE SureProduct WithZeros(Interleaved<Lum64f> z, Interleaved<Lum64f> w) {
+    SureProduct r;
+    r.value = {WithZeros<one_is_zero>(z.low, w.low, r.is_sure.low), WithZeros<one_is_zero>(z.high, w.high, r.is_sure.high)};
+    return r;
   }
   static LUM_INLINE Finished<Lum64fc> SecondPath(Interleaved<Lum64f> packed_z, Interleaved<Lum64f> packed_w,
                                                  const Lanes<Lum64fc, ComponentMask<Lum64f>>& lanes) {
@@ -171,13 +174,24 @@ template <bool by_conjugate> struct A53_64fc : Product<Lum64fc, by_conjugate> {
     if (none(IsFarAndNotZero(packed_z.low) | IsFarAndNotZero(packed_w.low) | IsFarAndNotZero(packed_z.high) |
              IsFarAndNotZero(packed_w.high))) {
       const auto r = has_all_elements(zeros) ? WithZeros<true>(packed_z, packed_w) : WithZeros<false>(packed_z, packed_w);
-      if (none(r.refused)) [[likely]]
+      if (none(~(r.is_sure.low & r.is_sure.high))) [[likely]]
         return {r.value, mask_of<Lum64f>(0), {}};
     }
     if constexpr (!vectors_fit_registers) return Product<Lum64fc, by_conjugate>::SecondPath(packed_z, packed_w, lanes);
     const auto z = split(packed_z);
     auto w = split(packed_w);
     if constexpr (by_conjugate) w.im = negate(w.im);
+    if constexpr (has_halves) {
+      // Infinities and NaN among other numbers between the ends.
+      const auto is_plain = HasNonFinitePart(z) | HasNonFinitePart(w);
+      const auto is_far = [](Vec<Lum64f> x) __attribute__((always_inline)) { return IsFarAndNotZero(x); };
+      if (any(is_plain) && any(~is_plain) && none((is_far(z.re) | is_far(z.im) | is_far(w.re) | is_far(w.im)) & ~is_plain)) {
+        const auto r = WithZeros<false>(packed_z, packed_w);
+        const ComponentMask<Lum64f> in_doubt{~r.is_sure.low, ~r.is_sure.high};
+        if (none((ElementsOf(in_doubt) & ~is_plain) | (is_plain & HaveTwoNans(z, w)))) [[likely]]
+          return {join(Select(is_plain, PlainProduct(z, w), split(r.value))), mask_of<Lum64f>(0), {}};
+      }
+    }
     const auto product = ProductOfScaled(z, w);
     if (none(~product.is_sure)) [[likely]]
       return {join(product.value), ~product.is_sure, {.overflow = product.overflow}};
