@@ -236,7 +236,8 @@ struct A53_64fc : QuotientKernel<Lum64fc> {
     const auto sure = SureRegister(z, w, wanted, which);
     return none(sure.refused) ? sure : CalledOfBothPaths(z, w, which);
   }
-  template <class Packed, class L> static LUM_INLINE Finished<Lum64fc> QuotientsOf(const Packed& z, const Packed& w, const L& lanes) {
+  template <class Packed, class L>
+  static LUM_INLINE Finished<Lum64fc> QuotientsOf(const Packed& z, const Packed& w, const L& lanes) {
     if constexpr (has_halves) {
       if (none(lanes.refused & ~Outside(z, w))) {
         const auto value = QuotientByRule(split(z), split(w));

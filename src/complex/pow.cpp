@@ -80,12 +80,12 @@ LUM_INLINE Mask<Lum64f> IsFarPower(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w) {
   if (none(wanted)) return lanes;
   return Finish(PowerAtEnds(z, w, wanted), lanes, wanted);
 }
-// Those of binary32 and a few others.
+// Those of binary32, whose results may overflow it, and a few others.
 [[maybe_unused]] LUM_INLINE Mask<Lum32f> IsFarPower(ComplexVec<Lum32f> z, ComplexVec<Lum32f> w) {
   const auto size = SizeOfLogarithm(z, w);
   const auto from_circle = abs(fma(z.re, z.re, fma(z.im, z.im, all(-1.0f))));
-  return HasNonFinitePart(z) | HasNonFinitePart(w) | lt(from_circle, all(0x1p-20f)) |
-         nle(size, all(static_cast<Lum32f>(largest_exponent - 1))) | (IsZero(z.re) & IsZero(z.im));
+  return HasNonFinitePart(z) | HasNonFinitePart(w) | lt(from_circle, all(0x1p-20f)) | nle(size, all(120.0f)) |
+         (IsZero(z.re) & IsZero(z.im));
 }
 [[maybe_unused]] LUM_INLINE Lanes<Lum32fc> PowerLanes(ComplexVec<Lum32f> z, ComplexVec<Lum32f> w, const Lanes<Lum32fc>& lanes) {
   auto wanted = lanes.refused;
