@@ -133,33 +133,9 @@ template <class Ends> LUM_INLINE CoreValue ValueAtEnds(ComplexVec<Lum64f> z, Mas
   }
   return result;
 }
-// The same of a vector's registers, each by itself and in the place of the other, too: half the stack, of which a call may take
-// little.
-enum class Which { low, high };
-template <class V> LUM_INLINE V OneRegister(const V& v, Which which) {
-  return which == Which::low ? low_register(v) : high_register(v);
-}
-template <class Z> LUM_INLINE Z OneRegisterEach(const Z& z, Which which) {
-  return {OneRegister(z.re, which), OneRegister(z.im, which)};
-}
-// The first one is that of the low registers before, and in the place of a function's result.
-template <class Core> LUM_INLINE void JoinRegisters(Core& core, const Core& high) {
-  core = {{join_registers(core.value.re, high.value.re), join_registers(core.value.im, high.value.im)},
-          join_registers(core.is_known, high.is_known),
-          join_registers(core.is_sure, high.is_sure)};
-}
-template <class Ends, class Z, class M> [[gnu::noinline]] CoreValue RegisterAtEnds(const Z& z, const M& wanted, Which which) {
-  return ValueAtEnds<Ends>(OneRegisterEach(z, which), OneRegister(wanted, which));
-}
 // All kernels of a function share it.
 template <class Ends, class Z, class M> [[gnu::noinline]] CoreValue AnyAtEnds(const Z& z, const M& wanted) {
-  if constexpr (has_halves) {
-    auto core = RegisterAtEnds<Ends>(z, wanted, Which::low);
-    JoinRegisters(core, RegisterAtEnds<Ends>(z, wanted, Which::high));
-    return core;
-  } else {
-    return ValueAtEnds<Ends>(z, wanted);
-  }
+  return ValueAtEnds<Ends>(z, wanted);
 }
 template <class Ends, bool has_far> LUM_INLINE CoreValue AtEnds(ComplexVec<Lum64f> z, Mask<Lum64f> wanted) {
   if constexpr (has_far) return AnyAtEnds<Ends>(z, wanted);

@@ -178,10 +178,11 @@ struct A53_64fc : QuotientKernel<Lum64fc> {
     if constexpr (scales_all) return ScaledQuotient(z, w);
     else return CalledOrdinaryQuotient(z, w);
   }
-  // Infinities, NaN and zeros, which have quotients by rule.
+  // Infinities, NaN and zeros, which have quotients by rule. Where scaling takes few instructions, looking for them takes
+  // longer.
   static LUM_INLINE Mask<Lum64f> Outside(Interleaved<Lum64f> packed_z, Interleaved<Lum64f> packed_w) {
     const auto z = split(packed_z), w = split(packed_w);
-    return QuotientEnds::IsSpecial(z, w) | IsZeroAsWhole(z);
+    return scales_all ? mask_of<Lum64f>(0) : QuotientEnds::IsSpecial(z, w) | IsZeroAsWhole(z);
   }
   static LUM_INLINE ComplexVec<Lum64f> QuotientByRule(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w) {
     const auto vanishes = IsZeroAsWhole(z) & ~QuotientEnds::IsSpecial(z, w);  // a zero is positive
@@ -211,52 +212,55 @@ struct A53_64fc : QuotientKernel<Lum64fc> {
     const auto quotient = QuotientOfScaled(split(z), split(w), wanted);
     return {join(quotient.value), wanted & ~quotient.is_sure, {.overflow = wanted & quotient.overflow}};
   }
-  template <class Packed> static LUM_INLINE Finished<Lum64fc> OfBothPaths(const Packed& packed_z, const Packed& packed_w) {
-    const auto lanes = ScaledQuotient(packed_z, packed_w);
+  // Each step by itself, so that its stack is free again for the next.
+  template <class Packed, class L>
+  [[gnu::noinline]] static Finished<Lum64fc> CalledQuotientsByRule(const Packed& packed_z, const Packed& packed_w,
+                                                                   const L& lanes) {
     const auto z = split(packed_z), w = split(packed_w);
-    const auto core = QuotientAsCore</*of_register=*/has_halves>(z, w, lanes.refused);
-    const auto r = Finish(core, lanes, lanes.refused);
-    return {r.value, r.refused, {.overflow = OverflowsOf(r, lanes.refused) & ~QuotientEnds::IsSpecial(z, w)}};
+    return {join(Select(lanes.refused, QuotientByRule(z, w), split(lanes.value))),
+            lanes.refused & QuotientEnds::HaveTwoNans(z, w),
+            {}};
   }
-  // Of one register's elements, standing in the place of the other's, too: half the stack.
-  template <class Packed> static LUM_INLINE Packed Elements(const Packed& z, Which which) {
-    return which == Which::low ? Packed{z.low, z.low} : Packed{z.high, z.high};
+  template <class Packed, class L>
+  [[gnu::noinline]] static Finished<Lum64fc> CalledSureQuotients(const Packed& z, const Packed& w, const L& lanes) {
+    const auto sure = SureQuotients(z, w, lanes.refused);
+    return {join(Select(lanes.refused, split(sure.value), split(lanes.value))), sure.refused, sure.reports};
   }
-  template <class Packed>
-  [[gnu::noinline]] static Finished<Lum64fc> CalledOfBothPaths(const Packed& z, const Packed& w, Which which) {
-    if constexpr (has_halves) return OfBothPaths(Elements(z, which), Elements(w, which));
-    else return OfBothPaths(z, w);
+  // Where rounding is not sure the first path's with scaling count, and the core's beyond it.
+  template <class Packed, class F> [[gnu::noinline]] static void TakeScaledQuotients(const Packed& z, const Packed& w, F& r) {
+    const auto first = ScaledQuotient(z, w);
+    r.value = join(Select(r.refused, split(first.value), split(r.value)));
+    r.refused = r.refused & first.refused;
   }
-  template <class Packed, class M>
-  [[gnu::noinline]] static Finished<Lum64fc> SureRegister(const Packed& z, const Packed& w, const M& wanted, Which which) {
-    return SureQuotients(Elements(z, which), Elements(w, which), OneRegister(wanted, which));
+  // Of finite numbers, as others are sure by their rules, or have two NaNs, which are left.
+  template <class Packed, class F>
+  [[gnu::noinline]] static void TakeQuotientsAsCore(const Packed& packed_z, const Packed& packed_w, F& r) {
+    const auto z = split(packed_z), w = split(packed_w);
+    const auto core = QuotientEnds::OfFinite(z, w, r.refused);
+    const auto finished = r.refused & core.is_sure & ~QuotientEnds::IsSpecial(z, w);
+    r.value = join(Select(finished, core.value, split(r.value)));
+    r.refused = r.refused & ~finished;
+    r.reports.overflow = r.reports.overflow | (finished & (IsInfinite(core.value.re) | IsInfinite(core.value.im)));
   }
-  template <class Packed, class M>
-  static LUM_INLINE Finished<Lum64fc> RegisterOfQuotients(const Packed& z, const Packed& w, const M& wanted, Which which) {
-    const auto sure = SureRegister(z, w, wanted, which);
-    return none(sure.refused) ? sure : CalledOfBothPaths(z, w, which);
+  template <class Packed, class F> [[gnu::noinline]] static F WithOthers(const Packed& z, const Packed& w, const F& sure) {
+    auto r = sure;
+    TakeScaledQuotients(z, w, r);
+    if (any(r.refused)) TakeQuotientsAsCore(z, w, r);
+    return r;
   }
   template <class Packed, class L>
   static LUM_INLINE Finished<Lum64fc> QuotientsOf(const Packed& z, const Packed& w, const L& lanes) {
     if constexpr (has_halves) {
-      if (none(lanes.refused & ~Outside(z, w))) {
-        const auto value = QuotientByRule(split(z), split(w));
-        return {join(Select(lanes.refused, value, split(lanes.value))),
-                lanes.refused & QuotientEnds::HaveTwoNans(split(z), split(w)),
-                {}};
-      }
-      const auto low = RegisterOfQuotients(z, w, lanes.refused, Which::low),
-                 high = RegisterOfQuotients(z, w, lanes.refused, Which::high);
-      const Packed value{low.value.low, high.value.low};
-      return {join(Select(lanes.refused, split(value), split(lanes.value))),
-              lanes.refused & join_registers(low.refused, high.refused),
-              {.overflow = lanes.refused & join_registers(low.reports.overflow, high.reports.overflow)}};
+      if (none(lanes.refused & ~Outside(z, w))) return CalledQuotientsByRule(z, w, lanes);
+      const auto sure = CalledSureQuotients(z, w, lanes);
+      return none(sure.refused) ? sure : WithOthers(z, w, sure);
     } else {
       const auto sure = SureQuotients(z, w, mask_of<Lum64f>(~0u));
       if (none(sure.refused)) [[likely]]
         return sure;
-      const auto given_z = z, given_w = w;  // of which the call takes the address
-      return CalledOfBothPaths(given_z, given_w, Which::low);
+      const auto given_z = z, given_w = w;  // of which the call takes the addresses
+      const auto given_sure = sure;
+      return WithOthers(given_z, given_w, given_sure);
     }
   }
   static constexpr bool second_is_shared = streams_fit_registers && scales_all;

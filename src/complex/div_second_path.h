@@ -78,24 +78,9 @@ LUM_INLINE CoreValue AnyQuotientAsCore(ComplexVec<Lum64f> z, ComplexVec<Lum64f> 
   if (any(wanted & special)) result.value = Select(special, QuotientEnds::OfSpecial(z, w), result.value);
   return result;
 }
-template <class Z, class M>
-[[gnu::noinline]] CoreValue RegisterOfQuotientsAsCore(const Z& z, const Z& w, const M& wanted, Which which) {
-  return AnyQuotientAsCore(OneRegisterEach(z, which), OneRegisterEach(w, which), OneRegister(wanted, which));
-}
-template <class Z, class M> [[gnu::noinline]] CoreValue CalledQuotientAsCore(const Z& z, const Z& w, const M& wanted) {
-  if constexpr (has_halves) {
-    auto core = RegisterOfQuotientsAsCore(z, w, wanted, Which::low);
-    JoinRegisters(core, RegisterOfQuotientsAsCore(z, w, wanted, Which::high));
-    return core;
-  } else {
-    return AnyQuotientAsCore(z, w, wanted);
-  }
-}
-// All kernels share it. The vectors may hold one register twice.
-template <bool of_register = false, class Z, class M>
-LUM_INLINE CoreValue QuotientAsCore(const Z& z, const Z& w, const M& wanted) {
-  if constexpr (of_register) return RegisterOfQuotientsAsCore(z, w, wanted, Which::low);
-  else return CalledQuotientAsCore(z, w, wanted);
+// All kernels share it.
+template <class Z, class M> [[gnu::noinline]] CoreValue QuotientAsCore(const Z& z, const Z& w, const M& wanted) {
+  return AnyQuotientAsCore(z, w, wanted);
 }
 
 }  // namespace lum::inline LUM_LAYER::complex

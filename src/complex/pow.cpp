@@ -36,35 +36,17 @@ template <class Number> struct PowPath {
   }
 };
 
-// What the core has beyond the domain of the path: a logarithm and an exponential, each in the way of its second path, by the
-// functions that are given.
-template <class Logarithm, class Power>
-LUM_INLINE CoreValue PowerBy(Logarithm logarithm_of, Power power_of, ComplexVec<Lum64f> z, ComplexVec<Lum64f> w,
-                             Mask<Lum64f> wanted) {
-  const auto logarithm = logarithm_of(z, wanted);
-  const auto l = logarithm.value;
+// What the core has beyond the domain of the path: a logarithm and an exponential, each in the way of its second path.
+template <class Z, class M> [[gnu::noinline]] CoreValue PowerAtEnds(const Z& z, const Z& w, const M& wanted) {
+  const auto logarithm = AnyAtEnds<LnEnds>(z, wanted);
+  const auto& l = logarithm.value;
   const ComplexVec<Lum64f> product{w.re * l.re - w.im * l.im, w.re * l.im + w.im * l.re};
-  auto power = power_of(product, wanted);
   // Which of two NaNs results depends on how the core was compiled.
   const auto two_nans = unord(l.re, l.im) & unord(w.re, w.im);
-  power.is_known = power.is_known & logarithm.is_known & logarithm.is_sure & ~two_nans;
+  const auto is_known = logarithm.is_known & logarithm.is_sure & ~two_nans;
+  auto power = AnyAtEnds<ExpEnds>(product, wanted);
+  power.is_known = power.is_known & is_known;
   return power;
-}
-template <class Z, class M> [[gnu::noinline]] CoreValue RegisterOfPowers(const Z& z, const Z& w, const M& wanted, Which which) {
-  const auto ends = [which](auto register_at_ends) __attribute__((always_inline)) {
-    return [=](const Z& x, const M& m) __attribute__((always_inline)) { return register_at_ends(x, m, which); };
-  };
-  return PowerBy(ends(RegisterAtEnds<LnEnds, Z, M>), ends(RegisterAtEnds<ExpEnds, Z, M>), OneRegisterEach(z, which),
-                 OneRegisterEach(w, which), OneRegister(wanted, which));
-}
-template <class Z, class M> [[gnu::noinline]] CoreValue PowerAtEnds(const Z& z, const Z& w, const M& wanted) {
-  if constexpr (has_halves) {
-    auto core = RegisterOfPowers(z, w, wanted, Which::low);
-    JoinRegisters(core, RegisterOfPowers(z, w, wanted, Which::high));
-    return core;
-  } else {
-    return PowerBy(AnyAtEnds<LnEnds, Z, M>, AnyAtEnds<ExpEnds, Z, M>, z, w, wanted);
-  }
 }
 // At least the parts of the exponent's product with the logarithm.
 template <class T> LUM_INLINE Vec<T> SizeOfLogarithm(ComplexVec<T> z, ComplexVec<T> w) {
@@ -92,8 +74,9 @@ LUM_INLINE Mask<Lum64f> IsFarPower(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w) {
   // For one number next to the middle between two the core takes less than this for the numbers of a register.
   if constexpr (has_halves) wanted = wanted & IsFarPower(z, w);
   if (none(wanted)) return lanes;
-  return Finish(PowerAtEnds(WidenLow(z), WidenLow(w), low_half(wanted)),
-                PowerAtEnds(WidenHigh(z), WidenHigh(w), high_half(wanted)), lanes, wanted);
+  const auto low = PowerAtEnds(WidenLow(z), WidenLow(w), low_half(wanted));  // whose arguments leave the stack to the others'
+  const auto high = PowerAtEnds(WidenHigh(z), WidenHigh(w), high_half(wanted));
+  return Finish(low, high, lanes, wanted);
 }
 
 template <class E> struct PowKernel : Kernel<E> {

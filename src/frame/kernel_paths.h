@@ -299,11 +299,9 @@ template <class K, int n, int m> LUM_INLINE auto ComputeBoth(const K& kernel, co
     return both;
   } else {
     using Result = decltype(ComputeSecond<K, n, m>(kernel, x, first));
-    // There is no need for the first path's values where it refuses all.
-    if (has_all_elements(first.refused)) {
-      std::remove_const_t<decltype(first)> no_values{};
-      no_values.refused = first.refused;
-      return ComputeSecond<K, n, m>(kernel, x, no_values);
+    // There is no need for the first path's values where it refuses all, but every call takes its part of the stack.
+    if constexpr (!has_halves) {
+      if (has_all_elements(first.refused)) return ComputeSecondAlone<K, n, m>(kernel, x);
     }
     if (any(first.refused)) return ComputeSecond<K, n, m>(kernel, x, first);
     return Result{Values<K, m>(first), {}, {}, false};

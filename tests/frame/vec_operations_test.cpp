@@ -188,13 +188,12 @@ TEST(VecOperations, EveryOperationOfTheVocabularyHasAnEntry) {
 }
 
 TEST(VecOperations, AllLayersDefineTheSameOperationsInTheSameOrder) {
-  const std::set<std::string> helpers = {"JoinedTable",   "any_in_half",        "any_of_finite",     "any_small_product",
-                                         "by_lane",       "called_div",         "called_fma",        "called_mul",
-                                         "directed_fma",  "each_part_in_two",   "half_with_care",    "high_register",
-                                         "in_two",        "interleaved",        "join_registers",    "load_half",
-                                         "low_register",  "negate_every_other", "of_unknown_origin", "part_of_product",
-                                         "raw",           "restore_nan",        "rounded_halves_up", "signed_fma",
-                                         "small_product", "store_half",         "unsigned_part",     "with_care"};
+  const std::set<std::string> helpers = {
+      "JoinedTable",       "any_in_half",     "any_of_finite", "any_small_product", "by_lane",           "called_div",
+      "called_fma",        "called_mul",      "directed_fma",  "each_part_in_two",  "half_with_care",    "high_register",
+      "join_registers",    "low_register",    "in_two",        "interleaved",       "load_half",         "negate_every_other",
+      "of_unknown_origin", "part_of_product", "raw",           "restore_nan",       "rounded_halves_up", "signed_fma",
+      "small_product",     "store_half",      "unsigned_part", "with_care"};
   for (const char* layer : {"portable", "avx2"}) {
     std::vector<std::string> names;
     for (const auto& name : OperationsOfLayer(layer))

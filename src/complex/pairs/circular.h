@@ -97,16 +97,27 @@ LUM_INLINE ReducedAngle<HeadTail> FarAngle(Vec<Lum64f> magnitude) {
   const auto row = shift_right<1>(select(rises, turned.index + all(uint64_t{1}), turned.index));
   return {row, r, lt(abs(r.head), all(0x1p-19))};
 }
-// The vector holds one register twice, or two.
-template <bool holds_one, class V> [[gnu::noinline]] ReducedAngle<HeadTail> CalledFarAngle(const V& magnitude) {
-  if constexpr (holds_one) return FarAngle(low_register(magnitude));
+enum class Registers { low, high, all };
+template <Registers registers, class V> [[gnu::noinline]] ReducedAngle<HeadTail> CalledFarAngle(const V& magnitude) {
+  if constexpr (registers == Registers::low) return FarAngle(low_register(magnitude));
+  else if constexpr (registers == Registers::high) return FarAngle(high_register(magnitude));
   else return FarAngle(magnitude);
 }
-template <bool holds_one, class V> LUM_INLINE ReducedAngle<HeadTail> ReduceFarAngle(const V& magnitude) {
-  const auto angle = CalledFarAngle<holds_one>(magnitude);
-  if constexpr (holds_one)
-    return {low_register(angle.row), {low_register(angle.r.head), low_register(angle.r.tail)}, low_register(angle.refused)};
-  else return angle;
+// Where a vector is two registers, one by one: it is the end of the longest chain of calls, of which each may take little of
+// the stack.
+template <class V> LUM_INLINE ReducedAngle<HeadTail> ReduceFarAngle(const V& magnitude) {
+  if constexpr (has_halves) {
+    auto angle = CalledFarAngle<Registers::low>(magnitude);
+    {
+      const auto high = CalledFarAngle<Registers::high>(magnitude);
+      angle = {join_registers(angle.row, high.row),
+               {join_registers(angle.r.head, high.r.head), join_registers(angle.r.tail, high.r.tail)},
+               join_registers(angle.refused, high.refused)};
+    }
+    return angle;
+  } else {
+    return CalledFarAngle<Registers::all>(magnitude);
+  }
 }
 LUM_INLINE ReducedAngle<OnePart> InOnePart(const ReducedAngle<HeadTail>& angle) {
   return {angle.row, {angle.r.head}, lt(abs(angle.r.head), all(0x1p-30))};
@@ -115,18 +126,17 @@ template <class Number>
 LUM_INLINE ReducedAngle<Number> SelectAngle(Mask<Lum64f> m, const ReducedAngle<Number>& a, const ReducedAngle<Number>& b) {
   return {select(mask_cast<uint64_t>(m), a.row, b.row), Select(m, a.r, b.r), (m & a.refused) | (b.refused & ~m)};
 }
-// Sine and cosine of any number; as a pair, in a second path, which takes registers one by one where a layer has two in a
-// vector.
+// Sine and cosine of any number.
 template <class Number> LUM_INLINE SineAndCosine<Number> SineCosineOfAny(Vec<Lum64f> y) {
   const auto magnitude = abs(y);
   const auto far = nle(magnitude, all(largest_angle_of<Number>));
   if constexpr (std::is_same_v<Number, OnePart>) {
     auto angle = ReduceAngleInOnePart(magnitude);
-    if (any(far)) angle = SelectAngle(far, InOnePart(ReduceFarAngle<false>(magnitude)), angle);
+    if (any(far)) angle = SelectAngle(far, InOnePart(ReduceFarAngle(magnitude)), angle);
     return SineCosineOfReduced(y, angle);
   } else {
     auto angle = ReduceAngle(magnitude);
-    if (any(far)) angle = SelectAngle(far, ReduceFarAngle<has_halves>(magnitude), angle);
+    if (any(far)) angle = SelectAngle(far, ReduceFarAngle(magnitude), angle);
     return SineCosineOfReduced(y, angle);
   }
 }

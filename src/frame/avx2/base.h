@@ -67,8 +67,6 @@ template <Lane T> LUM_INLINE void store(Mask<T> mask, T* p, Vec<T> a) {
 template <Lane T> LUM_INLINE Vec<T> low_register(Vec<T> a) { return {a.low, a.low}; }
 template <Lane T> LUM_INLINE Vec<T> high_register(Vec<T> a) { return {a.high, a.high}; }
 template <Lane T> LUM_INLINE Vec<T> join_registers(Vec<T> low, Vec<T> high) { return {low.low, high.low}; }
-template <Lane T> LUM_INLINE Mask<T> low_register(Mask<T> m) { return {m.low, m.low}; }
-template <Lane T> LUM_INLINE Mask<T> high_register(Mask<T> m) { return {m.high, m.high}; }
 template <Lane T> LUM_INLINE Mask<T> join_registers(Mask<T> low, Mask<T> high) { return {low.low, high.low}; }
 
 // ---- Reinterpretation
