@@ -271,7 +271,9 @@ LUM_INLINE int PackRefused(const K& kernel, const Arrays<K, n, m>& arrays, int64
   }
   const std::array results{ComputeFirst<K, n>(kernel, LoadStep<K, n, m>(arrays, index_of(s)))...};
   (pack(s, to_bits(results[s].refused)), ...);
-  (StoreStep<K, n, m>(arrays, index_of(s), results[s]), ...);
+  // Of vectors that are refused as a whole the values are not even computed.
+  if ((int{refused[v + static_cast<int>(s)] == all_lanes} & ...) == 0)
+    (StoreStep<K, n, m>(arrays, index_of(s), results[s]), ...);
   return elements;
 }
 
