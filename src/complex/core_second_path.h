@@ -118,8 +118,8 @@ template <class Ends> LUM_INLINE CoreValue SpecialAtEnds(ComplexVec<Lum64f> z) {
   const auto by_rule = Ends::IsSpecial(z) & ~HasTwoNans(z);
   return {Ends::OfSpecial(z), by_rule, by_rule};
 }
-// Any values in the wanted lanes.
-template <class Ends> LUM_INLINE CoreValue ValueAtEnds(ComplexVec<Lum64f> z, Mask<Lum64f> wanted) {
+// Any values in the wanted lanes. All kernels of a function share it.
+template <class Ends, class Z, class M> [[gnu::noinline]] CoreValue AnyAtEnds(const Z& z, const M& wanted) {
   const auto special = Ends::IsSpecial(z);
   CoreValue result{z, special & ~special, special};
   if (any(wanted & ~special)) {
@@ -132,10 +132,6 @@ template <class Ends> LUM_INLINE CoreValue ValueAtEnds(ComplexVec<Lum64f> z, Mas
               result.is_sure | by_rule.is_sure};
   }
   return result;
-}
-// All kernels of a function share it.
-template <class Ends, class Z, class M> [[gnu::noinline]] CoreValue AnyAtEnds(const Z& z, const M& wanted) {
-  return ValueAtEnds<Ends>(z, wanted);
 }
 template <class Ends, bool has_far> LUM_INLINE CoreValue AtEnds(ComplexVec<Lum64f> z, Mask<Lum64f> wanted) {
   if constexpr (has_far) return AnyAtEnds<Ends>(z, wanted);

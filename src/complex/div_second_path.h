@@ -64,8 +64,8 @@ struct QuotientEnds {
   }
 };
 
-// In the wanted lanes.
-LUM_INLINE CoreValue AnyQuotientAsCore(ComplexVec<Lum64f> z, ComplexVec<Lum64f> w, Mask<Lum64f> wanted) {
+// In the wanted lanes. All kernels share it.
+template <class Z, class M> [[gnu::noinline]] CoreValue QuotientAsCore(const Z& z, const Z& w, const M& wanted) {
   const auto special = QuotientEnds::IsSpecial(z, w), by_rule = special & ~QuotientEnds::HaveTwoNans(z, w);
   CoreValue result{z, by_rule, by_rule};
   // Numbers take too much of the stack where they lie there.
@@ -77,10 +77,6 @@ LUM_INLINE CoreValue AnyQuotientAsCore(ComplexVec<Lum64f> z, ComplexVec<Lum64f> 
   }
   if (any(wanted & special)) result.value = Select(special, QuotientEnds::OfSpecial(z, w), result.value);
   return result;
-}
-// All kernels share it.
-template <class Z, class M> [[gnu::noinline]] CoreValue QuotientAsCore(const Z& z, const Z& w, const M& wanted) {
-  return AnyQuotientAsCore(z, w, wanted);
 }
 
 }  // namespace lum::inline LUM_LAYER::complex

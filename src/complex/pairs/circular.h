@@ -107,14 +107,10 @@ template <Registers registers, class V> [[gnu::noinline]] ReducedAngle<HeadTail>
 // the stack.
 template <class V> LUM_INLINE ReducedAngle<HeadTail> ReduceFarAngle(const V& magnitude) {
   if constexpr (has_halves) {
-    auto angle = CalledFarAngle<Registers::low>(magnitude);
-    {
-      const auto high = CalledFarAngle<Registers::high>(magnitude);
-      angle = {join_registers(angle.row, high.row),
-               {join_registers(angle.r.head, high.r.head), join_registers(angle.r.tail, high.r.tail)},
-               join_registers(angle.refused, high.refused)};
-    }
-    return angle;
+    const auto low = CalledFarAngle<Registers::low>(magnitude), high = CalledFarAngle<Registers::high>(magnitude);
+    return {join_registers(low.row, high.row),
+            {join_registers(low.r.head, high.r.head), join_registers(low.r.tail, high.r.tail)},
+            join_registers(low.refused, high.refused)};
   } else {
     return CalledFarAngle<Registers::all>(magnitude);
   }
